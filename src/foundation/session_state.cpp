@@ -1,0 +1,3 @@
+#include "foundation/session_state.h"
+
+Session SessionState;

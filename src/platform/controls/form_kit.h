@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QDialog>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <functional>
+
+/// A control with its object name. Member d of a control array is named "name(d)".
+template <typename Control, typename... Arguments>
+Control* Named(const QString& name, Arguments... arguments)
+{
+    auto* control = new Control(arguments...);
+    control->setObjectName(name);
+    return control;
+}
+
+inline QString ArrayName(const QString& name, int index)
+{
+    return QStringLiteral("%1(%2)").arg(name).arg(index);
+}
+
+/// A white card with rounded corners on the quiet page; its layout holds the controls.
+QFrame* MakeCard(QLayout* layout);
+/// The looks of labels: a bold head, a small grey caption, a large figure.
+QLabel* AsHead(QLabel* label);
+QLabel* AsCaption(QLabel* label);
+QLabel* AsFigure(QLabel* label);
+/// The one blue main button of a form.
+QPushButton* AsMainButton(QPushButton* button);
+/// The row of buttons at a form's foot, pushed to the right: the main button last.
+QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons);
+
+/// Shows a form modally and returns its result code. Tests and the tour install a runner that works the form instead
+/// of waiting for a person.
+int ShowModal(QDialog& form);
+void SetModalRunner(std::function<int(QDialog&)> runner);
+
+/// While it lives the flag is true: change and click handlers of the form stay silent.
+class LoadingGuard
+{
+public:
+    explicit LoadingGuard(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+    ~LoadingGuard() { flag_ = before_; }
+    LoadingGuard(const LoadingGuard&) = delete;
+    LoadingGuard& operator=(const LoadingGuard&) = delete;
+
+private:
+    bool& flag_;
+    bool before_;
+};
+
+/// The hourglass while it lives.
+class BusyPointer
+{
+public:
+    BusyPointer();
+    ~BusyPointer();
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
+/// The program's style sheet and fonts, set once on the application.
+void ApplyStyle();
+
+/// A picture of the program by the name of its SVG file ("tool-create-single", "face-warning"), at `size` pixels.
+QIcon PictureIcon(const QString& name);
+QPixmap Picture(const QString& name, int size);
