@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <functional>
 
+struct RuntimeError;
+
 /// Button sets of the message box, in both languages; Custom1 to Custom4 take the caller's captions.
 enum class Buttons {
     Ok = 0, OkCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4, RetryCancel = 5,
@@ -52,6 +54,11 @@ int ResultOfButton(const QString& caption, int position);
 void Tell(const QString& title, const QString& text, Face face = Face::Informing);
 /// A question with Yes and No in the user's language; true for Yes.
 bool Ask(const QString& title, const QString& text, Face face = Face::Presenting);
+/// The same question about a list of `lines` records: above nine the text scrolls.
+bool AskWithList(const QString& title, const QString& text, qsizetype lines);
+
+/// Tells the number and description of a failure.
+void TellError(const RuntimeError& error);
 
 /// Appends to Connections.log, EMailErrors.log, Errors.log of the program's folder, fields separated by a tab. A log
 /// that cannot be opened throws RuntimeError.

@@ -12,6 +12,11 @@ inline const QString kConfigPassword = QStringLiteral("p3n8Rw62jq0d");
 void ConnectToDatabase(DataControl& datAbsence);
 void DisconnectFromDatabase(DataControl& datAbsence);
 
+/// What a message says of a connection that failed, up to the question or the announcement that follows.
+QString ConnectionFailure(const RuntimeError& error);
+/// Tells a failure of either file in the message "FATAL ERROR:" and ends the program.
+[[noreturn]] void EndOnFailedConnection(const RuntimeError& error);
+
 /// Opens the file like ConnectToDatabase but throws RuntimeError instead of ending the program.
 void TryToConnect(DataControl& datAbsence);
 
@@ -20,7 +25,7 @@ class Connection
 {
 public:
     explicit Connection(DataControl& datAbsence) : datAbsence_(datAbsence) { ConnectToDatabase(datAbsence_); }
-    ~Connection() { DisconnectFromDatabase(datAbsence_); }
+    ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 

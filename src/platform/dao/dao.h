@@ -65,6 +65,8 @@ public:
     void MoveFirst();
     void MoveNext() { ++current_; }
     int RecordCount() const { return static_cast<int>(rows_.size()); }
+    /// Column names in the order of the result.
+    QStringList Columns() const;
 
     /// The value of a column in the current record, or in the one being edited. Throws 3021 without a current
     /// record, 3265 for an unknown column. Column names are found whatever their letter case.

@@ -1,0 +1,74 @@
+#include "foundation/connection.h"
+
+#include "foundation/common_services.h"
+#include "foundation/texts.h"
+#include "platform/program.h"
+
+namespace
+{
+int connections = 0; // nested connections of the shared workspace
+
+void OpenFile()
+{
+    DefaultWorkspace().OpenDatabase(JoinPath(SessionState.DatabasePath, "Tarvell.mdb"), ";PWD=" + kDatabasePassword);
+}
+
+void Restore(DataControl& /*datAbsence*/)
+{
+    if (!SessionState.SQL_Server)
+        OpenFile();
+}
+} // namespace
+
+QString ConnectionFailure(const RuntimeError& error)
+{
+    return T("A connection to the database could not be established due to the following error:",
+             "L'erreur suivante est survenue au moment où le système tentait d'établir une connexion à votre banque de "
+             "données:") +
+           "\r\n\r\n" + QString::number(error.Number) + ": " + error.Description + "\r\n\r\n";
+}
+
+void EndOnFailedConnection(const RuntimeError& error)
+{
+    Tell(T("FATAL ERROR:", "UNE ERREUR EST SURVENUE:"),
+         ConnectionFailure(error) +
+             T("The system will now be shut down!", "Le système sera maintenant interrompu!"),
+         Face::Paniquing);
+    EndProgram();
+}
+
+void TryToConnect(DataControl& datAbsence)
+{
+    DataControl::Reconnect = Restore;
+    if (!SessionState.SQL_Server && !DefaultWorkspace().IsOpen()) {
+        OpenFile();
+        connections = 0;
+    }
+    LogConnection(datAbsence.FormName, true);
+    ++connections;
+}
+
+void ConnectToDatabase(DataControl& datAbsence)
+{
+    try {
+        TryToConnect(datAbsence);
+    } catch (const RuntimeError& error) {
+        EndOnFailedConnection(error);
+    }
+}
+
+void DisconnectFromDatabase(DataControl& datAbsence)
+{
+    if (connections > 0 && --connections == 0)
+        DefaultWorkspace().Close();
+    LogConnection(datAbsence.FormName, false);
+}
+
+Connection::~Connection()
+{
+    try {
+        DisconnectFromDatabase(datAbsence_);
+    } catch (const RuntimeError&) {
+        // A log line that cannot be written must not hide the failure that may be on its way.
+    }
+}

@@ -1,0 +1,100 @@
+#include "foundation/frm_splash_screen.h"
+
+#include "foundation/common_services.h"
+#include "foundation/connection.h"
+#include "foundation/deployment.h"
+#include "foundation/frm_login.h"
+#include "foundation/start_up.h"
+#include "foundation/texts.h"
+#include "platform/clock.h"
+#include "platform/controls/form_kit.h"
+#include "platform/program.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace
+{
+constexpr int kReadableSeconds = 2;
+constexpr int kLogoSize = 96;
+
+void EndWithoutFiscalYear()
+{
+    Tell(T("A FATAL ERROR HAS OCCURRED:", "UNE ERREUR FATALE EST SURVENUE:"),
+         Fill(T("No fiscal year could be found in your database! Please contact the software distributor at the "
+                "following e-mail address: {SupportAddress}",
+                "Aucune année fiscale n'a pu être trouvée dans votre banque de données! Veuillez contacter le "
+                "distributeur du logiciel au courriel suivant: {SupportAddress}"),
+              {{"SupportAddress", Deployment::SupportAddress}}),
+         Face::Paniquing);
+    EndProgram();
+}
+} // namespace
+
+frmSplashScreen::frmSplashScreen(StartUpSteps steps, QWidget* parent)
+    : QDialog(parent, Qt::SplashScreen), steps_(std::move(steps))
+{
+    BuildControls();
+}
+
+void frmSplashScreen::BuildControls()
+{
+    setObjectName("frmSplashScreen");
+    setWindowTitle("Tarvell");
+    auto* imgLogo = Named<QLabel>("imgLogo");
+    imgLogo->setPixmap(Picture("app", kLogoSize));
+    imgLogo->setAlignment(Qt::AlignCenter);
+    auto* lblTitle = Named<QLabel>("lblTitle", QStringLiteral("Tarvell"));
+    AsFigure(lblTitle)->setAlignment(Qt::AlignCenter);
+    lblVersion = Named<QLabel>("lblVersion", "Version " + Deployment::Version());
+    AsCaption(lblVersion)->setAlignment(Qt::AlignCenter);
+
+    auto* content = new QVBoxLayout;
+    content->setContentsMargins(72, 40, 72, 40);
+    content->setSpacing(12);
+    for (QLabel* label : {imgLogo, lblTitle, lblVersion})
+        content->addWidget(label);
+    auto* page = new QVBoxLayout(this);
+    page->addWidget(MakeCard(content));
+}
+
+void frmSplashScreen::Form_Activate()
+{
+    Wait(kReadableSeconds);
+    CleanUpProgramFolder();
+    if (!LoadConfiguration()) {
+        close();
+        return steps_.ShowSetUpWizard();
+    }
+    ConnectAndChooseYear();
+    QFile::remove(NativePath(JoinPath(ProgramFolder(), "Restart.bat")));
+    DisconnectFromDatabase(datAbsence);
+
+    frmLogin login(this);
+    login.FiscalYearID = SessionState.FiscalYearID;
+    login.FiscalYearName = SessionState.FiscalYearName;
+    ShowModal(login);
+    const BusyPointer hourglass;
+    steps_.ShowMain();
+    close();
+}
+
+bool frmSplashScreen::LoadConfiguration()
+{
+    try {
+        return ReadConfiguration();
+    } catch (const RuntimeError& error) {
+        EndOnFailedConnection(error);
+    }
+}
+
+void frmSplashScreen::ConnectAndChooseYear()
+{
+    LocateNewDatabase = ConnectOrAskForAnotherDatabase(datAbsence);
+    if (LocateNewDatabase)
+        LocateDatabase(datAbsence, steps_.ShowServerConnection);
+    if (!ChooseCurrentFiscalYear(datAbsence))
+        EndWithoutFiscalYear();
+    FindNeighbouringYears(datAbsence);
+}

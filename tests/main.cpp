@@ -1,0 +1,15 @@
+#include "platform/controls/form_kit.h"
+#include "support/house.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    ApplyStyle();
+    SetComplaintHandler([](const QString& text) { ADD_FAILURE() << qUtf8Printable(text); });
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "foundation/session_state.h"
+#include "platform/dao/dao.h"
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <functional>
+#include <optional>
+
+/// Where the house and its user complain; the test program makes failures of it, the tour ends.
+void SetComplaintHandler(std::function<void(const QString&)> handler);
+void Complain(const QString& text);
+
+/// What EndProgram throws inside the house.
+struct ProgramEnded {};
+
+/// One employee of the test company. Rights are column names, each granted.
+struct Person {
+    QString LoginID;
+    QString FirstName;
+    QString FamilyName;
+    QString Department;     ///< English name
+    QString Group;          ///< English name, empty for none
+    QStringList Rights;
+    int ApprovedBy = 0;     ///< RecordID of the first approver
+    float HourlyRate = 20;
+    bool Scheduled = true;  ///< Monday to Friday 8:30 to 12:00 and 13:00 to 16:30
+};
+
+/// A program folder of its own with the delivered empty databases, a fixed day and a session in its first state.
+class House
+{
+public:
+    House();
+    ~House();
+    House(const House&) = delete;
+    House& operator=(const House&) = delete;
+
+    QString Folder() const { return folder_.path(); }
+    /// The day, and the time of day, that the program sees.
+    House& Today(int year, int month, int day, int hour = 9, int minute = 0);
+    /// The configuration of a workstation whose database lies in the program's folder.
+    House& Configured(bool english = true);
+    /// Fiscal year 2026, the eight system categories, ADMIN (password SECRET), two organizations, three departments, a
+    /// group, four holidays.
+    House& Company();
+    /// A further fiscal year from that first day, with its eight system categories. Returns its RecordID.
+    int FiscalYear(const QString& name, int year, int month = 1);
+    /// An employee of 2026 (password PASS); returns the RecordID.
+    int Hire(const Person& person, int fiscalYear = 1);
+    /// A record of attendance as the entry form would leave it.
+    int Record(int employee, const QString& systemName, const QDate& date, float hours, bool pending = false);
+    /// Logs in without the form: the session is that of the user, in the year that holds today.
+    House& LogIn(const QString& loginID);
+
+    /// The first cell of a result as text, and as whole number; written and read with the engine alone.
+    QString Cell(const QString& sql, const Values& values = {});
+    int Number(const QString& sql, const Values& values = {});
+    /// All cells of a result: columns joined by "|", records by "\n".
+    QString Rows(const QString& sql, const Values& values = {});
+    void Sql(const QString& sql, const Values& values = {});
+    int CategoryID(const QString& systemName, int fiscalYear = 1);
+    QString ReadFile(const QString& name) const;
+
+    /// The empty databases, made once per process.
+    static QString DeliveredFolder();
+    QString DatabaseFile() const { return Folder() + "/Tarvell.mdb"; }
+
+private:
+    int Insert(const char* table, const QVariantMap& values);
+    void SeedCategories(int fiscalYear);
+    void SeedAdministrator();
+    void SeedUnits();
+
+    QTemporaryDir folder_;
+};

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "foundation/common_services.h"
+#include "platform/program.h"
+#include "support/house.h"
+
+#include <QDialog>
+#include <QWidget>
+#include <deque>
+#include <functional>
+#include <memory>
+
+/// A person at the keyboard: finds controls by name, types real keys, clicks, picks entries by text, answers messages.
+/// Whatever is missing, unexpected or left over is complained of.
+class User
+{
+public:
+    User();
+    ~User();
+    User(const User&) = delete;
+    User& operator=(const User&) = delete;
+
+    /// Makes a form, shows it and works on it from here on.
+    template <typename Form, typename... Arguments>
+    User& Opens(Arguments&&... arguments)
+    {
+        owned_ = std::make_unique<Form>(std::forward<Arguments>(arguments)...);
+        owned_->show();
+        return Works(*owned_);
+    }
+    User& Works(QWidget& form);
+    /// Closes the form that Opens made.
+    User& Leaves();
+    template <typename Form>
+    Form& The()
+    {
+        return dynamic_cast<Form&>(*form_);
+    }
+
+    User& Types(const QString& name, const QString& text);     ///< replaces the contents, key by key
+    User& Presses(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    User& Clicks(const QString& name);                         ///< a button, check box, option or label
+    User& Checks(const QString& name, bool checked = true);
+    User& Picks(const QString& name, const QString& entry);    ///< an entry of a list or combo box that starts so
+    User& LeavesField(const QString& name);                    ///< the focus moves on
+
+    /// What stands in a control: text of fields and labels, current text of lists, "1"/"0" of check boxes.
+    QString Reads(const QString& name) const;
+    QStringList Entries(const QString& name) const;
+    bool CanUse(const QString& name) const;                    ///< visible and enabled
+    bool HasFocus(const QString& name) const;
+
+    /// The next message must bear this title; it is answered with the button of that caption. `containing` must stand
+    /// in its text.
+    User& WillAnswer(const QString& title, const QString& button, const QString& containing = {});
+    /// The next file choice returns this path.
+    User& WillChooseFile(const QString& path);
+    /// The next form that opens modally must be of that kind and is worked by `work`, which must close it.
+    template <typename Form>
+    User& WhenOpens(std::function<void(Form&)> work)
+    {
+        visits_.push_back([work](QDialog& dialog) {
+            auto* form = dynamic_cast<Form*>(&dialog);
+            if (!form)
+                return Complain("unexpected form " + dialog.objectName());
+            work(*form);
+        });
+        return *this;
+    }
+    QString LastMessage() const { return lastMessage_; }
+
+    /// Saves the form that is worked on as a picture.
+    User& Photographs(const QString& file);
+
+private:
+    struct Answer {
+        QString Title;
+        QString Button;
+        QString Containing;
+    };
+
+    template <typename Control>
+    Control* Find(const QString& name) const;
+    QWidget* FindWidget(const QString& name) const;
+    int AnswerMessage(const Message& message);
+    int VisitForm(QDialog& form);
+
+    QWidget* form_ = nullptr;
+    std::unique_ptr<QWidget> owned_;
+    std::deque<Answer> answers_;
+    std::deque<QString> files_;
+    std::deque<std::function<void(QDialog&)>> visits_;
+    QString lastMessage_;
+};
