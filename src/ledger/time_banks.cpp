@@ -1,0 +1,36 @@
+#include "ledger/time_banks.h"
+
+#include "foundation/session_state.h"
+
+namespace
+{
+float TimeBank(DataControl& datAbsence, const char* column, int id)
+{
+    float banked = 0;
+    datAbsence.Read(QStringLiteral("SELECT SUM(Attendance.TotalDuration) AS Bank FROM Attendance, Categories WHERE "
+                                   "Attendance.CategoryID = Categories.RecordID AND Attendance.%1 = ? AND "
+                                   "Categories.TimeBankRelated = 1 AND Attendance.CancelledDate = 0")
+                        .arg(QLatin1String(column)),
+                    id);
+    datAbsence.Take("Bank", banked);
+    return banked;
+}
+} // namespace
+
+float TimeBankOfEmployee(DataControl& datAbsence, int employeeID)
+{
+    return TimeBank(datAbsence, "EmployeeID", employeeID);
+}
+
+float TimeBankOfSelection(DataControl& datAbsence)
+{
+    const Session& s = SessionState;
+    const std::pair<const char*, int> scopes[] = {{"EmployeeID", s.EmployeeID},
+                                                  {"GroupID", s.EmployeeGroupID},
+                                                  {"DepartmentID", s.EmployeeDepartmentID},
+                                                  {"OrganizationID", s.EmployeeOrganizationID}};
+    for (const auto& [column, id] : scopes)
+        if (id >= 1)
+            return TimeBank(datAbsence, column, id);
+    return 0;
+}

@@ -1,0 +1,25 @@
+#include "reference/holidays.h"
+
+#include "foundation/connection.h"
+#include "foundation/session_state.h"
+
+#include <algorithm>
+
+QVector<Holiday> LoadHolidays(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    QVector<Holiday> holidays;
+    for (Recordset row = datAbsence.Select("SELECT * FROM Holidays WHERE HolidayDate BETWEEN ? AND ? AND CancelledDate = 0 "
+                                           "ORDER BY HolidayDate ASC",
+                                           SessionState.CommencingDate, SessionState.EndingDate);
+         !row.AtEnd(); row.MoveNext())
+        holidays.append({row.Long("HolidayDate"), row.Text("HolidayName").trimmed()});
+    return holidays;
+}
+
+QString HolidayName(const QVector<Holiday>& holidays, int date)
+{
+    const auto found =
+        std::find_if(holidays.begin(), holidays.end(), [date](const Holiday& holiday) { return holiday.Date == date; });
+    return found == holidays.end() ? QString() : found->Name;
+}
