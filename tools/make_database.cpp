@@ -1,6 +1,7 @@
-#include "platform/dao/dao.h"
 #include "foundation/connection.h"
+#include "platform/dao/dao.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
@@ -20,6 +21,7 @@ int main(int argc, char* argv[])
         return 1;
     }
     const bool isConfig = QFileInfo(target).fileName().compare("Config.mdb", Qt::CaseInsensitive) == 0;
+    QDir().mkpath(QFileInfo(target).absolutePath());
     try {
         Database::Create(target, isConfig ? kConfigPassword : kDatabasePassword, QString::fromUtf8(script.readAll()));
     } catch (const RuntimeError& error) {

@@ -1,23 +1,27 @@
 #pragma once
 
+#include <QByteArray>
 #include <QHash>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 #include <QVector>
+
 #include <exception>
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <type_traits>
 
 struct sqlite3;
 
 /// The numbers under which the data engine reports its failures.
 namespace EngineError
 {
-constexpr int ObjectNotSet = 91;            ///< nothing is connected
+constexpr int ObjectNotSet = 91; ///< nothing is connected
 constexpr int TableExists = 3010;
-constexpr int NoEditStarted = 3020;         ///< Update without Edit or AddNew
+constexpr int NoEditStarted = 3020; ///< Update without Edit or AddNew
 constexpr int NoCurrentRecord = 3021;
 constexpr int DuplicateKey = 3022;
 constexpr int FileNotFound = 3024;
@@ -25,20 +29,21 @@ constexpr int ReadOnly = 3027;
 constexpr int WrongPassword = 3031;
 constexpr int DiskError = 3043;
 constexpr int Damaged = 3049;
-constexpr int CannotOpen = 3051;            ///< no permission to the file or its folder
-constexpr int UnknownName = 3061;           ///< a statement names a column that no table has
+constexpr int CannotOpen = 3051;  ///< no permission to the file or its folder
+constexpr int UnknownName = 3061; ///< a statement names a column that no table has
 constexpr int StatementError = 3075;
 constexpr int NoSuchTable = 3078;
 constexpr int DiskFull = 3183;
-constexpr int Locked = 3260;                ///< another user held the file for longer than the engine waits
+constexpr int Locked = 3260; ///< another user held the file for longer than the engine waits
 constexpr int NoSuchField = 3265;
-constexpr int ForeignFile = 3343;           ///< the file is no database of this program
+constexpr int ForeignFile = 3343; ///< the file is no database of this program
 constexpr int FieldExists = 3380;
 constexpr int ConnectionLost = 3420;
 } // namespace EngineError
 
 /// A failure with the number and the description that messages quote.
-struct RuntimeError : std::exception {
+struct RuntimeError : std::exception
+{
     RuntimeError(int number, const QString& description);
 
     int Number;
@@ -51,7 +56,22 @@ private:
 };
 
 class Database;
+class Statement;
 using Values = QVariantList;
+
+/// What is bound to a question mark: an invalid QVariant is NULL, a null QString the empty text, a bool 0 or 1.
+template <typename T>
+QVariant BoundValue(const T& value)
+{
+    if constexpr (std::is_null_pointer_v<T>)
+        return {};
+    else if constexpr (std::is_convertible_v<const T&, QString>)
+        return QString(value);
+    else if constexpr (std::is_enum_v<T>)
+        return static_cast<int>(value);
+    else
+        return QVariant::fromValue(value);
+}
 
 /// A result read whole into memory: the file is not held while a caller walks it. The cursor stands on the first
 /// record after opening. A result of "SELECT * FROM one table" can be edited; others are read-only.
@@ -60,13 +80,13 @@ class Recordset
 public:
     Recordset() = default;
 
-    bool AtEnd() const { return current_ < 0 || current_ >= rows_.size(); }
+    bool AtEnd() const { return current_ < 0 || current_ >= count_; }
     /// Throws 3021 when there is no record at all.
     void MoveFirst();
-    void MoveNext() { ++current_; }
-    int RecordCount() const { return static_cast<int>(rows_.size()); }
-    /// Column names in the order of the result.
-    QStringList Columns() const;
+    /// Changes that were not written by Update are dropped, here and in MoveFirst.
+    void MoveNext();
+    /// The records read, without those removed by Delete.
+    int RecordCount() const { return static_cast<int>(count_ - deleted_); }
 
     /// The value of a column in the current record, or in the one being edited. Throws 3021 without a current
     /// record, 3265 for an unknown column. Column names are found whatever their letter case.
@@ -90,6 +110,8 @@ public:
     {
     public:
         Field(Recordset& owner, QString column) : owner_(owner), column_(std::move(column)) {}
+        /// Throws 3020 without Edit or AddNew, 3265 for an unknown column. A single-precision column keeps the nearest
+        /// float, a whole-number column the nearest whole number (the even one of two).
         void operator=(const QVariant& value) { owner_.Set(column_, value); }
 
     private:
@@ -98,29 +120,57 @@ public:
     };
     Field operator[](const QString& column) { return Field(*this, column); }
 
+    /// Starts a new record. After Update the cursor stands where it was; the next opening reads the new record.
     void AddNew();
     void Edit();
     /// Writes the values set since Edit or AddNew. Throws; the record is unchanged then.
     void Update();
-    /// Removes the current record from its table.
+    /// Forgets the values set since Edit or AddNew.
+    void CancelUpdate();
+    /// Removes the current record from its table. The cursor stays in its place until MoveNext.
     void Delete();
 
 private:
     friend class Database;
-    enum class Editing { None, Existing, New };
+    enum class Editing
+    {
+        None,
+        Existing,
+        New
+    };
+    enum class Kind
+    {
+        Plain,
+        Whole,
+        Single
+    };
 
+    void ReadColumns(const Statement& statement);
+    void ReadRow(const Statement& statement);
     int ColumnIndex(const QString& column) const; // -1 unknown
-    const QVariant* Find(const QString& column) const;
+    const QVariant* Find(int column) const;
+    bool IsDeleted(qsizetype record) const { return !keys_.isEmpty() && keys_[record] < 0; }
+    void SkipDeleted();
+    Database& Owner() const;
+    void RequireTable() const;
+    void RequireRecord() const;
     void Set(const QString& column, const QVariant& value);
+    QString UpdateStatement() const;
+    QString InsertStatement() const;
+    void WriteExisting();
 
-    Database* database_ = nullptr;
+    std::weak_ptr<Database*> database_;
     QString table_; // empty: cannot be edited
+    QStringList names_;
+    QVector<Kind> kinds_;
     QHash<QString, int> columns_;
-    QVector<QVector<QVariant>> rows_;
-    QVector<qint64> keys_;
+    QVector<QVariant> cells_; // record after record
+    QVector<qint64> keys_;    // of an editable result: -1 once deleted
+    qsizetype count_ = 0;
+    qsizetype deleted_ = 0;
     qsizetype current_ = -1;
     Editing editing_ = Editing::None;
-    QVariantMap changes_;
+    QMap<int, QVariant> changes_;
 };
 
 /// One open file. Values are bound to the question marks of a statement in order.
@@ -132,7 +182,8 @@ public:
     Database& operator=(const Database&) = delete;
 
     Recordset OpenRecordset(const QString& sql, const Values& values = {});
-    /// Runs one statement and returns the number of records that it touched.
+    /// Runs one statement and returns the number of records that it touched. Values are stored as they are: only a
+    /// recordset rounds to single precision.
     int Execute(const QString& sql, const Values& values = {});
     /// Runs a whole script of statements.
     void ExecuteScript(const QString& script);
@@ -146,14 +197,22 @@ public:
     /// Makes a new file at `path` with `script` run in it and `password` set. An existing file is replaced.
     static void Create(const QString& path, const QString& password, const QString& script);
     /// Opens a file of this program. `password`: what follows "PWD=" in a connect string.
+    /// Throws 3024 no such file, 3051 no permission, 3343 no file of this program, 3031 wrong password, 3260 held by
+    /// another user for the whole LockWait.
     static std::unique_ptr<Database> Open(const QString& path, const QString& password);
+
+    /// How long a statement waits for another user's lock, in milliseconds.
+    static int LockWait;
 
 private:
     friend class Recordset;
-    explicit Database(sqlite3* handle, QString path);
+    friend class Batch;
+    Database(sqlite3* handle, QString path);
+    Statement Prepare(const QString& sql, const Values& values);
 
     sqlite3* handle_;
     QString path_;
+    std::shared_ptr<Database*> self_; // what outlives the database looks here whether it is still open
 };
 
 /// The application's one workspace: it holds the database that was opened last.
@@ -175,21 +234,26 @@ private:
 Workspace& DefaultWorkspace();
 
 /// One transaction around bulk work. It commits when the scope ends, also when an exception leaves it, so that the
-/// file holds just what record-by-record writing would have left.
+/// file holds just what record-by-record writing would have left. A batch inside another is written to the file with
+/// the outer one.
 class Batch
 {
 public:
+    /// Throws when another user writes for longer than the engine waits.
     explicit Batch(Database& database);
     ~Batch();
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
-    /// Commits now and reports a failure, which the destructor cannot.
+    /// Commits now and reports a failure, which the destructor cannot. After a failure all is undone.
     void Commit();
     /// Undoes all that was written in the batch.
     void Rollback();
 
 private:
-    Database& database_;
+    void Run(const char* sql);
+
+    std::weak_ptr<Database*> database_;
+    bool nested_ = false;
     bool open_ = true;
 };
 
@@ -207,14 +271,14 @@ public:
     template <typename... V>
     bool Read(const QString& sql, const V&... values)
     {
-        Records = ReadResumed(sql, {QVariant::fromValue(values)...});
+        Records = ReadResumed(sql, {BoundValue(values)...});
         return !Records.AtEnd();
     }
     /// The same as a result of its own, empty after a failure.
     template <typename... V>
     Recordset Select(const QString& sql, const V&... values)
     {
-        return ReadResumed(sql, {QVariant::fromValue(values)...});
+        return ReadResumed(sql, {BoundValue(values)...});
     }
     template <typename T>
     void Take(const QString& column, T& target) const
@@ -226,12 +290,12 @@ public:
     template <typename... V>
     Recordset Open(const QString& sql, const V&... values)
     {
-        return DefaultWorkspace().Current().OpenRecordset(sql, {QVariant::fromValue(values)...});
+        return DefaultWorkspace().Current().OpenRecordset(sql, {BoundValue(values)...});
     }
     template <typename... V>
     int Execute(const QString& sql, const V&... values)
     {
-        return DefaultWorkspace().Current().Execute(sql, {QVariant::fromValue(values)...});
+        return DefaultWorkspace().Current().Execute(sql, {BoundValue(values)...});
     }
     Database& Engine() const { return DefaultWorkspace().Current(); }
 

@@ -1,0 +1,206 @@
+#include "platform/dao/collation.h"
+#include "platform/dao/statement.h"
+#include "platform/program.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+
+#include <chrono>
+#include <sqlite3.h>
+#include <thread>
+
+namespace
+{
+constexpr int kApplicationId = 0x54525641; // marks a file as one of this program
+constexpr int kRetryInterval = 5;          // milliseconds
+
+QString HashOf(const QString& salt, const QString& password)
+{
+    const QByteArray hash = QCryptographicHash::hash((salt + password).toUtf8(), QCryptographicHash::Sha256);
+    return QString::fromLatin1(hash.toHex());
+}
+
+QString NewSalt()
+{
+    return QString::number(QRandomGenerator::system()->generate64(), 16);
+}
+
+/// Waits in even steps, so that a user who has waited long asks as often as one who has just come.
+int WaitForLock(void*, int tries)
+{
+    if (tries * kRetryInterval >= Database::LockWait)
+        return 0;
+    std::this_thread::sleep_for(std::chrono::milliseconds(kRetryInterval));
+    return 1;
+}
+
+void Run(sqlite3* handle, const char* script, Access access)
+{
+    if (sqlite3_exec(handle, script, nullptr, nullptr, nullptr) != SQLITE_OK)
+        ThrowEngineError(handle, access, QString::fromUtf8(script).left(200));
+}
+
+void SetUpConnection(sqlite3* handle)
+{
+    sqlite3_extended_result_codes(handle, 1);
+    sqlite3_busy_handler(handle, WaitForLock, nullptr);
+    // A misspelt column in quotes is an error, not a text.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    InstallTextRules(handle);
+    Run(handle, "PRAGMA synchronous = FULL; PRAGMA cache_size = -32768; PRAGMA temp_store = MEMORY;", Access::Reading);
+}
+
+sqlite3* OpenFile(const QString& file, int flags)
+{
+    sqlite3* handle = nullptr;
+    try {
+        if (sqlite3_open_v2(file.toUtf8().constData(), &handle, flags, nullptr) != SQLITE_OK)
+            ThrowEngineError(handle, Access::Reading);
+        SetUpConnection(handle);
+    } catch (...) {
+        sqlite3_close_v2(handle);
+        throw;
+    }
+    return handle;
+}
+
+qint64 ReadNumber(sqlite3* handle, const QString& sql)
+{
+    Statement statement(handle, sql);
+    return statement.Step() ? statement.WholeNumber(0) : 0;
+}
+
+void RequireOwnFile(sqlite3* handle)
+{
+    const bool own = ReadNumber(handle, "PRAGMA application_id") == kApplicationId &&
+                     ReadNumber(handle, "SELECT COUNT(*) FROM sqlite_master WHERE name = 'FilePassword'") == 1;
+    if (!own)
+        throw RuntimeError(EngineError::ForeignFile, "The file is not a database of this program.");
+}
+
+void RequirePassword(sqlite3* handle, const QString& password)
+{
+    Statement statement(handle, "SELECT Salt, Hash FROM FilePassword");
+    const bool right =
+        statement.Step() && HashOf(statement.Value(0).toString(), password) == statement.Value(1).toString();
+    if (!right)
+        throw RuntimeError(EngineError::WrongPassword, "Not a valid password.");
+}
+
+void RemoveFile(const QString& file)
+{
+    QFile::remove(file + "-journal");
+    if (QFile::exists(file) && !QFile::remove(file))
+        throw RuntimeError(EngineError::CannotOpen, "The file cannot be replaced: " + file);
+}
+
+void Fill(Database& database, const QString& password, const QString& script)
+{
+    const QString salt = NewSalt();
+    database.ExecuteScript(QStringLiteral("PRAGMA application_id = %1;").arg(kApplicationId));
+    Batch batch(database);
+    database.ExecuteScript("CREATE TABLE FilePassword (Salt TEXT, Hash TEXT);");
+    database.Execute("INSERT INTO FilePassword VALUES (?, ?)", {salt, HashOf(salt, password)});
+    database.ExecuteScript(script);
+    batch.Commit();
+}
+
+/// The table of "SELECT * FROM one table ...", whose rows can be edited; empty for other statements.
+QString EditableTable(const QString& sql)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^\\s*SELECT\\s+\\*\\s+FROM\\s+(\\w+)\\s*(?:;|$|WHERE\\b|ORDER\\b|LIMIT\\b)"),
+        QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(sql).captured(1);
+}
+
+/// The same statement with the row's key as its first column.
+QString WithRowKey(QString sql)
+{
+    return sql.replace(sql.indexOf('*'), 1, QStringLiteral("rowid, *"));
+}
+} // namespace
+
+int Database::LockWait = 5000;
+
+Database::Database(sqlite3* handle, QString path)
+    : handle_(handle), path_(std::move(path)), self_(std::make_shared<Database*>(this))
+{}
+
+Database::~Database()
+{
+    sqlite3_close_v2(handle_);
+}
+
+std::unique_ptr<Database> Database::Open(const QString& path, const QString& password)
+{
+    const QString file = NativePath(path);
+    if (!QFileInfo(file).isFile())
+        throw RuntimeError(EngineError::FileNotFound, "Could not find the file '" + path + "'.");
+    std::unique_ptr<Database> database(new Database(OpenFile(file, SQLITE_OPEN_READWRITE), file));
+    RequireOwnFile(database->Handle());
+    RequirePassword(database->Handle(), password);
+    return database;
+}
+
+void Database::Create(const QString& path, const QString& password, const QString& script)
+{
+    const QString file = NativePath(path);
+    RemoveFile(file);
+    try {
+        Database database(OpenFile(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE), file);
+        Fill(database, password, script);
+    } catch (...) {
+        QFile::remove(file);
+        throw;
+    }
+}
+
+Statement Database::Prepare(const QString& sql, const Values& values)
+{
+    return Statement(handle_, sql, values);
+}
+
+Recordset Database::OpenRecordset(const QString& sql, const Values& values)
+{
+    Recordset records;
+    records.table_ = EditableTable(sql);
+    Statement statement = Prepare(records.table_.isEmpty() ? sql : WithRowKey(sql), values);
+    records.database_ = self_;
+    records.ReadColumns(statement);
+    while (statement.Step())
+        records.ReadRow(statement);
+    records.current_ = 0;
+    return records;
+}
+
+int Database::Execute(const QString& sql, const Values& values)
+{
+    Statement statement = Prepare(sql, values);
+    const int before = sqlite3_total_changes(handle_);
+    while (statement.Step()) {
+    }
+    return sqlite3_total_changes(handle_) - before;
+}
+
+void Database::ExecuteScript(const QString& script)
+{
+    Run(handle_, script.toUtf8().constData(), Access::Writing);
+}
+
+QStringList Database::Columns(const QString& table)
+{
+    Statement statement = Prepare("SELECT name FROM pragma_table_info(?) ORDER BY cid", {table});
+    QStringList names;
+    while (statement.Step())
+        names += statement.Value(0).toString();
+    return names;
+}
+
+int Database::LastKey() const
+{
+    return static_cast<int>(sqlite3_last_insert_rowid(handle_));
+}
