@@ -1,12 +1,19 @@
 #pragma once
 
+#include "platform/controls/flex_cells.h"
+
 #include <QColor>
+#include <QHash>
 #include <QTableView>
+
 #include <functional>
+#include <vector>
+
+class FlexHeads;
 
 /// A grid of text cells in the manner of a flex grid: every cell has a text, colours, weight and alignment of its
 /// own; rows carry a number; rows and columns can be hidden, cells merged, heights and widths set. 10,000 rows stay
-/// quick. Rows and columns count from 0.
+/// quick. Rows and columns count from 0. A cell outside the grid reads as empty and is not written.
 class FlexGrid : public QTableView
 {
     Q_OBJECT
@@ -14,15 +21,19 @@ class FlexGrid : public QTableView
 public:
     explicit FlexGrid(QWidget* parent = nullptr);
 
+    /// Keeps the cells that remain; merged cells fall apart.
     void SetSize(int rows, int cols);
     int Rows() const;
     int Cols() const;
-    /// The first rows and columns stay in place when the rest scrolls, and look like heads.
+    /// The first rows and columns stay in place when the rest scrolls, and look like heads; they take no clicks.
     void SetFixedRows(int rows);
     void SetFixedCols(int cols);
+    int FixedRows() const { return fixedRows_; }
+    int FixedCols() const { return fixedCols_; }
     /// Adds a row at the end; cells are separated by tabs. Returns its index.
     int AddItem(const QString& cells);
     void RemoveItem(int row);
+    /// Removes all rows but the fixed ones.
     void ClearRows();
 
     QString TextMatrix(int row, int col) const;
@@ -30,28 +41,40 @@ public:
     int RowData(int row) const;
     void SetRowData(int row, int value);
 
-    /// 0xBBGGRR, as the program stores colours. An unset colour gives the grid's own.
-    int CellBackColor(int row, int col) const; // -1 unset
+    /// 0xBBGGRR, as the program stores colours. An unset colour, -1, gives the grid's own.
+    int CellBackColor(int row, int col) const;
     void SetCellBackColor(int row, int col, int color);
-    int CellForeColor(int row, int col) const; // -1 unset
+    int CellForeColor(int row, int col) const;
     void SetCellForeColor(int row, int col, int color);
     bool CellFontBold(int row, int col) const;
     void SetCellFontBold(int row, int col, bool bold);
     void SetCellAlignment(int row, int col, Qt::Alignment alignment);
     void SetColAlignment(int col, Qt::Alignment alignment);
+    /// A cell without lines around it: titles, separators.
+    void SetCellLines(int row, int col, bool lines);
+    /// In fixed rows, cells merge sideways only.
     void MergeCells(int row, int col, int rowSpan, int colSpan);
 
     void SetColWidth(int col, int pixels);
     void SetRowHeight(int row, int pixels);
     void SetColHidden(int col, bool hidden);
     void SetRowHidden(int row, bool hidden);
+    /// The column takes the width that the others leave.
+    void SetColStretch(int col);
+    /// Without its border the grid lies on its card like a part of it.
+    void SetBordered(bool bordered);
 
     /// The current row and column, -1 none.
     int Row() const;
     int Col() const;
     void SelectCell(int row, int col);
+    /// The whole row of the current cell is tinted; unset, only the cell is framed.
+    void SetRowSelection(bool wholeRow);
+    bool RowSelection() const { return rowSelection_; }
+    /// Where the cell stands in the viewport, to lay an entry box over it.
+    QRect CellRect(int row, int col) const;
 
-    /// Nothing repaints between the two; the grid is redrawn once at the end.
+    /// Nothing repaints between the two; the grid is redrawn once at the end. Pairs may be nested.
     void BeginUpdate();
     void EndUpdate();
 
@@ -59,13 +82,38 @@ signals:
     /// A cell was clicked, or Space or Enter was pressed on it.
     void CellClicked(int row, int col);
     void CellDoubleClicked(int row, int col);
+    /// The mouse came over a cell.
+    void CellEntered(int row, int col);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    bool eventFilter(QObject* target, QEvent* event) override;
 
 private:
-    class Model;
-    Model* model_;
+    friend class FlexHeads;
+    friend class FlexDelegate;
+
+    void SetCell(int row, int col, const std::function<void(FlexCell&)>& change);
+    void WhenShown(int row, const std::function<void()>& change);
+    void ShowFixed();
+    int HeadHeight(int row) const;
+    int HeadWidth(int col) const;
+    int HeadsHeight() const;
+    int HeadsWidth() const;
+    void PaintCorner(QWidget* corner) const;
+
+    int fixedRows_ = 0;
+    int fixedCols_ = 0;
+    int updates_ = 0; ///< how many BeginUpdate are open
+    bool rowSelection_ = false;
+    bool bordered_ = true;
+    FlexCells* cells_;
+    FlexHeads* top_;
+    FlexHeads* left_;
+    QHash<int, int> rowHeights_; ///< of fixed rows, which the view itself hides
+    QHash<int, int> colWidths_;
+    std::vector<std::function<void()>> whenShown_;
 };
 
 /// A colour as the program stores it (0xBBGGRR), and back.

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+
 #include <functional>
 
 /// A control with its object name. Member d of a control array is named "name(d)".
@@ -23,19 +24,23 @@ inline QString ArrayName(const QString& name, int index)
     return QStringLiteral("%1(%2)").arg(name).arg(index);
 }
 
+/// The form's outermost layout, with the margins and gaps that all forms share; cards and the button row go into it.
+QVBoxLayout* PageLayout(QWidget* form);
 /// A white card with rounded corners on the quiet page; its layout holds the controls.
 QFrame* MakeCard(QLayout* layout);
 /// The looks of labels: a bold head, a small grey caption, a large figure.
 QLabel* AsHead(QLabel* label);
 QLabel* AsCaption(QLabel* label);
 QLabel* AsFigure(QLabel* label);
-/// The one blue main button of a form.
+/// A small grey caption above the control that it names.
+QVBoxLayout* Captioned(QLabel* caption, QWidget* control);
+/// The one blue main button of a form, pressed by Enter.
 QPushButton* AsMainButton(QPushButton* button);
 /// The row of buttons at a form's foot, pushed to the right: the main button last.
 QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons);
 
 /// Shows a form modally and returns its result code. Tests and the tour install a runner that works the form instead
-/// of waiting for a person.
+/// of waiting for a person; an empty runner brings the waiting back.
 int ShowModal(QDialog& form);
 void SetModalRunner(std::function<int(QDialog&)> runner);
 
@@ -63,9 +68,10 @@ public:
     BusyPointer& operator=(const BusyPointer&) = delete;
 };
 
-/// The program's style sheet and fonts, set once on the application.
+/// The program's style sheet, colours, fonts and window icon, set once on the application.
 void ApplyStyle();
 
-/// A picture of the program by the name of its SVG file ("tool-create-single", "face-warning"), at `size` pixels.
+/// A picture of the program by the name of its SVG file ("tool-create-single", "face-warning"), sharp at any scale of
+/// the screen; `size` in pixels at 100 %. A name that has no file gives an empty picture.
 QIcon PictureIcon(const QString& name);
 QPixmap Picture(const QString& name, int size);

@@ -1,0 +1,360 @@
+#include "platform/controls/flex_grid.h"
+
+#include "platform/controls/flex_painting.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace
+{
+constexpr int kRowHeight = 26;
+constexpr int kColWidth = 96;
+} // namespace
+
+FlexGrid::FlexGrid(QWidget* parent)
+    : QTableView(parent), cells_(new FlexCells(this)), top_(new FlexHeads(Qt::Horizontal, this)),
+      left_(new FlexHeads(Qt::Vertical, this))
+{
+    setHorizontalHeader(top_);
+    setVerticalHeader(left_);
+    top_->setDefaultSectionSize(kColWidth);
+    left_->setDefaultSectionSize(kRowHeight);
+    setModel(cells_);
+    setItemDelegate(new FlexDelegate(this));
+    setShowGrid(false);
+    setTabKeyNavigation(false);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    viewport()->setMouseTracking(true);
+    if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
+        corner->installEventFilter(this);
+    ShowFixed();
+    connect(this, &QTableView::clicked, this,
+            [this](const QModelIndex& at) { emit CellClicked(at.row(), at.column()); });
+    connect(this, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& at) { emit CellDoubleClicked(at.row(), at.column()); });
+    connect(this, &QTableView::entered, this,
+            [this](const QModelIndex& at) { emit CellEntered(at.row(), at.column()); });
+}
+
+void FlexGrid::SetSize(int rows, int cols)
+{
+    clearSpans();
+    cells_->Resize(rows, cols);
+    ShowFixed();
+}
+
+int FlexGrid::Rows() const
+{
+    return cells_->Rows();
+}
+
+int FlexGrid::Cols() const
+{
+    return cells_->Cols();
+}
+
+void FlexGrid::SetFixedRows(int rows)
+{
+    for (int row = 0; row < fixedRows_; ++row)
+        setRowHidden(row, false);
+    for (int row = 0; row < std::min(rows, cells_->ShownRows()); ++row)
+        rowHeights_.insert(row, rowHeight(row));
+    fixedRows_ = rows;
+    ShowFixed();
+}
+
+void FlexGrid::SetFixedCols(int cols)
+{
+    for (int col = 0; col < fixedCols_; ++col)
+        setColumnHidden(col, false);
+    fixedCols_ = cols;
+    ShowFixed();
+}
+
+int FlexGrid::AddItem(const QString& cells)
+{
+    return cells_->Append(cells.split('\t'));
+}
+
+void FlexGrid::RemoveItem(int row)
+{
+    cells_->Remove(row, 1);
+}
+
+void FlexGrid::ClearRows()
+{
+    cells_->Remove(fixedRows_, Rows() - fixedRows_);
+    whenShown_.clear();
+}
+
+void FlexGrid::SetCell(int row, int col, const std::function<void(FlexCell&)>& change)
+{
+    FlexCell* cell = cells_->At(row, col);
+    if (!cell)
+        return;
+    change(*cell);
+    if (updates_ > 0)
+        return;
+    cells_->Changed(row, col);
+    if (row < fixedRows_)
+        top_->viewport()->update();
+    if (col < fixedCols_)
+        left_->viewport()->update();
+}
+
+QString FlexGrid::TextMatrix(int row, int col) const
+{
+    const FlexCell* cell = cells_->At(row, col);
+    return cell ? cell->Text : QString();
+}
+
+void FlexGrid::SetTextMatrix(int row, int col, const QString& text)
+{
+    SetCell(row, col, [&](FlexCell& cell) { cell.Text = text; });
+}
+
+int FlexGrid::RowData(int row) const
+{
+    return cells_->RowData(row);
+}
+
+void FlexGrid::SetRowData(int row, int value)
+{
+    cells_->SetRowData(row, value);
+}
+
+int FlexGrid::CellBackColor(int row, int col) const
+{
+    const FlexCell* cell = cells_->At(row, col);
+    return cell ? cell->Back : -1;
+}
+
+void FlexGrid::SetCellBackColor(int row, int col, int color)
+{
+    SetCell(row, col, [&](FlexCell& cell) { cell.Back = color; });
+}
+
+int FlexGrid::CellForeColor(int row, int col) const
+{
+    const FlexCell* cell = cells_->At(row, col);
+    return cell ? cell->Fore : -1;
+}
+
+void FlexGrid::SetCellForeColor(int row, int col, int color)
+{
+    SetCell(row, col, [&](FlexCell& cell) { cell.Fore = color; });
+}
+
+bool FlexGrid::CellFontBold(int row, int col) const
+{
+    const FlexCell* cell = cells_->At(row, col);
+    return cell && cell->Bold;
+}
+
+void FlexGrid::SetCellFontBold(int row, int col, bool bold)
+{
+    SetCell(row, col, [&](FlexCell& cell) { cell.Bold = bold; });
+}
+
+void FlexGrid::SetCellAlignment(int row, int col, Qt::Alignment alignment)
+{
+    SetCell(row, col, [&](FlexCell& cell) { cell.Alignment = alignment; });
+}
+
+void FlexGrid::SetColAlignment(int col, Qt::Alignment alignment)
+{
+    cells_->SetColAlignment(col, alignment);
+    top_->viewport()->update();
+}
+
+void FlexGrid::SetCellLines(int row, int col, bool lines)
+{
+    SetCell(row, col, [&](FlexCell& cell) { cell.Lines = lines; });
+}
+
+void FlexGrid::MergeCells(int row, int col, int rowSpan, int colSpan)
+{
+    WhenShown(row, [=, this] { setSpan(row, col, rowSpan, colSpan); });
+}
+
+/// The view knows a row that was added during an update only at the update's end.
+void FlexGrid::WhenShown(int row, const std::function<void()>& change)
+{
+    if (row < cells_->ShownRows())
+        change();
+    else
+        whenShown_.push_back(change);
+}
+
+void FlexGrid::SetColWidth(int col, int pixels)
+{
+    colWidths_[col] = pixels;
+    setColumnWidth(col, pixels);
+    if (col < fixedCols_)
+        ShowFixed();
+}
+
+void FlexGrid::SetRowHeight(int row, int pixels)
+{
+    if (row < fixedRows_) {
+        rowHeights_[row] = pixels;
+        ShowFixed();
+    }
+    WhenShown(row, [=, this] { setRowHeight(row, pixels); });
+}
+
+void FlexGrid::SetColHidden(int col, bool hidden)
+{
+    setColumnHidden(col, hidden);
+}
+
+void FlexGrid::SetRowHidden(int row, bool hidden)
+{
+    WhenShown(row, [=, this] { setRowHidden(row, hidden); });
+}
+
+void FlexGrid::SetColStretch(int col)
+{
+    top_->setSectionResizeMode(col, QHeaderView::Stretch);
+}
+
+void FlexGrid::SetBordered(bool bordered)
+{
+    bordered_ = bordered;
+    setFrameShape(bordered ? QFrame::StyledPanel : QFrame::NoFrame);
+    setProperty("look", bordered ? QVariant() : QVariant("borderless"));
+}
+
+int FlexGrid::Row() const
+{
+    return currentIndex().row();
+}
+
+int FlexGrid::Col() const
+{
+    return currentIndex().column();
+}
+
+void FlexGrid::SelectCell(int row, int col)
+{
+    setCurrentIndex(cells_->index(row, col));
+}
+
+void FlexGrid::SetRowSelection(bool wholeRow)
+{
+    rowSelection_ = wholeRow;
+    viewport()->update();
+}
+
+QRect FlexGrid::CellRect(int row, int col) const
+{
+    return visualRect(cells_->index(row, col));
+}
+
+void FlexGrid::BeginUpdate()
+{
+    if (updates_++ > 0)
+        return;
+    setUpdatesEnabled(false);
+    cells_->SetSilent(true);
+}
+
+void FlexGrid::EndUpdate()
+{
+    if (updates_ == 0 || --updates_ > 0)
+        return;
+    cells_->SetSilent(false);
+    for (const auto& change : std::exchange(whenShown_, {}))
+        change();
+    ShowFixed();
+    setUpdatesEnabled(true);
+}
+
+void FlexGrid::keyPressEvent(QKeyEvent* event)
+{
+    const bool presses =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!presses || !currentIndex().isValid())
+        return QTableView::keyPressEvent(event);
+    emit CellClicked(Row(), Col());
+}
+
+void FlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (rowSelection_)
+        viewport()->update();
+}
+
+/// The fixed rows and columns are shown by the heads, so the scrolled cells leave them out.
+void FlexGrid::ShowFixed()
+{
+    for (int row = 0; row < std::min(fixedRows_, cells_->ShownRows()); ++row)
+        setRowHidden(row, true);
+    for (int col = 0; col < std::min(fixedCols_, Cols()); ++col)
+        setColumnHidden(col, true);
+    top_->setVisible(fixedRows_ > 0);
+    left_->setVisible(fixedCols_ > 0);
+    updateGeometries();
+}
+
+int FlexGrid::HeadHeight(int row) const
+{
+    return rowHeights_.value(row, kRowHeight);
+}
+
+int FlexGrid::HeadWidth(int col) const
+{
+    return colWidths_.value(col, kColWidth);
+}
+
+int FlexGrid::HeadsHeight() const
+{
+    int height = 0;
+    for (int row = 0; row < fixedRows_; ++row)
+        height += HeadHeight(row);
+    return height;
+}
+
+int FlexGrid::HeadsWidth() const
+{
+    int width = 0;
+    for (int col = 0; col < fixedCols_; ++col)
+        width += HeadWidth(col);
+    return width;
+}
+
+bool FlexGrid::eventFilter(QObject* target, QEvent* event)
+{
+    auto* corner = qobject_cast<QAbstractButton*>(target);
+    if (!corner || event->type() != QEvent::Paint)
+        return QTableView::eventFilter(target, event);
+    PaintCorner(corner);
+    return true;
+}
+
+/// The cells that are fixed in both directions.
+void FlexGrid::PaintCorner(QWidget* corner) const
+{
+    QPainter painter(corner);
+    int top = 0;
+    for (int row = 0; row < fixedRows_; top += HeadHeight(row), ++row) {
+        int left = 0;
+        for (int col = 0; col < fixedCols_; left += HeadWidth(col), ++col)
+            if (const FlexCell* cell = cells_->At(row, col))
+                PaintFlexHead(painter, QRect(left, top, HeadWidth(col), HeadHeight(row)), *cell,
+                              cells_->AlignmentOf(*cell, col));
+    }
+}
+
+QColor ColorOfCode(int code)
+{
+    return QColor(code & 0xff, (code >> 8) & 0xff, (code >> 16) & 0xff);
+}
+
+int CodeOfColor(const QColor& color)
+{
+    return color.red() | color.green() << 8 | color.blue() << 16;
+}

@@ -1,0 +1,179 @@
+#include "platform/controls/form_kit.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QIcon>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+
+#include <utility>
+
+/// A static library keeps its resources only when somebody asks for them by name, outside any namespace.
+static void LoadResources()
+{
+    Q_INIT_RESOURCE(pictures);
+}
+
+namespace
+{
+constexpr int kPageMargin = 16;
+constexpr int kCardMargin = 14;
+constexpr int kGap = 10;
+constexpr double kFontPoints = 10;
+
+std::function<int(QDialog&)> modalRunner;
+
+/// What the style sheet selects by: [look="head"].
+template <typename Widget>
+Widget* WithLook(Widget* widget, const char* look)
+{
+    widget->setProperty("look", QString::fromLatin1(look));
+    return widget;
+}
+
+QString PicturePath(const QString& name)
+{
+    LoadResources();
+    return QStringLiteral(":/pictures/%1.svg").arg(name);
+}
+
+/// The program is light on every desktop: the calendar's colours are meant for white paper.
+QPalette LightPalette()
+{
+    const QColor navy("#14213d"), grey("#99a2b1");
+    QPalette palette(QColor("#ffffff"), QColor("#eef1f5"));
+    palette.setColor(QPalette::WindowText, QColor("#1b2330"));
+    palette.setColor(QPalette::Text, QColor("#1b2330"));
+    palette.setColor(QPalette::ButtonText, QColor("#1b2330"));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor("#f6f8fb"));
+    palette.setColor(QPalette::Highlight, QColor("#2f6fde"));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor("#2f6fde"));
+    palette.setColor(QPalette::PlaceholderText, grey);
+    palette.setColor(QPalette::ToolTipBase, Qt::white);
+    palette.setColor(QPalette::ToolTipText, navy);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, grey);
+    return palette;
+}
+
+QFont ProgramFont()
+{
+    QFont font;
+    font.setFamilies({"Liberation Sans", "Arial", "Nimbus Sans", "DejaVu Sans"});
+    font.setPointSizeF(kFontPoints);
+    return font;
+}
+} // namespace
+
+QVBoxLayout* PageLayout(QWidget* form)
+{
+    auto* layout = new QVBoxLayout(form);
+    layout->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+    layout->setSpacing(kGap);
+    return layout;
+}
+
+QFrame* MakeCard(QLayout* layout)
+{
+    auto* card = WithLook(new QFrame, "card");
+    layout->setContentsMargins(kCardMargin, kCardMargin, kCardMargin, kCardMargin);
+    card->setLayout(layout);
+    return card;
+}
+
+QLabel* AsHead(QLabel* label)
+{
+    return WithLook(label, "head");
+}
+
+QLabel* AsCaption(QLabel* label)
+{
+    return WithLook(label, "caption");
+}
+
+QLabel* AsFigure(QLabel* label)
+{
+    return WithLook(label, "figure");
+}
+
+QVBoxLayout* Captioned(QLabel* caption, QWidget* control)
+{
+    auto* column = new QVBoxLayout;
+    column->setSpacing(3);
+    column->addWidget(AsCaption(caption));
+    column->addWidget(control);
+    caption->setBuddy(control);
+    return column;
+}
+
+QPushButton* AsMainButton(QPushButton* button)
+{
+    button->setDefault(true);
+    return WithLook(button, "main");
+}
+
+QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kGap);
+    row->addStretch();
+    for (QPushButton* button : buttons)
+        row->addWidget(button);
+    return row;
+}
+
+int ShowModal(QDialog& form)
+{
+    return modalRunner ? modalRunner(form) : form.exec();
+}
+
+void SetModalRunner(std::function<int(QDialog&)> runner)
+{
+    modalRunner = std::move(runner);
+}
+
+BusyPointer::BusyPointer()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+BusyPointer::~BusyPointer()
+{
+    QApplication::restoreOverrideCursor();
+}
+
+void ApplyStyle()
+{
+    LoadResources();
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(LightPalette());
+    QApplication::setFont(ProgramFont());
+    QApplication::setWindowIcon(PictureIcon("app"));
+    QFile sheet(":/tarvell.qss");
+    if (sheet.open(QIODevice::ReadOnly))
+        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+}
+
+QIcon PictureIcon(const QString& name)
+{
+    const QString path = PicturePath(name);
+    return QFile::exists(path) ? QIcon(path) : QIcon();
+}
+
+QPixmap Picture(const QString& name, int size)
+{
+    const QString path = PicturePath(name);
+    if (!QFile::exists(path))
+        return {};
+    const qreal scale = qApp->devicePixelRatio();
+    QPixmap picture(QSize(size, size) * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    QSvgRenderer(path).render(&painter, QRectF(0, 0, size, size));
+    return picture;
+}
