@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The commands whose forms are still to come, by the name of their menu entry or form. When the program is complete
+/// The commands whose forms are still to come, by the start of the name of their menu entry or form. When the program is complete
 /// this list is empty.
 const QStringList& NotYetAvailable();
 

@@ -1,0 +1,108 @@
+#include "calendar/calendar_records.h"
+
+#include "foundation/common_services.h"
+#include "foundation/texts.h"
+#include "reference/category_list.h"
+
+namespace
+{
+std::pair<QString, int> Scope()
+{
+    const Session& s = SessionState;
+    if (s.EmployeeID != 0)
+        return {" AND Attendance.EmployeeID = ?1", s.EmployeeID};
+    if (s.EmployeeGroupID != 0)
+        return {" AND Attendance.GroupID = ?1", s.EmployeeGroupID};
+    if (s.EmployeeDepartmentID != 0)
+        return {" AND Attendance.DepartmentID = ?1", s.EmployeeDepartmentID};
+    if (s.EmployeeOrganizationID != 0)
+        return {" AND Attendance.OrganizationID = ?1", s.EmployeeOrganizationID};
+    return {" AND ?1 = 0", 0};
+}
+
+const char* kTimesOfRecord =
+    "SELECT Attendance.StartTime, Attendance.EndTime, Attendance.Duration, Attendance.TimeMultiplicator, "
+    "Attendance.TotalDuration, Attendance.Submitted, Categories.CategoryFrenchName, Categories.CategoryEnglishName";
+} // namespace
+
+ScopeFilter CalendarScope()
+{
+    const auto [scope, id] = Scope();
+    ScopeFilter filter{scope, id, SessionState.SelectedCategoryID};
+    filter.Sql += filter.Category > 0 ? " AND Attendance.CategoryID = ?2" : " AND ?2 = 0";
+    if (SessionState.AccessToRestrictedCategory == 0)
+        filter.Sql += " AND Categories.Restricted = 0";
+    filter.Sql += " AND Attendance.CancelledDate = 0";
+    filter.Sql += SessionState.ShowApproved ? " AND Attendance.Submitted = 0" : " AND Attendance.Submitted = 1";
+    return filter;
+}
+
+float TotalForTheYear(DataControl& datAbsence)
+{
+    const ScopeFilter filter = CalendarScope();
+    float total = 0;
+    datAbsence.Read("SELECT SUM(Attendance.TotalDuration) AS TotalTime FROM Attendance, Categories WHERE "
+                    "Attendance.CategoryID = Categories.RecordID AND Attendance.FiscalYear = ?3" +
+                        filter.Sql,
+                    filter.Scope, filter.Category, SessionState.FiscalYearID);
+    datAbsence.Take("TotalTime", total);
+    return total;
+}
+
+QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence)
+{
+    const ScopeFilter filter = CalendarScope();
+    QVector<CalendarRecord> records;
+    for (Recordset row = datAbsence.Select(
+             "SELECT DISTINCT Attendance.RecordDate, Attendance.CategoryID, Categories.SystemName, "
+             "Categories.CategoryColorCode FROM Attendance, Categories WHERE Attendance.CategoryID = Categories.RecordID "
+             "AND Attendance.RecordDate BETWEEN ?3 AND ?4" +
+                 filter.Sql + " ORDER BY Attendance.RecordDate ASC",
+             filter.Scope, filter.Category, SessionState.CommencingDate, SessionState.EndingDate);
+         !row.AtEnd(); row.MoveNext())
+        records.append({row.Long("RecordDate"), row.Long("CategoryID"), row.Long("CategoryColorCode")});
+    return records;
+}
+
+QStringList DailyAttendance(DataControl& datAbsence, int date)
+{
+    const ScopeFilter filter = CalendarScope();
+    QStringList lines;
+    for (Recordset row = datAbsence.Select(
+             QString(kTimesOfRecord) +
+                 ", Employees.FirstName, Employees.FamilyName FROM Attendance, Categories, Employees WHERE "
+                 "Attendance.CategoryID = Categories.RecordID AND Attendance.EmployeeID = Employees.RecordID AND "
+                 "Attendance.RecordDate = ?3" +
+                 filter.Sql + " ORDER BY Employees.FamilyName ASC, Employees.FirstName ASC",
+             filter.Scope, filter.Category, date);
+         !row.AtEnd(); row.MoveNext()) {
+        QString line = row.Text("FirstName").trimmed() + " " + row.Text("FamilyName").trimmed() + "   " +
+                       row.Text(CategoryNameColumn()).trimmed() + "   ";
+        if (row.Single("StartTime") != 0)
+            line += T("From: ", "De: ") + DurationAsText(row.Single("StartTime")) + T(" To: ", " À: ") +
+                    DurationAsText(row.Single("EndTime")) + "   ";
+        lines << line + T("Duration: ", "Durée: ") + DurationAsText(row.Single("Duration"));
+    }
+    return lines;
+}
+
+QStringList ConflictingRecords(DataControl& datAbsence, int date)
+{
+    QStringList lines;
+    for (Recordset row = datAbsence.Select(QString(kTimesOfRecord) +
+                                               " FROM Attendance, Categories WHERE Attendance.CategoryID = "
+                                               "Categories.RecordID AND Attendance.RecordDate = ? AND "
+                                               "Attendance.EmployeeID = ? AND Attendance.CancelledDate = 0",
+                                           date, SessionState.EmployeeID);
+         !row.AtEnd(); row.MoveNext()) {
+        QString line = row.Text(CategoryNameColumn()).trimmed() + "\t";
+        if (row.Single("StartTime") != 0)
+            line += T("From:", "De:") + DurationAsText(row.Single("StartTime")) + "\t" + T("To:", "À:") +
+                    DurationAsText(row.Single("EndTime")) + "\t";
+        line += T("Duration: ", "Durée: ") + DurationAsText(row.Single("Duration"));
+        if (row.Long("Submitted") == 1)
+            line += T("  (TO BE APPROVED)", "  (NON APPROUVÉE)");
+        lines << line;
+    }
+    return lines;
+}

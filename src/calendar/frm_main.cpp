@@ -1,0 +1,285 @@
+#include "calendar/frm_main.h"
+
+#include "calendar/access_rules.h"
+#include "calendar/frm_main_calendar.h"
+#include "calendar/frm_main_header.h"
+#include "calendar/frm_main_legend.h"
+#include "calendar/frm_main_tool_bar.h"
+#include "foundation/common_services.h"
+#include "foundation/connection.h"
+#include "foundation/frm_login.h"
+#include "foundation/log_in.h"
+#include "foundation/rows.h"
+#include "foundation/session_rows.h"
+#include "foundation/texts.h"
+#include "ledger/time_banks.h"
+#include "platform/clock.h"
+#include "platform/controls/form_kit.h"
+#include "platform/program.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
+{
+    BuildControls();
+    ConnectControls();
+}
+
+void frmMain::BuildControls()
+{
+    setObjectName("frmMain");
+    setWindowIcon(PictureIcon("app"));
+    resize(1280, 860);
+    menus_ = std::make_unique<MainMenus>(menuBar(), MenuCommands());
+    toolBar_ = new ToolBar;
+    header_ = new MainHeader;
+    pane_ = new CalendarPane;
+    legend_ = new LegendPane;
+    timAbsence = Named<QTimer>("timAbsence", this);
+    timTimeOut = Named<QTimer>("timTimeOut", this);
+
+    auto* calendar = new QVBoxLayout;
+    calendar->setContentsMargins(12, 12, 12, 12);
+    calendar->addWidget(pane_);
+    auto* content = new QVBoxLayout;
+    content->setContentsMargins(16, 12, 16, 12);
+    content->setSpacing(12);
+    content->addWidget(header_);
+    content->addWidget(MakeCard(calendar), 1);
+    content->addWidget(legend_);
+    auto* page = new QWidget;
+    auto* all = new QVBoxLayout(page);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(toolBar_);
+    all->addLayout(content, 1);
+    setCentralWidget(page);
+}
+
+void frmMain::ConnectControls()
+{
+    toolBar_->Hovered = [this](const QString& tool) { tools_.HoveredTool = tool; };
+    toolBar_->Clicked = [this] { ToolClicked(); };
+    header_->YearChanged = [this](Neighbour direction) { ChangeToYear(direction); };
+    header_->CategoryChosen = [this](int category) { SelectCategory(category); };
+    legend_->CategoryClicked = [this](int category) {
+        header_->SelectCategory(category);
+        SelectCategory(category);
+    };
+    pane_->DateClicked = [this](int date) { tools_.DateClicked(date); };
+    connect(timAbsence, &QTimer::timeout, this, &frmMain::timAbsence_Timer);
+    connect(timTimeOut, &QTimer::timeout, this, &frmMain::timTimeOut_Timer);
+    for (QWidget* widget : findChildren<QWidget*>()) {
+        widget->setMouseTracking(true);
+        widget->installEventFilter(this);
+    }
+}
+
+void frmMain::Form_Load()
+{
+    SessionState.ShowApproved = true;
+    Busy = true;
+    LoadCaptions();
+    LoadAdministratorInfo(datAbsence);
+    LoadCategories();
+    LoadEmployeeInfo();
+    legend_->LoadLegend(datAbsence);
+    Busy = false;
+    ActivateAllowedControls();
+    DisplayNames();
+    header_->ShowTotal(DurationAsText(0));
+    LastTimerTick = CurrentDateTime();
+    pane_->Cover();
+    timAbsence->start(1000);
+    timTimeOut->start(1000);
+}
+
+void frmMain::LoadCaptions()
+{
+    setWindowTitle(Fill(T("Tarvell   Session ID [{LoginID}]", "Tarvell   Identification: [{LoginID}]"),
+                        {{"LoginID", SessionState.LoginID}}));
+    menus_->LoadCaptions();
+    toolBar_->LoadCaptions();
+    header_->LoadCaptions();
+    pane_->LoadCaptions();
+    legend_->LoadCaptions();
+}
+
+void frmMain::LoadCategories()
+{
+    header_->LoadCategories(datAbsence);
+}
+
+void frmMain::LoadEmployeeInfo()
+{
+    if (SessionState.SQL_Server)
+        LoadEmployeeInfo_SQL(datAbsence);
+    else
+        LoadEmployeeInfo_ACCESS(datAbsence);
+}
+
+void frmMain::DisplayNames()
+{
+    header_->ShowNames();
+}
+
+/// One query for the total and one for the records, however many days the year has.
+QVector<CalendarRecord> frmMain::LoadAttendance_ACCESS()
+{
+    total_ = TotalForTheYear(datAbsence);
+    const QVector<CalendarRecord> records = RecordsOfTheYear(datAbsence);
+    FirstRecordDate = records.isEmpty() ? 0 : records.first().RecordDate;
+    LastRecordDate = records.isEmpty() ? 0 : records.last().RecordDate;
+    RecordCount = static_cast<int>(records.size());
+    return records;
+}
+
+QVector<CalendarRecord> frmMain::LoadAttendance_SQL()
+{
+    total_ = 0;
+    return {};
+}
+
+void frmMain::LoadDates()
+{
+    const Connection connection(datAbsence);
+    const QVector<CalendarRecord> records = SessionState.SQL_Server ? LoadAttendance_SQL() : LoadAttendance_ACCESS();
+    holidays_ = LoadHolidays(datAbsence);
+    const bool oneEmployee = SessionState.EmployeeID != 0;
+    header_->ShowTotal(DurationAsText(total_, oneEmployee));
+    calendar_.LoadDates(records, holidays_, [this](int done, int all) { pane_->ShowProgress(done, all); });
+    pane_->Show(calendar_);
+}
+
+void frmMain::RecalculateTimeBank()
+{
+    if (SessionState.EmployeeOrganizationID == 0)
+        return header_->ShowTimeBank({});
+    const Connection connection(datAbsence);
+    header_->ShowTimeBank(DurationAsText(TimeBankOfSelection(datAbsence)));
+}
+
+void frmMain::ReloadCalendar()
+{
+    const BusyPointer hourglass;
+    pane_->Cover();
+    RecalculateTimeBank();
+    LoadDates();
+    pane_->Uncover();
+}
+
+void frmMain::ReloadIfAsked()
+{
+    if (!SessionState.ReloadCalendar)
+        return;
+    SessionState.ReloadCalendar = false;
+    LoadEmployeeInfo();
+    DisplayNames();
+    ReloadCalendar();
+}
+
+void frmMain::SelectCategory(int categoryID)
+{
+    SessionState.SelectedCategoryID = categoryID;
+    ReloadCalendar();
+}
+
+void frmMain::ReloadSelection()
+{
+    LoadCategories();
+    legend_->LoadLegend(datAbsence);
+    LoadEmployeeInfo();
+    DisplayNames();
+    ReloadCalendar();
+    ActivateAllowedControls();
+}
+
+void frmMain::ActivateAllowedControls()
+{
+    for (const char* menu : {"mnuFile", "mnuReports", "mnuSchedule", "mnuSpecial", "mnuHelp"})
+        menus_->Action(menu)->setEnabled(true);
+    if (tools_.IsSelecting())
+        return;
+    menus_->ActivateAllowed();
+    header_->Activate(true);
+    legend_->SetUsable(true);
+    for (const QString& tool : ToolBar::Tools())
+        toolBar_->SetTool(tool, IsShown(tool), IsAllowed(tool));
+}
+
+void frmMain::DeactivateAllControls(const QString& usableTool)
+{
+    toolBar_->HideZoom();
+    menus_->Deactivate();
+    header_->Activate(false);
+    legend_->SetUsable(false);
+    for (const QString& tool : ToolBar::Tools())
+        toolBar_->SetTool(tool, IsShown(tool), tool == usableTool);
+}
+
+void frmMain::ChangeToYear(Neighbour direction)
+{
+    Busy = true;
+    const Connection connection(datAbsence);
+    if (ChangeYear(datAbsence, direction, [this](int year, const QString& name) { return LogIn(year, name); })) {
+        LoadCaptions();
+        ReloadSelection();
+    }
+    Busy = false;
+}
+
+bool frmMain::LogIn(int year, const QString& name)
+{
+    const int user = SessionState.UserID;
+    frmLogin login(this);
+    login.FiscalYearID = year;
+    login.FiscalYearName = name;
+    login.ChangingYear = true;
+    ShowModal(login);
+    const bool LogInCancelled = SessionState.UserID == user;
+    return !LogInCancelled;
+}
+
+void frmMain::cmdQuit_Click()
+{
+    Busy = true;
+    LogOutUser(datAbsence);
+    EndProgram();
+}
+
+void frmMain::closeEvent(QCloseEvent*)
+{
+    cmdQuit_Click();
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event)
+{
+    Form_KeyDown(event->key());
+    QMainWindow::keyPressEvent(event);
+}
+
+void frmMain::Form_KeyDown(int key)
+{
+    if (key == Qt::Key_Escape)
+        tools_.Abort();
+}
+
+bool frmMain::eventFilter(QObject* target, QEvent* event)
+{
+    if (event->type() == QEvent::MouseMove) {
+        IdleSeconds = 0;
+        if (!pane_->isAncestorOf(qobject_cast<QWidget*>(target)))
+            pane_->HideRecords();
+    }
+    return QMainWindow::eventFilter(target, event);
+}
+
+bool frmMain::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::MouseMove)
+        IdleSeconds = 0;
+    return QMainWindow::event(event);
+}

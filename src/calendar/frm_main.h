@@ -1,0 +1,107 @@
+#pragma once
+
+#include "calendar/calendar_tools.h"
+#include "calendar/frm_main_menus.h"
+#include "calendar/year_change.h"
+
+#include <QDateTime>
+#include <QMainWindow>
+#include <memory>
+
+class CalendarPane;
+class LegendPane;
+class MainHeader;
+class QTimer;
+class ToolBar;
+
+/// The workspace: the year calendar of the selection, its tools, and the menus from which all other forms open.
+class frmMain : public QMainWindow, private ToolHost
+{
+public:
+    explicit frmMain(QWidget* parent = nullptr);
+
+    /// Captions, lists, rights: all but the calendar itself, which the first tick of the timer draws.
+    void Form_Load();
+    void LoadCaptions();
+
+    /// Rebuilds the whole calendar from the records within the scope.
+    void LoadDates();
+    void RecalculateTimeBank();
+    /// The log-in for a year in which the user has no record; false when it was cancelled.
+    bool LogIn(int year, const QString& name);
+
+    void timAbsence_Timer();
+    void timTimeOut_Timer();
+    void cmdQuit_Click();
+
+    bool Busy = false;      ///< a long command runs; timers stand still
+    bool TimerBusy = false; ///< the timer itself runs a step
+    int IdleSeconds = 0;
+
+    CalendarTools& Tools() { return tools_; }
+    YearCalendar& Calendar() override { return calendar_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* target, QEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void BuildControls();
+    void ConnectControls();
+    MainMenus::Commands MenuCommands();
+
+    void LoadCategories();
+    QVector<CalendarRecord> LoadAttendance_ACCESS();
+    QVector<CalendarRecord> LoadAttendance_SQL();
+    void LoadEmployeeInfo();
+    void ReloadCalendar();
+    void ReloadIfAsked();
+    void SelectCategory(int categoryID);
+    void ActivateAllowedControls();
+    void DeactivateAllControls(const QString& usableTool = {});
+    void DisplayNames();
+
+    void Form_KeyDown(int key);
+    void imgUpdateSelection_Click();
+    void ToolClicked();
+    void ChangeToYear(Neighbour direction);
+    void mnuSpecialDisplayApproved_Click();
+    void mnuSpecialDisplayPending_Click();
+    void mnuSpecialSwitchLanguage_Click();
+    void mnuFileDatabaseLocation_Click();
+
+    DataControl& Data() override { return datAbsence; }
+    bool NothingRecorded() const override { return total_ == 0; }
+    void ShowHint(const QString& hint) override;
+    void BeginTool(const QString& usableTool) override;
+    void EndTool() override;
+    void RefreshDate(int date) override;
+    void ShowAttendance(int recordToModify, bool conflictsAccepted) override;
+    bool ShowSelectDates() override;
+    int SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines) override;
+    void ShowApproval() override;
+    void RemoveMarkedRecords() override;
+    void ReloadSelection() override;
+    void DisplayDailyAttendance(int date) override;
+
+    DataControl datAbsence{"frmMain"};
+    YearCalendar calendar_;
+    QVector<Holiday> holidays_;
+    CalendarTools tools_{*this};
+    float total_ = 0;
+    int FirstRecordDate = 0;
+    int LastRecordDate = 0;
+    int RecordCount = 0;
+    bool CalendarLoaded = false;
+    QDateTime LastTimerTick;
+
+    std::unique_ptr<MainMenus> menus_;
+    ToolBar* toolBar_ = nullptr;
+    MainHeader* header_ = nullptr;
+    CalendarPane* pane_ = nullptr;
+    LegendPane* legend_ = nullptr;
+    QTimer* timAbsence = nullptr;
+    QTimer* timTimeOut = nullptr;
+};

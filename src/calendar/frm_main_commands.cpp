@@ -1,0 +1,207 @@
+#include "attendance/frm_attendance.h"
+#include "calendar/frm_main.h"
+#include "calendar/frm_main_calendar.h"
+#include "calendar/frm_main_header.h"
+#include "calendar/frm_main_tool_bar.h"
+#include "foundation/common_services.h"
+#include "foundation/connection.h"
+#include "foundation/frm_about.h"
+#include "foundation/frm_change_password.h"
+#include "foundation/frm_update_admin_info.h"
+#include "foundation/not_yet.h"
+#include "foundation/rows.h"
+#include "foundation/session_rows.h"
+#include "foundation/texts.h"
+#include "platform/clock.h"
+#include "platform/controls/form_kit.h"
+#include "platform/program.h"
+#include "selection/frm_select_attendance_record.h"
+#include "selection/frm_select_dates.h"
+#include "selection/frm_select_employee.h"
+
+#include <QTimer>
+
+namespace
+{
+constexpr int kMinute = 60'000;
+constexpr int kShutDownSeconds = 60;
+
+template <typename Form>
+void Open(QWidget* parent)
+{
+    Form form(parent);
+    ShowModal(form);
+}
+} // namespace
+
+MainMenus::Commands frmMain::MenuCommands()
+{
+    return {
+        {"mnuFileDatabaseLocation", [this] { mnuFileDatabaseLocation_Click(); }},
+        {"mnuFileExit", [this] { cmdQuit_Click(); }},
+        {"mnuSpecialDisplayApproved", [this] { mnuSpecialDisplayApproved_Click(); }},
+        {"mnuSpecialDisplayPending", [this] { mnuSpecialDisplayPending_Click(); }},
+        {"mnuSpecialSwitchLanguage", [this] { mnuSpecialSwitchLanguage_Click(); }},
+        {"mnuSpecialChangePassword", [this] { Open<frmChangePassword>(this); }},
+        {"mnuSpecialUpdateAdminInfo",
+         [this] {
+             Open<frmUpdateAdminInfo>(this);
+             LoadAdministratorInfo(datAbsence);
+         }},
+        {"mnuHelpAbout", [this] { Open<frmAbout>(this); }},
+    };
+}
+
+void frmMain::mnuFileDatabaseLocation_Click()
+{
+    Tell(T("DATABASE PATH:", "LOCALISATION DE LA BANQUE DE DONNÉES:"),
+         T("The database currently used by Tarvell is located in the following folder:",
+           "La banque de données exploitée par Tarvell se trouve présentement dans le répertoire suivant:") +
+             "\r\n\r\n" + SessionState.DatabasePath);
+}
+
+void frmMain::mnuSpecialDisplayApproved_Click()
+{
+    SessionState.ShowApproved = true;
+    ActivateAllowedControls();
+    ReloadCalendar();
+}
+
+void frmMain::mnuSpecialDisplayPending_Click()
+{
+    SessionState.ShowApproved = false;
+    ActivateAllowedControls();
+    ReloadCalendar();
+}
+
+void frmMain::mnuSpecialSwitchLanguage_Click()
+{
+    SessionState.English = !SessionState.English;
+    Busy = true;
+    LoadCaptions();
+    try {
+        const Connection connection(datAbsence);
+        WriteRow(datAbsence, "Employees", SessionState.UserID, {{"Language", SessionState.English ? 0 : 1}});
+    } catch (const RuntimeError& error) {
+        TellError(error);
+    }
+    ReloadSelection();
+    Busy = false;
+}
+
+void frmMain::ToolClicked()
+{
+    if (tools_.HoveredTool == "imgUpdateSelection")
+        imgUpdateSelection_Click();
+    else
+        tools_.imgZoom_Click();
+}
+
+void frmMain::imgUpdateSelection_Click()
+{
+    frmSelectEmployee form(this);
+    Busy = true;
+    if (ShowModal(form) == QDialog::Accepted)
+        ReloadSelection();
+    Busy = false;
+}
+
+void frmMain::ShowHint(const QString& hint)
+{
+    pane_->ShowHint(hint);
+}
+
+void frmMain::BeginTool(const QString& usableTool)
+{
+    Busy = true;
+    setCursor(Qt::CrossCursor);
+    DeactivateAllControls(usableTool);
+}
+
+void frmMain::EndTool()
+{
+    Busy = false;
+    IdleSeconds = 0;
+    unsetCursor();
+    ActivateAllowedControls();
+}
+
+void frmMain::RefreshDate(int date)
+{
+    pane_->RefreshDate(calendar_, date);
+}
+
+/// The entry form chooses categories for its own records; the calendar keeps the category that it shows.
+void frmMain::ShowAttendance(int recordToModify, bool conflictsAccepted)
+{
+    const int shownCategory = SessionState.SelectedCategoryID;
+    frmAttendance form(this);
+    form.RecordToModify = recordToModify;
+    form.ConflictsAccepted = conflictsAccepted;
+    ShowModal(form);
+    SessionState.SelectedCategoryID = shownCategory;
+    ReloadIfAsked();
+}
+
+bool frmMain::ShowSelectDates()
+{
+    frmSelectDates form(this);
+    return ShowModal(form) == QDialog::Accepted;
+}
+
+int frmMain::SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines)
+{
+    frmSelectAttendanceRecord form(lines, this);
+    return ShowModal(form) == QDialog::Accepted ? form.SelectedRecordID() : 0;
+}
+
+void frmMain::ShowApproval()
+{
+    TellNotYet("frmApproval");
+}
+
+void frmMain::RemoveMarkedRecords()
+{
+    TellNotYet("imgRemove_Click");
+}
+
+void frmMain::DisplayDailyAttendance(int date)
+{
+    QStringList lines;
+    {
+        const Connection connection(datAbsence);
+        lines = DailyAttendance(datAbsence, date);
+    }
+    const QString holiday = HolidayName(holidays_, date);
+    const QString title = FormatDate(date, "ddd dd-mmm-yyyy");
+    pane_->ShowRecords(holiday.isEmpty() ? title : title + "   " + holiday, lines.join("\r\n"));
+}
+
+void frmMain::timAbsence_Timer()
+{
+    if (Busy || TimerBusy)
+        return;
+    if (!CalendarLoaded) {
+        CalendarLoaded = true;
+        ReloadCalendar();
+        timAbsence->setInterval(kMinute);
+    }
+    DeactivateAllControls();
+    TimerBusy = true;
+    ActivateAllowedControls();
+    TimerBusy = false;
+    LastTimerTick = CurrentDateTime();
+}
+
+void frmMain::timTimeOut_Timer()
+{
+    IdleSeconds = Busy ? 0 : IdleSeconds + 1;
+    const int left = SessionState.TimeOutSeconds - IdleSeconds;
+    if (left > 0)
+        return header_->ShowTimeOut({});
+    header_->ShowTimeOut(Fill(T("Tarvell will be shut down in {seconds} seconds...",
+                                "Tarvell sera interrompu dans {seconds} secondes..."),
+                              {{"seconds", QString::number(left)}}));
+    if (left <= -kShutDownSeconds)
+        EndProgram();
+}

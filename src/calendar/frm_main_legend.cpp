@@ -1,0 +1,154 @@
+#include "calendar/frm_main_legend.h"
+
+#include "calendar/year_calendar.h"
+#include "foundation/connection.h"
+#include "foundation/texts.h"
+#include "platform/controls/flex_grid.h"
+#include "platform/controls/form_kit.h"
+#include "reference/category_list.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace
+{
+constexpr int kShiftStep = 160;
+constexpr int kRowHeight = 30;
+
+/// A label on its colour, its text dark or light, whichever is easier to read there.
+QString LabelStyle(int colorCode)
+{
+    const QColor color = ColorOfCode(colorCode);
+    const bool dark = qGray(color.rgb()) < 128;
+    return QStringLiteral("background: %1; color: %2; border: 1px solid %3; border-radius: 3px; padding: 3px 12px;")
+        .arg(color.name(), dark ? "white" : "#14213d", color.darker(115).name());
+}
+
+QLabel* ColorLabel(const QString& name, int colorCode)
+{
+    auto* label = Named<QLabel>(name);
+    label->setStyleSheet(LabelStyle(colorCode));
+    return label;
+}
+
+QToolButton* ArrowButton(const QString& name, const QString& picture)
+{
+    auto* button = Named<QToolButton>(name);
+    button->setIcon(PictureIcon(picture));
+    return button;
+}
+
+QString LegendQuery()
+{
+    QString sql = "SELECT * FROM Categories WHERE FiscalYear = ? AND Active = 1 AND TimeBankRelated = 0 ";
+    if (SessionState.AccessToRestrictedCategory == 0)
+        sql += "AND Restricted = 0 ";
+    return sql + "ORDER BY SystemName DESC, " + CategoryNameColumn() + " ASC";
+}
+} // namespace
+
+LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
+{
+    setObjectName("fraLegendCard");
+    fraLegend = Named<QFrame>("fraLegend");
+    fraLegend->setFixedHeight(kRowHeight);
+    row_ = new QWidget(fraLegend);
+    auto* labels = new QHBoxLayout(row_);
+    labels->setContentsMargins(0, 0, 0, 0);
+    for (int index = 0; index < kMostLabels; ++index) {
+        auto* label = Named<QPushButton>(ArrayName("lblLegend", index));
+        label->setFlat(true);
+        label->setCursor(Qt::PointingHandCursor);
+        label->hide();
+        connect(label, &QPushButton::clicked, this, [this, index] { lblLegend_Click(index); });
+        labels->addWidget(label);
+        lblLegend.push_back(label);
+    }
+    lblTimeBank = ColorLabel("lblTimeBank", CalendarColor::TimeBank);
+    lblMultiple = ColorLabel("lblMultiple", CalendarColor::SeveralCategories);
+    cmdPreviousCategories = ArrowButton("cmdPreviousCategories", "arrow-previous");
+    cmdNextCategories = ArrowButton("cmdNextCategories", "arrow-next");
+    connect(cmdPreviousCategories, &QToolButton::clicked, this, [this] { Shift(-1); });
+    connect(cmdNextCategories, &QToolButton::clicked, this, [this] { Shift(1); });
+
+    auto* all = new QHBoxLayout(this);
+    all->setContentsMargins(10, 5, 10, 5);
+    all->addWidget(cmdPreviousCategories);
+    all->addWidget(fraLegend, 1);
+    all->addWidget(cmdNextCategories);
+    all->addSpacing(12);
+    all->addWidget(lblTimeBank);
+    all->addWidget(lblMultiple);
+}
+
+void LegendPane::LoadCaptions()
+{
+    lblTimeBank->setText(T("Time bank", "Banque de temps"));
+    lblMultiple->setText(T("Several categories", "Plusieurs catégories"));
+    cmdPreviousCategories->setToolTip(T("Previous categories", "Catégories précédentes"));
+    cmdNextCategories->setToolTip(T("Next categories", "Catégories suivantes"));
+    for (QToolButton* button : {cmdPreviousCategories, cmdNextCategories})
+        button->setAccessibleName(button->toolTip());
+}
+
+void LegendPane::LoadLegend(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    categories_.clear();
+    for (Recordset row = datAbsence.Select(LegendQuery(), SessionState.FiscalYearID);
+         !row.AtEnd() && categories_.size() < kMostLabels; row.MoveNext()) {
+        QPushButton* label = lblLegend[categories_.size()];
+        const QString name = row.Text(CategoryNameColumn()).trimmed();
+        const QString code = row.Text("CategoryCode").trimmed();
+        const int color = row.Long("CategoryColorCode");
+        label->setText((code.isEmpty() ? name : code + "  " + name).replace("&", "&&"));
+        label->setToolTip(T("Show this category alone", "Afficher cette catégorie seulement"));
+        label->setStyleSheet(LabelStyle(color > 0 ? color : CalendarColor::NoColor));
+        categories_.push_back(row.Long("RecordID"));
+    }
+    for (int index = 0; index < kMostLabels; ++index)
+        lblLegend[index]->setVisible(index < static_cast<int>(categories_.size()));
+    offset_ = 0;
+    row_->layout()->activate();
+    EnableShifting();
+}
+
+void LegendPane::SetUsable(bool usable)
+{
+    row_->setEnabled(usable);
+}
+
+void LegendPane::lblLegend_Click(int index)
+{
+    if (CategoryClicked)
+        CategoryClicked(categories_[index]);
+}
+
+int LegendPane::RoomBeyond() const
+{
+    return std::max(0, row_->sizeHint().width() - fraLegend->width());
+}
+
+void LegendPane::Shift(int direction)
+{
+    offset_ += direction * kShiftStep;
+    EnableShifting();
+}
+
+/// The row stays within the frame's edges; a button is enabled only while labels lie beyond its edge.
+void LegendPane::EnableShifting()
+{
+    offset_ = std::clamp(offset_, 0, RoomBeyond());
+    row_->resize(row_->sizeHint().width(), kRowHeight);
+    row_->move(-offset_, 0);
+    cmdPreviousCategories->setEnabled(offset_ > 0);
+    cmdNextCategories->setEnabled(offset_ < RoomBeyond());
+}
+
+void LegendPane::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    EnableShifting();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/dao/dao.h"
+
+#include <QFrame>
+#include <functional>
+#include <vector>
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+/// The legend below the calendar: one label per category in one row, which two buttons shift sideways, and the marks of
+/// the time bank and of several categories.
+class LegendPane : public QFrame
+{
+public:
+    explicit LegendPane(QWidget* parent = nullptr);
+
+    std::function<void(int categoryID)> CategoryClicked;
+
+    void LoadLegend(DataControl& datAbsence);
+    void LoadCaptions();
+    void SetUsable(bool usable);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    static constexpr int kMostLabels = 50;
+
+    void lblLegend_Click(int index);
+    void Shift(int direction);
+    void EnableShifting();
+    int RoomBeyond() const;
+
+    QFrame* fraLegend = nullptr; ///< the window through which the row of labels is seen
+    QWidget* row_ = nullptr;
+    std::vector<QPushButton*> lblLegend;
+    std::vector<int> categories_;
+    QLabel* lblTimeBank = nullptr;
+    QLabel* lblMultiple = nullptr;
+    QToolButton* cmdPreviousCategories = nullptr;
+    QToolButton* cmdNextCategories = nullptr;
+    int offset_ = 0; ///< pixels that the row stands shifted to the left
+};

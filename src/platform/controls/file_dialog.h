@@ -1,0 +1,4 @@
+#pragma once
+
+/// Lets ChooseFile show the desktop's own file dialog.
+void InstallFileDialog();

@@ -1,0 +1,40 @@
+#include "reference/category_list.h"
+
+#include "foundation/connection.h"
+#include "foundation/texts.h"
+
+namespace
+{
+QString CategoriesQuery()
+{
+    const QString usable =
+        SessionState.EmployeeDepartmentID != 0
+            ? "SELECT Categories.RecordID, Categories.CategoryEnglishName, Categories.CategoryFrenchName, "
+              "Categories.SystemName, Categories.Restricted FROM Categories, CategoriesDepartments WHERE "
+              "Categories.RecordID = CategoriesDepartments.CategoryID AND CategoriesDepartments.IsUsed = 1 AND "
+              "CategoriesDepartments.DepartmentID = ?1 AND Categories.FiscalYear = ?2 AND Categories.Active = 1"
+            : "SELECT * FROM Categories WHERE ?1 = 0 AND FiscalYear = ?2 AND Active = 1 AND IsPublic = 1";
+    const QString visible = SessionState.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0";
+    return usable + visible + " ORDER BY Categories." + CategoryNameColumn() + " ASC";
+}
+} // namespace
+
+const char* CategoryNameColumn()
+{
+    return SessionState.English ? "CategoryEnglishName" : "CategoryFrenchName";
+}
+
+QString AllCategories()
+{
+    return T("(All categories)", "(Toutes les catégories)");
+}
+
+QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    QVector<CategoryItem> items;
+    for (Recordset row = datAbsence.Select(CategoriesQuery(), SessionState.EmployeeDepartmentID, SessionState.FiscalYearID);
+         !row.AtEnd(); row.MoveNext())
+        items.append({row.Long("RecordID"), row.Text(CategoryNameColumn()).trimmed(), row.Text("SystemName").trimmed()});
+    return items;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/dao/dao.h"
+
+#include <QVector>
+
+/// One category as the lists offer it, with its name in the session's language.
+struct CategoryItem {
+    int RecordID = 0;
+    QString Name;
+    QString SystemName; ///< empty for a category made by users
+};
+
+/// The active categories of the year that the employee shown may use: those of his department, or the public ones
+/// when he has none; without hidden ones unless the user may see them. In order of name.
+QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence);
+
+/// "(All categories)", the first entry of each list; it stands for no category.
+QString AllCategories();
+
+/// Column of the category name in the session's language.
+const char* CategoryNameColumn();
