@@ -87,6 +87,8 @@ public:
     void MoveNext();
     /// The records read, without those removed by Delete.
     int RecordCount() const { return static_cast<int>(count_ - deleted_); }
+    /// Column names in the order of the result.
+    const QStringList& Columns() const { return names_; }
 
     /// The value of a column in the current record, or in the one being edited. Throws 3021 without a current
     /// record, 3265 for an unknown column. Column names are found whatever their letter case.

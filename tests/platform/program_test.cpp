@@ -1,0 +1,68 @@
+#include "platform/engine_fixture.h"
+#include "platform/program.h"
+#include "support/house.h"
+
+#include <QDir>
+
+#include <sys/stat.h>
+
+namespace
+{
+TEST(NativePathTest, EachPartIsFoundWhateverItsLetterCase)
+{
+    const QTemporaryDir root;
+    QDir(root.path()).mkpath("Données/2026");
+    QFile file(root.path() + "/Données/2026/Tarvell.mdb");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const QString found = root.path() + "/Données/2026/Tarvell.mdb";
+    EXPECT_EQ(NativePath(root.path() + "\\DONNÉES\\2026\\TARVELL.MDB"), found);
+    EXPECT_EQ(NativePath(root.path() + "/données\\2026//tarvell.mdb"), found);
+    EXPECT_EQ(NativePath(root.path() + "\\données\\2027\\New.mdb"), root.path() + "/Données/2027/New.mdb")
+        << "what is not there yet keeps its spelling inside the folder that is";
+    EXPECT_EQ(NativePath(JoinPath(root.path(), "Données")), root.path() + "/Données");
+    EXPECT_EQ(NativePath(""), "");
+
+    QFile capitals(root.path() + "/Données/2026/TARVELL.MDB");
+    ASSERT_TRUE(capitals.open(QIODevice::WriteOnly));
+    EXPECT_EQ(NativePath(root.path() + "\\Données\\2026\\TARVELL.MDB"), capitals.fileName())
+        << "the exact name goes before its likes";
+}
+
+TEST(NativePathTest, RelativePathsStayRelative)
+{
+    const QTemporaryDir root;
+    const QString before = QDir::currentPath();
+    QDir(root.path()).mkpath("Reports");
+    QDir::setCurrent(root.path());
+    EXPECT_EQ(NativePath("REPORTS\\march.txt"), "Reports/march.txt");
+    QDir::setCurrent(before);
+}
+
+/// Installed in a folder that users may not write, the program keeps its files with the user.
+TEST(ProgramFolderTest, AUserWithoutRightsGetsTheDeliveredDatabasesInAFolderOfTheirOwn)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "the owner of the program's folder may write in it";
+    const QTemporaryDir home;
+    const QTemporaryDir delivered;
+    for (const QString& folder : {home.path(), delivered.path()})
+        chmod(qPrintable(folder), 0777);
+    for (const char* name : {"/Tarvell.mdb", "/Config.mdb"}) {
+        QFile::copy(House::DeliveredFolder() + name, delivered.path() + name);
+        QFile::setPermissions(delivered.path() + name, QFile::ReadOwner | QFile::ReadOther);
+    }
+    const auto start = [&] {
+        qputenv("HOME", home.path().toUtf8());
+        qunsetenv("XDG_DATA_HOME");
+        PrepareProgramFolder(delivered.path());
+        if (!ProgramFolder().startsWith(home.path()))
+            return 1;
+        const auto config = Database::Open(JoinPath(ProgramFolder(), "config.mdb"), "p3n8Rw62jq0d");
+        config->Execute("INSERT INTO Configuration (DatabaseName) VALUES ('Tarvell.mdb')");
+        const int rows = config->OpenRecordset("SELECT * FROM Configuration").RecordCount();
+        return QFile::exists(NativePath(JoinPath(ProgramFolder(), "Tarvell.mdb"))) ? 10 + rows : 2;
+    };
+    EXPECT_EQ(AsOrdinaryUser(start), 11);
+    EXPECT_EQ(AsOrdinaryUser(start), 12) << "the second start finds the files of the first";
+}
+} // namespace
