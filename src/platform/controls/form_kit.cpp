@@ -20,7 +20,7 @@ namespace
 {
 constexpr int kPageMargin = 16;
 constexpr int kCardMargin = 14;
-constexpr int kGap = 10;
+constexpr int kGap = 9;
 constexpr double kFontPoints = 10;
 
 std::function<int(QDialog&)> modalRunner;
@@ -75,6 +75,23 @@ QVBoxLayout* PageLayout(QWidget* form)
     layout->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
     layout->setSpacing(kGap);
     return layout;
+}
+
+QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kGap);
+    for (QWidget* control : controls)
+        row->addWidget(control);
+    row->addStretch();
+    return row;
+}
+
+QGridLayout* Raster()
+{
+    auto* raster = new QGridLayout;
+    raster->setSpacing(kGap);
+    return raster;
 }
 
 QFrame* MakeCard(QLayout* layout)
