@@ -2,6 +2,7 @@
 
 #include "calendar/calendar_tools.h"
 #include "calendar/frm_main_menus.h"
+#include "calendar/minute_work.h"
 #include "calendar/year_change.h"
 
 #include <QDateTime>
@@ -38,7 +39,8 @@ public:
     bool TimerBusy = false; ///< the timer itself runs a step
     int IdleSeconds = 0;
 
-    CalendarTools& Tools() { return tools_; }
+    /// Where other floors leave the work of the timer's steps.
+    MinuteWork& BackgroundWork() { return minuteWork_; }
     YearCalendar& Calendar() override { return calendar_; }
 
 protected:
@@ -90,6 +92,7 @@ private:
     YearCalendar calendar_;
     QVector<Holiday> holidays_;
     CalendarTools tools_{*this};
+    MinuteWork minuteWork_;
     float total_ = 0;
     int FirstRecordDate = 0;
     int LastRecordDate = 0;

@@ -184,12 +184,15 @@ void frmMain::timAbsence_Timer()
     if (!CalendarLoaded) {
         CalendarLoaded = true;
         ReloadCalendar();
+        pane_->ResizeScreen();
         timAbsence->setInterval(kMinute);
     }
-    DeactivateAllControls();
     TimerBusy = true;
-    ActivateAllowedControls();
+    minuteWork_.Run(MinuteWork::Phase::Open);
+    DeactivateAllControls();
+    minuteWork_.Run(MinuteWork::Phase::Locked);
     TimerBusy = false;
+    ActivateAllowedControls();
     LastTimerTick = CurrentDateTime();
 }
 

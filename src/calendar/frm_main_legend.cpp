@@ -103,7 +103,8 @@ void LegendPane::LoadLegend(DataControl& datAbsence)
         const QString name = row.Text(CategoryNameColumn()).trimmed();
         const QString code = row.Text("CategoryCode").trimmed();
         const int color = row.Long("CategoryColorCode");
-        label->setText((code.isEmpty() ? name : code + "  " + name).replace("&", "&&"));
+        QString text = code.isEmpty() ? name : code + "  " + name;
+        label->setText(text.replace("&", "&&"));
         label->setToolTip(T("Show this category alone", "Afficher cette catégorie seulement"));
         label->setStyleSheet(LabelStyle(color > 0 ? color : CalendarColor::NoColor));
         categories_.push_back(row.Long("RecordID"));

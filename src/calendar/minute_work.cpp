@@ -1,0 +1,65 @@
+#include "calendar/minute_work.h"
+
+#include "foundation/common_services.h"
+#include "foundation/texts.h"
+
+namespace
+{
+using Phase = MinuteWork::Phase;
+
+struct Step {
+    const char* Name;
+    Phase When;
+    bool OncePerSession;
+    bool (*IsDue)();
+};
+
+bool Always()
+{
+    return true;
+}
+
+bool MayOnlyRequest()
+{
+    return SessionState.SelfLevelCreate == 0;
+}
+
+bool EntersRecords()
+{
+    return SessionState.GroupLevelCreate == 1 || SessionState.SelfLevelCreate == 1;
+}
+
+constexpr Step kSteps[] = {
+    {"DownloadRedemption", Phase::Open, false, [] { return SessionState.LastUpgradeDate == 0; }},
+    {"DoesUserNeedTraining", Phase::Open, true, Always},
+    {"UpgradeMailerDLL", Phase::Open, true, Always},
+    {"SpecifyMailerComponent", Phase::Open, false, [] { return SessionState.LastUpgradeDate == 333; }},
+    {"WereRequestsApproved", Phase::Locked, true, MayOnlyRequest},
+    {"IsFYClosingScheduled", Phase::Locked, true, EntersRecords},
+    {"AreThereRequestsToApprove", Phase::Locked, false, [] { return SessionState.IsAuthorizedToApprove == 1; }},
+};
+} // namespace
+
+void MinuteWork::Run(Phase phase)
+{
+    for (const Step& step : kSteps) {
+        const auto work = work_.constFind(step.Name);
+        if (step.When != phase || work == work_.constEnd() || done_.contains(step.Name) || !step.IsDue())
+            continue;
+        if (step.OncePerSession)
+            done_.insert(step.Name);
+        (*work)();
+    }
+}
+
+bool OfferApproval(const QString& list)
+{
+    return !list.isEmpty() &&
+           Ask(T("REQUEST(S) FOR LEAVE RECEIVED:", "DEMANDE(S) DE CONGÉ REÇUE(S):"),
+               T("The following requests for leave have been submitted for your approval. Do you want to process those "
+                 "requests now?",
+                 "Les demandes de congé suivantes ont été soumises pour votre approbation. Souhaitez-vous traiter ces "
+                 "demandes maintenant?") +
+                   "\r\n\r\n" + list,
+               Face::Informing);
+}
