@@ -20,6 +20,13 @@ QVariant FlexCells::data(const QModelIndex& index, int role) const
     return cell->Text;
 }
 
+/// Titles and separators, the cells without lines, are nothing to pick.
+Qt::ItemFlags FlexCells::flags(const QModelIndex& index) const
+{
+    const FlexCell* cell = At(index.row(), index.column());
+    return cell && cell->Lines ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags;
+}
+
 /// Screen readers name a column by its text in the first row.
 QVariant FlexCells::headerData(int section, Qt::Orientation orientation, int role) const
 {

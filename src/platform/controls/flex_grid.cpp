@@ -274,11 +274,37 @@ void FlexGrid::EndUpdate()
 
 void FlexGrid::keyPressEvent(QKeyEvent* event)
 {
-    const bool presses =
-        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!presses || !currentIndex().isValid())
+    if (!currentIndex().isValid() || event->modifiers() & ~Qt::KeypadModifier)
         return QTableView::keyPressEvent(event);
-    emit CellClicked(Row(), Col());
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        emit CellClicked(Row(), Col());
+        return;
+    case Qt::Key_Up:
+        return StepFrom(Row(), Col(), -1, 0);
+    case Qt::Key_Down:
+        return StepFrom(Row(), Col(), 1, 0);
+    case Qt::Key_Left:
+        return StepFrom(Row(), Col(), 0, -1);
+    case Qt::Key_Right:
+        return StepFrom(Row(), Col(), 0, 1);
+    default:
+        QTableView::keyPressEvent(event);
+    }
+}
+
+/// Selects the nearest cell in that direction that can be picked.
+void FlexGrid::StepFrom(int row, int col, int rowStep, int colStep)
+{
+    do {
+        row += rowStep;
+        col += colStep;
+        const FlexCell* cell = cells_->At(row, col);
+        if (cell && cell->Lines && !isRowHidden(row) && !isColumnHidden(col))
+            return SelectCell(row, col);
+    } while (cells_->At(row, col));
 }
 
 void FlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
@@ -345,7 +371,7 @@ void FlexGrid::PaintCorner(QWidget* corner) const
         for (int col = 0; col < fixedCols_; left += HeadWidth(col), ++col)
             if (const FlexCell* cell = cells_->At(row, col))
                 PaintFlexHead(painter, QRect(left, top, HeadWidth(col), HeadHeight(row)), *cell,
-                              cells_->AlignmentOf(*cell, col));
+                              cells_->AlignmentOf(*cell, col), true);
     }
 }
 

@@ -50,7 +50,7 @@ public:
     void SetCellFontBold(int row, int col, bool bold);
     void SetCellAlignment(int row, int col, Qt::Alignment alignment);
     void SetColAlignment(int col, Qt::Alignment alignment);
-    /// A cell without lines around it: titles, separators.
+    /// A cell without lines around it is a title or a separator: it takes no clicks, and the arrow keys pass over it.
     void SetCellLines(int row, int col, bool lines);
     /// In fixed rows, cells merge sideways only.
     void MergeCells(int row, int col, int rowSpan, int colSpan);
@@ -94,6 +94,7 @@ private:
     friend class FlexHeads;
     friend class FlexDelegate;
 
+    void StepFrom(int row, int col, int rowStep, int colStep);
     void SetCell(int row, int col, const std::function<void(FlexCell&)>& change);
     void WhenShown(int row, const std::function<void()>& change);
     void ShowFixed();

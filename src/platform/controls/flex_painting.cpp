@@ -52,13 +52,13 @@ QColor ColorOr(int code, const QColor& own)
 }
 } // namespace
 
-void PaintFlexHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment)
+void PaintFlexHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment, bool bold)
 {
     painter.fillRect(rect, ColorOr(cell.Back, kHeadBack));
     if (cell.Lines)
         PaintLines(painter, rect, false, false);
     painter.setPen(ColorOr(cell.Fore, kHeadText));
-    PaintText(painter, rect, cell.Text, true, alignment);
+    PaintText(painter, rect, cell.Text, bold, alignment);
 }
 
 FlexDelegate::FlexDelegate(FlexGrid* grid) : QStyledItemDelegate(grid), grid_(grid) {}
@@ -139,7 +139,7 @@ void FlexHeads::PaintRow(QPainter& painter, int row, int top, int height) const
         const QRect rect(sectionViewportPosition(col), top, width, height);
         const FlexCell& cell = *grid_->cells_->At(row, col);
         if (width > 0)
-            PaintFlexHead(painter, rect, cell, grid_->cells_->AlignmentOf(cell, col));
+            PaintFlexHead(painter, rect, cell, grid_->cells_->AlignmentOf(cell, col), true);
         col += span;
     }
 }
@@ -154,6 +154,6 @@ void FlexHeads::PaintCol(QPainter& painter, int col, int left, int width, const 
             continue;
         if (grid_->columnSpan(row, col) > 1)
             rect.setRight(rect.right() + grid_->viewport()->width());
-        PaintFlexHead(painter, rect, cell, grid_->cells_->AlignmentOf(cell, col));
+        PaintFlexHead(painter, rect, cell, grid_->cells_->AlignmentOf(cell, col), cell.Bold);
     }
 }

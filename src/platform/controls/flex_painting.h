@@ -39,5 +39,5 @@ private:
     FlexGrid* grid_;
 };
 
-/// Paints one fixed cell.
-void PaintFlexHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment);
+/// Paints one fixed cell; those of the fixed rows are bold.
+void PaintFlexHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment, bool bold);

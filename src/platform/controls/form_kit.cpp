@@ -4,10 +4,10 @@
 #include <QFile>
 #include <QIcon>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <utility>
 
 /// A static library keeps its resources only when somebody asks for them by name, outside any namespace.
@@ -20,10 +20,28 @@ namespace
 {
 constexpr int kPageMargin = 16;
 constexpr int kCardMargin = 14;
-constexpr int kGap = 10;
+constexpr int kGap = 9;
+constexpr int kEntryHeight = 22;
 constexpr double kFontPoints = 10;
 
 std::function<int(QDialog&)> modalRunner;
+
+/// Entries of lists stand at a reader's distance. The style sheet cannot see to it: a list that is filled before it is
+/// shown takes its sizes from the style alone.
+class ProgramStyle : public QProxyStyle
+{
+public:
+    ProgramStyle() : QProxyStyle("Fusion") {}
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override
+    {
+        QSize room = QProxyStyle::sizeFromContents(type, option, size, widget);
+        if (type == CT_ItemViewItem)
+            room.setHeight(std::max(room.height(), kEntryHeight));
+        return room;
+    }
+};
 
 /// What the style sheet selects by: [look="head"].
 template <typename Widget>
@@ -75,6 +93,23 @@ QVBoxLayout* PageLayout(QWidget* form)
     layout->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
     layout->setSpacing(kGap);
     return layout;
+}
+
+QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kGap);
+    for (QWidget* control : controls)
+        row->addWidget(control);
+    row->addStretch();
+    return row;
+}
+
+QGridLayout* Raster()
+{
+    auto* raster = new QGridLayout;
+    raster->setSpacing(kGap);
+    return raster;
 }
 
 QFrame* MakeCard(QLayout* layout)
@@ -149,7 +184,7 @@ BusyPointer::~BusyPointer()
 void ApplyStyle()
 {
     LoadResources();
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setPalette(LightPalette());
     QApplication::setFont(ProgramFont());
     QApplication::setWindowIcon(PictureIcon("app"));

@@ -26,6 +26,10 @@ inline QString ArrayName(const QString& name, int index)
 
 /// The form's outermost layout, with the margins and gaps that all forms share; cards and the button row go into it.
 QVBoxLayout* PageLayout(QWidget* form);
+/// Controls side by side, the rest of the row empty.
+QHBoxLayout* Row(std::initializer_list<QWidget*> controls);
+/// A raster of labels and controls; rows and boxes nested in it take its gaps over.
+QGridLayout* Raster();
 /// A white card with rounded corners on the quiet page; its layout holds the controls.
 QFrame* MakeCard(QLayout* layout);
 /// The looks of labels: a bold head, a small grey caption, a large figure.

@@ -1,0 +1,240 @@
+#include "foundation/frm_message_box.h"
+
+#include "foundation/session_state.h"
+#include "foundation/texts.h"
+#include "platform/controls/entry_filters.h"
+#include "platform/controls/form_kit.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextDocument>
+#include <QTimer>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace
+{
+constexpr int kTwipsPerPixel = 15;
+constexpr int kButtonGap = 150 / kTwipsPerPixel;
+constexpr int kButtonWidth = 96;
+constexpr int kTwipsPerLetter = 125;       ///< of one or two captions given by the caller
+constexpr int kTwipsPerLetterNarrow = 120; ///< of three or four
+constexpr int kFaceSize = 88;
+constexpr int kTextWidth = 500;
+constexpr int kMostLines = 18;
+constexpr int kLettersPerTab = 8;
+constexpr int kFaceDelay = 10; ///< milliseconds: the text appears at once, the face a moment later
+
+/// In the order of Face.
+constexpr const char* kFaces[] = {"face-warning",   "face-presenting", "face-informing",         "face-congratulating",
+                                  "face-paniquing", "face-ashamed",    "face-alternate-picture", "face-sad"};
+
+/// Once a message has asked for the input box, it stays for the rest of the session with what was typed in it.
+struct InputBox
+{
+    bool Shown = false;
+    QString Contents;
+};
+InputBox inputBox;
+
+/// Marks the first letter of the caption that no other button has taken; a caption with a mark of its own keeps it.
+QString WithMnemonic(const QString& caption, QString& taken)
+{
+    if (caption.contains('&'))
+        return caption;
+    for (int i = 0; i < caption.size(); ++i) {
+        const QChar letter = caption.at(i).toUpper();
+        if (!letter.isLetterOrNumber() || taken.contains(letter))
+            continue;
+        taken += letter;
+        return caption.left(i) + '&' + caption.mid(i);
+    }
+    return caption;
+}
+
+/// As wide as eight average letters, so that the texts' columns line up.
+qreal TabDistance(const QFont& font)
+{
+    static const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    return kLettersPerTab * QFontMetricsF(font).horizontalAdvance(letters) / static_cast<qreal>(letters.size());
+}
+
+int ShowMessageBox(const Message& message)
+{
+    frmMessageBox box(message, QApplication::activeWindow());
+    ShowModal(box);
+    return box.Code();
+}
+} // namespace
+
+frmMessageBox::frmMessageBox(const Message& message, QWidget* parent) : QDialog(parent), message_(message)
+{
+    inputBox.Shown = inputBox.Shown || message.UseInputBox;
+    BuildControls();
+    BuildButtons();
+    QVBoxLayout* page = PageLayout(this);
+    page->addWidget(MakeCard(BodyLayout()));
+    page->addLayout(ButtonsLayout());
+    page->setSizeConstraint(QLayout::SetFixedSize);
+    connect(chkStopAsking, &QCheckBox::toggled, this, &frmMessageBox::chkStopAsking_Click);
+    LoadCaptions();
+    FitText();
+    QTimer::singleShot(kFaceDelay, this, &frmMessageBox::ShowFace);
+}
+
+void frmMessageBox::BuildControls()
+{
+    setObjectName("frmMessageBox");
+    imgFace = Named<QLabel>("imgFace");
+    imgFace->setFixedSize(kFaceSize, kFaceSize);
+    imgFace->setVisible(message_.Face < static_cast<int>(std::size(kFaces)));
+    lblTitle = AsHead(Named<QLabel>("lblTitle"));
+    lblTitle->setTextFormat(Qt::PlainText);
+    lblTitle->setWordWrap(true);
+    txtMessage = Named<QPlainTextEdit>("txtMessage");
+    txtMessage->setProperty("look", "bare");
+    txtMessage->setReadOnly(true);
+    txtMessage->setTabChangesFocus(true);
+    txtMessage->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // This is the part of txtHideScrollBar: without the flag a long text is cut off, with no bar to reach the rest.
+    txtMessage->setVerticalScrollBarPolicy(SessionState.MessageScrollBar ? Qt::ScrollBarAlwaysOn
+                                                                         : Qt::ScrollBarAlwaysOff);
+    txtMsgBxInputBox = Named<QLineEdit>("txtMsgBxInputBox");
+    txtMsgBxInputBox->setText(inputBox.Contents);
+    txtMsgBxInputBox->setVisible(inputBox.Shown);
+    FilterKeys(txtMsgBxInputBox, KeyFilter::MessageInput);
+    chkStopAsking = Named<QCheckBox>("chkStopAsking");
+    chkStopAsking->setVisible(SessionState.MessageShowStopAsking);
+}
+
+void frmMessageBox::BuildButtons()
+{
+    QString taken;
+    for (int position = 0; position < static_cast<int>(cmdButton.size()); ++position) {
+        QPushButton* button = cmdButton[static_cast<std::size_t>(position)] =
+            Named<QPushButton>(ArrayName("cmdButton", position));
+        const QString caption = message_.Captions.value(position);
+        button->setText(WithMnemonic(caption, taken));
+        button->setVisible(position < message_.Captions.size());
+        button->setMinimumWidth(ButtonWidth(position));
+        const int code = ResultOfButton(QString(caption).remove('&'), position);
+        connect(button, &QPushButton::clicked, this, [this, code] { done(code); });
+    }
+    const int last = std::max(static_cast<int>(message_.Captions.size()) - 1, 0);
+    QPushButton* first = cmdButton[static_cast<std::size_t>(std::clamp(SessionState.MessageDefaultButton, 0, last))];
+    AsMainButton(first)->setFocus();
+}
+
+/// Captions given by the caller decide the width; it is only the least one, for no caption may be cut.
+int frmMessageBox::ButtonWidth(int position) const
+{
+    if (message_.Buttons < static_cast<int>(Buttons::Custom1))
+        return kButtonWidth;
+    const bool narrow = message_.Buttons >= static_cast<int>(Buttons::Custom3);
+    const int letters = static_cast<int>(message_.Captions.value(position).size());
+    return letters * (narrow ? kTwipsPerLetterNarrow : kTwipsPerLetter) / kTwipsPerPixel;
+}
+
+void frmMessageBox::LoadCaptions()
+{
+    setWindowTitle(message_.Title);
+    lblTitle->setText(message_.Title);
+    lblTitle->setVisible(!message_.Title.isEmpty());
+    txtMessage->setPlainText(message_.Text);
+    txtMessage->setAccessibleName(message_.Title);
+    txtMsgBxInputBox->setAccessibleName(message_.Title);
+    setAccessibleDescription(message_.Text);
+    chkStopAsking->setText(T("Do not show me this message any more", "Ne plus afficher ce message à l'avenir"));
+}
+
+QLayout* frmMessageBox::BodyLayout()
+{
+    auto* text = new QVBoxLayout;
+    text->setSpacing(8);
+    text->addWidget(lblTitle);
+    text->addWidget(txtMessage);
+    text->addWidget(txtMsgBxInputBox);
+    text->addWidget(chkStopAsking);
+    text->addStretch();
+    auto* body = new QHBoxLayout;
+    body->setSpacing(16);
+    body->addWidget(imgFace, 0, Qt::AlignTop);
+    body->addLayout(text);
+    return body;
+}
+
+/// Up to three buttons stand as a row in the middle; four have a quarter of the box each.
+QLayout* frmMessageBox::ButtonsLayout()
+{
+    auto* row = new QHBoxLayout;
+    const bool quarters = message_.Captions.size() == static_cast<int>(cmdButton.size());
+    row->setSpacing(kButtonGap);
+    row->addStretch();
+    for (QPushButton* button : cmdButton) {
+        row->addWidget(button);
+        if (quarters)
+            row->addStretch();
+    }
+    if (!quarters)
+        row->addStretch();
+    return row;
+}
+
+void frmMessageBox::FitText()
+{
+    ensurePolished();
+    txtMessage->ensurePolished();
+    const QFont font = txtMessage->font();
+    QTextDocument& shown = *txtMessage->document();
+    shown.setDocumentMargin(0);
+    txtMessage->setTabStopDistance(TabDistance(font));
+    QTextDocument measure;
+    measure.setDefaultFont(font);
+    measure.setDefaultTextOption(shown.defaultTextOption());
+    measure.setDocumentMargin(0);
+    measure.setPlainText(message_.Text);
+    measure.setTextWidth(kTextWidth);
+    const int most = kMostLines * QFontMetrics(font).lineSpacing();
+    const int bar = SessionState.MessageScrollBar ? txtMessage->verticalScrollBar()->sizeHint().width() : 0;
+    txtMessage->setFixedSize(kTextWidth + bar, std::min(static_cast<int>(std::ceil(measure.size().height())), most));
+}
+
+void frmMessageBox::ShowFace()
+{
+    if (message_.Face < static_cast<int>(std::size(kFaces)))
+        imgFace->setPixmap(Picture(kFaces[message_.Face], kFaceSize));
+}
+
+void frmMessageBox::chkStopAsking_Click()
+{
+    SessionState.MessageStopAsking = chkStopAsking->isChecked();
+    cmdButton[0]->setFocus();
+}
+
+void frmMessageBox::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    adjustSize();
+    move(screen()->geometry().center() - rect().center());
+}
+
+void frmMessageBox::done(int result)
+{
+    inputBox.Contents = txtMsgBxInputBox->text();
+    if (SessionState.MessageShowStopAsking)
+        SessionState.MessageStopAsking = chkStopAsking->isChecked();
+    QDialog::done(result);
+}
+
+int frmMessageBox::Code() const
+{
+    return result() == 0 ? MessageCode::Cancel : result();
+}
+
+void InstallMessageBox()
+{
+    SetMessagePresenter(ShowMessageBox);
+}
