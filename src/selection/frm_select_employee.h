@@ -1,0 +1,50 @@
+#pragma once
+
+#include "selection/employee_reach.h"
+
+#include <QDialog>
+
+class QLabel;
+class QListWidget;
+class QPushButton;
+
+/// Lets the user choose a unit or an employee among those that his rights reach. Choosing an entry narrows the lists
+/// below it. For the calendar the choice goes to the session when it is selected; for an employee's record an employee
+/// must be chosen, and the caller reads him from ChosenEmployeeID. Leaving the form changes nothing.
+class frmSelectEmployee : public QDialog
+{
+public:
+    enum class Purpose { Calendar, EmployeeRecord };
+    explicit frmSelectEmployee(QWidget* parent = nullptr, Purpose purpose = Purpose::Calendar);
+
+    /// Employees.RecordID of the employee selected; 0 when the form was left, or for a whole unit.
+    int ChosenEmployeeID() const { return chosen_.EmployeeID; }
+    /// The shown name of what was selected; empty when the form was left.
+    QString ChosenName() const { return chosen_.Name; }
+
+private:
+    void BuildControls();
+    void ConnectControls();
+    void LoadCaptions();
+    void LoadListBoxes();
+    void LoadList(ReachList list);
+    void Choose(ReachList list);
+    void HighlightChoice(ReachList upTo);
+    void NameStartingUnit();
+    void ShowChoice();
+    bool CanBeSelected() const;
+    void cmdSelect_Click();
+
+    DataControl datAbsence{"frmSelectEmployee"};
+    const Purpose purpose_;
+    EmployeeSelection choice_;
+    EmployeeSelection chosen_;
+    std::array<QVector<ReachEntry>, kReachLists> entries_;
+    bool Loading = false;
+    QLabel* lblInstructions = nullptr;
+    std::array<QLabel*, kReachLists> heads_{};
+    std::array<QListWidget*, kReachLists> lists_{}; ///< lstOrganizations, lstDepartments, lstGroups, lstEmployees
+    QLabel* lblChoice = nullptr;
+    QPushButton* cmdSelect = nullptr;
+    QPushButton* cmdQuit = nullptr;
+};
