@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTextDocument>
 #include <QTimer>
 
@@ -24,7 +25,7 @@ constexpr int kTwipsPerLetterNarrow = 120; ///< of three or four
 constexpr int kFaceSize = 88;
 constexpr int kTextWidth = 500;
 constexpr int kMostLines = 18;
-constexpr int kLettersPerTab = 9;
+constexpr int kLettersPerTab = 8;
 constexpr int kFaceDelay = 10; ///< milliseconds: the text appears at once, the face a moment later
 
 /// In the order of Face.
@@ -54,7 +55,7 @@ QString WithMnemonic(const QString& caption, QString& taken)
     return caption;
 }
 
-/// As wide as nine average letters, so that the texts' columns line up.
+/// As wide as eight average letters, so that the texts' columns line up.
 qreal TabDistance(const QFont& font)
 {
     static const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
@@ -97,6 +98,7 @@ void frmMessageBox::BuildControls()
     txtMessage->setProperty("look", "bare");
     txtMessage->setReadOnly(true);
     txtMessage->setTabChangesFocus(true);
+    txtMessage->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // This is the part of txtHideScrollBar: without the flag a long text is cut off, with no bar to reach the rest.
     txtMessage->setVerticalScrollBarPolicy(SessionState.MessageScrollBar ? Qt::ScrollBarAlwaysOn
                                                                          : Qt::ScrollBarAlwaysOff);
@@ -196,7 +198,8 @@ void frmMessageBox::FitText()
     measure.setPlainText(message_.Text);
     measure.setTextWidth(kTextWidth);
     const int most = kMostLines * QFontMetrics(font).lineSpacing();
-    txtMessage->setFixedSize(kTextWidth, std::min(static_cast<int>(std::ceil(measure.size().height())), most));
+    const int bar = SessionState.MessageScrollBar ? txtMessage->verticalScrollBar()->sizeHint().width() : 0;
+    txtMessage->setFixedSize(kTextWidth + bar, std::min(static_cast<int>(std::ceil(measure.size().height())), most));
 }
 
 void frmMessageBox::ShowFace()

@@ -1,0 +1,273 @@
+#include "attendance/attendance_entry.h"
+
+#include "foundation/common_services.h"
+#include "foundation/session_state.h"
+#include "foundation/values.h"
+#include "platform/clock.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr float kHoursOfDay = 24;
+constexpr int kMostHours = 23;
+constexpr int kMostMinutes = 59;
+constexpr int kMinutesOfStep = 5;
+constexpr int kMinutesOfDay = 24 * 60;
+
+void Negate(AttendanceEntry& entry)
+{
+    entry.Duration = -entry.Duration;
+    entry.TotalDuration = -entry.TotalDuration;
+    entry.TotalTime = -entry.TotalTime;
+}
+
+void ApplySign(AttendanceEntry& entry)
+{
+    const bool bankRelated = SessionState.TimeBankRelated == 1;
+    if (DrawsOnTimeBank(entry)) {
+        if (entry.Duration > 0)
+            Negate(entry);
+    } else if (bankRelated && entry.SystemName == "Time accumulated") {
+        if (entry.Duration < 0)
+            Negate(entry);
+    } else if (SessionState.TimeBankRelated == 0 && entry.Duration < 0) {
+        // The totals keep their sign until the next run; that is intended.
+        entry.Duration = -entry.Duration;
+    }
+}
+
+void ClearDurations(AttendanceEntry& entry)
+{
+    entry.UnpaidBreak = 0;
+    entry.Duration = 0;
+    entry.TotalDuration = 0;
+    entry.TotalTime = 0;
+}
+
+void ClearTimes(AttendanceEntry& entry)
+{
+    entry.StartTime = 0;
+    entry.EndTime = 0;
+    entry.StartTimeText.clear();
+    entry.EndTimeText.clear();
+}
+
+void ClearDurationTexts(AttendanceEntry& entry)
+{
+    entry.HoursText.clear();
+    entry.MinutesText.clear();
+    entry.TotalTimeText.clear();
+}
+
+/// The end on the day of the start, so that a start chosen anew decides afresh whether midnight lies between.
+void TakeEndBackToItsDay(AttendanceEntry& entry)
+{
+    if (entry.EndTime < kHoursOfDay)
+        return;
+    const float clock = ClockHours(entry.EndTimeText);
+    entry.EndTime = clock > kHoursOfDay ? clock - kHoursOfDay : clock;
+    if (entry.EndTime == kHoursOfDay)
+        entry.EndTime = kMidnight;
+}
+
+void ShowPeriod(AttendanceEntry& entry)
+{
+    if (entry.EndTime < entry.StartTime)
+        entry.EndTime += kHoursOfDay;
+    ShowDuration(entry, entry.EndTime - entry.StartTime);
+    RecalculateTotalTime(entry);
+}
+
+void BeginTimeChoice(AttendanceEntry& entry)
+{
+    ClearDurations(entry);
+    ClearDurationTexts(entry);
+    entry.Part = DayPart::None;
+}
+
+int WeekdayOfFirstDate()
+{
+    return WeekdayIndex(SessionState.AttendanceDates.front());
+}
+
+bool IsHalfTheSameOnAllDates(WeekdayHours start, WeekdayHours end)
+{
+    const QVector<int> dates = SelectedDates();
+    if (dates.isEmpty())
+        return false;
+    const auto& starts = SessionState.*start;
+    const auto& ends = SessionState.*end;
+    const int first = WeekdayIndex(dates.front());
+    return starts[first] != 0 && std::all_of(dates.begin(), dates.end(), [&](int date) {
+               const int weekday = WeekdayIndex(date);
+               return starts[weekday] == starts[first] && ends[weekday] == ends[first];
+           });
+}
+
+/// Start, end and break of a part of the first selected day.
+void TakeScheduledTimes(AttendanceEntry& entry, DayPart part)
+{
+    const int day = WeekdayOfFirstDate();
+    const bool first = part == DayPart::FirstHalf || (part == DayPart::WholeDay && entry.FirstHalfEnabled);
+    const bool second = part == DayPart::SecondHalf || (part == DayPart::WholeDay && entry.SecondHalfEnabled);
+    if (second) {
+        entry.StartTime = SessionState.SecondHalfStart[day];
+        entry.EndTime = SessionState.SecondHalfEnd[day];
+    }
+    if (first) {
+        entry.StartTime = SessionState.FirstHalfStart[day];
+        if (!second)
+            entry.EndTime = SessionState.FirstHalfEnd[day];
+    }
+    if (first && second)
+        entry.UnpaidBreak = SessionState.SecondHalfStart[day] - SessionState.FirstHalfEnd[day];
+}
+} // namespace
+
+const std::array<Multiplicator, 18> kMultiplicators = {{
+    {" x 1.00", 1.0F},
+    {" x 1.25", 1.25F},
+    {" x 1.33", 1.33F},
+    {" x 1.50", 1.5F},
+    {" x 1.67", 1.67F},
+    {" x 1.75", 1.75F},
+    {" x 2.00", 2.0F},
+    {" x 2.25", 2.25F},
+    {" x 2.33", 2.33F},
+    {" x 2.50", 2.5F},
+    {" x 2.67", 2.67F},
+    {" x 2.75", 2.75F},
+    {" x 3.00", 3.0F},
+    {" x 3.25", 3.25F},
+    {" x 3.33", 3.33F},
+    {" x 3.50", 3.5F},
+    {" x 3.67", 3.67F},
+    {" x 3.75", 3.75F},
+}};
+
+int MultiplicatorIndex(float value)
+{
+    const auto found = std::find_if(kMultiplicators.begin(), kMultiplicators.end(),
+                                    [value](const Multiplicator& factor) { return factor.Value == value; });
+    return found == kMultiplicators.end() ? -1 : static_cast<int>(found - kMultiplicators.begin());
+}
+
+QVector<int> SelectedDates()
+{
+    const DateList& dates = SessionState.AttendanceDates;
+    return {dates.begin(), std::find(dates.begin(), dates.end(), 0)};
+}
+
+QStringList ClockTexts()
+{
+    QStringList texts;
+    for (int minute = 0; minute < kMinutesOfDay; minute += kMinutesOfStep)
+        texts << QStringLiteral("%1:%2")
+                     .arg(minute / 60, 2, 10, QLatin1Char('0'))
+                     .arg(minute % 60, 2, 10, QLatin1Char('0'));
+    return texts;
+}
+
+bool DrawsOnTimeBank(const AttendanceEntry& entry)
+{
+    static const QStringList drawing = {"Time claimed", "Time borrowed", "Time paid"};
+    return SessionState.TimeBankRelated == 1 && drawing.contains(entry.SystemName);
+}
+
+void RecalculateTotalTime(AttendanceEntry& entry)
+{
+    if (entry.Duration == 0)
+        entry.Duration = entry.EndTime - entry.StartTime - entry.UnpaidBreak;
+    entry.TotalDuration = entry.TimeMultiplicator * entry.Duration;
+    entry.TotalTime = static_cast<float>(SelectedDates().size()) * entry.TotalDuration;
+    entry.TotalTimeText = DurationAsText(entry.TotalTime);
+    ApplySign(entry);
+}
+
+void FindDayParts(AttendanceEntry& entry)
+{
+    entry.FirstHalfEnabled = IsHalfTheSameOnAllDates(&WorkSchedule::FirstHalfStart, &WorkSchedule::FirstHalfEnd);
+    entry.SecondHalfEnabled = IsHalfTheSameOnAllDates(&WorkSchedule::SecondHalfStart, &WorkSchedule::SecondHalfEnd);
+    entry.WholeDayEnabled = entry.FirstHalfEnabled && entry.SecondHalfEnabled;
+}
+
+void ChooseDayPart(AttendanceEntry& entry, DayPart part, bool checked)
+{
+    ClearDurations(entry);
+    ClearTimes(entry);
+    ClearDurationTexts(entry);
+    entry.Part = checked ? part : DayPart::None;
+    if (!checked)
+        return;
+    TakeScheduledTimes(entry, part);
+    entry.StartTimeText = DurationAsText(entry.StartTime);
+    entry.EndTimeText = DurationAsText(entry.EndTime);
+    ShowDuration(entry, entry.EndTime - entry.StartTime - entry.UnpaidBreak);
+    RecalculateTotalTime(entry);
+}
+
+void ChooseStartTime(AttendanceEntry& entry, const QString& text)
+{
+    BeginTimeChoice(entry);
+    entry.StartTimeText = text;
+    entry.StartTime = ClockHours(text);
+    if (entry.EndTime == 0) {
+        entry.EndTimeText = text;
+        entry.EndTime = entry.StartTime;
+    }
+    TakeEndBackToItsDay(entry);
+    ShowPeriod(entry);
+}
+
+void ChooseEndTime(AttendanceEntry& entry, const QString& text)
+{
+    BeginTimeChoice(entry);
+    entry.EndTimeText = text;
+    entry.EndTime = ClockHours(text);
+    ShowPeriod(entry);
+}
+
+void TypeDuration(AttendanceEntry& entry, const QString& hours, const QString& minutes)
+{
+    ClearDurations(entry);
+    ClearTimes(entry);
+    entry.Part = DayPart::None;
+    entry.TotalTimeText.clear();
+    entry.HoursText = hours;
+    entry.MinutesText = minutes;
+}
+
+bool AreHoursAccepted(const QString& hours)
+{
+    return Val(hours) <= kMostHours;
+}
+
+bool AreMinutesAccepted(const QString& minutes)
+{
+    return Val(minutes) <= kMostMinutes;
+}
+
+void TakeDuration(AttendanceEntry& entry)
+{
+    entry.Duration = DecimalHours(static_cast<float>(Val(entry.HoursText)), static_cast<float>(Val(entry.MinutesText)));
+    RecalculateTotalTime(entry);
+}
+
+void ShowDuration(AttendanceEntry& entry, float hours)
+{
+    const QString text = DurationAsText(hours);
+    entry.HoursText = text.chopped(3);
+    entry.MinutesText = text.right(2);
+}
+
+void ClearEntryFields(AttendanceEntry& entry)
+{
+    ClearDurations(entry);
+    ClearTimes(entry);
+    ClearDurationTexts(entry);
+    entry.Part = DayPart::None;
+    entry.Entitlement = 0;
+    entry.TimeUsed = 0;
+    entry.TimePending = 0;
+}

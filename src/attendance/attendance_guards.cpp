@@ -1,0 +1,226 @@
+#include "attendance/attendance_guards.h"
+
+#include "attendance/record_lines.h"
+#include "foundation/common_services.h"
+#include "foundation/connection.h"
+#include "foundation/texts.h"
+
+#include <QMap>
+
+#include <algorithm>
+
+namespace
+{
+QString Warning()
+{
+    return T("WARNING:", "ATTENTION:");
+}
+
+QString Denied()
+{
+    return T("OPERATION DENIED!", "OPÉRATION REFUSÉE!");
+}
+
+/// The control that an incomplete entry must be mended in and the message about it.
+struct Omission
+{
+    const char* Field = nullptr;
+    QString Text;
+};
+
+Omission FindOmission(const AttendanceEntry& entry)
+{
+    if (SessionState.EmployeeID == 0)
+        return {"lstWho", T("You must select an employee from the list!",
+                            "Vous devez sélectionner un(e) employé(e) dans la liste!")};
+    if (SessionState.SelectedCategoryID == 0)
+        return {"cboCategories", T("You must select a category of attendance from the list!",
+                                   "Vous devez sélectionner une catégorie dans la liste!")};
+    if (entry.Duration == 0)
+        return {"txtDurationInHours", T("You must specify a duration for the attendance record(s)!",
+                                        "Vous devez spécifier la durée des absences!")};
+    if (entry.StartTime > 0 && entry.StartTime == entry.EndTime)
+        return {"cboEndTime", T("The start time and the end time of an attendance record cannot be the same!",
+                                "L'heure de début et l'heure de fin d'une absence ne peuvent pas être la même!")};
+    return {};
+}
+
+void ReadTimeUsed(DataControl& datAbsence, AttendanceEntry& entry)
+{
+    const Connection connection(datAbsence);
+    for (Recordset sums = datAbsence.Select(
+             "SELECT Submitted, SUM(TotalDuration) AS Used FROM Attendance WHERE CategoryID = ? AND EmployeeID = ? AND "
+             "CancelledDate = 0 AND Submitted IN (0, 1) GROUP BY Submitted",
+             SessionState.SelectedCategoryID, SessionState.EmployeeID);
+         !sums.AtEnd(); sums.MoveNext())
+        sums.Take("Used", sums.Long("Submitted") == 1 ? entry.TimePending : entry.TimeUsed);
+}
+
+QString WithFigures(const QString& text, const AttendanceEntry& entry)
+{
+    const float required = entry.TimeUsed + entry.TimePending + entry.TotalTime;
+    return Fill(text, {{"TAB", "\t"},
+                       {"category", entry.CategoryName},
+                       {"Entitlement", DurationAsText(entry.Entitlement)},
+                       {"TimeUsed", DurationAsText(entry.TimeUsed)},
+                       {"TimePending", DurationAsText(entry.TimePending)},
+                       {"TotalTime", DurationAsText(entry.TotalTime)},
+                       {"balance", DurationAsText(entry.Entitlement - required)}});
+}
+
+QString EntitlementRefusal()
+{
+    return T("You are about to exceed your annual entitlement for the category «{category}»!\r\n\r\n"
+             "Annual entitlement:    {TAB}{Entitlement}\r\nTime used to date:     {TAB}{TimeUsed}\r\n"
+             "Records to be approved:{TAB}{TimePending}\r\nTotal time required:   {TAB}{TotalTime}\r\n"
+             "New balance:  {TAB}{TAB}{balance}\r\n\r\nAsk your supervisor to process your request for leave.",
+             "Vous êtes sur le point d'excéder le temps qui vous est alloué annuellement pour la catégorie "
+             "«{category}»!\r\n\r\nTemps alloué annuellement:{TAB}{TAB}{Entitlement}\r\n"
+             "Temps utilisé à ce jour:{TAB}{TAB}{TimeUsed}\r\nDemandes de congé non traitées:{TAB}{TimePending}\r\n"
+             "Total du temps requis:{TAB}{TAB}{TotalTime}\r\nNouveau solde:{TAB}{TAB}{TAB}{balance}\r\n\r\n"
+             "Veuillez vous tourner vers votre supérieur(e) afin qu'il(elle) traite votre demande de congé.");
+}
+
+QString EntitlementWarning()
+{
+    return T("You are about to exceed this employee's annual entitlement for the category «{category}»!\r\n\r\n"
+             "Annual entitlement:    {TAB}{Entitlement}\r\nTime used to date:     {TAB}{TimeUsed}\r\n"
+             "Records to be approved:{TAB}{TimePending}\r\nTotal time required:   {TAB}{TotalTime}\r\n"
+             "New balance:  {TAB}{TAB}{balance}\r\n\r\nProceed anyway?",
+             "Vous êtes sur le point d'excéder le temps alloué annuellement à cet employé pour la catégorie "
+             "«{category}»!\r\n\r\nTemps alloué annuellement: {TAB}{Entitlement}\r\n"
+             "Temps utilisé à ce jour:   {TAB}{TimeUsed}\r\nAbsences non approuvées:   {TAB}{TimePending}\r\n"
+             "Total du temps requis:     {TAB}{TotalTime}\r\nNouveau solde: {TAB}{TAB}{balance}\r\n\r\n"
+             "Souhaitez-vous tout-de-même continuer?");
+}
+
+bool IsBankExceeded(const AttendanceEntry& entry, float required)
+{
+    const bool bounded = entry.SystemName == "Time paid" || entry.SystemName == "Time claimed";
+    return bounded && required > entry.TimeBanked;
+}
+
+QString WithBank(const QString& text, const AttendanceEntry& entry, float required)
+{
+    return Fill(text, {{"employee", entry.EmployeeName},
+                       {"TimeBanked", DurationAsText(entry.TimeBanked)},
+                       {"required", DurationAsText(required)},
+                       {"TimeClaimedName", SessionState.TimeClaimedName},
+                       {"category", entry.CategoryName}});
+}
+
+void RefuseBeyondBank(const AttendanceEntry& entry, float required)
+{
+    Tell(Denied(),
+         WithBank(
+             T("The total time required for these attendance records ({required}) exceeds the employee's time banked "
+               "({TimeBanked})!",
+               "Le temps total requis pour ces enregistrements ({required}) excède le solde du temps en banque de "
+               "l'employé(e) ({TimeBanked})!"),
+             entry, required),
+         Face::Warning);
+}
+
+/// Borrowing is not needed when the bank covers it. Nothing is offered when the list has no category to turn it into.
+bool CouldClaimInstead(const AttendanceEntry& entry, float required)
+{
+    return entry.SystemName == "Time borrowed" && required <= entry.TimeBanked && entry.TimeClaimedCategoryID != 0;
+}
+
+QString OfferToClaim()
+{
+    const bool several = SessionState.AttendanceDates[1] != 0;
+    return several ? T("{employee} has accumulated enough time ({TimeBanked}) to cover these attendance records "
+                       "({required})!\r\n\r\nDo you wish to submit the new attendance records as «{TimeClaimedName}» "
+                       "instead of {category}?",
+                       "{employee} a accumulé suffisamment de temps ({TimeBanked}) pour couvrir ces absences "
+                       "({required})!\r\n\r\nSouhaitez-vous convertir ces absences en «{TimeClaimedName}» plutôt que "
+                       "{category}?")
+                   : T("{employee} has accumulated enough time ({TimeBanked}) to cover this attendance record "
+                       "({required})!\r\n\r\nDo you wish to submit the new attendance record as «{TimeClaimedName}» "
+                       "instead of {category}?",
+                       "{employee} a accumulé suffisamment de temps ({TimeBanked}) pour couvrir cette absence "
+                       "({required})!\r\n\r\nSouhaitez-vous convertir cette absence en «{TimeClaimedName}» plutôt que "
+                       "{category}?");
+}
+
+/// The name stays empty on the form, as nothing fills TimeClaimedName; that is required.
+void ClaimInstead(AttendanceEntry& entry)
+{
+    SessionState.SelectedCategoryID = entry.TimeClaimedCategoryID;
+    entry.CategoryName = SessionState.TimeClaimedName;
+    SessionState.ReloadCalendar = true;
+}
+
+/// The first other record of each date between the first and the last selected one, as a line.
+QMap<int, QString> OtherRecordLines(DataControl& datAbsence, const AttendanceEntry& entry, const QVector<int>& dates)
+{
+    const Connection connection(datAbsence);
+    const auto [first, last] = std::minmax_element(dates.begin(), dates.end());
+    QMap<int, QString> lines;
+    for (Recordset rows = datAbsence.Select(
+             "SELECT Attendance.RecordDate, Attendance.RecordID, Attendance.StartTime, Attendance.EndTime, "
+             "Attendance.TotalDuration, Categories.CategoryFrenchName, Categories.CategoryEnglishName FROM Attendance, "
+             "Categories WHERE Attendance.CategoryID = Categories.RecordID AND Attendance.EmployeeID = ? AND "
+             "Attendance.RecordDate BETWEEN ? AND ? AND Attendance.CancelledDate = 0 AND Attendance.RecordID <> ? "
+             "ORDER BY Attendance.RecordID",
+             SessionState.EmployeeID, *first, *last, entry.RecordToModify);
+         !rows.AtEnd(); rows.MoveNext())
+        if (const int date = rows.Long("RecordDate"); !lines.contains(date))
+            lines.insert(date, OtherRecordLine(rows));
+    return lines;
+}
+} // namespace
+
+void ValidateRecords(AttendanceEntry& entry)
+{
+    entry.Validated = false;
+    const Omission omission = FindOmission(entry);
+    entry.FieldInError = omission.Field;
+    if (omission.Field)
+        return Tell(T("ERROR:", "ERREUR:"), omission.Text, Face::Warning);
+    entry.Comment.replace('\n', ' ').replace('\r', ' ');
+    entry.Validated = true;
+}
+
+void WillEntitlBeExceeded(DataControl& datAbsence, AttendanceEntry& entry)
+{
+    entry.Validated = false;
+    ReadTimeUsed(datAbsence, entry);
+    if (entry.Entitlement == 0 || entry.TimeUsed + entry.TimePending + entry.TotalTime <= entry.Entitlement)
+        entry.Validated = true;
+    else if (SessionState.SubmittingRequest)
+        Tell(Denied(), WithFigures(EntitlementRefusal(), entry), Face::Warning);
+    else
+        entry.Validated = Ask(Warning(), WithFigures(EntitlementWarning(), entry), Face::Warning);
+}
+
+void IsTimeBankedEnough(AttendanceEntry& entry)
+{
+    entry.Validated = false;
+    const float required = -entry.TotalTime;
+    if (IsBankExceeded(entry, required))
+        return RefuseBeyondBank(entry, required);
+    if (CouldClaimInstead(entry, required) &&
+        Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), WithBank(OfferToClaim(), entry, required)))
+        ClaimInstead(entry);
+    entry.Validated = true;
+}
+
+void AreThereOtherAttendanceRecords(DataControl& datAbsence, AttendanceEntry& entry)
+{
+    const QVector<int> dates = SelectedDates();
+    const QMap<int, QString> others =
+        dates.isEmpty() ? QMap<int, QString>() : OtherRecordLines(datAbsence, entry, dates);
+    QStringList lines;
+    for (const int date : dates)
+        if (others.contains(date))
+            lines << others.value(date);
+    entry.Validated =
+        lines.isEmpty() ||
+        AskWithList(Warning(),
+                    T("The following attendance records have been found for this employee:\r\n\r\n",
+                      "Les enregistrements suivants ont été trouvés pour cet(te) employé(e):\r\n\r\n") +
+                        lines.join("") + T("\r\nProceed anyway?", "\r\nSouhaitez-vous tout-de-même continuer?"),
+                    lines.size());
+}

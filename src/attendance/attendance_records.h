@@ -1,0 +1,51 @@
+#pragma once
+
+#include "attendance/attendance_entry.h"
+#include "platform/dao/dao.h"
+
+#include <optional>
+
+/// An item of a list with the RecordID behind it.
+struct ListEntry
+{
+    QString Text;
+    int ItemData = 0;
+};
+
+/// The employees whom the user may enter records for, or the user alone for a request. Nothing at all: the user may add
+/// for nobody. The session's employee is cleared when he is the user, who may not enter his own records.
+std::optional<QVector<ListEntry>> LoadRecords(DataControl& datAbsence);
+
+/// The categories of the employee's department by name, "(All categories)" first. Notes TimeClaimedCategoryID.
+QVector<ListEntry> LoadCategories(DataControl& datAbsence, AttendanceEntry& entry);
+
+/// The session takes over units and schedule of its employee, the entry his name, rate, approvers and day parts. On the
+/// server back end the statement is composed and nothing is read.
+void LoadEmployeeInfo(DataControl& datAbsence, AttendanceEntry& entry);
+void LoadEmployeeInfo_ACCESS(DataControl& datAbsence, AttendanceEntry& entry);
+void LoadEmployeeInfo_SQL(AttendanceEntry& entry);
+
+/// What the selected category says, with the employee's entitlement or bank balance where it matters.
+void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry);
+/// The category is limited by an entitlement, and the employee has none.
+bool LacksEntitlement(const AttendanceEntry& entry);
+
+/// Fills the entry from the record to modify. `entry` knows employee and category by then.
+void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry);
+
+/// Names ("FirstName FamilyName") and mail addresses of the approvers.
+void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry);
+
+/// One record for each selected date. They throw; what was written before the failure stays written. The statements of
+/// the server back end leave out the cost columns.
+void NewAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry);
+void NewAttendance_SQL(const AttendanceEntry& entry);
+void SubmitAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry);
+void SubmitAttendance_SQL(const AttendanceEntry& entry);
+
+/// Audits the record to modify as it was, and rewrites it. Throws, 3021 when it is gone.
+void ModifyAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry);
+void ModifyAttendance_SQL(DataControl& datAbsence, const AttendanceEntry& entry);
+
+/// Copies a record, but not its costs, to the audit twin.
+void ModificationsLog(DataControl& datAbsence, int recordID);

@@ -1,0 +1,484 @@
+#include "attendance/frm_attendance.h"
+
+#include "attendance/attendance_guards.h"
+#include "attendance/attendance_messages.h"
+#include "attendance/attendance_records.h"
+#include "attendance/frm_attendance_pages.h"
+#include "foundation/common_services.h"
+#include "foundation/not_yet.h"
+#include "foundation/texts.h"
+#include "foundation/values.h"
+#include "platform/controls/form_kit.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QShowEvent>
+#include <QTabWidget>
+#include <QTimer>
+
+namespace
+{
+constexpr QSize kSize(760, 610);
+constexpr int kCommentLimit = 500;
+
+QString ActionCaption()
+{
+    if (SessionState.SubmittingRequest)
+        return T("&Submit new attendance record(s)", "S&oumettre nouveaux enregistrements");
+    if (SessionState.ModifyingRecord)
+        return T("&Record modifications", "En&registrer modifications");
+    return T("&Add new attendance record(s)", "&Ajouter nouveaux enregistrements");
+}
+} // namespace
+
+std::function<void(AttendanceEntry&)> frmAttendance::ShowGetApprovedBy;
+std::function<void(const AttendanceEntry&)> frmAttendance::SendRequestNotice;
+
+frmAttendance::frmAttendance(QWidget* parent) : QDialog(parent)
+{
+    BuildControls();
+    ConnectControls();
+}
+
+frmAttendance::~frmAttendance() = default;
+
+void frmAttendance::BuildControls()
+{
+    setObjectName("frmAttendance");
+    general_ = new AttendanceGeneralPage;
+    additional_ = new AttendanceAdditionalPage;
+    sstAttendance = Named<QTabWidget>("sstAttendance");
+    sstAttendance->addTab(general_, QString());
+    sstAttendance->addTab(additional_, QString());
+    cmdAddOrUpdate = AsMainButton(Named<QPushButton>("cmdAddOrUpdate"));
+    cmdQuit = Named<QPushButton>("cmdQuit");
+    cmdQuit->setAutoDefault(false);
+
+    auto* page = PageLayout(this);
+    page->addWidget(sstAttendance, 1);
+    page->addLayout(ButtonRow({cmdQuit, cmdAddOrUpdate}));
+    resize(kSize);
+}
+
+void frmAttendance::ConnectControls()
+{
+    connect(general_->lstWho, &QListWidget::currentItemChanged, this, &frmAttendance::lstWho_Click);
+    connect(general_->cboCategories, &QComboBox::currentIndexChanged, this, &frmAttendance::cboCategories_Click);
+    const std::pair<QCheckBox*, DayPart> parts[] = {{general_->chkWholeDay, DayPart::WholeDay},
+                                                    {general_->chkFirstHalf, DayPart::FirstHalf},
+                                                    {general_->chkSecondHalf, DayPart::SecondHalf}};
+    for (const auto& [box, part] : parts)
+        connect(box, &QCheckBox::toggled, this, [this, part = part](bool checked) { DayPart_Click(part, checked); });
+    ConnectTimesAndDurations();
+    connect(additional_->txtHourlyRate, &QLineEdit::editingFinished, this, &frmAttendance::txtHourlyRate_LostFocus);
+    connect(additional_->txtComment, &QPlainTextEdit::textChanged, this, &frmAttendance::LimitComment);
+    connect(cmdAddOrUpdate, &QPushButton::clicked, this, &frmAttendance::cmdAddOrUpdate_Click);
+    connect(cmdQuit, &QPushButton::clicked, this, &frmAttendance::cmdQuit_Click);
+}
+
+void frmAttendance::ConnectTimesAndDurations()
+{
+    connect(general_->cboStartTime, &QComboBox::currentTextChanged, this,
+            [this](const QString& text) { Time_Click(ChooseStartTime, text); });
+    connect(general_->cboEndTime, &QComboBox::currentTextChanged, this,
+            [this](const QString& text) { Time_Click(ChooseEndTime, text); });
+    connect(general_->lstMultiplicator, &QComboBox::currentIndexChanged, this, &frmAttendance::lstMultiplicator_Click);
+    for (QLineEdit* box : {general_->txtDurationInHours, general_->txtDurationInMinutes}) {
+        connect(box, &QLineEdit::textChanged, this, &frmAttendance::Duration_Change);
+        connect(box, &QLineEdit::editingFinished, this, &frmAttendance::LeaveDurationBoxes);
+    }
+}
+
+void frmAttendance::showEvent(QShowEvent* event)
+{
+    if (!activated_) {
+        activated_ = true;
+        Form_Load();
+        Form_Activate();
+    }
+    QDialog::showEvent(event);
+}
+
+void frmAttendance::Form_Load()
+{
+    LoadCaptions();
+    LoadComboBoxes();
+    QStringList dates;
+    for (const int date : SelectedDates())
+        dates << FormatDate(date, "ddd   dd-mmm-yyyy");
+    general_->txtWhen->setPlainText(dates.join('\n'));
+}
+
+void frmAttendance::LoadCaptions()
+{
+    setWindowTitle(T("Attendance records", "Mise à jour des absences"));
+    sstAttendance->setTabText(0, T("General information", "Information générale"));
+    sstAttendance->setTabText(1, T("Additional information", "Information additionnelle"));
+    general_->LoadCaptions();
+    additional_->LoadCaptions();
+    cmdAddOrUpdate->setText(ActionCaption());
+    cmdQuit->setText(T("&Close", "So&rtir"));
+}
+
+void frmAttendance::LoadComboBoxes()
+{
+    const LoadingGuard loading(Loading);
+    general_->cboStartTime->addItems(ClockTexts());
+    general_->cboEndTime->addItems(ClockTexts());
+    for (const Multiplicator& factor : kMultiplicators)
+        general_->lstMultiplicator->addItem(factor.Text);
+}
+
+void frmAttendance::Form_Activate()
+{
+    LoadEmployees();
+    if (SessionState.EmployeeID >= 1)
+        LoadEmployeeInfo(datAbsence, entry_);
+    LoadCategoryList();
+    if (SessionState.ModifyingRecord)
+        ReloadRecord(datAbsence, entry_);
+    ShowEntry();
+    general_->lstWho->setEnabled(!SessionState.ModifyingRecord && !SessionState.EmployeeLocked);
+    // The question comes once the form can be seen.
+    if (LacksEntitlement(entry_))
+        QTimer::singleShot(0, this, &frmAttendance::WarnOfMissingEntitlement);
+}
+
+void frmAttendance::LoadEmployees()
+{
+    const LoadingGuard loading(Loading);
+    const auto employees = LoadRecords(datAbsence);
+    mayAdd_ = employees.has_value();
+    SetButtonsEnabled(true);
+    QListWidget* list = general_->lstWho;
+    for (const ListEntry& employee : employees.value_or(QVector<ListEntry>())) {
+        auto* item = new QListWidgetItem(employee.Text, list);
+        item->setData(Qt::UserRole, employee.ItemData);
+        if (SessionState.EmployeeID > 0 && employee.ItemData == SessionState.EmployeeID)
+            list->setCurrentItem(item);
+    }
+}
+
+void frmAttendance::LoadCategoryList()
+{
+    const LoadingGuard loading(Loading);
+    QComboBox* list = general_->cboCategories;
+    list->clear();
+    for (const ListEntry& category : LoadCategories(datAbsence, entry_))
+        list->addItem(category.Text, category.ItemData);
+    list->setCurrentIndex(std::max(list->findData(SessionState.SelectedCategoryID), 0));
+    EnterCategory();
+}
+
+/// The category shown becomes that of the session and of the entry.
+void frmAttendance::EnterCategory()
+{
+    SessionState.SelectedCategoryID = general_->cboCategories->currentData().toInt();
+    ReadCategory(datAbsence, entry_);
+    entry_.CategoryName = general_->cboCategories->currentText();
+}
+
+void frmAttendance::ReadForm()
+{
+    entry_.Comment = additional_->txtComment->toPlainText();
+    entry_.Justified = additional_->chkJustified->isChecked();
+    entry_.HourlyRateText = additional_->txtHourlyRate->text();
+}
+
+void frmAttendance::ShowEntry()
+{
+    const LoadingGuard loading(Loading);
+    ShowParts();
+    ShowClockTime(general_->cboStartTime, entry_.StartTimeText);
+    ShowClockTime(general_->cboEndTime, entry_.EndTimeText);
+    general_->txtDurationInHours->setText(entry_.HoursText);
+    general_->txtDurationInMinutes->setText(entry_.MinutesText);
+    general_->lstMultiplicator->setCurrentIndex(std::max(MultiplicatorIndex(entry_.TimeMultiplicator), 0));
+    general_->txtTotalTime->setText(entry_.TotalTimeText);
+    additional_->txtHourlyRate->setText(entry_.HourlyRateText);
+    additional_->chkJustified->setChecked(entry_.Justified);
+    if (additional_->txtComment->toPlainText() != entry_.Comment)
+        additional_->txtComment->setPlainText(entry_.Comment);
+}
+
+void frmAttendance::ShowParts()
+{
+    general_->chkWholeDay->setEnabled(entry_.WholeDayEnabled);
+    general_->chkFirstHalf->setEnabled(entry_.FirstHalfEnabled);
+    general_->chkSecondHalf->setEnabled(entry_.SecondHalfEnabled);
+    general_->chkWholeDay->setChecked(entry_.Part == DayPart::WholeDay);
+    general_->chkFirstHalf->setChecked(entry_.Part == DayPart::FirstHalf);
+    general_->chkSecondHalf->setChecked(entry_.Part == DayPart::SecondHalf);
+}
+
+/// The list shows the entry's category, or nothing when it bears no name.
+void frmAttendance::ShowCategory()
+{
+    const LoadingGuard loading(Loading);
+    general_->cboCategories->setCurrentIndex(general_->cboCategories->findText(entry_.CategoryName));
+}
+
+void frmAttendance::WarnOfMissingEntitlement()
+{
+    if (!AcceptMissingEntitlement(entry_))
+        BlankCategory();
+}
+
+void frmAttendance::BlankCategory()
+{
+    SessionState.SelectedCategoryID = 0;
+    ReadCategory(datAbsence, entry_);
+    entry_.CategoryName.clear();
+    ShowCategory();
+}
+
+void frmAttendance::lstWho_Click(const QListWidgetItem* item)
+{
+    if (Loading || !item)
+        return;
+    ReadForm();
+    const int employee = item->data(Qt::UserRole).toInt();
+    const bool another = employee != SessionState.EmployeeID;
+    SessionState.EmployeeID = employee;
+    ClearEntryFields(entry_);
+    LoadEmployeeInfo(datAbsence, entry_);
+    if (another) {
+        ConflictsAccepted = false;
+        SessionState.SelectedCategoryID = 0;
+        LoadCategoryList();
+    } else {
+        ReadCategory(datAbsence, entry_);
+    }
+    ShowEntry();
+    if (LacksEntitlement(entry_))
+        WarnOfMissingEntitlement();
+}
+
+void frmAttendance::cboCategories_Click(int index)
+{
+    if (Loading || index < 0)
+        return;
+    ReadForm();
+    EnterCategory();
+    if (LacksEntitlement(entry_) && !AcceptMissingEntitlement(entry_))
+        return BlankCategory();
+    RecalculateTotalTime(entry_);
+    ShowEntry();
+}
+
+void frmAttendance::DayPart_Click(DayPart part, bool checked)
+{
+    if (Loading)
+        return;
+    ReadForm();
+    ChooseDayPart(entry_, part, checked);
+    durationChanged_ = false;
+    ShowEntry();
+}
+
+void frmAttendance::Time_Click(void (*choose)(AttendanceEntry&, const QString&), const QString& text)
+{
+    if (Loading || text.isEmpty())
+        return;
+    ReadForm();
+    choose(entry_, text);
+    durationChanged_ = false;
+    ShowEntry();
+}
+
+void frmAttendance::lstMultiplicator_Click(int index)
+{
+    if (Loading || index < 0)
+        return;
+    ReadForm();
+    entry_.TimeMultiplicator = kMultiplicators[static_cast<size_t>(index)].Value;
+    RecalculateTotalTime(entry_);
+    ShowEntry();
+}
+
+void frmAttendance::Duration_Change()
+{
+    if (Loading)
+        return;
+    ReadForm();
+    TypeDuration(entry_, general_->txtDurationInHours->text(), general_->txtDurationInMinutes->text());
+    durationChanged_ = true;
+    ShowEntry();
+}
+
+/// False when a box was refused, blanked and given the focus again.
+bool frmAttendance::LeaveDurationBoxes()
+{
+    if (Loading || !durationChanged_)
+        return true;
+    durationChanged_ = false;
+    ReadForm();
+    if (!AreHoursAccepted(entry_.HoursText)) {
+        entry_.HoursText.clear();
+        RefuseDuration(general_->txtDurationInHours);
+        return false;
+    }
+    if (!AreMinutesAccepted(entry_.MinutesText)) {
+        entry_.MinutesText.clear();
+        RefuseDuration(general_->txtDurationInMinutes);
+        return false;
+    }
+    TakeDuration(entry_);
+    ShowEntry();
+    return true;
+}
+
+void frmAttendance::RefuseDuration(QWidget* box)
+{
+    ShowEntry();
+    box->setFocus();
+}
+
+void frmAttendance::txtHourlyRate_LostFocus()
+{
+    QLineEdit* rate = additional_->txtHourlyRate;
+    if (!rate->text().isEmpty())
+        rate->setText(FormatNumber(static_cast<float>(Val(rate->text())), 2));
+}
+
+/// The column holds no more.
+void frmAttendance::LimitComment()
+{
+    QPlainTextEdit* box = additional_->txtComment;
+    if (box->toPlainText().size() <= kCommentLimit)
+        return;
+    box->setPlainText(box->toPlainText().left(kCommentLimit));
+    box->moveCursor(QTextCursor::End);
+}
+
+void frmAttendance::cmdAddOrUpdate_Click()
+{
+    if (!LeaveDurationBoxes())
+        return;
+    ReadForm();
+    RecalculateTotalTime(entry_);
+    try {
+        SetButtonsEnabled(false);
+        updated_ = PassesGuards() && FindApprovers() && Dispatch();
+    } catch (const RuntimeError& error) {
+        TellError(error);
+    }
+    sstAttendance->setEnabled(true);
+    SetButtonsEnabled(true);
+    if (!updated_)
+        return FocusFieldInError();
+    SessionState.CurrentSelection = entry_.EmployeeName;
+    SessionState.ReloadCalendar = true;
+    cmdQuit_Click();
+}
+
+/// Some guards change what the form shows: the comment, the category.
+bool frmAttendance::PassesGuards()
+{
+    ValidateRecords(entry_);
+    ShowEntry();
+    if (entry_.Validated && entry_.RequiresMonitoring == 1)
+        WillEntitlBeExceeded(datAbsence, entry_);
+    if (entry_.Validated && DrawsOnTimeBank(entry_)) {
+        IsTimeBankedEnough(entry_);
+        ShowCategory();
+    }
+    if (entry_.Validated && !ConflictsAccepted)
+        AreThereOtherAttendanceRecords(datAbsence, entry_);
+    return entry_.Validated;
+}
+
+bool frmAttendance::FindApprovers()
+{
+    if (!SessionState.SubmittingRequest)
+        return true;
+    if (entry_.FirstApprover == 0) {
+        if (ShowGetApprovedBy)
+            ShowGetApprovedBy(entry_);
+        else
+            TellNotYet("frmGetApprovedBy");
+    }
+    if (entry_.FirstApprover == 0)
+        return false;
+    GetApprovalNames(datAbsence, entry_);
+    return true;
+}
+
+/// True when the records are written.
+bool frmAttendance::Dispatch()
+{
+    if (SessionState.ModifyingRecord)
+        return ModifyAttendance();
+    return SessionState.SubmittingRequest ? SubmitAttendance() : NewAttendance();
+}
+
+bool frmAttendance::NewAttendance()
+{
+    if (!ConfirmNewAttendance(entry_))
+        return false;
+    if (SessionState.SQL_Server)
+        NewAttendance_SQL(entry_);
+    else
+        NewAttendance_ACCESS(datAbsence, entry_);
+    return true;
+}
+
+bool frmAttendance::SubmitAttendance()
+{
+    if (!ConfirmSubmission(entry_))
+        return false;
+    if (SessionState.SQL_Server)
+        SubmitAttendance_SQL(entry_);
+    else
+        SubmitAttendance_ACCESS(datAbsence, entry_);
+    if (SendRequestNotice)
+        SendRequestNotice(entry_);
+    TellSubmitted(entry_);
+    return true;
+}
+
+bool frmAttendance::ModifyAttendance()
+{
+    if (!ConfirmModification(entry_))
+        return false;
+    sstAttendance->setEnabled(false);
+    if (SessionState.SQL_Server)
+        ModifyAttendance_SQL(datAbsence, entry_);
+    else
+        ModifyAttendance_ACCESS(datAbsence, entry_);
+    TellModified();
+    return true;
+}
+
+void frmAttendance::FocusFieldInError()
+{
+    auto* field = entry_.FieldInError.isEmpty() ? nullptr : findChild<QWidget*>(entry_.FieldInError);
+    if (!field)
+        return cmdAddOrUpdate->setFocus();
+    sstAttendance->setCurrentWidget(general_);
+    field->setFocus();
+}
+
+void frmAttendance::SetButtonsEnabled(bool enabled)
+{
+    cmdAddOrUpdate->setEnabled(enabled && mayAdd_);
+    cmdQuit->setEnabled(enabled);
+}
+
+void frmAttendance::ResetVariables()
+{
+    entry_ = {};
+    SessionState.TimeBankRelated = 0;
+    SessionState.CreatingMultiple = false;
+    SessionState.ModifyingRecord = false;
+    SessionState.SubmittingRequest = false;
+}
+
+void frmAttendance::cmdQuit_Click()
+{
+    ResetVariables();
+    if (SessionState.EmployeeID == 0)
+        SessionState.EmployeeID = SessionState.UserID;
+    done(updated_ ? Accepted : Rejected);
+}

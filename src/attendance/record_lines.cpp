@@ -1,0 +1,46 @@
+#include "attendance/record_lines.h"
+
+#include "foundation/common_services.h"
+#include "foundation/texts.h"
+
+namespace
+{
+constexpr int kCategoryWidth = 20;
+} // namespace
+
+QString CategoryOfRow(const Recordset& row)
+{
+    return row.Text(SessionState.English ? "CategoryEnglishName" : "CategoryFrenchName").trimmed();
+}
+
+QString EntryLines(const AttendanceEntry& entry)
+{
+    QString times;
+    if (entry.StartTime != 0)
+        times = Fill(T("\tStart: {start}\tEnd: {end}   ", "\tDébut: {start}\tFin: {end}   "),
+                     {{"start", entry.StartTimeText}, {"end", entry.EndTimeText}});
+    times += T("\tDuration: ", "\tDurée: ") + DurationAsText(entry.Duration) + "\r\n";
+    QString lines;
+    for (const int date : SelectedDates())
+        lines += FormatDate(date, "ddd dd-mm-yyyy") + times;
+    return lines;
+}
+
+QString OtherRecordLine(const Recordset& row)
+{
+    return FormatDate(row.Long("RecordDate"), "ddd dd-mmm-yyyy") + "\t" + CategoryOfRow(row).left(kCategoryWidth) +
+           "\t" + DurationAsText(row.Single("TotalDuration")) + "\r\n";
+}
+
+QString ConflictLine(const Recordset& row)
+{
+    QString line = CategoryOfRow(row) + "\t";
+    if (row.Single("StartTime") != 0)
+        line +=
+            Fill(T("From: {start}\tTo: {end}\t", "De: {start}\tÀ: {end}\t"),
+                 {{"start", DurationAsText(row.Single("StartTime"))}, {"end", DurationAsText(row.Single("EndTime"))}});
+    line += T("Duration: ", "Durée: ") + DurationAsText(row.Single("Duration"));
+    if (row.Long("Submitted") == 1)
+        line += T("  (TO BE APPROVED)", "  (NON APPROUVÉE)");
+    return line + "\r\n";
+}
