@@ -20,6 +20,13 @@ constexpr int kDayColumns = 28;
 constexpr int kTextRows = 24;
 const QSize kRecordsSize(560, 190);
 const QPoint kHintOffset(18, 22);
+
+/// The pixels of part `index` when `whole` is divided into parts that differ by one pixel at most.
+int Share(int whole, int parts, int index)
+{
+    constexpr int kSmallest = 16;
+    return std::max(kSmallest, whole * (index + 1) / parts - whole * index / parts);
+}
 } // namespace
 
 CalendarPane::CalendarPane(QWidget* parent) : QWidget(parent)
@@ -206,12 +213,15 @@ void CalendarPane::ResizeScreen()
     fraHideCalendar->setGeometry(rect());
     const int separators = 3 * kSeparatorWidth;
     const int spacers = 2 * kSpacerHeight;
-    const int dayWidth = std::max(18, (width() - separators) / kDayColumns);
-    const int rowHeight = std::max(16, (height() - spacers) / kTextRows);
     flxCalendar->BeginUpdate();
+    int day = 0;
     for (int col = 0; col < YearCalendar::kCols; ++col)
-        flxCalendar->SetColWidth(col, YearCalendar::IsSeparatorColumn(col) ? kSeparatorWidth : dayWidth);
+        flxCalendar->SetColWidth(col, YearCalendar::IsSeparatorColumn(col)
+                                          ? kSeparatorWidth
+                                          : Share(width() - separators, kDayColumns, day++));
+    int text = 0;
     for (int row = 0; row < YearCalendar::kRows; ++row)
-        flxCalendar->SetRowHeight(row, YearCalendar::IsSpacerRow(row) ? kSpacerHeight : rowHeight);
+        flxCalendar->SetRowHeight(
+            row, YearCalendar::IsSpacerRow(row) ? kSpacerHeight : Share(height() - spacers, kTextRows, text++));
     flxCalendar->EndUpdate();
 }

@@ -8,13 +8,14 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QToolButton>
+#include <QPushButton>
 
 namespace
 {
-QToolButton* YearButton(const QString& name, const QString& picture)
+QPushButton* YearButton(const QString& name, const QString& picture)
 {
-    auto* button = Named<QToolButton>(name);
+    auto* button = Named<QPushButton>(name);
+    button->setProperty("look", "arrow");
     button->setIcon(PictureIcon(picture));
     return button;
 }
@@ -47,16 +48,16 @@ QFrame* MainHeader::BuildYearCard()
     lblFiscalYear = AsFigure(Named<QLabel>("lblFiscalYear"));
     lblFiscalYear->setAlignment(Qt::AlignCenter);
     lblFiscalYear->setMinimumWidth(110);
-    cmdPreviousYear = YearButton("cmdPreviousYear", "arrow-previous");
-    cmdNextYear = YearButton("cmdNextYear", "arrow-next");
+    cmdPreviousYear = YearButton("cmdPreviousYear", "previous");
+    cmdNextYear = YearButton("cmdNextYear", "next");
     lblCurrentSelection = AsCaption(Named<QLabel>("lblCurrentSelection"));
     lblCurrentSelection_DISPLAY = AsFigure(Named<QLabel>("lblCurrentSelection_DISPLAY"));
     lblCategories = AsCaption(Named<QLabel>("lblCategories"));
     cboCategories = Named<QComboBox>("cboCategories");
     cboCategories->setMinimumWidth(240);
     lblCategories->setBuddy(cboCategories);
-    connect(cmdPreviousYear, &QToolButton::clicked, this, [this] { YearChanged(Neighbour::Previous); });
-    connect(cmdNextYear, &QToolButton::clicked, this, [this] { YearChanged(Neighbour::Next); });
+    connect(cmdPreviousYear, &QPushButton::clicked, this, [this] { YearChanged(Neighbour::Previous); });
+    connect(cmdNextYear, &QPushButton::clicked, this, [this] { YearChanged(Neighbour::Next); });
     connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);
 
     auto* grid = new QGridLayout;
@@ -91,7 +92,7 @@ void MainHeader::LoadCaptions()
     lblTimeBanked->setText(T("Time bank", "Banque de temps"));
     cmdPreviousYear->setToolTip(T("Previous fiscal year", "Année fiscale précédente"));
     cmdNextYear->setToolTip(T("Next fiscal year", "Année fiscale suivante"));
-    for (QToolButton* button : {cmdPreviousYear, cmdNextYear})
+    for (QPushButton* button : {cmdPreviousYear, cmdNextYear})
         button->setAccessibleName(button->toolTip());
 }
 

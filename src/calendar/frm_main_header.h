@@ -8,7 +8,7 @@
 class QComboBox;
 class QFrame;
 class QLabel;
-class QToolButton;
+class QPushButton;
 
 /// The cards above the calendar: the fiscal year and its neighbours, the name shown, the category, the total for the
 /// year, the time bank, and the announcement that the program will shut down.
@@ -38,8 +38,8 @@ private:
 
     QLabel* lblFiscalYearCaption = nullptr;
     QLabel* lblFiscalYear = nullptr;
-    QToolButton* cmdPreviousYear = nullptr;
-    QToolButton* cmdNextYear = nullptr;
+    QPushButton* cmdPreviousYear = nullptr;
+    QPushButton* cmdNextYear = nullptr;
     QLabel* lblCurrentSelection = nullptr;
     QLabel* lblCurrentSelection_DISPLAY = nullptr;
     QLabel* lblCategories = nullptr;

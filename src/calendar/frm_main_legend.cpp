@@ -10,7 +10,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QToolButton>
 
 namespace
 {
@@ -21,7 +20,7 @@ constexpr int kRowHeight = 30;
 QString LabelStyle(int colorCode)
 {
     const QColor color = ColorOfCode(colorCode);
-    const bool dark = qGray(color.rgb()) < 128;
+    const bool dark = qGray(color.rgb()) < 110;
     return QStringLiteral("background: %1; color: %2; border: 1px solid %3; border-radius: 3px; padding: 3px 12px;")
         .arg(color.name(), dark ? "white" : "#14213d", color.darker(115).name());
 }
@@ -33,9 +32,10 @@ QLabel* ColorLabel(const QString& name, int colorCode)
     return label;
 }
 
-QToolButton* ArrowButton(const QString& name, const QString& picture)
+QPushButton* ArrowButton(const QString& name, const QString& picture)
 {
-    auto* button = Named<QToolButton>(name);
+    auto* button = Named<QPushButton>(name);
+    button->setProperty("look", "arrow");
     button->setIcon(PictureIcon(picture));
     return button;
 }
@@ -52,6 +52,7 @@ QString LegendQuery()
 LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
 {
     setObjectName("fraLegendCard");
+    setProperty("look", "card");
     fraLegend = Named<QFrame>("fraLegend");
     fraLegend->setFixedHeight(kRowHeight);
     row_ = new QWidget(fraLegend);
@@ -68,10 +69,10 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
     }
     lblTimeBank = ColorLabel("lblTimeBank", CalendarColor::TimeBank);
     lblMultiple = ColorLabel("lblMultiple", CalendarColor::SeveralCategories);
-    cmdPreviousCategories = ArrowButton("cmdPreviousCategories", "arrow-previous");
-    cmdNextCategories = ArrowButton("cmdNextCategories", "arrow-next");
-    connect(cmdPreviousCategories, &QToolButton::clicked, this, [this] { Shift(-1); });
-    connect(cmdNextCategories, &QToolButton::clicked, this, [this] { Shift(1); });
+    cmdPreviousCategories = ArrowButton("cmdPreviousCategories", "shift-left");
+    cmdNextCategories = ArrowButton("cmdNextCategories", "shift-right");
+    connect(cmdPreviousCategories, &QPushButton::clicked, this, [this] { Shift(-1); });
+    connect(cmdNextCategories, &QPushButton::clicked, this, [this] { Shift(1); });
 
     auto* all = new QHBoxLayout(this);
     all->setContentsMargins(10, 5, 10, 5);
@@ -89,7 +90,7 @@ void LegendPane::LoadCaptions()
     lblMultiple->setText(T("Several categories", "Plusieurs catégories"));
     cmdPreviousCategories->setToolTip(T("Previous categories", "Catégories précédentes"));
     cmdNextCategories->setToolTip(T("Next categories", "Catégories suivantes"));
-    for (QToolButton* button : {cmdPreviousCategories, cmdNextCategories})
+    for (QPushButton* button : {cmdPreviousCategories, cmdNextCategories})
         button->setAccessibleName(button->toolTip());
 }
 

@@ -9,7 +9,6 @@
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
-class QToolButton;
 
 /// The legend below the calendar: one label per category in one row, which two buttons shift sideways, and the marks of
 /// the time bank and of several categories.
@@ -41,7 +40,7 @@ private:
     std::vector<int> categories_;
     QLabel* lblTimeBank = nullptr;
     QLabel* lblMultiple = nullptr;
-    QToolButton* cmdPreviousCategories = nullptr;
-    QToolButton* cmdNextCategories = nullptr;
+    QPushButton* cmdPreviousCategories = nullptr;
+    QPushButton* cmdNextCategories = nullptr;
     int offset_ = 0; ///< pixels that the row stands shifted to the left
 };

@@ -41,11 +41,14 @@ constexpr ToolEntry kTools[] = {
      false},
 };
 
-QFrame* GroupLine()
+void AddGroupLine(QHBoxLayout* row)
 {
     auto* line = new QFrame;
-    line->setFrameShape(QFrame::VLine);
-    return line;
+    line->setProperty("look", "line");
+    line->setFixedWidth(1);
+    row->addSpacing(8);
+    row->addWidget(line);
+    row->addSpacing(8);
 }
 } // namespace
 
@@ -65,10 +68,11 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
         });
         slot.Disabled = MakeImage(name + "_DISABLED", tool.Picture);
         slot.Disabled->setEnabled(false);
+        slot.Disabled->hide();
         row->addWidget(slot.Image);
         row->addWidget(slot.Disabled);
         if (tool.EndsGroup)
-            row->addWidget(GroupLine());
+            AddGroupLine(row);
     }
     row->addStretch();
 

@@ -82,7 +82,10 @@ House::House()
     for (const char* name : {"/Tarvell.mdb", "/Config.mdb"})
         QFile::copy(DeliveredFolder() + name, folder_.path() + name);
     SetClockSource({[] { return moment; }, [](int) {}});
-    SetEndHandler([] { throw ProgramEnded(); });
+    SetEndHandler([] {
+        DefaultWorkspace().Close();
+        throw ProgramEnded();
+    });
     SessionState.DatabasePath = folder_.path();
     Today(2026, 3, 2);
 }

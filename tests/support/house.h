@@ -22,8 +22,8 @@ struct Person {
     QString FirstName;
     QString FamilyName;
     QString Department;     ///< English name
-    QString Group;          ///< English name, empty for none
-    QStringList Rights;
+    QString Group = {};     ///< English name, empty for none
+    QStringList Rights = {};
     int ApprovedBy = 0;     ///< RecordID of the first approver
     float HourlyRate = 20;
     bool Scheduled = true;  ///< Monday to Friday 8:30 to 12:00 and 13:00 to 16:30

@@ -255,7 +255,8 @@ int User::VisitForm(QDialog& form)
 
 User& User::Photographs(const QString& file)
 {
-    QCoreApplication::processEvents();
+    for (int pass = 0; pass < 3; ++pass) // nested layouts settle one level at a time
+        QCoreApplication::processEvents();
     if (form_ && !form_->grab().save(file))
         Complain("cannot save " + file);
     return *this;

@@ -1,0 +1,136 @@
+#include "foundation/common_services.h"
+#include "foundation/rows.h"
+#include "foundation/texts.h"
+#include "foundation/values.h"
+#include "platform/clock.h"
+#include "support/house.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+class CommonServices : public testing::Test
+{
+protected:
+    House house;
+
+    static QString Shown(const QString& decimal, float dailyHours = 0)
+    {
+        SessionState.HoursWorkedDaily = dailyHours;
+        SessionState.DurationHours = SessionState.DurationMinutes = 0;
+        SessionState.DurationText = decimal;
+        SessionState.DurationInDays = dailyHours > 0;
+        FormatDuration();
+        SessionState.DurationHours = SessionState.DurationMinutes = 0;
+        return SessionState.DurationText;
+    }
+};
+
+TEST_F(CommonServices, DecimalHoursShowAsHoursAndMinutes)
+{
+    const std::pair<QString, QString> cases[] = {
+        {"7.5", "07:30"},      {"7,5", "07:30"},       {"-1.25", "-(01:15)"}, {"0", "00:00"},
+        {"", "00:00"},         {"123.25", "123:15"},   {"0.1", "00:06"},      {"1E-07", "00:00"},
+        {"7.983333", "07:59"}, {"1.999999", "02:00"},  {"1.9999", "01:60"},   {"7.016667", "07:01"}};
+    for (const auto& [decimal, shown] : cases)
+        EXPECT_EQ(Shown(decimal), shown) << qUtf8Printable(decimal);
+}
+
+TEST_F(CommonServices, DaysAreTakenOutInWholesOfTheEmployeesDay)
+{
+    EXPECT_EQ(Shown("16.5", 7.5F), "2 days 01:30");
+    EXPECT_EQ(Shown("0", 7.5F), "0 days 00:00");
+    EXPECT_EQ(Shown("-16.5", 7.5F), "-(2 days 01:30)");
+    EXPECT_EQ(Shown("7.5", 7.5F), "1 days 00:00");
+    SessionState.English = false;
+    EXPECT_EQ(Shown("8", 7), "1 jours 01:00");
+    SessionState.HoursWorkedDaily = 0;
+    EXPECT_EQ(DurationAsText(16.5F, true), "16:30");
+}
+
+TEST_F(CommonServices, HoursAndMinutesGiveDecimalHoursAndLeaveTheText)
+{
+    EXPECT_FLOAT_EQ(DecimalHours(7, 30), 7.5F);
+    EXPECT_FLOAT_EQ(DecimalHours(0, 5), 0.08333F);
+    EXPECT_EQ(DecimalHours(0, 0), 0);
+    SessionState.DurationText = "8";
+    SessionState.DurationHours = 1;
+    FormatDuration();
+    EXPECT_EQ(SessionState.DurationText, "8");
+    EXPECT_FLOAT_EQ(SessionState.DurationDecimal, 1);
+    EXPECT_EQ(ClockHours("00:00"), kMidnight);
+    EXPECT_FLOAT_EQ(ClockHours("13:45"), 13.75F);
+    EXPECT_EQ(ClockHours(""), 0);
+}
+
+TEST_F(CommonServices, NamesAndPagesKeepTheirAccents)
+{
+    const std::pair<QString, QString> names[] = {
+        {"JEAN-PAUL", "Jean-Paul"}, {"élodie", "Élodie"}, {"marie-ève-anne", "Marie-Ève-anne"}, {"a-", "A-"}, {"", ""}};
+    for (const auto& [given, cased] : names) {
+        ProperCase(given);
+        EXPECT_EQ(SessionState.ProperCased, cased);
+    }
+    HtmlEscape("Été à l'Hôtel Ça & là");
+    EXPECT_EQ(SessionState.HtmlEscaped, "&Eacute;t&eacute; &agrave; l'H&ocirc;tel Ça & l&agrave;");
+}
+
+TEST_F(CommonServices, MessagesCheckTheirRangesAndAnswerByCaption)
+{
+    Message seen;
+    SetMessagePresenter([&seen](const Message& message) {
+        seen = message;
+        return ResultOfButton(message.Captions.last(), static_cast<int>(message.Captions.size()) - 1);
+    });
+    ShowMessage("Text", "TITLE:", 12, 11, 0, 9, 1000, 0, "Microsoft Access", "SQL Server");
+    EXPECT_EQ(seen.Face, 0);
+    EXPECT_EQ(seen.Captions, (QStringList{"Microsoft Access", "SQL Server"}));
+    EXPECT_EQ(SessionState.MessageResult, 9);
+    ShowMessage("Text", "TITLE:", 13, 8, 0, 0, 0, 0, "A", "B", "Oui");
+    EXPECT_EQ(seen.Face, 8);
+    EXPECT_EQ(SessionState.MessageResult, MessageCode::Yes);
+    const std::pair<int, int> lastButtons[] = {{0, 1}, {2, 5}, {3, 2}, {4, 7}, {7, 5}, {8, 2}, {9, 7}, {10, 2}};
+    for (const auto& [set, result] : lastButtons) {
+        ShowMessage("Text", "TITLE:", set, 0);
+        EXPECT_EQ(SessionState.MessageResult, result) << set;
+    }
+    SessionState.English = false;
+    EXPECT_FALSE(Ask("TITRE:", "Texte"));
+    EXPECT_EQ(seen.Captions, (QStringList{"Oui", "Non"}));
+    AskWithList("TITRE:", "Texte", 10);
+    EXPECT_FALSE(SessionState.MessageScrollBar);
+    SetMessagePresenter({});
+}
+
+TEST_F(CommonServices, LogsAreAppendedLineByLine)
+{
+    SessionState.LoginID = "MBOUCHARD";
+    SessionState.ReloadCalendar = true;
+    LogConnection("frmMain", true);
+    LogConnection("frmMain", false);
+    EXPECT_EQ(house.ReadFile("Connections.log"), "frmMain\tTrue\t2026-03-02 09:00:00\tMBOUCHARD\tFalse\tTrue\r\n"
+                                                 "frmMain\tFalse\t2026-03-02 09:00:00\tMBOUCHARD\tFalse\tTrue\r\n");
+    LogEMailError("Subject", "True", "No mail program");
+    EXPECT_EQ(house.ReadFile("EMailErrors.log"), "Subject\tTrue\tNo mail program\r\n");
+    LogError(3021, "No current record.", "frmX", "Routine", "SELECT 'x'", 46083.5);
+    EXPECT_EQ(house.ReadFile("Errors.log"), "3021\tNo current record.\tfrmX\tRoutine\t46083.5\tSELECT 'x'\r\n");
+
+    QString sent;
+    SetServerSink([&sent](const QString& statement) { sent = statement; });
+    SessionState.SQL_Server = true;
+    LogError(1, "it's", "frmX", "Routine", "SELECT 'x'", 1.5);
+    EXPECT_EQ(sent, "INSERT INTO ErrorLog (ErrorCode, ErrorDescription, Form, ProcedureName, Occurred, SQL) VALUES (1, "
+                    "'it`s', 'frmX', 'Routine', 1.5, 'SELECT `x`')");
+}
+
+TEST_F(CommonServices, DatesFollowTheFixedPatternsAndZeroShowsNothing)
+{
+    const int date = SerialOfDate({2026, 3, 9});
+    EXPECT_EQ(date, 46090);
+    EXPECT_EQ(FormatDate(date, "dd-mmm-yyyy"), "09-Mar-2026");
+    EXPECT_EQ(FormatDate(date, "ddd dd-mm-yyyy"), "Mon 09-03-2026");
+    EXPECT_EQ(FormatDate(0, "dd-mmm-yyyy"), "");
+    EXPECT_EQ(WeekdayIndex(date), 1);
+    EXPECT_EQ(WeekdayIndex(SerialOfDate({2026, 3, 8})), 0);
+}
+} // namespace

@@ -1,0 +1,215 @@
+#include "foundation/connection.h"
+#include "foundation/deployment.h"
+#include "foundation/frm_login.h"
+#include "foundation/frm_splash_screen.h"
+#include "foundation/log_in.h"
+#include "foundation/start_up.h"
+#include "platform/clock.h"
+#include "support/user.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace
+{
+class LogIn : public testing::Test
+{
+protected:
+    House house;
+    User user;
+    QStringList shown; // what the start came to
+
+    void Start()
+    {
+        frmSplashScreen splash({[this] { shown << "wizard"; }, [this] { shown << "server"; }, [this] { shown << "main"; }});
+        splash.Form_Activate();
+    }
+    void Types(frmLogin& login, const QString& name, const QString& password)
+    {
+        Q_UNUSED(login);
+        user.Types("txtUserName", name).Types("txtPassword", password).Clicks("cmdOK");
+    }
+    int Hired(const QString& loginID, const QStringList& rights = {})
+    {
+        return house.Hire({loginID, "Marie", "Bouchard", "Production", "Assembly", rights});
+    }
+};
+
+TEST_F(LogIn, TheStartReadsTheConfigurationCleansUpAndLogsTheUserIn)
+{
+    house.Configured().Company();
+    const int marie = Hired("MBOUCHARD", {"SelfLevelRead", "GroupLevelRead"});
+    house.Sql("UPDATE Employees SET Language = 1, AttendanceApprovedBy_Main = 1 WHERE RecordID = ?", {marie});
+    for (const char* name : {"/Initiate.bat", "/version.dat", "/Connections.log", "/Restart.bat", "/Errors.log"}) {
+        QFile leftOver(house.Folder() + name);
+        ASSERT_TRUE(leftOver.open(QIODevice::WriteOnly));
+    }
+    user.WhenOpens<frmLogin>([this](frmLogin& login) {
+        user.WillAnswer("Access denied!...", "OK", "The username and password you specified are invalid!");
+        Types(login, "mbouchard", "wrong");
+        Types(login, "m=bou(chard", "pa ss");
+        EXPECT_FALSE(login.isVisible());
+    });
+    Start();
+
+    EXPECT_EQ(shown, QStringList{"main"});
+    const Session& s = SessionState;
+    EXPECT_EQ(s.LoginID, "MBOUCHARD");
+    EXPECT_EQ(s.UserID, marie);
+    EXPECT_EQ(s.EmployeeID, marie);
+    EXPECT_EQ(s.UserName, "Marie Bouchard");
+    EXPECT_EQ(s.TimeOutSeconds, 840);
+    EXPECT_EQ(s.UserApprovedBy, 1);
+    EXPECT_EQ(s.EmployeeGroupID, 1);
+    EXPECT_EQ(s.GroupLevelRead, 1);
+    EXPECT_EQ(s.GlobalLevelRead, 0);
+    EXPECT_FALSE(s.English);
+    EXPECT_EQ(s.VersionText, "120");
+    EXPECT_NEAR(house.Cell("SELECT LoggedIn FROM Employees WHERE RecordID = ?", {marie}).toDouble(), Now(), 1e-6);
+    const QStringList left = QDir(house.Folder()).entryList(QDir::Files);
+    EXPECT_EQ(left, (QStringList{"Config.mdb", "Connections.log", "Errors.log", "Tarvell.mdb"}));
+    EXPECT_TRUE(house.ReadFile("Connections.log").startsWith("frmSplashScreen\tTrue\t2026-03-02 09:00:00\t\t"));
+
+    DataControl datAbsence("frmMain");
+    LogOutUser(datAbsence);
+    EXPECT_EQ(house.Number("SELECT LoggedIn FROM Employees WHERE RecordID = ?", {marie}), 0);
+}
+
+TEST_F(LogIn, AnUnconfiguredWorkstationGoesToTheWizard)
+{
+    Start();
+    EXPECT_EQ(shown, QStringList{"wizard"});
+}
+
+TEST_F(LogIn, AdminEntersAnyYearAndIsToldWhenItIsClosed)
+{
+    house.Configured().Company();
+    house.Sql("UPDATE FiscalYears SET ClosedDate = ?", {SerialOfDate({2026, 2, 27})});
+    user.WhenOpens<frmLogin>([this](frmLogin& login) {
+        user.WillAnswer("FISCAL YEAR CLOSED:", "OK", "Fiscal year 2026 was closed on Fri 27-Feb-2026.\r\n\r\nYou can no longer");
+        Types(login, "admin", "secret");
+    });
+    Start();
+    EXPECT_EQ(SessionState.UserName, "");
+    EXPECT_EQ(SessionState.CurrentSelection, "ADMIN");
+    EXPECT_EQ(SessionState.TimeOutSeconds, 3540);
+}
+
+TEST_F(LogIn, OnlyActiveEmployeesOfTheYearEnter)
+{
+    house.Configured().Company();
+    house.FiscalYear("2027", 2027);
+    house.Hire({"NEXTYEAR", "Luc", "Roy", "Production", "", {}}, 2);
+    const int gone = Hired("GONE");
+    house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {gone});
+    frmLogin login;
+    login.FiscalYearID = 1;
+    login.show();
+    user.Works(login);
+    for (const char* name : {"NEXTYEAR", "GONE", "NOBODY"}) {
+        user.WillAnswer("Access denied!...", "OK");
+        Types(login, name, "PASS");
+    }
+    EXPECT_EQ(SessionState.UserID, 0);
+    EXPECT_EQ(SessionState.LoginID, "");
+    EXPECT_THROW(user.Clicks("cmdCancel"), ProgramEnded);
+}
+
+TEST_F(LogIn, MovingToAYearWithoutARecordCanBeCancelled)
+{
+    house.Configured().Company();
+    SessionState.LoginID = "MBOUCHARD";
+    frmLogin login;
+    login.FiscalYearID = 2;
+    login.FiscalYearName = "2027";
+    login.ChangingYear = true;
+    login.show();
+    user.Works(login);
+    EXPECT_EQ(user.Reads("lblInstructions"), "Your current user identification (MBOUCHARD) does not give you access to "
+                                             "fiscal year 2027. Please login under a different user identification.");
+    user.Clicks("cmdCancel");
+    EXPECT_FALSE(login.isVisible());
+}
+
+TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
+{
+    house.FiscalYear("2024", 2024);
+    house.FiscalYear("2023", 2023);
+    house.FiscalYear("2026", 2026, 4);
+    house.FiscalYear("2027", 2027, 4);
+    DataControl datAbsence("frmSplashScreen");
+    const Connection connection(datAbsence);
+    const auto chosen = [&](int year, int month, int day) {
+        house.Today(year, month, day);
+        ChooseCurrentFiscalYear(datAbsence);
+        FindNeighbouringYears(datAbsence);
+        return SessionState.FiscalYearName + " after " + SessionState.PreviousFYName + " before " + SessionState.NextFYName;
+    };
+    EXPECT_EQ(chosen(2026, 4, 1), "2026 after  before 2027");
+    EXPECT_EQ(chosen(2025, 6, 1), "2026 after  before 2027");
+    EXPECT_EQ(chosen(2024, 12, 31), "2024 after 2023 before ");
+    EXPECT_EQ(chosen(2028, 3, 31), "2027 after 2026 before ");
+    EXPECT_EQ(chosen(2030, 1, 1), "2027 after 2026 before "); // the highest key among the past ones
+}
+
+TEST_F(LogIn, AnExperiencedUserNeedsNoHint)
+{
+    house.Configured().Company();
+    const int marie = Hired("MBOUCHARD", {"SelfLevelCreate"});
+    for (int day = 1; day <= 26; ++day) {
+        const int record = house.Record(marie, "Vacation", {2026, 3, 2}, 7);
+        house.Sql("UPDATE Attendance SET EnteredBy = 'MBOUCHARD', EnteredDate = ? WHERE RecordID = ?", {46000 + day / 2 * 2, record});
+    }
+    house.LogIn("MBOUCHARD");
+    EXPECT_TRUE(SessionState.ShowSelectHint);
+    house.Sql("UPDATE Attendance SET EnteredDate = RecordID");
+    house.LogIn("MBOUCHARD");
+    EXPECT_FALSE(SessionState.ShowSelectHint);
+}
+
+TEST_F(LogIn, WhatCannotBeReadIsToldAndEndsTheProgram)
+{
+    house.Configured();
+    user.WillAnswer("A FATAL ERROR HAS OCCURRED:", "OK", Deployment::SupportAddress);
+    EXPECT_THROW(Start(), ProgramEnded);
+
+    QFile::remove(house.Folder() + "/Tarvell.mdb");
+    user.WillAnswer("FATAL ERROR:", "No", "3024: ");
+    user.WillAnswer("A FATAL ERROR HAS OCCURRED:", "OK");
+    EXPECT_THROW(Start(), ProgramEnded);
+
+    QFile config(house.Folder() + "/Config.mdb");
+    ASSERT_TRUE(config.open(QIODevice::WriteOnly));
+    config.write("this is no database at all, and long enough to be looked at twice");
+    config.close();
+    user.WillAnswer("FATAL ERROR:", "OK", "3343: ");
+    EXPECT_THROW(Start(), ProgramEnded);
+}
+
+TEST_F(LogIn, ALostDatabaseCanBeLookedForElsewhere)
+{
+    House other;
+    other.Company();
+    const QString elsewhere = other.Folder() + "/Tarvell.mdb";
+    House workstation;
+    workstation.Configured();
+    QFile::remove(workstation.Folder() + "/Tarvell.mdb");
+    user.WillAnswer("FATAL ERROR:", "Yes", "Do you wish to specify a new/different location for your database?")
+        .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
+        .WillChooseFile(workstation.Folder() + "/xtarvell.mdb")
+        .WillAnswer("OPERATION DENIED:", "OK", "«Tarvell.mdb»")
+        .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
+        .WillChooseFile(workstation.Folder() + "/tarvell.mdb")
+        .WillAnswer("OPERATION DENIED:", "OK", "Unable to connect to the selected database!")
+        .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
+        .WillChooseFile(elsewhere)
+        .WillAnswer("CONNECTION TO DATABASE SUCCESSFUL:", "Yes")
+        .WhenOpens<frmLogin>([this](frmLogin& login) { Types(login, "ADMIN", "SECRET"); });
+    Start();
+    EXPECT_EQ(shown, QStringList{"main"});
+    SessionState.DatabasePath.clear();
+    ASSERT_TRUE(ReadConfiguration());
+    EXPECT_EQ(SessionState.DatabasePath, other.Folder().replace('/', '\\').toUpper());
+}
+} // namespace
