@@ -222,7 +222,9 @@ void frmMessageBox::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
     adjustSize();
-    move(screen()->geometry().center() - rect().center());
+    QRect frame = frameGeometry();
+    frame.moveCenter(screen()->geometry().center());
+    move(frame.topLeft());
 }
 
 void frmMessageBox::done(int result)
