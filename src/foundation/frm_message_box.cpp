@@ -82,6 +82,7 @@ frmMessageBox::frmMessageBox(const Message& message, QWidget* parent) : QDialog(
     connect(chkStopAsking, &QCheckBox::toggled, this, &frmMessageBox::chkStopAsking_Click);
     LoadCaptions();
     FitText();
+    AsMainButton(DefaultButton())->setFocus();
     QTimer::singleShot(kFaceDelay, this, &frmMessageBox::ShowFace);
 }
 
@@ -123,9 +124,12 @@ void frmMessageBox::BuildButtons()
         const int code = ResultOfButton(QString(caption).remove('&'), position);
         connect(button, &QPushButton::clicked, this, [this, code] { done(code); });
     }
+}
+
+QPushButton* frmMessageBox::DefaultButton() const
+{
     const int last = std::max(static_cast<int>(message_.Captions.size()) - 1, 0);
-    QPushButton* first = cmdButton[static_cast<std::size_t>(std::clamp(SessionState.MessageDefaultButton, 0, last))];
-    AsMainButton(first)->setFocus();
+    return cmdButton[static_cast<std::size_t>(std::clamp(SessionState.MessageDefaultButton, 0, last))];
 }
 
 /// Captions given by the caller decide the width; it is only the least one, for no caption may be cut.
@@ -218,7 +222,9 @@ void frmMessageBox::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
     adjustSize();
-    move(screen()->geometry().center() - rect().center());
+    QRect frame = frameGeometry();
+    frame.moveCenter(screen()->geometry().center());
+    move(frame.topLeft());
 }
 
 void frmMessageBox::done(int result)

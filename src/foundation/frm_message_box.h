@@ -34,6 +34,7 @@ private:
     QLayout* ButtonsLayout();
     void FitText();
     void ShowFace();
+    QPushButton* DefaultButton() const;
     int ButtonWidth(int position) const;
     void chkStopAsking_Click();
 

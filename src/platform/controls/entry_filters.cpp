@@ -92,8 +92,10 @@ public:
             return !field_->isReadOnly() && FilterKey(static_cast<QKeyEvent*>(event));
         case QEvent::InputMethod:
             return FilterComposed(target, static_cast<QInputMethodEvent*>(event));
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
         case QEvent::Drop:
-            return FilterDrop(target, static_cast<QDropEvent*>(event));
+            return RefuseDrag(static_cast<QDropEvent*>(event));
         case QEvent::ContextMenu:
             return ShowMenu(static_cast<QContextMenuEvent*>(event));
         case QEvent::FocusIn:
@@ -138,31 +140,34 @@ private:
         return true;
     }
 
-    bool FilterDrop(QObject* target, QDropEvent* event)
+    /// What is dragged is not ours to change: it is taken as it is or not at all.
+    bool RefuseDrag(QDropEvent* event)
     {
-        const QString let = Filtered(event->mimeData()->text(), filter_);
-        if (let == event->mimeData()->text())
+        const QString dragged = event->mimeData()->text();
+        if (Filtered(dragged, filter_) == dragged)
             return false;
-        QMimeData data;
-        data.setText(let);
-        QDropEvent drop(event->position(), event->possibleActions(), &data, event->buttons(), event->modifiers());
-        drop.setDropAction(Qt::CopyAction);
-        QApplication::sendEvent(target, &drop);
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
+        event->ignore();
         return true;
     }
 
     bool ShowMenu(const QContextMenuEvent* event)
     {
         QMenu* menu = ContextMenu(field_, event->pos());
-        if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
-            QObject::disconnect(paste, &QAction::triggered, nullptr, nullptr);
-            QObject::connect(paste, &QAction::triggered, this, [this] { Paste(QClipboard::Clipboard); });
-        }
+        for (QAction* entry : menu->actions())
+            if (IsPaste(*entry)) {
+                QObject::disconnect(entry, &QAction::triggered, nullptr, nullptr);
+                QObject::connect(entry, &QAction::triggered, this, [this] { Paste(QClipboard::Clipboard); });
+            }
         menu->setAttribute(Qt::WA_DeleteOnClose);
         menu->popup(event->globalPos());
         return true;
+    }
+
+    /// Multi-line fields name the entry; single-line ones only show its key.
+    static bool IsPaste(const QAction& entry)
+    {
+        const QString key = QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
+        return entry.objectName() == "edit-paste" || entry.text().endsWith('\t' + key);
     }
 
     /// Coming back from another window keeps the place where the user was typing.

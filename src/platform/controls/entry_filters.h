@@ -4,7 +4,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-/// What a kind of entry field lets through, key by key, on paste and on drop. What is dropped never reaches the field.
+/// What a kind of entry field lets through, key by key and on paste. What is dropped never reaches the field; text
+/// dragged from elsewhere is taken only when it would pass as it is.
 enum class KeyFilter
 {
     WholeNumber,   ///< 0 to 9

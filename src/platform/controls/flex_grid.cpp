@@ -30,10 +30,14 @@ FlexGrid::FlexGrid(QWidget* parent)
     if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
         corner->installEventFilter(this);
     ShowFixed();
-    connect(this, &QTableView::clicked, this,
-            [this](const QModelIndex& at) { emit CellClicked(at.row(), at.column()); });
-    connect(this, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& at) { emit CellDoubleClicked(at.row(), at.column()); });
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex& at) {
+        if (cells_->flags(at))
+            emit CellClicked(at.row(), at.column());
+    });
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& at) {
+        if (cells_->flags(at))
+            emit CellDoubleClicked(at.row(), at.column());
+    });
     connect(this, &QTableView::entered, this,
             [this](const QModelIndex& at) { emit CellEntered(at.row(), at.column()); });
 }

@@ -115,9 +115,10 @@ QSize FlexHeads::sizeHint() const
 void FlexHeads::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
-    painter.fillRect(event->rect(), kHeadBack);
+    const bool top = orientation() == Qt::Horizontal;
+    painter.fillRect(event->rect(), top ? kHeadBack : QColor(Qt::white));
     int offset = 0;
-    if (orientation() == Qt::Horizontal)
+    if (top)
         for (int row = 0; row < grid_->fixedRows_; ++row) {
             PaintRow(painter, row, offset, grid_->HeadHeight(row));
             offset += grid_->HeadHeight(row);

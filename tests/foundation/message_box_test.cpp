@@ -1,0 +1,226 @@
+#include "foundation/frm_message_box.h"
+#include "foundation/session_state.h"
+#include "platform/controls/form_kit.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTest>
+
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace
+{
+/// Shows real message boxes and works each with the function given.
+class MessageBox : public testing::Test
+{
+protected:
+    using Work = std::function<void(frmMessageBox&)>;
+
+    MessageBox()
+    {
+        SessionState = Session();
+        InstallMessageBox();
+        SetModalRunner([this](QDialog& dialog) {
+            dialog.show();
+            QApplication::setActiveWindow(&dialog);
+            QCoreApplication::processEvents();
+            work(dynamic_cast<frmMessageBox&>(dialog));
+            return dialog.result();
+        });
+    }
+
+    ~MessageBox() override
+    {
+        SessionState = Session();
+        SetModalRunner({});
+        SetMessagePresenter({});
+    }
+
+    int Shows(int set, const QStringList& captions, Work how, const QString& text = "Text", int face = 0,
+              bool useInputBox = false)
+    {
+        work = std::move(how);
+        ShowMessage(text, "TITLE:", set, face, 0, 0, 0, 0, captions.value(0), captions.value(1), captions.value(2),
+                    captions.value(3), useInputBox);
+        return SessionState.MessageResult;
+    }
+
+    static QPushButton* Button(frmMessageBox& box, int position)
+    {
+        return box.findChild<QPushButton*>(ArrayName("cmdButton", position));
+    }
+
+    static QList<QPushButton*> Visible(frmMessageBox& box)
+    {
+        QList<QPushButton*> buttons;
+        for (int position = 0; position < 4; ++position)
+            if (Button(box, position)->isVisible())
+                buttons.append(Button(box, position));
+        return buttons;
+    }
+
+    Work work;
+};
+
+void Click(QWidget* widget)
+{
+    QTest::mouseClick(widget, Qt::LeftButton);
+}
+} // namespace
+
+TEST_F(MessageBox, EachButtonOfEachSetEndsItWithItsCode)
+{
+    using namespace MessageCode;
+    const QList<QList<int>> codes = {{OK},
+                                     {OK, Cancel},
+                                     {Abort, Retry, Ignore},
+                                     {Yes, No, Cancel},
+                                     {Yes, No},
+                                     {Retry, Cancel},
+                                     {OK, Cancel},
+                                     {Abort, Retry, Ignore},
+                                     {Yes, No, Cancel},
+                                     {Yes, No},
+                                     {Retry, Cancel}};
+    for (int set = 0; set < codes.size(); ++set)
+        for (int position = 0; position < codes[set].size(); ++position) {
+            const int code = Shows(set, {}, [&](frmMessageBox& box) {
+                EXPECT_EQ(Visible(box).size(), codes[set].size()) << "set " << set;
+                Click(Button(box, position));
+            });
+            EXPECT_EQ(code, codes[set][position]) << "set " << set << ", button " << position;
+        }
+}
+
+TEST_F(MessageBox, CaptionsOfTheCallerDecideCodeWidthAndPlace)
+{
+    const QStringList captions = {"Microsoft Access", "SQL Server", "R&D", "Annuler"};
+    const QList<int> codes = {MessageCode::First, MessageCode::Second, MessageCode::Third, MessageCode::Cancel};
+    for (int count = 1; count <= 4; ++count)
+        for (int position = 0; position < count; ++position)
+            EXPECT_EQ(Shows(10 + count, captions, [&](frmMessageBox& box) { Click(Button(box, position)); }),
+                      codes[position]);
+
+    Shows(12, {"A caption rather longer than most", "Short"}, [](frmMessageBox& box) {
+        const QRect left = Button(box, 0)->geometry(), right = Button(box, 1)->geometry();
+        EXPECT_GE(left.width(), 33 * 125 / 15);
+        EXPECT_GE(right.width(), Button(box, 1)->sizeHint().width()) << "no caption is cut";
+        EXPECT_EQ(right.left() - left.right() - 1, 10) << "150 twips between them";
+        EXPECT_NEAR(left.left(), box.width() - 1 - right.right(), 1) << "in the middle";
+        EXPECT_EQ(box.frameGeometry().center(), box.screen()->geometry().center());
+    });
+}
+
+TEST_F(MessageBox, EscapeIsACancelWhateverTheButtons)
+{
+    EXPECT_EQ(Shows(4, {}, [](frmMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), MessageCode::Cancel);
+    EXPECT_EQ(Shows(0, {}, [](frmMessageBox& box) { box.close(); }), MessageCode::Cancel);
+}
+
+TEST_F(MessageBox, EnterPressesTheDefaultButtonAndLettersTheOthers)
+{
+    const auto enter = [](frmMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); };
+    EXPECT_EQ(Shows(4, {}, enter), MessageCode::Yes);
+    SessionState.MessageDefaultButton = 1;
+    EXPECT_EQ(Shows(4, {},
+                    [&](frmMessageBox& box) {
+                        EXPECT_TRUE(Button(box, 1)->hasFocus());
+                        enter(box);
+                    }),
+              MessageCode::No);
+    EXPECT_EQ(Shows(0, {}, enter), MessageCode::OK) << "a default beyond the set is the last button";
+    EXPECT_EQ(Shows(7, {},
+                    [](frmMessageBox& box) {
+                        QTest::keyClick(&box, Qt::Key_G, Qt::AltModifier);
+                        EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 1000));
+                    }),
+              MessageCode::Ignore)
+        << "the I is taken by Interrompre";
+}
+
+TEST_F(MessageBox, TheCheckBoxIsShownWhereAskedForAndRemembered)
+{
+    Shows(4, {}, [](frmMessageBox& box) {
+        EXPECT_FALSE(box.findChild<QCheckBox*>("chkStopAsking")->isVisible());
+        box.close();
+    });
+    SessionState.MessageShowStopAsking = true;
+    for (const bool english : {true, false}) {
+        SessionState.English = english;
+        Shows(english ? 4 : 9, {}, [&](frmMessageBox& box) {
+            auto* check = box.findChild<QCheckBox*>("chkStopAsking");
+            EXPECT_EQ(check->text(),
+                      english ? "Do not show me this message any more" : "Ne plus afficher ce message à l'avenir");
+            check->setFocus();
+            QTest::keyClick(check, Qt::Key_Space);
+            EXPECT_TRUE(SessionState.MessageStopAsking);
+            EXPECT_TRUE(Button(box, 0)->hasFocus());
+            Click(Button(box, 1));
+        });
+        EXPECT_TRUE(SessionState.MessageStopAsking);
+    }
+    Shows(4, {}, [](frmMessageBox& box) { box.close(); });
+    EXPECT_FALSE(SessionState.MessageStopAsking) << "the next message starts unticked";
+}
+
+TEST_F(MessageBox, ALongTextIsCutUnlessTheCallerAsksForTheScrollBar)
+{
+    const QString text = QString("One line\tof many\r\n").repeated(60);
+    int height = 0;
+    Shows(
+        0, {},
+        [&](frmMessageBox& box) {
+            auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
+            height = shown->height();
+            EXPECT_EQ(shown->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+            EXPECT_LT(height, 60 * shown->fontMetrics().lineSpacing());
+            EXPECT_EQ(shown->toPlainText().count('\n'), 60);
+            box.close();
+        },
+        text);
+    SessionState.MessageScrollBar = true;
+    Shows(
+        0, {},
+        [&](frmMessageBox& box) {
+            auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
+            EXPECT_EQ(shown->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+            EXPECT_EQ(shown->height(), height);
+            box.close();
+        },
+        text);
+}
+
+TEST_F(MessageBox, TheFaceFollowsAMomentAfterTheText)
+{
+    for (int face = 0; face <= 8; ++face)
+        Shows(
+            0, {},
+            [&](frmMessageBox& box) {
+                auto* image = box.findChild<QLabel*>("imgFace");
+                EXPECT_EQ(box.findChild<QPlainTextEdit*>("txtMessage")->toPlainText(), "Text");
+                QTest::qWait(30);
+                EXPECT_EQ(image->isVisible() && !image->pixmap().isNull(), face < 8) << "face " << face;
+                box.close();
+            },
+            "Text", face);
+}
+
+TEST_F(MessageBox, TheInputBoxStaysForTheSessionWithItsContents)
+{
+    Shows(
+        0, {},
+        [](frmMessageBox& box) {
+            auto* input = box.findChild<QLineEdit*>("txtMsgBxInputBox");
+            input->clear();
+            QTest::keyClicks(input, "l'an \"50%\" | A&B");
+            Click(Button(box, 0));
+        },
+        "Text", 0, true);
+    Shows(0, {}, [](frmMessageBox& box) {
+        auto* input = box.findChild<QLineEdit*>("txtMsgBxInputBox");
+        EXPECT_TRUE(input->isVisible()) << "no later message hides it again";
+        EXPECT_EQ(input->text(), "l`an 50  AB");
+        box.close();
+    });
+}

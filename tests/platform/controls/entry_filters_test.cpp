@@ -1,0 +1,167 @@
+#include "platform/controls/entry_filters.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+/// Two fields of one kind on a shown window.
+class EntryFields : public testing::Test
+{
+protected:
+    void Show(KeyFilter filter)
+    {
+        auto* layout = new QVBoxLayout(&window);
+        for (QWidget* widget : {static_cast<QWidget*>(first), static_cast<QWidget*>(line), static_cast<QWidget*>(text),
+                                static_cast<QWidget*>(box)})
+            layout->addWidget(widget);
+        box->setEditable(true);
+        FilterKeys(line, filter);
+        FilterKeys(text, filter);
+        FilterKeys(box, filter);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        first->setFocus();
+    }
+
+    QWidget window;
+    QLineEdit* first = new QLineEdit(&window);
+    QLineEdit* line = new QLineEdit(&window);
+    QPlainTextEdit* text = new QPlainTextEdit(&window);
+    QComboBox* box = new QComboBox(&window);
+};
+
+void Drop(QWidget* target, const QString& text)
+{
+    QMimeData data;
+    data.setText(text);
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+}
+} // namespace
+
+TEST(EntryFilters, EachKindDropsAndReplacesWhatItShouldKeyByKey)
+{
+    struct Case
+    {
+        KeyFilter Kind;
+        const char* Typed;
+        const char* Left;
+    };
+    const Case cases[] = {
+        {KeyFilter::WholeNumber, "-1a2.3,4 5'", "12345"},
+        {KeyFilter::DecimalNumber, "-1a2.3,4 5'", "12.345"},
+        {KeyFilter::Phone, "(514) 555-0199 x'", "514555-0199"},
+        {KeyFilter::CategoryName, "Jour, d'hiver \"#%", "Jour d`hiver \"#%"},
+        {KeyFilter::FreeText, "L'an, \"2026\" #1", "L`an, \"2026\" #1"},
+        {KeyFilter::MessageInput, "a'b\"c%d|e&f#", "a`bcdef#"},
+        {KeyFilter::Comment, "a'b\"c#d%", "a`bcd%"},
+        {KeyFilter::LogIn, "~!@#$%^&*()_+=[]{}\\/|;:\" <>?o'n-e.7,", "o`n-e.7,"},
+        {KeyFilter::SetUpPassword, "~!@#$%^&*()_+=[]{}\\/|;:\" <>?o'n-e.7,", "on-e.7,"},
+        {KeyFilter::PersonName, "d'Arc-2 (Luc)", "d`Arc-Luc"},
+        {KeyFilter::EMailAddress, "o'n_e-1@two.ca #$?&*/\\<>[]{}:|~!\"", "on_e-1@two.ca"},
+        {KeyFilter::HostName, "my host's \\/", "my hosts "},
+        {KeyFilter::HostFolder, "a b\\c/d'e:", "a b\\c/de"},
+        {KeyFilter::WebAddress, "http://a b.ca/x\\y_z", "http//ab.ca/x\\yz"},
+    };
+    for (const Case& one : cases) {
+        QLineEdit field;
+        FilterKeys(&field, one.Kind);
+        field.show();
+        QTest::keyClicks(&field, one.Typed);
+        EXPECT_EQ(field.text(), one.Left) << "kind " << static_cast<int>(one.Kind);
+        QTest::keyClick(&field, Qt::Key_Backspace);
+        EXPECT_EQ(field.text(), QString(one.Left).chopped(1)) << "backspace works";
+    }
+}
+
+TEST_F(EntryFields, PastedDraggedAndComposedTextIsFilteredToo)
+{
+    Show(KeyFilter::Comment);
+    QApplication::clipboard()->setText("l'été\n#1");
+    QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(text, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(line->text(), "l`été 1");
+    EXPECT_EQ(text->toPlainText(), "l`été\n1");
+
+    line->clear();
+    text->clear();
+    for (const char* dragged : {"c'est", "là"}) {
+        Drop(line, dragged);
+        Drop(text->viewport(), dragged);
+    }
+    EXPECT_EQ(line->text(), "là") << "text that would not pass is not taken";
+    EXPECT_EQ(text->toPlainText(), "là");
+
+    line->clear();
+    QInputMethodEvent composed;
+    composed.setCommitString("ê'\"");
+    QApplication::sendEvent(line, &composed);
+    EXPECT_EQ(line->text(), "ê`");
+}
+
+TEST_F(EntryFields, TheContextMenuPastesFiltered)
+{
+    Show(KeyFilter::WholeNumber);
+    QApplication::clipboard()->setText("12:30");
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(4, 4), line->mapToGlobal(QPoint(4, 4)));
+    QApplication::sendEvent(line, &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (QAction* entry : menu->actions())
+        if (entry->text().startsWith("&Paste"))
+            entry->trigger();
+    EXPECT_EQ(line->text(), "1230");
+    menu->close();
+}
+
+TEST_F(EntryFields, TheFocusSelectsTheWholeContentsSoThatTypingReplacesThem)
+{
+    Show(KeyFilter::FreeText);
+    line->setText("filled by code: l'an");
+    EXPECT_EQ(line->text(), "filled by code: l'an");
+    text->setPlainText("two\nlines");
+
+    QTest::mouseClick(line, Qt::LeftButton, {}, QPoint(30, 8));
+    EXPECT_EQ(line->selectedText(), line->text());
+    text->setFocus();
+    QTest::keyClicks(text, "new");
+    EXPECT_EQ(text->toPlainText(), "new");
+}
+
+TEST_F(EntryFields, ADroppedKeyLeavesTheSelectionAndAReadOnlyFieldIsNotWritten)
+{
+    Show(KeyFilter::WholeNumber);
+    line->setText("45");
+    line->setFocus();
+    QTest::keyClicks(line, "x");
+    EXPECT_EQ(line->text(), "45");
+    EXPECT_TRUE(line->hasSelectedText());
+
+    FilterKeys(first, KeyFilter::FreeText);
+    first->setReadOnly(true);
+    QApplication::clipboard()->setText("'");
+    QTest::keyClick(first, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClicks(first, "'");
+    EXPECT_EQ(first->text(), "");
+}
+
+TEST_F(EntryFields, AnEditableComboBoxIsFilteredAndSelected)
+{
+    Show(KeyFilter::WholeNumber);
+    box->addItem("1990");
+    box->setFocus();
+    EXPECT_EQ(box->lineEdit()->selectedText(), "1990");
+    QTest::keyClicks(box, "1a9/8'5");
+    EXPECT_EQ(box->currentText(), "1985");
+}

@@ -1,0 +1,71 @@
+#include "platform/controls/form_kit.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+TEST(FormKit, EveryPictureIsThereAndUnlikeTheOthers)
+{
+    const QStringList names = {"tool-create-single",
+                               "tool-create-multiple",
+                               "tool-create-consecutive",
+                               "tool-submit",
+                               "tool-modify",
+                               "tool-remove",
+                               "tool-approve",
+                               "tool-select-employee",
+                               "previous",
+                               "next",
+                               "shift-left",
+                               "shift-right",
+                               "app",
+                               "face-warning",
+                               "face-presenting",
+                               "face-informing",
+                               "face-congratulating",
+                               "face-paniquing",
+                               "face-ashamed",
+                               "face-alternate-picture",
+                               "face-sad"};
+    QList<QImage> seen;
+    for (const QString& name : names) {
+        const QImage picture = Picture(name, 48).toImage();
+        EXPECT_EQ(picture.size(), QSize(48, 48)) << qPrintable(name);
+        EXPECT_FALSE(seen.contains(picture)) << qPrintable(name);
+        EXPECT_FALSE(PictureIcon(name).pixmap(16).isNull()) << qPrintable(name);
+        seen.append(picture);
+    }
+    EXPECT_TRUE(Picture("no-such-picture", 48).isNull());
+    EXPECT_TRUE(PictureIcon("no-such-picture").isNull());
+}
+
+TEST(FormKit, AModalFormIsWorkedByTheRunnerOrWaitsForAPerson)
+{
+    QDialog form;
+    SetModalRunner([](QDialog& shown) {
+        shown.done(7);
+        return shown.result();
+    });
+    EXPECT_EQ(ShowModal(form), 7);
+    SetModalRunner({});
+    QTimer::singleShot(0, &form, [&form] { form.done(3); });
+    EXPECT_EQ(ShowModal(form), 3);
+}
+
+TEST(FormKit, GuardsGiveBackWhatTheyFound)
+{
+    bool loading = false;
+    {
+        const LoadingGuard outer(loading);
+        {
+            const LoadingGuard inner(loading);
+        }
+        EXPECT_TRUE(loading) << "the inner guard leaves the outer one in force";
+        const BusyPointer busy;
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    }
+    EXPECT_FALSE(loading);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
