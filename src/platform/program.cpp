@@ -5,13 +5,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+
+#include <algorithm>
 #include <cstdlib>
 
 namespace
 {
 QString& Folder()
 {
-    static QString folder;
+    static QString folder = QStringLiteral(".");
     return folder;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+
 #include <functional>
 
 /// The folder of the databases and logs, without a separator at its end: the executable's own when it can be written,
@@ -23,7 +24,8 @@ QString JoinPath(const QString& folder, const QString& name);
 void SetEndHandler(std::function<void()> handler);
 
 /// What the file chooser is asked for. `Filter` is written "Access(*.mdb)|*.mdb".
-struct FileChoice {
+struct FileChoice
+{
     QString Title;
     QString Filter;
     QString FileName;

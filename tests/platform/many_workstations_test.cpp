@@ -73,11 +73,18 @@ protected:
         return notes.readAll().trimmed().split('\n');
     }
 
+    /// Half a minute at most: a workstation that has failed writes no more notes.
+    static void WaitUntil(const std::function<bool()>& happened)
+    {
+        for (int i = 0; i < 30000 && !happened(); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        ASSERT_TRUE(happened());
+    }
+
     /// Kills the workstation in the midst of its work and puts another in its place.
     void KillInTheMiddle(int workstation, std::chrono::microseconds later)
     {
-        while (NotedBy(workstation).size() < 3)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        WaitUntil([&] { return NotedBy(workstation).size() >= 3; });
         std::this_thread::sleep_for(later);
         kill(running_[workstation], SIGKILL);
         waitpid(running_[workstation], nullptr, 0);
@@ -133,8 +140,7 @@ TEST_F(ManyWorkstations, AProcessKilledInTheMidstOfABatchLeavesNothingOfIt)
         pause();
         return 0;
     });
-    while (!QFile::exists(NotesOf(0)))
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    WaitUntil([this] { return QFile::exists(NotesOf(0)); });
     EXPECT_GT(QFileInfo(house_.DatabaseFile()).size(), 500000) << "the file was in the midst of being written";
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);

@@ -25,7 +25,7 @@ void Batch::Run(const char* sql)
     if (!database)
         throw RuntimeError(EngineError::ConnectionLost, "The database of this batch is no longer open.");
     if (sqlite3_exec((*database)->Handle(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        ThrowEngineError((*database)->Handle(), Access::Writing);
+        ThrowEngineError((*database)->Handle(), FileAccess::Writing);
 }
 
 void Batch::Commit()

@@ -37,7 +37,7 @@ int WaitForLock(void*, int tries)
     return 1;
 }
 
-void Run(sqlite3* handle, const char* script, Access access)
+void Run(sqlite3* handle, const char* script, FileAccess access)
 {
     if (sqlite3_exec(handle, script, nullptr, nullptr, nullptr) != SQLITE_OK)
         ThrowEngineError(handle, access, QString::fromUtf8(script).left(200));
@@ -50,7 +50,8 @@ void SetUpConnection(sqlite3* handle)
     // A misspelt column in quotes is an error, not a text.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     InstallTextRules(handle);
-    Run(handle, "PRAGMA synchronous = FULL; PRAGMA cache_size = -32768; PRAGMA temp_store = MEMORY;", Access::Reading);
+    Run(handle, "PRAGMA synchronous = FULL; PRAGMA cache_size = -32768; PRAGMA temp_store = MEMORY;",
+        FileAccess::Reading);
 }
 
 sqlite3* OpenFile(const QString& file, int flags)
@@ -58,7 +59,7 @@ sqlite3* OpenFile(const QString& file, int flags)
     sqlite3* handle = nullptr;
     try {
         if (sqlite3_open_v2(file.toUtf8().constData(), &handle, flags, nullptr) != SQLITE_OK)
-            ThrowEngineError(handle, Access::Reading);
+            ThrowEngineError(handle, FileAccess::Reading);
         SetUpConnection(handle);
     } catch (...) {
         sqlite3_close_v2(handle);
@@ -188,7 +189,7 @@ int Database::Execute(const QString& sql, const Values& values)
 
 void Database::ExecuteScript(const QString& script)
 {
-    Run(handle_, script.toUtf8().constData(), Access::Writing);
+    Run(handle_, script.toUtf8().constData(), FileAccess::Writing);
 }
 
 QStringList Database::Columns(const QString& table)

@@ -28,17 +28,17 @@ Failure FailureOfStatement(const QString& words)
     return {EngineError::StatementError, "The statement cannot be understood"};
 }
 
-Failure FailureOfDisk(Access access)
+Failure FailureOfDisk(FileAccess access)
 {
-    if (access == Access::Reading)
+    if (access == FileAccess::Reading)
         return {EngineError::ConnectionLost, "The connection to the database file was lost"};
     return {EngineError::DiskError, "The database file could not be written to the disk or network"};
 }
 
-Failure FailureOf(int code, const QString& words, Access access)
+Failure FailureOf(int code, const QString& words, FileAccess access)
 {
     if (code == SQLITE_READONLY_DBMOVED)
-        return FailureOfDisk(Access::Writing);
+        return FailureOfDisk(FileAccess::Writing);
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
@@ -69,7 +69,7 @@ RuntimeError::RuntimeError(int number, const QString& description)
     : Number(number), Description(description), text_(QStringLiteral("%1: %2").arg(number).arg(description).toUtf8())
 {}
 
-void ThrowEngineError(sqlite3* handle, Access access, const QString& sql)
+void ThrowEngineError(sqlite3* handle, FileAccess access, const QString& sql)
 {
     const QString words = QString::fromUtf8(sqlite3_errmsg(handle));
     const Failure failure = FailureOf(sqlite3_extended_errcode(handle), words, access);

@@ -1,5 +1,6 @@
 #include "platform/dao/statement.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace

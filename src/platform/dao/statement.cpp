@@ -23,7 +23,7 @@ Statement::Statement(sqlite3* handle, const QString& sql, const Values& values) 
     const QByteArray text = sql.toUtf8();
     const char* rest = nullptr;
     if (sqlite3_prepare_v2(handle, text.constData(), static_cast<int>(text.size()), &statement_, &rest) != SQLITE_OK)
-        ThrowEngineError(handle, Access::Reading, sql);
+        ThrowEngineError(handle, FileAccess::Reading, sql);
     try {
         if (statement_ == nullptr || !QByteArray(rest).trimmed().isEmpty())
             throw RuntimeError(EngineError::StatementError, "One statement was expected. " + sql);
@@ -123,7 +123,7 @@ void Statement::BindOne(int position, const QVariant& value)
         ThrowEngineError(handle_, Kind());
 }
 
-Access Statement::Kind() const
+FileAccess Statement::Kind() const
 {
-    return sqlite3_stmt_readonly(statement_) != 0 ? Access::Reading : Access::Writing;
+    return sqlite3_stmt_readonly(statement_) != 0 ? FileAccess::Reading : FileAccess::Writing;
 }

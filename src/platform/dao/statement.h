@@ -26,7 +26,7 @@ public:
 private:
     void Bind(const Values& values);
     void BindOne(int position, const QVariant& value);
-    Access Kind() const;
+    FileAccess Kind() const;
 
     sqlite3* handle_;
     sqlite3_stmt* statement_ = nullptr;
