@@ -52,7 +52,8 @@ bool LogInUser(DataControl& datAbsence, int fiscalYear)
 bool CountAttenceRecords(DataControl& datAbsence)
 {
     const Recordset batches =
-        datAbsence.Select("SELECT DISTINCT EnteredDate, CategoryID FROM Attendance WHERE EnteredBy = ?", Who());
+        datAbsence.Select("SELECT DISTINCT EnteredDate, CategoryID FROM Attendance WHERE EnteredBy = ? COLLATE BINARY",
+                          Who());
     return batches.RecordCount() > kExperiencedUser;
 }
 

@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
-#include <optional>
+#include <ostream>
 
 /// Where the house and its user complain; the test program makes failures of it, the tour ends.
 void SetComplaintHandler(std::function<void(const QString&)> handler);
@@ -76,3 +76,9 @@ private:
 
     QTemporaryDir folder_;
 };
+
+/// How a failed comparison of texts shows them.
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
