@@ -18,6 +18,7 @@ namespace
 {
 constexpr int kMargin = 16;
 constexpr int kGap = 12;
+constexpr int kHeadGap = 5;
 constexpr int kListHeight = 150;
 constexpr int kShortField = 110;
 constexpr int kEntriesShown = 16;
@@ -31,16 +32,11 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        const QString text = index.data().toString();
-        const qsizetype slash = text.indexOf(" / ");
         QStyledItemDelegate::paint(painter, option, index);
-        if (slash < 0)
-            return;
         const bool selected = option.state.testFlag(QStyle::State_Selected);
         painter->save();
         painter->setPen(selected ? option.palette.highlightedText().color() : option.palette.placeholderText().color());
-        painter->drawText(option.rect.adjusted(0, 0, -kGap, 0), Qt::AlignRight | Qt::AlignVCenter,
-                          text.mid(slash + 3).trimmed());
+        painter->drawText(option.rect.adjusted(0, 0, -kGap, 0), Qt::AlignRight | Qt::AlignVCenter, Unit(index));
         painter->restore();
     }
 
@@ -48,8 +44,13 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        option->text = option->text.section(" / ", 0, 0);
+        const QString name = option->text.section(" / ", 0, 0);
+        const int room = option->rect.width() - option->fontMetrics.horizontalAdvance(Unit(index)) - 3 * kGap;
+        option->text = room > 0 ? option->fontMetrics.elidedText(name, Qt::ElideRight, room) : name;
     }
+
+private:
+    static QString Unit(const QModelIndex& index) { return index.data().toString().section(" / ", 1).trimmed(); }
 };
 
 QComboBox* TimeList(const QString& name)
@@ -67,9 +68,15 @@ QLineEdit* DurationBox(const QString& name)
     return box;
 }
 
-QLabel* Caption(const QString& name)
+/// A bold head close above the control that it names.
+QVBoxLayout* Headed(QLabel* head, QWidget* control)
 {
-    return Named<QLabel>(name);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(kHeadGap);
+    column->addWidget(AsHead(head));
+    column->addWidget(control, 1);
+    head->setBuddy(control);
+    return column;
 }
 } // namespace
 
@@ -80,17 +87,17 @@ AttendanceGeneralPage::AttendanceGeneralPage(QWidget* parent) : QWidget(parent)
     page->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     page->setSpacing(kGap);
     page->addLayout(PeopleAndDates(), 1);
-    page->addWidget(lblWhy);
-    page->addWidget(cboCategories);
+    page->addLayout(Headed(lblWhy, cboCategories));
     page->addLayout(DayParts());
     page->addLayout(TimesAndDurations());
 }
 
 void AttendanceGeneralPage::BuildControls()
 {
-    lblWho = AsHead(Named<QLabel>("lblWho"));
-    lblWhen = AsHead(Named<QLabel>("lblWhen"));
-    lblWhy = AsHead(Named<QLabel>("lblWhy"));
+    lblWho = Named<QLabel>("lblWho");
+    lblWhen = Named<QLabel>("lblWhen");
+    lblWhy = Named<QLabel>("lblWhy");
+    lblEmployeeName = Named<QLabel>("lblEmployeeName");
     lstWho = Named<QListWidget>("lstWho");
     lstWho->setItemDelegate(new EmployeeDelegate(lstWho));
     txtWhen = Named<QPlainTextEdit>("txtWhen");
@@ -101,31 +108,27 @@ void AttendanceGeneralPage::BuildControls()
     chkWholeDay = Named<QCheckBox>("chkWholeDay");
     chkFirstHalf = Named<QCheckBox>("chkFirstHalf");
     chkSecondHalf = Named<QCheckBox>("chkSecondHalf");
-    lblStartTime = Caption("lblStartTime");
-    lblEndTime = Caption("lblEndTime");
-    lblMultiplicator = Caption("lblMultiplicator");
-    lblDurationInHours = Caption("lblDurationInHours");
-    lblDurationInMinutes = Caption("lblDurationInMinutes");
-    lblTotalTime = AsCaption(Caption("lblTotalTime"));
+    lblStartTime = Named<QLabel>("lblStartTime");
+    lblEndTime = Named<QLabel>("lblEndTime");
+    lblMultiplicator = Named<QLabel>("lblMultiplicator");
+    lblDurationInHours = Named<QLabel>("lblDurationInHours");
+    lblDurationInMinutes = Named<QLabel>("lblDurationInMinutes");
+    lblTotalTime = Named<QLabel>("lblTotalTime");
     cboStartTime = TimeList("cboStartTime");
     cboEndTime = TimeList("cboEndTime");
     lstMultiplicator = TimeList("lstMultiplicator");
     txtDurationInHours = DurationBox("txtDurationInHours");
     txtDurationInMinutes = DurationBox("txtDurationInMinutes");
     txtTotalTime = AsFigure(Named<QLabel>("txtTotalTime"));
-    lblWho->setBuddy(lstWho);
-    lblWhen->setBuddy(txtWhen);
-    lblWhy->setBuddy(cboCategories);
 }
 
 QGridLayout* AttendanceGeneralPage::PeopleAndDates()
 {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(kMargin);
-    grid->addWidget(lblWho, 0, 0);
-    grid->addWidget(lblWhen, 0, 1);
-    grid->addWidget(lstWho, 1, 0);
-    grid->addWidget(txtWhen, 1, 1);
+    grid->addLayout(Headed(lblWho, lstWho), 0, 0);
+    grid->addLayout(Headed(lblWhen, txtWhen), 0, 1);
+    grid->addWidget(AsCaption(lblEmployeeName), 0, 0, Qt::AlignTop | Qt::AlignRight);
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 2);
     lstWho->setMinimumHeight(kListHeight);
@@ -154,11 +157,7 @@ QGridLayout* AttendanceGeneralPage::TimesAndDurations()
     grid->addLayout(Captioned(lblMultiplicator, lstMultiplicator), 0, 2);
     grid->addLayout(Captioned(lblDurationInHours, txtDurationInHours), 1, 0);
     grid->addLayout(Captioned(lblDurationInMinutes, txtDurationInMinutes), 1, 1);
-    auto* total = new QVBoxLayout;
-    total->setSpacing(3);
-    total->addWidget(lblTotalTime);
-    total->addWidget(txtTotalTime);
-    grid->addLayout(total, 1, 2);
+    grid->addLayout(Captioned(lblTotalTime, txtTotalTime), 1, 2, Qt::AlignTop);
     for (int column = 0; column < 3; ++column)
         grid->setColumnStretch(column, 1);
     return grid;
@@ -183,8 +182,8 @@ void AttendanceGeneralPage::LoadCaptions()
 
 AttendanceAdditionalPage::AttendanceAdditionalPage(QWidget* parent) : QWidget(parent)
 {
-    lblHourlyRate = Caption("lblHourlyRate");
-    lblComment = AsHead(Caption("lblComment"));
+    lblHourlyRate = Named<QLabel>("lblHourlyRate");
+    lblComment = Named<QLabel>("lblComment");
     txtHourlyRate = Named<QLineEdit>("txtHourlyRate");
     txtHourlyRate->setFixedWidth(kShortField);
     FilterKeys(txtHourlyRate, KeyFilter::DecimalNumber);
@@ -192,15 +191,13 @@ AttendanceAdditionalPage::AttendanceAdditionalPage(QWidget* parent) : QWidget(pa
     txtComment = Named<QPlainTextEdit>("txtComment");
     txtComment->setTabChangesFocus(true);
     FilterKeys(txtComment, KeyFilter::Comment);
-    lblComment->setBuddy(txtComment);
 
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     page->setSpacing(kGap);
     page->addLayout(Captioned(lblHourlyRate, txtHourlyRate));
     page->addWidget(chkJustified);
-    page->addWidget(lblComment);
-    page->addWidget(txtComment, 1);
+    page->addLayout(Headed(lblComment, txtComment), 1);
 }
 
 void AttendanceAdditionalPage::LoadCaptions()

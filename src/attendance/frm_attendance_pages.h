@@ -20,6 +20,7 @@ public:
     explicit AttendanceGeneralPage(QWidget* parent = nullptr);
     void LoadCaptions();
 
+    QLabel* lblEmployeeName; ///< "FirstName FamilyName" of the employee chosen
     QListWidget* lstWho;
     QPlainTextEdit* txtWhen;
     QComboBox* cboCategories;

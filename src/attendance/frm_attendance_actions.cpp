@@ -1,0 +1,143 @@
+#include "attendance/attendance_guards.h"
+#include "attendance/attendance_messages.h"
+#include "attendance/attendance_records.h"
+#include "attendance/frm_attendance.h"
+#include "attendance/frm_attendance_pages.h"
+#include "foundation/common_services.h"
+#include "foundation/not_yet.h"
+#include "foundation/session_state.h"
+
+#include <QComboBox>
+#include <QPushButton>
+#include <QTabWidget>
+
+void frmAttendance::cmdAddOrUpdate_Click()
+{
+    if (!LeaveDurationBoxes())
+        return;
+    ReadForm();
+    RecalculateTotalTime(entry_);
+    try {
+        SetButtonsEnabled(false);
+        updated_ = PassesGuards() && FindApprovers() && Dispatch();
+    } catch (const RuntimeError& error) {
+        TellError(error);
+    }
+    sstAttendance->setEnabled(true);
+    SetButtonsEnabled(true);
+    if (!updated_)
+        return FocusFieldInError();
+    SessionState.CurrentSelection = entry_.EmployeeName;
+    SessionState.ReloadCalendar = true;
+    cmdQuit_Click();
+}
+
+/// Some guards change what the form shows: the comment, the category.
+bool frmAttendance::PassesGuards()
+{
+    ValidateRecords(entry_);
+    ShowEntry();
+    if (entry_.Validated && entry_.RequiresMonitoring == 1)
+        WillEntitlBeExceeded(datAbsence, entry_);
+    if (entry_.Validated && DrawsOnTimeBank(entry_)) {
+        IsTimeBankedEnough(entry_);
+        ShowCategory();
+    }
+    if (entry_.Validated && !ConflictsAccepted)
+        AreThereOtherAttendanceRecords(datAbsence, entry_);
+    return entry_.Validated;
+}
+
+bool frmAttendance::FindApprovers()
+{
+    if (!SessionState.SubmittingRequest)
+        return true;
+    if (entry_.FirstApprover == 0) {
+        if (ShowGetApprovedBy)
+            ShowGetApprovedBy(entry_);
+        else
+            TellNotYet("frmGetApprovedBy");
+    }
+    if (entry_.FirstApprover == 0)
+        return false;
+    GetApprovalNames(datAbsence, entry_);
+    return true;
+}
+
+/// True when the records are written.
+bool frmAttendance::Dispatch()
+{
+    if (SessionState.ModifyingRecord)
+        return ModifyAttendance();
+    return SessionState.SubmittingRequest ? SubmitAttendance() : NewAttendance();
+}
+
+bool frmAttendance::NewAttendance()
+{
+    if (!ConfirmNewAttendance(entry_))
+        return false;
+    if (SessionState.SQL_Server)
+        NewAttendance_SQL(entry_);
+    else
+        NewAttendance_ACCESS(datAbsence, entry_);
+    return true;
+}
+
+bool frmAttendance::SubmitAttendance()
+{
+    if (!ConfirmSubmission(entry_))
+        return false;
+    if (SessionState.SQL_Server)
+        SubmitAttendance_SQL(entry_);
+    else
+        SubmitAttendance_ACCESS(datAbsence, entry_);
+    if (SendRequestNotice)
+        SendRequestNotice(entry_);
+    TellSubmitted(entry_);
+    return true;
+}
+
+bool frmAttendance::ModifyAttendance()
+{
+    if (!ConfirmModification(entry_))
+        return false;
+    sstAttendance->setEnabled(false);
+    if (SessionState.SQL_Server)
+        ModifyAttendance_SQL(datAbsence, entry_);
+    else
+        ModifyAttendance_ACCESS(datAbsence, entry_);
+    TellModified();
+    return true;
+}
+
+void frmAttendance::FocusFieldInError()
+{
+    auto* field = entry_.FieldInError.isEmpty() ? nullptr : findChild<QWidget*>(entry_.FieldInError);
+    if (!field)
+        return cmdAddOrUpdate->setFocus();
+    sstAttendance->setCurrentWidget(general_);
+    field->setFocus();
+}
+
+void frmAttendance::SetButtonsEnabled(bool enabled)
+{
+    cmdAddOrUpdate->setEnabled(enabled && mayAdd_);
+    cmdQuit->setEnabled(enabled);
+}
+
+void frmAttendance::ResetVariables()
+{
+    entry_ = {};
+    SessionState.TimeBankRelated = 0;
+    SessionState.CreatingMultiple = false;
+    SessionState.ModifyingRecord = false;
+    SessionState.SubmittingRequest = false;
+}
+
+void frmAttendance::cmdQuit_Click()
+{
+    ResetVariables();
+    if (SessionState.EmployeeID == 0)
+        SessionState.EmployeeID = SessionState.UserID;
+    done(updated_ ? Accepted : Rejected);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "attendance/attendance_records.h"
+#include "platform/clock.h"
+#include "support/house.h"
+#include "support/user.h"
+
+#include <QDate>
+
+#include <gtest/gtest.h>
+
+/// A company with an employee (who may only ask for leave) and Marc, his supervisor and approver; ADMIN is logged in.
+class AttendanceTest : public testing::Test
+{
+protected:
+    AttendanceTest()
+    {
+        house.Configured().Company();
+        marc =
+            house.Hire({"MARC", "Marc", "Roy", "Production", "", {"DepartmentLevelCreate", "DepartmentLevelModify"}});
+        chris = house.Hire({"CHRIS", "Chris", "Davis", "Production", "Assembly", {"SelfLevelRead"}, marc, 20.55F});
+        house.LogIn("ADMIN");
+    }
+
+    /// Dates of 2026, and the operation for an employee in a category.
+    void Begin(const QVector<QDate>& dates, int employee, const QString& systemName)
+    {
+        SessionState.AttendanceDates.fill(0);
+        std::transform(dates.begin(), dates.end(), SessionState.AttendanceDates.begin(), SerialOfDate);
+        SessionState.CreatingMultiple = dates.size() > 1;
+        SessionState.EmployeeID = employee;
+        SessionState.SelectedCategoryID = systemName.isEmpty() ? 0 : house.CategoryID(systemName);
+    }
+
+    void Entitle(int employee, const QString& systemName, float carriedOver, float annual)
+    {
+        house.Sql("UPDATE Categories SET RequiresMonitoring = 1 WHERE SystemName = ?", {systemName});
+        house.Sql(
+            "INSERT INTO Entitlements (FiscalYear, CategoryID, EmployeeID, CarriedOver, AnnualEntitlement, Active) "
+            "VALUES (1, ?, ?, ?, ?, 1)",
+            {house.CategoryID(systemName), employee, carriedOver, annual});
+    }
+
+    static QVector<QDate> DatesFrom(const QDate& first, int count)
+    {
+        QVector<QDate> dates;
+        for (int day = 0; day < count; ++day)
+            dates << first.addDays(day);
+        return dates;
+    }
+
+    House house;
+    User user;
+    DataControl datAbsence{"AttendanceTest"};
+    int marc = 0;
+    int chris = 0;
+};

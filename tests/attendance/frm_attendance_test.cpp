@@ -1,0 +1,272 @@
+#include "attendance/attendance_fixture.h"
+#include "attendance/frm_attendance.h"
+
+namespace
+{
+const QDate kMonday(2026, 3, 2);
+const QDate kTuesday(2026, 3, 3);
+
+/// All columns of a record but its id, dates as serial days.
+const char* const kWholeRow =
+    "SELECT FiscalYear, EmployeeID, GroupID, DepartmentID, OrganizationID, CategoryID, RecordDate, Duration, "
+    "StartTime, "
+    "EndTime, TimeMultiplicator, TotalDuration, WholeDay, Comment, Justified, Submitted, SubmittedDateTime, "
+    "SubmittedBy, "
+    "SubmittedTo_First, SubmittedTo_Second, RequestStatus, ApprovedDateTime, ApprovedBy, DeniedDateTime, DeniedBy, "
+    "ApprovalRefusalMessage, EnteredBy, EnteredDate, ModifiedBy, ModifiedDate, CancelledBy, CancelledDate, HourlyRate, "
+    "UnitCost, ExtendedCost FROM Attendance ORDER BY RecordID";
+
+class FrmAttendance : public AttendanceTest
+{
+protected:
+    ~FrmAttendance() override
+    {
+        frmAttendance::ShowGetApprovedBy = {};
+        frmAttendance::SendRequestNotice = {};
+    }
+
+    /// Opens the form on a record that is to be modified.
+    void Modify(frmAttendance& form, int record, int employee, const QString& systemName, const QDate& date)
+    {
+        Begin({date}, employee, systemName);
+        SessionState.ModifyingRecord = true;
+        form.RecordToModify = record;
+        form.show();
+        user.Works(form);
+    }
+
+    QString Numbers(std::initializer_list<int> values)
+    {
+        QStringList texts;
+        for (const int value : values)
+            texts << QString::number(value);
+        return texts.join('|');
+    }
+};
+
+TEST_F(FrmAttendance, ANewRecordIsAddedOnEverySelectedDate)
+{
+    Begin({kMonday, kTuesday}, chris, "Vacation");
+    user.Opens<frmAttendance>();
+    EXPECT_EQ(user.Reads("txtWhen"), "Mon   02-Mar-2026\nTue   03-Mar-2026");
+    EXPECT_EQ(user.Reads("lstWho"), "Davis, Chris /       Northern Works");
+    EXPECT_EQ(user.Reads("cboCategories"), "Vacation");
+    EXPECT_EQ(user.Entries("cboStartTime").size(), 288);
+    EXPECT_EQ(user.Entries("lstMultiplicator").size(), 18);
+
+    user.Checks("chkWholeDay").Picks("lstMultiplicator", " x 1.50");
+    EXPECT_EQ(user.Reads("txtDurationInHours") + user.Reads("txtDurationInMinutes"), "0700");
+    EXPECT_EQ(user.Reads("txtTotalTime"), "21:00");
+    user.Types("txtComment", "Don't #\"call").Presses("txtComment", Qt::Key_Return);
+    user.Checks("chkJustified").Types("txtHourlyRate", "a30.5").LeavesField("txtHourlyRate");
+    EXPECT_EQ(user.Reads("txtHourlyRate"), "30.50");
+    user.WillAnswer("CONFIRM:", "Yes",
+                    "Add the following attendance record(s) to your database?\r\n\r\n"
+                    "Mon 02-03-2026\tStart: 08:30\tEnd: 16:30   \tDuration: 07:00\r\n"
+                    "Tue 03-03-2026\tStart: 08:30\tEnd: 16:30   \tDuration: 07:00\r\n")
+        .Clicks("cmdAddOrUpdate");
+
+    const QString row = "1|" + Numbers({chris, 1, 1, 1, house.CategoryID("Vacation")}) +
+                        "|%1|7|8.5|16.5|1.5|10.5|1|Don`t call|1|0|0|0|0|0|0|0||0|||ADMIN|46083||0||0|30.50|3050|32025";
+    EXPECT_EQ(house.Rows(kWholeRow), row.arg(46083) + "\n" + row.arg(46084));
+    EXPECT_EQ(SessionState.CurrentSelection, "Chris Davis");
+    EXPECT_TRUE(SessionState.ReloadCalendar);
+    EXPECT_EQ(user.The<frmAttendance>().result(), QDialog::Accepted);
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance_Modifications"), 0);
+}
+
+TEST_F(FrmAttendance, ARequestGoesToBothApproversAndBearsTheRoundedMoment)
+{
+    const int eve = house.Hire({"EVE", "Ève", "Émond", "Sales", "", {}});
+    house.Sql("UPDATE Employees SET AttendanceApprovedBy_Backup = ?, EMailAddress = 'x@example.org' WHERE RecordID = ?",
+              {eve, chris});
+    house.Sql("UPDATE Employees SET EMailAddress = LOWER(LoginID) || '@example.org' WHERE RecordID IN (?, ?)",
+              {eve, marc});
+    house.Today(2026, 3, 2, 15).LogIn("CHRIS");
+    Begin({kTuesday}, chris, "Personal time");
+    SessionState.SubmittingRequest = true;
+    SessionState.English = false;
+    QStringList notice;
+    frmAttendance::SendRequestNotice = [&](const AttendanceEntry& entry) {
+        notice = {entry.FirstApproverName,   entry.FirstApproverEMail, entry.SecondApproverName,
+                  entry.SecondApproverEMail, entry.CategoryName,       entry.RequestedDates};
+        EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 1) << "the notice follows the writing";
+    };
+
+    user.Opens<frmAttendance>();
+    EXPECT_EQ(user.Entries("lstWho"), QStringList{"Davis, Chris"});
+    EXPECT_EQ(user.Reads("txtHourlyRate"), "") << "no access to the employees' files";
+    user.Picks("cboStartTime", "23:00").Picks("cboEndTime", "01:00");
+    user.WillAnswer(
+            "DEMANDE DE CONGÉ:", "Oui",
+            "Souhaitez-vous soumettre les enregistrements suivants pour approbation par votre supérieur?\r\n\r\n"
+            "Tue 03-03-2026\tDébut: 23:00\tFin: 01:00   \tDurée: 02:00\r\n")
+        .WillAnswer("DEMANDE DE CONGÉ ENREGISTRÉE:", "OK",
+                    "Votre demande de congé a été reçue et acheminée à Marc Roy copie conforme à Ève Émond. Si vous")
+        .Clicks("cmdAddOrUpdate");
+
+    EXPECT_EQ(house.Rows(kWholeRow), "1|" + Numbers({chris, 1, 1, 1, house.CategoryID("Personal time")}) +
+                                         "|46084|2|23|25|1|2|0||0|1|46084|" + Numbers({chris, marc, eve}) +
+                                         "|0|0||0|||CHRIS|46083||0||0|20.55|2055|4110");
+    EXPECT_EQ(notice, (QStringList{"Marc Roy", "marc@example.org", "Ève Émond", "eve@example.org", "Temps personnel",
+                                   "Tue 03-03-2026\tDébut: 23:00\tFin: 01:00   \tDurée: 02:00\r\n"}));
+}
+
+TEST_F(FrmAttendance, ARequestWithoutAnApproverAsksForOneAndEndsWithoutHim)
+{
+    house.Sql("UPDATE Employees SET AttendanceApprovedBy_Main = 0 WHERE RecordID = ?", {chris});
+    house.LogIn("CHRIS");
+    Begin({kTuesday}, chris, "Sick");
+    SessionState.SubmittingRequest = true;
+    user.Opens<frmAttendance>().Types("txtDurationInHours", "3");
+    user.WillAnswer("NOT AVAILABLE YET:", "OK").Clicks("cmdAddOrUpdate");
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 0);
+
+    frmAttendance::ShowGetApprovedBy = [this](AttendanceEntry& entry) { entry.FirstApprover = marc; };
+    user.WillAnswer("REQUEST FOR APPROVAL:", "Yes", "Tue 03-03-2026\tDuration: 03:00\r\n")
+        .WillAnswer("REQUEST SUBMITTED SUCCESSFULLY:", "OK", "has been sent to Marc Roy. If you do not receive")
+        .Clicks("cmdAddOrUpdate");
+    EXPECT_EQ(house.Number("SELECT SubmittedTo_First FROM Attendance"), marc);
+}
+
+TEST_F(FrmAttendance, AModifiedRecordIsAuditedAsItWas)
+{
+    const int record = house.Record(chris, "Time claimed", kMonday, -2);
+    house.Record(chris, "Time accumulated", kTuesday, 20);
+    house.Sql(
+        "UPDATE Attendance SET StartTime = 8.55, EndTime = 10.55, TimeMultiplicator = 1.33, TotalDuration = -2.66, "
+        "Comment = ' before ', Justified = 1, HourlyRate = '18.00' WHERE RecordID = ?",
+        {record});
+    house.Today(2026, 3, 9);
+    frmAttendance form;
+    Modify(form, record, chris, "Time claimed", kMonday);
+    EXPECT_FALSE(user.CanUse("lstWho"));
+    EXPECT_EQ(user.Reads("cboStartTime") + user.Reads("cboEndTime"), "08:3310:33") << "times off the five minutes";
+    EXPECT_EQ(user.Reads("txtDurationInHours") + user.Reads("txtDurationInMinutes"), "0200");
+    EXPECT_EQ(user.Reads("lstMultiplicator"), " x 1.33");
+    EXPECT_EQ(user.Reads("txtComment") + user.Reads("chkJustified") + user.Reads("txtHourlyRate"), "before118.00");
+    user.Picks("cboEndTime", "11:00").Types("txtHourlyRate", "");
+    EXPECT_EQ(user.Entries("cboEndTime").size(), 288);
+    EXPECT_EQ(user.Reads("txtTotalTime"), "03:16");
+    user.WillAnswer("CONFIRM:", "Yes",
+                    "Modify the selected attendance record as follows?\r\n\r\nCategory:\tTime claimed\r\n"
+                    "Mon 02-03-2026\tStart: 08:33\tEnd: 11:00   \tDuration: -(02:27)\r\n")
+        .WillAnswer("OPERATION COMPLETED:", "OK", "The selected attendance record has been modified.")
+        .Clicks("cmdAddOrUpdate");
+
+    const QString columns =
+        "SELECT RecordID, RecordDate, Duration, StartTime, EndTime, Comment, EnteredDate, ModifiedBy, "
+        "ModifiedDate, HourlyRate, UnitCost FROM ";
+    EXPECT_EQ(house.Rows(columns + "Attendance_Modifications"),
+              QString::number(record) + "|46083|-2|8.55|10.55| before |46083||0||0");
+    EXPECT_EQ(
+        house.Rows("SELECT RecordID, ROUND(Duration, 4), EndTime, Comment, EnteredDate, ModifiedBy, ModifiedDate, "
+                   "HourlyRate, UnitCost, ExtendedCost FROM Attendance WHERE CategoryID = ?",
+                   {house.CategoryID("Time claimed")}),
+        QString::number(record) + "|-2.45|11|before|46083|ADMIN|46090|20.55|2055|-6696");
+    EXPECT_FALSE(SessionState.ModifyingRecord);
+}
+
+TEST_F(FrmAttendance, AFailureInTheMiddleLeavesTheEarlierRowsAndTheFormAsTyped)
+{
+    house.Sql("CREATE TRIGGER Failing BEFORE INSERT ON Attendance WHEN NEW.RecordDate = 46085 "
+              "BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
+    Begin(DatesFrom(kMonday, 5), chris, "Sick");
+    user.Opens<frmAttendance>().Types("txtDurationInHours", "2").Types("txtComment", "flu");
+    user.WillAnswer("CONFIRM:", "Yes")
+        .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk trouble")
+        .Clicks("cmdAddOrUpdate");
+    EXPECT_EQ(house.Rows("SELECT RecordDate FROM Attendance"), "46083\n46084");
+    EXPECT_TRUE(user.CanUse("cmdAddOrUpdate") && user.CanUse("cmdQuit"));
+    EXPECT_EQ(user.Reads("txtDurationInHours") + user.Reads("txtComment"), "2flu");
+    EXPECT_FALSE(SessionState.ReloadCalendar);
+}
+
+TEST_F(FrmAttendance, AboveNineDatesTheQuestionScrolls)
+{
+    bool scrolls = false;
+    SetMessagePresenter([&scrolls](const Message&) {
+        scrolls = SessionState.MessageScrollBar;
+        return MessageCode::Yes;
+    });
+    for (const int count : {9, 10}) {
+        Begin(DatesFrom(QDate(2026, count, 1), count), chris, "Sick");
+        user.Opens<frmAttendance>().Types("txtDurationInHours", "1").Clicks("cmdAddOrUpdate");
+        EXPECT_EQ(scrolls, count > 9);
+        EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance WHERE CategoryID = ?", {house.CategoryID("Sick")}),
+                  count == 9 ? 9 : 19);
+    }
+    EXPECT_FALSE(SessionState.MessageScrollBar);
+}
+
+TEST_F(FrmAttendance, DurationBoxesRefuseWhatNoDayHolds)
+{
+    Begin({kMonday}, chris, "Sick");
+    user.Opens<frmAttendance>().Checks("chkFirstHalf").Types("txtDurationInHours", "2a4");
+    EXPECT_EQ(user.Reads("chkFirstHalf") + user.Reads("cboStartTime") + user.Reads("txtTotalTime"), "0");
+    user.LeavesField("txtDurationInHours");
+    EXPECT_EQ(user.Reads("txtDurationInHours"), "");
+    EXPECT_TRUE(user.HasFocus("txtDurationInHours"));
+    user.Types("txtDurationInHours", "23").LeavesField("txtDurationInHours").Types("txtDurationInMinutes", "60");
+    user.Presses("txtDurationInMinutes", Qt::Key_Return);
+    EXPECT_TRUE(user.HasFocus("txtDurationInMinutes"));
+    user.Types("txtDurationInMinutes", "59").LeavesField("txtDurationInMinutes");
+    EXPECT_EQ(user.Reads("txtTotalTime"), "23:59");
+}
+
+TEST_F(FrmAttendance, AnotherEmployeeStartsAfresh)
+{
+    Entitle(chris, "Vacation", 0, 0);
+    house.Sql("UPDATE CategoriesDepartments SET IsUsed = 0 WHERE CategoryID = ? AND DepartmentID = 3",
+              {house.CategoryID("Sick")});
+    house.Sql("UPDATE Employees SET FirstName = 'Dennis', FamilyName = 'Marks' WHERE RecordID = ?", {marc});
+    house.Hire({"ZOE", "Zoe", "Abel", "Stores", "", {}, 0, 33, false});
+    Begin({kMonday}, chris, "Vacation");
+    user.WillAnswer("WARNING:", "Yes",
+                    "The category «Vacation» involves an annual entitlement! You did not scecify Chris Davis' annual "
+                    "entitlement for this category.\r\n\r\nProceed anyway?");
+    user.Opens<frmAttendance>();
+    user.The<frmAttendance>().ConflictsAccepted = true;
+    user.Checks("chkWholeDay").Picks("lstWho", "Abel");
+    EXPECT_FALSE(user.The<frmAttendance>().ConflictsAccepted);
+    EXPECT_EQ(user.Reads("cboCategories"), "(All categories)");
+    EXPECT_FALSE(user.Entries("cboCategories").contains("Sick"));
+    EXPECT_EQ(user.Reads("chkWholeDay") + user.Reads("txtTotalTime") + user.Reads("txtHourlyRate"), "033.00");
+    EXPECT_FALSE(user.CanUse("chkWholeDay") || user.CanUse("chkFirstHalf"));
+
+    user.WillAnswer("WARNING:", "No", "You did not scecify Zoe Abel's annual").Picks("cboCategories", "Vacation");
+    EXPECT_EQ(user.Reads("cboCategories"), "");
+    EXPECT_EQ(SessionState.SelectedCategoryID, 0);
+    user.WillAnswer("ERROR:", "OK", "select a category").Clicks("cmdAddOrUpdate");
+    EXPECT_TRUE(user.HasFocus("cboCategories"));
+    user.Leaves();
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 0);
+}
+
+TEST_F(FrmAttendance, BorrowedTimeIsStoredAsClaimedWhileTheListShowsNothing)
+{
+    house.Record(chris, "Time accumulated", kTuesday, 8);
+    Begin({kMonday}, chris, "Time borrowed");
+    user.Opens<frmAttendance>().Types("txtDurationInHours", "5");
+    user.WillAnswer("CONFIRM:", "Yes", "instead of Time borrowed?").WillAnswer("CONFIRM:", "No", "Duration: -(05:00)");
+    user.Clicks("cmdAddOrUpdate");
+    EXPECT_EQ(user.Reads("cboCategories"), "");
+    user.WillAnswer("CONFIRM:", "Yes").WillAnswer("CONFIRM:", "Yes").Clicks("cmdAddOrUpdate");
+    EXPECT_EQ(house.Rows("SELECT CategoryID, Duration, TotalDuration FROM Attendance WHERE RecordDate = 46083"),
+              QString::number(house.CategoryID("Time claimed")) + "|-5|-5");
+}
+
+TEST_F(FrmAttendance, WhoMayAddForNobodyCanOnlyClose)
+{
+    house.LogIn("CHRIS");
+    Begin({kMonday}, 0, "Sick");
+    SessionState.EmployeeLocked = true;
+    user.Opens<frmAttendance>();
+    EXPECT_TRUE(user.Entries("lstWho").isEmpty());
+    EXPECT_FALSE(user.CanUse("cmdAddOrUpdate") || user.CanUse("lstWho"));
+    user.Clicks("cmdQuit");
+    EXPECT_EQ(user.The<frmAttendance>().result(), QDialog::Rejected);
+    EXPECT_EQ(SessionState.EmployeeID, chris);
+    EXPECT_FALSE(SessionState.ReloadCalendar);
+}
+} // namespace
