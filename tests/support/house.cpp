@@ -8,6 +8,7 @@
 #include "platform/clock.h"
 #include "platform/program.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLocale>
 
@@ -74,19 +75,25 @@ QString House::DeliveredFolder()
     return delivered.path();
 }
 
-House::House()
+House::House(const QString& folder)
+    : temporary_(folder.isEmpty() ? std::make_unique<QTemporaryDir>() : nullptr),
+      folder_(temporary_ ? temporary_->path() : folder)
 {
+    if (!temporary_) {
+        QDir(folder_).removeRecursively();
+        QDir().mkpath(folder_);
+    }
     SessionState = Session();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::Canada));
-    SetProgramFolder(folder_.path());
+    SetProgramFolder(folder_);
     for (const char* name : {"/Tarvell.mdb", "/Config.mdb"})
-        QFile::copy(DeliveredFolder() + name, folder_.path() + name);
+        QFile::copy(DeliveredFolder() + name, folder_ + name);
     SetClockSource({[] { return moment; }, [](int) {}});
     SetEndHandler([] {
         DefaultWorkspace().Close();
         throw ProgramEnded();
     });
-    SessionState.DatabasePath = folder_.path();
+    SessionState.DatabasePath = folder_;
     Today(2026, 3, 2);
 }
 
@@ -114,7 +121,11 @@ House& House::Company()
 {
     FiscalYear("2026", 2026);
     SeedAdministrator();
-    SeedUnits();
+    return Units();
+}
+
+void House::SeedHolidays()
+{
     const std::pair<QDate, const char*> holidays[] = {{{2026, 1, 1}, "New Year"},
                                                       {{2026, 7, 1}, "Canada Day"},
                                                       {{2026, 9, 7}, "Labour Day"},
@@ -123,7 +134,6 @@ House& House::Company()
         Sql("INSERT INTO Holidays (HolidayDate, HolidayName, EnteredBy, EnteredDate, CancelledDate) "
             "VALUES (?, ?, 'ADMIN', ?, 0)",
             {SerialOfDate(date), name, ::Today()});
-    return *this;
 }
 
 int House::FiscalYear(const QString& name, int year, int month)
@@ -162,7 +172,7 @@ void House::SeedAdministrator()
     Insert("Employees", admin);
 }
 
-void House::SeedUnits()
+House& House::Units()
 {
     const auto unit = [this](const char* table, const QString& kind, const QString& english, const QString& french,
                              QVariantMap above) {
@@ -180,6 +190,8 @@ void House::SeedUnits()
         Sql("INSERT INTO CategoriesDepartments (FiscalYear, CategoryID, DepartmentID, IsUsed) "
             "SELECT 1, RecordID, ?, 1 FROM Categories WHERE FiscalYear = 1",
             {department});
+    SeedHolidays();
+    return *this;
 }
 
 int House::Hire(const Person& person, int fiscalYear)

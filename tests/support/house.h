@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
+#include <memory>
 #include <ostream>
 
 /// Where the house and its user complain; the test program makes failures of it, the tour ends.
@@ -33,12 +34,13 @@ struct Person {
 class House
 {
 public:
-    House();
+    /// An empty `folder` makes one that is gone with the house; another one is emptied first and stays.
+    explicit House(const QString& folder = {});
     ~House();
     House(const House&) = delete;
     House& operator=(const House&) = delete;
 
-    QString Folder() const { return folder_.path(); }
+    QString Folder() const { return folder_; }
     /// The day, and the time of day, that the program sees.
     House& Today(int year, int month, int day, int hour = 9, int minute = 0);
     /// The configuration of a workstation whose database lies in the program's folder.
@@ -46,6 +48,8 @@ public:
     /// Fiscal year 2026, the eight system categories, ADMIN (password SECRET), two organizations, three departments, a
     /// group, four holidays.
     House& Company();
+    /// The units, holidays and category links of that company in a year that stands already.
+    House& Units();
     /// A further fiscal year from that first day, with its eight system categories. Returns its RecordID.
     int FiscalYear(const QString& name, int year, int month = 1);
     /// An employee of 2026 (password PASS); returns the RecordID.
@@ -72,9 +76,10 @@ private:
     int Insert(const char* table, const QVariantMap& values);
     void SeedCategories(int fiscalYear);
     void SeedAdministrator();
-    void SeedUnits();
+    void SeedHolidays();
 
-    QTemporaryDir folder_;
+    std::unique_ptr<QTemporaryDir> temporary_;
+    QString folder_;
 };
 
 /// How a failed comparison of texts shows them.

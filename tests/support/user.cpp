@@ -215,6 +215,8 @@ User& User::WillChooseFile(const QString& path)
 int User::AnswerMessage(const Message& message)
 {
     lastMessage_ = message.Text;
+    if (SeesMessage)
+        SeesMessage(message);
     const QString shown = message.Title + "\n" + message.Text;
     if (answers_.empty()) {
         Complain("unexpected message: " + shown);

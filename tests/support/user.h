@@ -68,6 +68,8 @@ public:
         return *this;
     }
     QString LastMessage() const { return lastMessage_; }
+    /// Called with each message before it is answered.
+    std::function<void(const Message&)> SeesMessage;
 
     /// Saves the form that is worked on as a picture.
     User& Photographs(const QString& file);

@@ -1,0 +1,336 @@
+#include "tour.h"
+
+#include "attendance/frm_attendance.h"
+#include "calendar/frm_main.h"
+#include "foundation/connection.h"
+#include "foundation/frm_about.h"
+#include "foundation/frm_change_password.h"
+#include "foundation/frm_login.h"
+#include "foundation/frm_message_box.h"
+#include "foundation/frm_splash_screen.h"
+#include "foundation/frm_update_admin_info.h"
+#include "foundation/texts.h"
+#include "platform/clock.h"
+#include "platform/controls/flex_grid.h"
+#include "platform/controls/form_kit.h"
+#include "selection/frm_select_attendance_record.h"
+#include "selection/frm_select_dates.h"
+#include "selection/frm_select_employee.h"
+#include "setup/frm_set_up_wizard.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTextStream>
+
+namespace
+{
+QString ProgramFolderOf(const QString& folder, bool english)
+{
+    return QDir(folder).absoluteFilePath(english ? "english" : "french");
+}
+} // namespace
+
+Tour::Tour(const QString& folder, bool english)
+    : folder_(folder), english_(english), house_(ProgramFolderOf(folder, english))
+{
+    house_.Today(2026, 11, 23);
+    SessionState.English = english;
+    user_.SeesMessage = [this](const Message& message) { PhotoMessage(message); };
+}
+
+Tour::~Tour() = default;
+
+void Tour::Walk()
+{
+    SetUpWorkstation();
+    AddPeople();
+    LogInAsAdministrator();
+    TakeVacation();
+    TakePeriod();
+    FallSick();
+    AccumulateTime();
+    ModifyRecord();
+    VisitSmallForms();
+    RequestLeave();
+    Confirm();
+}
+
+void Tour::Say(const QString& what) const
+{
+    QTextStream(stdout) << (english_ ? "[en] " : "[fr] ") << what << "\n";
+}
+
+void Tour::Photo(const QString& name)
+{
+    user_.Photographs(QStringLiteral("%1/%2_%3.png").arg(folder_, name, english_ ? "en" : "fr"));
+}
+
+void Tour::PhotoMessage(const Message& message)
+{
+    frmMessageBox box(message);
+    box.show();
+    QTest::qWait(20); // the face comes with the first tick
+    box.grab().save(QStringLiteral("%1/message_%2_%3.png")
+                        .arg(folder_)
+                        .arg(++messages_, 2, 10, QLatin1Char('0'))
+                        .arg(english_ ? "en" : "fr"));
+}
+
+void Tour::Start()
+{
+    const auto showMain = [this] {
+        main_ = std::make_unique<frmMain>();
+        main_->show();
+        main_->Form_Load();
+        main_->timAbsence_Timer();
+    };
+    bool configured = false;
+    const auto showWizard = [this, &configured] {
+        frmSetUpWizard wizard([&configured] { configured = true; });
+        user_.WhenOpens<frmSetUpWizard>([this](frmSetUpWizard&) { WorkWizard(); });
+        ShowModal(wizard);
+    };
+    main_.reset();
+    frmSplashScreen splash({showWizard, [] {}, showMain});
+    splash.show();
+    user_.Works(splash);
+    Photo("splash");
+    splash.Form_Activate();
+    if (main_)
+        user_.Works(*main_);
+}
+
+void Tour::SetUpWorkstation()
+{
+    Say("An empty folder: the wizard sets the workstation up");
+    Start();
+}
+
+void Tour::WorkWizard()
+{
+    Photo("wizard_1_language");
+    user_.Clicks(english_ ? "optEnglish" : "optFrench").Clicks("cmdNext");
+    user_.Clicks("optNewAccessDatabase");
+    Photo("wizard_2_kind");
+    user_.Clicks("cmdNext");
+    Photo("wizard_3_database");
+    user_.Clicks("cmdNext").Types("txtFiscalYearName", "2026");
+    user_.Picks("cboStartMonth", T("January", "Janvier")).Picks("cboStartYear", "2026");
+    Photo("wizard_4_fiscal_year");
+    user_.Clicks("cmdNext");
+    user_.Types("txtHours_Vacation", "105").Types("txtHours_Sick", "35");
+    user_.Checks("chkPersonalTime_NoEntitlement").Checks("chkDoctor_EntitlementVaries");
+    user_.Checks("chkVacation_CarryOver");
+    Photo("wizard_5_categories");
+    user_.Clicks("cmdNext");
+    user_.Types("txtAdminFamilyName", "Tremblay").Types("txtAdminFirstName", "Alice");
+    user_.Types("txtAdminPhoneNumber", "418-555-0100").Types("txtAdminPassword", "secret").LeavesField("txtAdminPassword");
+    Photo("wizard_6_administrator");
+    user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui"));
+    user_.WillAnswer(T("CONFIGURATION COMPLETED SUCCESSFULLY:", "CONFIGURATION INITIALE COMPLÉTÉE:"), "OK");
+    user_.Clicks("cmdNext");
+}
+
+void Tour::AddPeople()
+{
+    Say("Units and people come in");
+    house_.Units();
+    house_.Hire({"LCOTE", "Luc", "Côté", "Production", "Assembly", {"SelfLevelRead", "IsAuthorizedToApprove"}});
+    const int luc = house_.Number("SELECT RecordID FROM Employees WHERE LoginID = 'LCOTE'");
+    house_.Hire({"MBOUCHARD", "Marie", "Bouchard", "Production", "Assembly", {"SelfLevelRead"}, luc, 24.5F});
+    house_.Hire({"EGAGNON", "Émilie", "Gagnon", "Sales", "", {"SelfLevelRead"}, luc});
+    house_.Hire({"PROY", "Pierre", "Roy", "Stores", "", {"SelfLevelRead"}, luc});
+    house_.Sql("UPDATE Employees SET Language = ?", {english_ ? 0 : 1});
+    house_.Sql("INSERT INTO Entitlements (FiscalYear, CategoryID, EmployeeID, AnnualEntitlement, Active) SELECT "
+               "Categories.FiscalYear, Categories.RecordID, Employees.RecordID, 105, 1 FROM Categories, Employees WHERE "
+               "Categories.SystemName IN ('Vacation', 'Sick') AND Employees.FiscalYear = 1");
+}
+
+void Tour::LogInAsAdministrator()
+{
+    Say("The administrator logs in");
+    LogInAs("admin", "secret");
+    Photo("main_window_start");
+}
+
+void Tour::LogInAs(const QString& loginID, const QString& password)
+{
+    user_.WhenOpens<frmLogin>([this, loginID, password](frmLogin&) {
+        user_.Types("txtUserName", loginID).Types("txtPassword", password);
+        Photo("login");
+        user_.Clicks("cmdOK");
+    });
+    Start();
+}
+
+void Tour::ChooseEmployee(const QString& department, const QString& name)
+{
+    user_.WhenOpens<frmSelectEmployee>([this, department, name](frmSelectEmployee&) {
+        user_.Picks("lstDepartments", department).Picks("lstEmployees", name);
+        Photo("select_employee");
+        user_.Clicks("cmdSelect");
+    });
+    user_.Clicks("imgUpdateSelection");
+}
+
+void Tour::ClickDays(int month, std::initializer_list<int> days)
+{
+    auto* grid = main_->findChild<FlexGrid*>("flxCalendar");
+    for (const int day : days) {
+        const QPoint place = main_->Calendar().PlaceOf(SerialOfDate({2026, month, day}));
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          grid->CellRect(place.y(), place.x()).center());
+    }
+}
+
+void Tour::TakeVacation()
+{
+    Say("Marie takes vacation on dates marked one by one");
+    ChooseEmployee(T("Production", "Fabrication"), "Bouchard, Marie");
+    user_.Clicks("imgCreateMultiple");
+    ClickDays(12, {14, 15, 16});
+    Photo("main_window_marking");
+    user_.WhenOpens<frmAttendance>([this](frmAttendance&) {
+        user_.Picks("cboCategories", T("Vacation", "Vacances")).Checks("chkWholeDay");
+        Photo("attendance_general");
+        user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui")).Clicks("cmdAddOrUpdate");
+    });
+    user_.Clicks("imgCreateMultiple");
+}
+
+void Tour::TakePeriod()
+{
+    Say("and two summer weeks around a holiday");
+    user_.WhenOpens<frmSelectDates>([this](frmSelectDates&) {
+        user_.Picks("cboFrom", FormatDate(SerialOfDate({2026, 6, 29}), "ddd dd-mmm-yyyy"));
+        user_.Picks("cboTo", FormatDate(SerialOfDate({2026, 7, 10}), "ddd dd-mmm-yyyy"));
+        Photo("select_dates");
+        user_.Clicks("cmdOK");
+    });
+    user_.WhenOpens<frmAttendance>([this](frmAttendance&) {
+        user_.Picks("cboCategories", T("Vacation", "Vacances")).Checks("chkWholeDay");
+        user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui")).Clicks("cmdAddOrUpdate");
+    });
+    user_.Clicks("imgCreateConsecutive");
+}
+
+void Tour::FallSick()
+{
+    Say("A morning of sickness and an afternoon at the doctor's share a day");
+    const std::pair<QString, QString> halves[] = {{T("Sick", "Maladie"), "chkFirstHalf"},
+                                                  {T("Doctor appointments", "Rendez-vous médical"), "chkSecondHalf"}};
+    bool first = true;
+    for (const auto& [category, half] : halves) {
+        user_.Clicks("imgCreateSingle");
+        user_.WhenOpens<frmAttendance>([this, category = category, half = half, first](frmAttendance&) {
+            if (!first) // nothing has been granted for it
+                user_.WillAnswer(T("WARNING:", "ATTENTION:"), T("Yes", "Oui"));
+            user_.Picks("cboCategories", category).Checks(half);
+            user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui")).Clicks("cmdAddOrUpdate");
+        });
+        if (!first)
+            user_.WillAnswer(T("WARNING:", "ATTENTION:"), T("Yes", "Oui"));
+        ClickDays(10, {22});
+        first = false;
+    }
+}
+
+void Tour::AccumulateTime()
+{
+    Say("Overtime on a holiday goes into the time bank");
+    user_.Clicks("imgCreateSingle");
+    user_.WhenOpens<frmAttendance>([this](frmAttendance&) {
+        user_.Picks("cboCategories", T("Time accumulated", "Temps accumulé"));
+        user_.Picks("cboStartTime", "22:30").Picks("cboEndTime", "01:00").Picks("lstMultiplicator", " x 1.50");
+        user_.Types("txtComment", "Inventory of the year");
+        user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui")).Clicks("cmdAddOrUpdate");
+    });
+    user_.WillAnswer(T("WARNING!", "ATTENTION!"), T("Yes", "Oui"));
+    ClickDays(9, {7});
+}
+
+void Tour::ModifyRecord()
+{
+    Say("A record is changed, the old one is kept");
+    user_.Picks("cboCategories", T("Sick", "Maladie")).Clicks("imgModify");
+    user_.WhenOpens<frmAttendance>([this](frmAttendance& form) {
+        user_.Types("txtDurationInHours", "2").LeavesField("txtDurationInHours");
+        user_.Types("txtDurationInMinutes", "15").LeavesField("txtDurationInMinutes");
+        form.findChild<QTabWidget*>("sstAttendance")->setCurrentIndex(1);
+        user_.Checks("chkJustified").Types("txtComment", T("With a doctor's note", "Avec billet du médecin"));
+        Photo("attendance_additional");
+        user_.WillAnswer(T("WARNING:", "ATTENTION:"), T("Yes", "Oui"));
+        user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui"));
+        user_.WillAnswer(T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:"), "OK").Clicks("cmdAddOrUpdate");
+    });
+    ClickDays(10, {22});
+    user_.Picks("cboCategories", T("(All categories)", "(Toutes les catégories)"));
+    Photo("main_window");
+    ClickDays(10, {22});
+    Photo("main_window_day");
+}
+
+void Tour::VisitSmallForms()
+{
+    Say("The small forms");
+    const auto choose = [this](const char* menu) { main_->findChild<QAction*>(menu)->trigger(); };
+    user_.WhenOpens<frmChangePassword>([this](frmChangePassword&) {
+        Photo("change_password");
+        user_.Clicks("cmdCancel");
+    });
+    choose("mnuSpecialChangePassword");
+    user_.WhenOpens<frmUpdateAdminInfo>([this](frmUpdateAdminInfo&) {
+        Photo("update_admin_info");
+        user_.Clicks("cmdCancel");
+    });
+    choose("mnuSpecialUpdateAdminInfo");
+    user_.WhenOpens<frmAbout>([this](frmAbout&) {
+        Photo("about");
+        user_.Clicks("cmdOK");
+    });
+    choose("mnuHelpAbout");
+}
+
+void Tour::RequestLeave()
+{
+    Say("Marie logs in herself and asks for the days before Christmas");
+    LogInAs("mbouchard", "pass");
+    user_.Clicks("imgSubmit");
+    ClickDays(12, {23, 24});
+    user_.WhenOpens<frmAttendance>([this](frmAttendance&) {
+        user_.Picks("cboCategories", T("Vacation", "Vacances")).Checks("chkWholeDay");
+        Photo("attendance_request");
+        user_.WillAnswer(T("REQUEST FOR APPROVAL:", "DEMANDE DE CONGÉ:"), T("Yes", "Oui"));
+        user_.WillAnswer(T("REQUEST SUBMITTED SUCCESSFULLY:", "DEMANDE DE CONGÉ ENREGISTRÉE:"), "OK");
+        user_.Clicks("cmdAddOrUpdate");
+    });
+    user_.Clicks("imgSubmit");
+    main_->findChild<QAction*>("mnuSpecialDisplayPending")->trigger();
+    Photo("main_window_pending");
+}
+
+/// What the walk must have left in the database, read back with plain SQL.
+void Tour::Confirm()
+{
+    const std::pair<const char*, const char*> expected[] = {
+        {"SELECT COUNT(*) || '|' || SUM(TotalDuration) FROM Attendance A, Categories C WHERE A.CategoryID = C.RecordID AND "
+         "SystemName = 'Vacation' AND Submitted = 0",
+         "12|84.0"},
+        {"SELECT COUNT(DISTINCT CategoryID) FROM Attendance WHERE RecordDate = 46317", "2"},
+        {"SELECT Duration || '|' || TotalDuration || '|' || EndTime FROM Attendance A, Categories C WHERE A.CategoryID = "
+         "C.RecordID AND SystemName = 'Time accumulated'",
+         "2.5|3.75|25.0"},
+        {"SELECT COUNT(*) || '|' || SUM(RequestStatus) FROM Attendance WHERE Submitted = 1", "2|0"},
+        {"SELECT COUNT(*) || '|' || Duration FROM Attendance_Modifications", "1|3.5"},
+        {"SELECT COUNT(*) FROM Attendance WHERE UnitCost <> 2450", "0"},
+    };
+    for (const auto& [sql, result] : expected) {
+        const QString found = house_.Rows(sql);
+        Say(QStringLiteral("%1 = %2").arg(QString(sql).simplified(), found));
+        if (found != QLatin1String(result))
+            Complain("expected " + QString(result));
+    }
+}
