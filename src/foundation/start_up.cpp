@@ -2,6 +2,7 @@
 
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/database_choice.h"
 #include "foundation/deployment.h"
 #include "foundation/rows.h"
 #include "foundation/session_rows.h"
@@ -13,8 +14,6 @@
 
 namespace
 {
-constexpr int kFileNameLength = 12; // of "\TARVELL.MDB"
-
 std::unique_ptr<Database> OpenConfiguration()
 {
     return Database::Open(JoinPath(ProgramFolder(), "Config.mdb"), kConfigPassword);
@@ -23,61 +22,26 @@ std::unique_ptr<Database> OpenConfiguration()
 RowValues ConfigurationValues()
 {
     const Session& s = SessionState;
-    return {{"SQL_Server", s.SQL_Server},     {"IP_Address", s.IP_Address},     {"Username", s.Username},
-            {"Password", s.Password},         {"DatabasePath", s.DatabasePath}, {"DatabaseName", s.DatabaseName}};
-}
-
-/// Opens the chosen file and reads a table of it. Throws when it is no database of this program.
-void TryDatabase(const QString& path)
-{
-    const auto database = Database::Open(path, kDatabasePassword);
-    database->OpenRecordset("SELECT COUNT(*) FROM FiscalYears");
-}
-
-QString AskForDatabaseFile()
-{
-    return ChooseFile({T("Locate database:", "Localisation de la banque de données:"), "Access(*.mdb)|*.mdb",
-                       "Tarvell.mdb", ProgramFolder()})
-        .replace('/', '\\')
-        .toUpper();
-}
-
-bool IsDatabaseName(const QString& path)
-{
-    if (path.endsWith("\\TARVELL.MDB"))
-        return true;
-    Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
-         T("Invalid database name!\r\n\r\nThe database used by Tarvell is called «Tarvell.mdb».",
-           "Nom de banque de données invalide!\r\n\r\nLa banque de données exploitée par Tarvell porte le nom "
-           "«Tarvell.mdb»."),
-         Face::Warning);
-    return false;
-}
-
-bool CanBeUsed(const QString& path)
-{
-    try {
-        TryDatabase(path);
-        return true;
-    } catch (const RuntimeError& error) {
-        Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
-             T("Unable to connect to the selected database!", "La connexion à la banque de données spécifiée a échoué!") +
-                 "\r\n\r\n" + QString::number(error.Number) + ": " + error.Description,
-             Face::Warning);
-        return false;
-    }
+    return {{"SQL_Server", s.SQL_Server}, {"IP_Address", s.IP_Address},     {"Username", s.Username},
+            {"Password", s.Password},     {"DatabasePath", s.DatabasePath}, {"DatabaseName", s.DatabaseName}};
 }
 
 void ConnectToNewAccessDatabase(DataControl& datAbsence)
 {
-    const QString path = AskForDatabaseFile();
-    if (path.isEmpty() || !IsDatabaseName(path) || !CanBeUsed(path))
+    const QString path =
+        ChooseDatabaseFile(T("Locate database:", "Localisation de la banque de données:"), ProgramFolder());
+    if (path.isEmpty())
         return;
-    SessionState.DatabasePath = path.chopped(kFileNameLength);
+    if (!HasDatabaseName(path))
+        return TellInvalidDatabaseName();
+    if (!CanBeConnectedTo(path))
+        return;
+    SessionState.DatabasePath = path.chopped(kDatabaseNameLength);
     SessionState.DatabaseName = "Tarvell.mdb";
     SessionState.SQL_Server = false;
     if (Ask(T("CONNECTION TO DATABASE SUCCESSFUL:", "CONNEXION À LA BANQUE DE DONNÉES ÉTABLIE:"),
-            T("Tarvell was able to access the specified database.\r\n\r\nDo you wish to connect to the same database the "
+            T("Tarvell was able to access the specified database.\r\n\r\nDo you wish to connect to the same database "
+              "the "
               "next time you start Tarvell?",
               "Tarvell est maintenant connecté à la banque de données spécifiée.\r\n\r\nSouhaitez-vous exploiter cette "
               "banque de données la prochaine fois que vous démarrerez Tarvell?")))

@@ -17,7 +17,8 @@ DateList ChosenDates(const ConsecutiveDates& choice, const WorkSchedule& schedul
 {
     const std::array<bool, 7> works = WorkingDays(schedule);
     const auto isHoliday = [&holidays](int date) {
-        return std::any_of(holidays.begin(), holidays.end(), [date](const Holiday& holiday) { return holiday.Date == date; });
+        return std::any_of(holidays.begin(), holidays.end(),
+                           [date](const Holiday& holiday) { return holiday.Date == date; });
     };
     DateList dates{};
     std::size_t count = 0;
@@ -38,7 +39,7 @@ int CountDates(const DateList& dates)
 
 QString WeekdayName(int weekday)
 {
-    constexpr const char* names[7][2] = {{"Sunday", "Dimanche"},   {"Monday", "Lundi"},   {"Tuesday", "Mardi"},
+    constexpr const char* names[7][2] = {{"Sunday", "Dimanche"},    {"Monday", "Lundi"},   {"Tuesday", "Mardi"},
                                          {"Wednesday", "Mercredi"}, {"Thursday", "Jeudi"}, {"Friday", "Vendredi"},
                                          {"Saturday", "Samedi"}};
     return T(names[weekday][0], names[weekday][1]);

@@ -6,7 +6,8 @@
 #include <array>
 
 /// What is asked for: every chosen weekday from one serial day to another, both included.
-struct ConsecutiveDates {
+struct ConsecutiveDates
+{
     int From = 0;
     int To = 0;
     std::array<bool, 7> Weekdays{}; ///< Sunday first

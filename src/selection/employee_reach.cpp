@@ -49,7 +49,8 @@ QVector<ReachEntry> Organizations(DataControl& datAbsence)
     const QString name = NameColumn("Organization");
     const int only = OnlyUnit(SessionState.GlobalLevelRead, SessionState.UserOrganizationID);
     return Entries(datAbsence.Select("SELECT * FROM Organizations WHERE FiscalYear = ? AND (? = 0 OR RecordID = ?) "
-                                     "ORDER BY " + name + " ASC",
+                                     "ORDER BY " +
+                                         name + " ASC",
                                      SessionState.FiscalYearID, only, only),
                    [&name](const Recordset& row) {
                        return ReachEntry{row.Text(name), {row.Long("RecordID"), 0, 0, 0, row.Text(name)}};
@@ -60,13 +61,14 @@ QVector<ReachEntry> Departments(DataControl& datAbsence, const EmployeeSelection
 {
     const QString name = NameColumn("Department");
     const int only = OnlyUnit(SessionState.OrganizationLevelRead, SessionState.UserDepartmentID);
-    return Entries(datAbsence.Select("SELECT * FROM Departments WHERE FiscalYear = ? AND Active = 1 AND "
-                                     "(? = 0 OR OrganizationID = ?) AND (? = 0 OR RecordID = ?) ORDER BY " + name + " ASC",
-                                     SessionState.FiscalYearID, within.OrganizationID, within.OrganizationID, only, only),
-                   [&name](const Recordset& row) {
-                       return ReachEntry{row.Text(name),
-                                         {row.Long("OrganizationID"), row.Long("RecordID"), 0, 0, row.Text(name)}};
-                   });
+    return Entries(
+        datAbsence.Select("SELECT * FROM Departments WHERE FiscalYear = ? AND Active = 1 AND "
+                          "(? = 0 OR OrganizationID = ?) AND (? = 0 OR RecordID = ?) ORDER BY " +
+                              name + " ASC",
+                          SessionState.FiscalYearID, within.OrganizationID, within.OrganizationID, only, only),
+        [&name](const Recordset& row) {
+            return ReachEntry{row.Text(name), {row.Long("OrganizationID"), row.Long("RecordID"), 0, 0, row.Text(name)}};
+        });
 }
 
 QVector<ReachEntry> Groups(DataControl& datAbsence, const EmployeeSelection& within)
@@ -75,12 +77,14 @@ QVector<ReachEntry> Groups(DataControl& datAbsence, const EmployeeSelection& wit
     const int only = OnlyUnit(SessionState.DepartmentLevelRead, SessionState.UserGroupID);
     return Entries(datAbsence.Select("SELECT * FROM Groups WHERE FiscalYear = ? AND Active = 1 AND "
                                      "(? = 0 OR OrganizationID = ?) AND (? = 0 OR DepartmentID = ?) AND "
-                                     "(? = 0 OR RecordID = ?) ORDER BY " + name + " ASC",
+                                     "(? = 0 OR RecordID = ?) ORDER BY " +
+                                         name + " ASC",
                                      SessionState.FiscalYearID, within.OrganizationID, within.OrganizationID,
                                      within.DepartmentID, within.DepartmentID, only, only),
                    [&name](const Recordset& row) {
-                       return ReachEntry{row.Text(name), {row.Long("OrganizationID"), row.Long("DepartmentID"),
-                                                          row.Long("RecordID"), 0, row.Text(name)}};
+                       return ReachEntry{row.Text(name),
+                                         {row.Long("OrganizationID"), row.Long("DepartmentID"), row.Long("RecordID"), 0,
+                                          row.Text(name)}};
                    });
 }
 
@@ -92,7 +96,8 @@ QVector<ReachEntry> Employees(DataControl& datAbsence, const EmployeeSelection& 
                                      "(? = 0 OR GroupID = ?) AND (? = 0 OR RecordID = ?) "
                                      "ORDER BY FamilyName ASC, FirstName ASC",
                                      SessionState.FiscalYearID, within.OrganizationID, within.OrganizationID,
-                                     within.DepartmentID, within.DepartmentID, within.GroupID, within.GroupID, only, only),
+                                     within.DepartmentID, within.DepartmentID, within.GroupID, within.GroupID, only,
+                                     only),
                    [](const Recordset& row) {
                        const QString first = row.Text("FirstName").trimmed();
                        const QString family = row.Text("FamilyName").trimmed();
@@ -106,7 +111,8 @@ QVector<ReachEntry> Employees(DataControl& datAbsence, const EmployeeSelection& 
 EmployeeSelection Bounded(EmployeeSelection within)
 {
     const EmployeeSelection start = StartingUnit();
-    for (const auto unit : {&EmployeeSelection::OrganizationID, &EmployeeSelection::DepartmentID, &EmployeeSelection::GroupID})
+    for (const auto unit :
+         {&EmployeeSelection::OrganizationID, &EmployeeSelection::DepartmentID, &EmployeeSelection::GroupID})
         if (start.*unit != 0)
             within.*unit = start.*unit;
     return within;

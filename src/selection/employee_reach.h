@@ -4,10 +4,12 @@
 
 #include <QString>
 #include <QVector>
+
 #include <array>
 
 /// A unit or an employee chosen for the calendar: the ids below the one chosen are 0, and all are 0 for none.
-struct EmployeeSelection {
+struct EmployeeSelection
+{
     int OrganizationID = 0;
     int DepartmentID = 0;
     int GroupID = 0;
@@ -16,11 +18,18 @@ struct EmployeeSelection {
 };
 
 /// The four lists, from the widest to the narrowest.
-enum class ReachList { Organizations, Departments, Groups, Employees };
+enum class ReachList
+{
+    Organizations,
+    Departments,
+    Groups,
+    Employees
+};
 constexpr int kReachLists = 4;
 
 /// A line of a list and what choosing it selects.
-struct ReachEntry {
+struct ReachEntry
+{
     QString Listed; ///< "Family, First" for an employee, otherwise the unit's name in the user's language
     EmployeeSelection Selection;
 };

@@ -23,11 +23,12 @@ void frmSelectAttendanceRecord::BuildControls(const std::vector<std::pair<QStrin
 {
     setObjectName("frmSelectAttendanceRecord");
     setWindowTitle(T("Selection of an attendance record", "Sélection d'une absence"));
-    auto* lblInstructions = Named<QLabel>(
-        "lblInstructions", T("There is more than one attendance record on this date. Please select the one you wish to "
-                             "modify or remove.",
-                             "Il y a plus d'une absence enregistrée ce jour là. Veuillez spécifier laquelle des absences "
-                             "suivantes vous souhaitez modifier ou supprimer."));
+    auto* lblInstructions =
+        Named<QLabel>("lblInstructions",
+                      T("There is more than one attendance record on this date. Please select the one you wish to "
+                        "modify or remove.",
+                        "Il y a plus d'une absence enregistrée ce jour là. Veuillez spécifier laquelle des absences "
+                        "suivantes vous souhaitez modifier ou supprimer."));
     lblInstructions->setWordWrap(true);
     lblInstructions->setMinimumWidth(kInstructionsWidth);
     lstRecords = Named<QListWidget>("lstRecords");
@@ -40,7 +41,6 @@ void frmSelectAttendanceRecord::BuildControls(const std::vector<std::pair<QStrin
     lstRecords->setCurrentRow(0);
     auto* cmdSelect = AsMainButton(Named<QPushButton>("cmdSelect", T("&Select", "&Sélectionner")));
     auto* cmdCancel = Named<QPushButton>("cmdCancel", T("&Cancel", "&Annuler"));
-    cmdSelect->setDefault(true);
     connect(cmdSelect, &QPushButton::clicked, this, &frmSelectAttendanceRecord::cmdSelect_Click);
     connect(lstRecords, &QListWidget::itemDoubleClicked, this, &frmSelectAttendanceRecord::cmdSelect_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -48,7 +48,7 @@ void frmSelectAttendanceRecord::BuildControls(const std::vector<std::pair<QStrin
     auto* content = new QVBoxLayout;
     content->addWidget(lblInstructions);
     content->addWidget(lstRecords);
-    auto* page = new QVBoxLayout(this);
+    QVBoxLayout* page = PageLayout(this);
     page->addWidget(MakeCard(content));
     page->addLayout(ButtonRow({cmdCancel, cmdSelect}));
 }

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QString>
+
 #include <utility>
 #include <vector>
 

@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+
 #include <algorithm>
 
 namespace
@@ -69,7 +70,7 @@ void frmSelectDates::BuildControls()
     content->addSpacing(6);
     content->addWidget(chkIgnoreDaysOff);
     content->addWidget(chkIgnoreHolidays);
-    auto* page = new QVBoxLayout(this);
+    QVBoxLayout* page = PageLayout(this);
     page->addWidget(MakeCard(content));
     auto* foot = ButtonRow({cmdCancel, cmdOK});
     foot->insertWidget(0, lblCount);
@@ -85,7 +86,6 @@ void frmSelectDates::ConnectControls()
     connect(chkIgnoreHolidays, &QCheckBox::clicked, this, &frmSelectDates::chkIgnoreHolidays_Click);
     connect(cmdOK, &QPushButton::clicked, this, &frmSelectDates::cmdOK_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    cmdOK->setDefault(true);
 }
 
 void frmSelectDates::LoadCaptions()
@@ -94,8 +94,8 @@ void frmSelectDates::LoadCaptions()
     lblFrom->setText(T("&From", "&Du"));
     lblTo->setText(T("&To", "&Au"));
     lblWeekdays->setText(T("Days of the week", "Jours de la semaine"));
-    chkIgnoreDaysOff->setText(T("Ignore the days when the employee does not work",
-                                "Ignorer les jours où l'employé(e) ne travaille pas"));
+    chkIgnoreDaysOff->setText(
+        T("Ignore the days when the employee does not work", "Ignorer les jours où l'employé(e) ne travaille pas"));
     chkIgnoreHolidays->setText(T("Ignore statutory holidays", "Ignorer les congés fériés"));
     cmdOK->setText(T("&OK", "&OK"));
     cmdCancel->setText(T("&Cancel", "A&nnuler"));
@@ -148,22 +148,24 @@ void frmSelectDates::ShowCount()
 
 void frmSelectDates::chkIgnoreDaysOff_Click()
 {
-    ConfirmClearing(chkIgnoreDaysOff,
-                    T("Removing this check mark will cause Tarvell to create attendance records for the selected employee "
-                      "even on weekdays when she/he may not be scheduled to work!\r\n\r\nIs this really what you want to "
-                      "do?",
-                      "Le retrait de ce crochet signifie que vous voulez enregistrer des ABSENCES durant toute la période "
-                      "spécifiée et ce, même les jours de la semaine où l'employé(e) sélectionné(e) ne travaille "
-                      "pas!\r\n\r\nEst-ce vraiment ce que vous voulez faire?"));
+    ConfirmClearing(
+        chkIgnoreDaysOff,
+        T("Removing this check mark will cause Tarvell to create attendance records for the selected employee "
+          "even on weekdays when she/he may not be scheduled to work!\r\n\r\nIs this really what you want to "
+          "do?",
+          "Le retrait de ce crochet signifie que vous voulez enregistrer des ABSENCES durant toute la période "
+          "spécifiée et ce, même les jours de la semaine où l'employé(e) sélectionné(e) ne travaille "
+          "pas!\r\n\r\nEst-ce vraiment ce que vous voulez faire?"));
 }
 
 void frmSelectDates::chkIgnoreHolidays_Click()
 {
-    ConfirmClearing(chkIgnoreHolidays,
-                    T("Removing this check mark will cause Tarvell to create attendance records for the selected employee "
-                      "even on statutory holidays!\r\n\r\nIs this really what you want to do?",
-                      "Le retrait de ce crochet signifie que vous voulez enregistrer des ABSENCES durant toute la période "
-                      "spécifiée et ce, même durant les congés fériés!\r\n\r\nEst-ce vraiment ce que vous voulez faire?"));
+    ConfirmClearing(
+        chkIgnoreHolidays,
+        T("Removing this check mark will cause Tarvell to create attendance records for the selected employee "
+          "even on statutory holidays!\r\n\r\nIs this really what you want to do?",
+          "Le retrait de ce crochet signifie que vous voulez enregistrer des ABSENCES durant toute la période "
+          "spécifiée et ce, même durant les congés fériés!\r\n\r\nEst-ce vraiment ce que vous voulez faire?"));
 }
 
 void frmSelectDates::ConfirmClearing(QCheckBox* box, const QString& question)

@@ -58,7 +58,7 @@ void frmSelectEmployee::BuildControls()
     cmdSelect = AsMainButton(Named<QPushButton>("cmdSelect"));
     cmdQuit = Named<QPushButton>("cmdQuit");
 
-    auto* page = new QVBoxLayout(this);
+    QVBoxLayout* page = PageLayout(this);
     page->addWidget(MakeCard(content));
     auto* foot = ButtonRow({cmdQuit, cmdSelect});
     foot->insertWidget(0, lblChoice);
@@ -75,7 +75,6 @@ void frmSelectEmployee::ConnectControls()
     }
     connect(cmdSelect, &QPushButton::clicked, this, &frmSelectEmployee::cmdSelect_Click);
     connect(cmdQuit, &QPushButton::clicked, this, &QDialog::reject);
-    cmdSelect->setDefault(true);
 }
 
 void frmSelectEmployee::LoadCaptions()
@@ -86,7 +85,8 @@ void frmSelectEmployee::LoadCaptions()
         purpose_ == Purpose::Calendar
             ? T("Select the organization, department, group or employee whose attendance you wish to display on the "
                 "calendar",
-                "Sélectionnez l'organisation, le département, le groupe ou l'employé(e) dont vous souhaitez afficher les "
+                "Sélectionnez l'organisation, le département, le groupe ou l'employé(e) dont vous souhaitez afficher "
+                "les "
                 "absences sur le calendrier")
             : T("Select the employee record to be modified or deactivated from the following list",
                 "Sélectionnez l'employé(e) à être modifié(e) ou désactivé(e)"));

@@ -14,7 +14,11 @@ class QPushButton;
 class frmSelectEmployee : public QDialog
 {
 public:
-    enum class Purpose { Calendar, EmployeeRecord };
+    enum class Purpose
+    {
+        Calendar,
+        EmployeeRecord
+    };
     explicit frmSelectEmployee(QWidget* parent = nullptr, Purpose purpose = Purpose::Calendar);
 
     /// Employees.RecordID of the employee selected; 0 when the form was left, or for a whole unit.

@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+
 #include <algorithm>
 
 frmSelectWeekdays::frmSelectWeekdays(QWidget* parent) : QDialog(parent), boxes_(new WeekdayBoxes)
@@ -14,8 +15,8 @@ frmSelectWeekdays::frmSelectWeekdays(QWidget* parent) : QDialog(parent), boxes_(
     setObjectName("frmSelectWeekdays");
     setWindowTitle(T("Selection of weekdays", "Sélection des jours de la semaine"));
     boxes_->SetChecked({false, true, true, true, true, true, false});
-    auto* lblInstructions = AsHead(Named<QLabel>("lblInstructions", T("Days of the week to be included:",
-                                                                      "Jours de la semaine à inclure:")));
+    auto* lblInstructions = AsHead(
+        Named<QLabel>("lblInstructions", T("Days of the week to be included:", "Jours de la semaine à inclure:")));
     auto* cmdOK = AsMainButton(Named<QPushButton>("cmdOK", T("&OK", "&OK")));
     auto* cmdCancel = Named<QPushButton>("cmdCancel", T("&Cancel", "&Annuler"));
     connect(cmdOK, &QPushButton::clicked, this, &frmSelectWeekdays::cmdOK_Click);
@@ -24,7 +25,7 @@ frmSelectWeekdays::frmSelectWeekdays(QWidget* parent) : QDialog(parent), boxes_(
     auto* content = new QVBoxLayout;
     content->addWidget(lblInstructions);
     content->addWidget(boxes_);
-    auto* page = new QVBoxLayout(this);
+    QVBoxLayout* page = PageLayout(this);
     page->addWidget(MakeCard(content));
     page->addLayout(ButtonRow({cmdCancel, cmdOK}));
 }

@@ -6,6 +6,7 @@
 #include "selection/consecutive_dates.h"
 
 #include <QCheckBox>
+
 #include <algorithm>
 
 WeekdayBoxes::WeekdayBoxes(QWidget* parent) : QWidget(parent)

@@ -1,0 +1,134 @@
+#include "platform/clock.h"
+#include "setup/database_relocation.h"
+#include "setup/wizard_house.h"
+
+class DatabasePlace : public Wizard
+{
+protected:
+    User& Chooses(const QString& path) { return user.WillChooseFile(path).Clicks("cmdRelocateDatabase"); }
+};
+
+TEST_F(DatabasePlace, ANewDatabaseMovesToAnotherFolder)
+{
+    const QString share = Folder("Réseau");
+    Open("optEnglish", "optNewAccessDatabase");
+    user.WillAnswer("OPERATION SUCCESSFUL:", "OK", "Your database was moved to the specified directory.");
+    Chooses(share + "/tarvell.mdb");
+    EXPECT_EQ(user.Reads("lblDatabasePath"), share + "/Tarvell.mdb");
+
+    user.Clicks("cmdNext");
+    EntersFiscalYear("2026", "January", "2026");
+    EntersCategories();
+    EntersAdministrator();
+    user.WillAnswer("CONFIRM:", "Yes").WillAnswer("CONFIGURATION COMPLETED SUCCESSFULLY:", "OK").Clicks("cmdNext");
+    EXPECT_EQ(RowsIn(share + "/Tarvell.mdb", "Categories"), 8);
+    EXPECT_EQ(RowsIn(house.DatabaseFile(), "FiscalYears"), 0) << "the delivered one stays empty";
+    EXPECT_TRUE(Configuration().contains("\\RÉSEAU||0|0")) << qPrintable(Configuration());
+}
+
+TEST_F(DatabasePlace, APlaceThatWouldHurtIsRefused)
+{
+    const QString taken = Folder("taken");
+    QFile::copy(house.DatabaseFile(), taken + "/Tarvell.mdb");
+    Open("optEnglish", "optNewAccessDatabase");
+    user.WillAnswer("OPERATION DENIED:", "OK", "do not change the name of the database itself.");
+    Chooses(taken + "/xtarvell.mdb");
+    user.WillAnswer("UNABLE TO PROCEED:", "OK", "You must specify a different directory");
+    Chooses(house.Folder() + "/TARVELL.mdb");
+    user.WillAnswer("OPERATION DENIED:", "OK", "«" + taken + "/Tarvell.mdb» IS NOT an active database");
+    Chooses(taken + "\\Tarvell.mdb");
+    Chooses(QString());
+    EXPECT_EQ(user.Reads("lblDatabasePath"), house.DatabaseFile());
+}
+
+TEST_F(DatabasePlace, ACopyThatCannotBeMadeIsTold)
+{
+    Open("optFrench", "optNewAccessDatabase");
+    user.WillAnswer("UNE ERREUR EST SURVENUE:", "OK", "administrateur de réseau");
+    Chooses(house.Folder() + "/nowhere/Tarvell.mdb");
+    EXPECT_EQ(user.Reads("lblDatabasePath"), house.DatabaseFile());
+}
+
+TEST_F(DatabasePlace, ASlowNetworkIsGivenHalfAMinute)
+{
+    const QString share = Folder("share");
+    const QString copy = share + "/Tarvell.mdb";
+    int waited = 0;
+    const auto unreadableFor = [&](int seconds) {
+        waited = 0;
+        SetClockSource({[] { return QDateTime(QDate(2026, 3, 2), QTime(9, 0)); },
+                        [&, seconds](int) {
+                            if (++waited == seconds) {
+                                QFile::remove(copy);
+                                QFile::copy(House::DeliveredFolder() + "/Tarvell.mdb", copy);
+                            }
+                        }});
+    };
+    QFile broken(house.DatabaseFile());
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    broken.write("not yet");
+    broken.close();
+
+    Open("optEnglish", "optNewAccessDatabase");
+    unreadableFor(1000);
+    user.WillAnswer("AN ERROR HAS OCCURRED:", "OK", "3343: ");
+    Chooses(copy);
+    EXPECT_EQ(waited, 29) << "thirty attempts";
+    EXPECT_FALSE(QFile::exists(copy)) << "a copy that does not work would bar the next attempt";
+    unreadableFor(12);
+    user.WillAnswer("OPERATION SUCCESSFUL:", "OK");
+    Chooses(copy);
+    EXPECT_EQ(waited, 12);
+}
+
+TEST_F(DatabasePlace, AnExistingDatabaseIsConnectedToAndNothingElseIsAsked)
+{
+    const QString path = CompanyDatabase("share");
+    Open("optEnglish", "optExistingAccessDatabase");
+    user.WillAnswer("OPERATION DENIED:", "OK", "The database used by Tarvell is called «Tarvell.mdb».");
+    Chooses(path + ".mdb");
+    Chooses(path);
+    EXPECT_EQ(user.Reads("lblDatabasePath"), path);
+    user.Clicks("cmdNext");
+    EXPECT_EQ(started, 1);
+    EXPECT_TRUE(Configuration().startsWith("1|0||||") && Configuration().endsWith("\\SHARE||0|0"));
+    EXPECT_EQ(RowsIn(path, "FiscalYears"), 1);
+}
+
+TEST_F(DatabasePlace, AnExistingDatabaseThatIsEmptyOrBrokenIsRefused)
+{
+    Open("optEnglish", "optExistingAccessDatabase");
+    user.WillAnswer("ERROR:", "OK", "(" + house.DatabaseFile() + ") is currently empty!").Clicks("cmdNext");
+    user.WillAnswer("OPERATION DENIED:", "OK", "Unable to connect to the selected database!\r\n\r\n3021: ");
+    Chooses(house.DatabaseFile());
+    QFile::remove(house.DatabaseFile());
+    user.WillAnswer("OPERATION DENIED:", "OK", "3024: ");
+    Chooses(house.DatabaseFile());
+    user.WillAnswer("AN ERROR HAS OCCURRED:", "OK", "3024: ").Clicks("cmdNext");
+    EXPECT_EQ(Configuration(), "");
+    EXPECT_EQ(started, 0);
+}
+
+TEST_F(DatabasePlace, ADatabaseInUseNeverTurnsIntoTheNewOne)
+{
+    QFile::copy(house.DatabaseFile(), house.Folder() + "/kept");
+    const QString path = CompanyDatabase("share");
+    QFile::rename(house.Folder() + "/kept", house.DatabaseFile());
+    Open("optEnglish", "optExistingAccessDatabase");
+    Chooses(path);
+    user.Clicks("cmdPrevious").Clicks("optNewAccessDatabase").Clicks("cmdNext");
+    EXPECT_EQ(user.Reads("lblDatabasePath"), house.DatabaseFile());
+}
+
+TEST_F(DatabasePlace, AnExistingServerIsConfiguredWithoutATest)
+{
+    Open("optEnglish", "optExistingSQLDatabase");
+    user.Types("txtIPAddress", "srv")
+        .Types("txtUserName", "u")
+        .Types("txtPassword", "p")
+        .Types("txtDatabaseName", "db");
+    EXPECT_EQ(user.Reads("cmdNext"), "FINISH");
+    user.Clicks("cmdNext");
+    EXPECT_EQ(Configuration(), "1|1|srv|u|p||db|0|0");
+    EXPECT_EQ(started, 1);
+}

@@ -1,0 +1,155 @@
+#include "foundation/texts.h"
+#include "platform/clock.h"
+#include "setup/wizard_house.h"
+
+class WizardSteps : public Wizard
+{
+protected:
+    QString Shown(int year, int month, int day) { return FormatDate(SerialOfDate({year, month, day}), "dd-mmm-yyyy"); }
+    QString Dates() { return user.Reads("lblFiscalYearStart") + " " + user.Reads("lblFiscalYearEnd"); }
+    QString Title() { return user.The<frmSetUpWizard>().windowTitle(); }
+    void AtFiscalYear(const QString& language)
+    {
+        Open(language, "optNewAccessDatabase");
+        user.Clicks("cmdNext");
+    }
+    void AtCategories()
+    {
+        AtFiscalYear("optEnglish");
+        EntersFiscalYear("2026", "January", "2026");
+    }
+    QString State(const QString& category)
+    {
+        QStringList state;
+        for (const QString& name : {"txtHours_" + category, "txtMinutes_" + category})
+            state << user.Reads(name);
+        for (const char* name : {"_EntitlementVaries", "_NoEntitlement", "_CarryOver"}) {
+            const QString box = "chk" + category + name;
+            state << (user.CanUse(box) ? user.Reads(box) : "off");
+        }
+        return state.join(' ');
+    }
+};
+
+TEST_F(WizardSteps, TheWizardSpeaksBothLanguagesUntilOneIsChosen)
+{
+    Open();
+    EXPECT_EQ(Title(), "Initial configuration  -  Configuration initiale");
+    EXPECT_EQ(user.Reads("lblTitle"), "WELCOME TO Tarvell  -  BIENVENUE À Tarvell");
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+    EXPECT_FALSE(user.CanUse("cmdPrevious"));
+    user.Clicks("optFrench");
+    EXPECT_EQ(Title(), "Configuration initiale");
+    EXPECT_EQ(user.Reads("cmdNext"), "&Suivant");
+    user.Clicks("cmdNext");
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+    user.WillAnswer("INFORMATION:", "OK", "réseau").Clicks("cmdInfo_ExistingAccessDatabase");
+    user.Clicks("optExistingAccessDatabase").Clicks("cmdNext");
+    EXPECT_EQ(user.Reads("cmdNext"), "TERMINER") << "an existing database needs no more";
+    user.Clicks("cmdPrevious").Clicks("optNewAccessDatabase").Clicks("cmdNext");
+    EXPECT_EQ(user.Reads("cmdNext"), "&Suivant");
+    EXPECT_EQ(user.Reads("lblDatabasePath"), house.DatabaseFile());
+}
+
+TEST_F(WizardSteps, CancellingAsksAndEndsTheProgram)
+{
+    Open();
+    user.WillAnswer("WARNING:  -  ATTENTION:", "No  -  Non", "Souhaitez-vous vraiment").Clicks("cmdCancel");
+    user.WillAnswer("WARNING:  -  ATTENTION:", "Yes  -  Oui", "Do you really want to interrupt");
+    EXPECT_THROW(user.Clicks("cmdCancel"), ProgramEnded);
+    user.Clicks("optEnglish").Clicks("cmdNext");
+    user.WillAnswer("WARNING:", "No", "from the beginning").Presses("", Qt::Key_Escape);
+    EXPECT_TRUE(user.The<frmSetUpWizard>().isVisible());
+    user.WillAnswer("WARNING:", "Yes");
+    EXPECT_THROW(user.Clicks("cmdCancel"), ProgramEnded);
+    EXPECT_EQ(Configuration(), "");
+    EXPECT_EQ(started, 0);
+}
+
+TEST_F(WizardSteps, TheFiscalYearLastsTwelveMonths)
+{
+    AtFiscalYear("optEnglish");
+    EXPECT_EQ(Dates(), Shown(2026, 1, 1) + " " + Shown(2026, 12, 31));
+    EXPECT_FALSE(user.CanUse("cmdNext")) << "it has no name";
+    user.Types("txtFiscalYearName", "First");
+    EXPECT_TRUE(user.CanUse("cmdNext"));
+    user.Picks("cboStartMonth", "March").Picks("cboStartYear", "2028");
+    EXPECT_EQ(Dates(), Shown(2028, 3, 1) + " " + Shown(2029, 2, 28)) << "from a leap year";
+    user.Picks("cboStartYear", "2027");
+    EXPECT_EQ(Dates(), Shown(2027, 3, 1) + " " + Shown(2028, 2, 29)) << "into a leap year";
+    user.Types("cboStartYear", "2x040").LeavesField("txtFiscalYearName");
+    EXPECT_EQ(Dates(), Shown(2040, 3, 1) + " " + Shown(2041, 2, 28)) << "a year that is not listed";
+
+    user.WillAnswer("ERROR!", "OK", "beginning of the fiscal year is invalid!");
+    user.Types("cboStartYear", "12").LeavesField("txtFiscalYearName");
+    EXPECT_EQ(Dates(), " ");
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+    user.Picks("cboStartYear", "2026").Types("txtFiscalYearName", "   ");
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+}
+
+TEST_F(WizardSteps, TimeAndTheTwoBoxesExcludeEachOther)
+{
+    AtCategories();
+    EXPECT_EQ(State("Sick"), "  0 0 0");
+    user.Types("txtHours_Sick", "a7").Types("txtMinutes_Sick", "4");
+    EXPECT_EQ(State("Sick"), "7 4 off off 0");
+    user.Types("txtMinutes_Sick", "75").LeavesField("txtMinutes_Sick");
+    EXPECT_EQ(State("Sick"), "7  off off 0") << "minutes above 59 are cleared";
+    user.Types("txtHours_Sick", "0");
+    EXPECT_EQ(State("Sick"), "0  0 0 0");
+    user.Checks("chkSick_CarryOver").Checks("chkSick_EntitlementVaries");
+    EXPECT_EQ(State("Sick"), "0  1 0 1");
+    user.Checks("chkSick_NoEntitlement");
+    EXPECT_EQ(State("Sick"), "0  0 1 off") << "nothing is left to carry over";
+    EXPECT_EQ(user.Reads("chkSick_CarryOver"), "0");
+    user.Types("txtMinutes_Sick", "59");
+    EXPECT_EQ(State("Sick"), "0 59 off off 0");
+    EXPECT_EQ(State("Vacation"), "  0 0 0") << "each category for itself";
+}
+
+TEST_F(WizardSteps, EveryCategoryNeedsANameAndAnAnswer)
+{
+    AtCategories();
+    user.Checks("chkVacation_EntitlementVaries").Checks("chkSick_NoEntitlement").Types("txtMinutes_PersonalTime", "30");
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+    user.Types("txtHours_Doctor", "1");
+    EXPECT_TRUE(user.CanUse("cmdNext"));
+    user.Types("txtDoctor", "");
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+    user.Types("txtDoctor", "Doctor, dentist's");
+    EXPECT_EQ(user.Reads("txtDoctor"), "Doctor dentist`s");
+    user.Checks("chkVacation_EntitlementVaries", false);
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+}
+
+TEST_F(WizardSteps, AnotherLanguageRenamesTheCategoriesThatBearTheirPresetName)
+{
+    AtCategories();
+    user.Types("txtSick", "Illness");
+    for (int step = 5; step > 1; --step)
+        user.Clicks("cmdPrevious");
+    user.Clicks("optFrench");
+    for (int step = 1; step < 5; ++step)
+        user.Clicks("cmdNext");
+    EXPECT_EQ(user.Reads("txtVacation") + " " + user.Reads("txtSick"), "Vacances Illness");
+    EXPECT_EQ(user.Reads("lblTitle"), "CATÉGORIES D'ABSENTÉISME DE BASE");
+    user.Clicks("cmdPrevious");
+    EXPECT_EQ(user.Reads("cboStartMonth"), "janvier");
+}
+
+TEST_F(WizardSteps, TheAdministratorNeedsNamesAndAPassword)
+{
+    AtCategories();
+    EntersCategories();
+    EXPECT_EQ(user.Reads("cmdNext"), "FINISH");
+    EXPECT_EQ(user.Reads("txtAdminUsername"), "ADMIN");
+    user.Types("txtAdminUsername", "BOSS");
+    EXPECT_EQ(user.Reads("txtAdminUsername"), "ADMIN") << "it cannot be changed";
+    user.Types("txtAdminFamilyName", "Roy").Types("txtAdminFirstName", "Luc").Types("txtAdminPassword", "a$b'é12");
+    EXPECT_TRUE(user.CanUse("cmdNext")) << "the telephone number is optional";
+    user.LeavesField("txtAdminPassword");
+    EXPECT_EQ(user.Reads("txtAdminPassword"), "ABÉ12");
+    user.Types("txtAdminFirstName", " ");
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+}
