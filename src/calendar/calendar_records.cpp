@@ -1,8 +1,8 @@
 #include "calendar/calendar_records.h"
 
+#include "attendance/record_lines.h"
 #include "foundation/common_services.h"
 #include "foundation/texts.h"
-#include "reference/category_list.h"
 
 namespace
 {
@@ -77,7 +77,7 @@ QStringList DailyAttendance(DataControl& datAbsence, int date)
              filter.Scope, filter.Category, date);
          !row.AtEnd(); row.MoveNext()) {
         QString line = row.Text("FirstName").trimmed() + " " + row.Text("FamilyName").trimmed() + "   " +
-                       row.Text(CategoryNameColumn()).trimmed() + "   ";
+                       CategoryOfRow(row) + "   ";
         if (row.Single("StartTime") != 0)
             line += T("From: ", "De: ") + DurationAsText(row.Single("StartTime")) + T(" To: ", " À: ") +
                     DurationAsText(row.Single("EndTime")) + "   ";
@@ -86,23 +86,15 @@ QStringList DailyAttendance(DataControl& datAbsence, int date)
     return lines;
 }
 
-QStringList ConflictingRecords(DataControl& datAbsence, int date)
+QString ConflictingRecords(DataControl& datAbsence, int date)
 {
-    QStringList lines;
+    QString lines;
     for (Recordset row = datAbsence.Select(QString(kTimesOfRecord) +
                                                " FROM Attendance, Categories WHERE Attendance.CategoryID = "
                                                "Categories.RecordID AND Attendance.RecordDate = ? AND "
                                                "Attendance.EmployeeID = ? AND Attendance.CancelledDate = 0",
                                            date, SessionState.EmployeeID);
-         !row.AtEnd(); row.MoveNext()) {
-        QString line = row.Text(CategoryNameColumn()).trimmed() + "\t";
-        if (row.Single("StartTime") != 0)
-            line += T("From:", "De:") + DurationAsText(row.Single("StartTime")) + "\t" + T("To:", "À:") +
-                    DurationAsText(row.Single("EndTime")) + "\t";
-        line += T("Duration: ", "Durée: ") + DurationAsText(row.Single("Duration"));
-        if (row.Long("Submitted") == 1)
-            line += T("  (TO BE APPROVED)", "  (NON APPROUVÉE)");
-        lines << line;
-    }
+         !row.AtEnd(); row.MoveNext())
+        lines += ConflictLine(row);
     return lines;
 }

@@ -29,5 +29,5 @@ QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence);
 /// The lines that list the records of one date: name, category, times, duration.
 QStringList DailyAttendance(DataControl& datAbsence, int date);
 
-/// The lines of the employee's live records on a date, effective and pending, as the conflict question lists them.
-QStringList ConflictingRecords(DataControl& datAbsence, int date);
+/// The employee's live records on a date, effective and pending, a line each; empty when there are none.
+QString ConflictingRecords(DataControl& datAbsence, int date);

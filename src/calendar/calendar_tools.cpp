@@ -259,17 +259,17 @@ bool CalendarTools::AcceptsDayOff(int date) const
 bool CalendarTools::AreThereConflictingRecords(int date)
 {
     const Connection connection(host_.Data());
-    const QStringList lines = ConflictingRecords(host_.Data(), date);
+    const QString lines = ConflictingRecords(host_.Data(), date);
     if (lines.isEmpty())
         return false;
     conflictsAccepted_ =
         AskWithList(T("WARNING:", "ATTENTION:"),
-                    Fill(T("There are other attendance records for {name} on that date!\r\n\r\n{lines}\r\n\r\nProceed "
+                    Fill(T("There are other attendance records for {name} on that date!\r\n\r\n{lines}\r\nProceed "
                            "anyway?",
-                           "Il y a d'autres absences au nom de {name} cette journée là!\r\n\r\n{lines}\r\n\r\n"
+                           "Il y a d'autres absences au nom de {name} cette journée là!\r\n\r\n{lines}\r\n"
                            "Souhaitez-vous tout-de-même continuer?"),
-                         {{"name", SessionState.CurrentSelection}, {"lines", lines.join("\r\n")}}),
-                    lines.size());
+                         {{"name", SessionState.CurrentSelection}, {"lines", lines}}),
+                    lines.count('\n'));
     return !conflictsAccepted_;
 }
 
