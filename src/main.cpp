@@ -51,10 +51,8 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName("Tarvell");
-    QApplication::setApplicationVersion(QStringLiteral("%1.%2.%3")
-                                            .arg(TARVELL_VERSION_MAJOR)
-                                            .arg(TARVELL_VERSION_MINOR)
-                                            .arg(TARVELL_VERSION_REVISION));
+    QApplication::setApplicationVersion(
+        QStringLiteral("%1.%2.%3").arg(TARVELL_VERSION_MAJOR).arg(TARVELL_VERSION_MINOR).arg(TARVELL_VERSION_REVISION));
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyStyle();
     InstallMessageBox();

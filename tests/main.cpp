@@ -2,6 +2,7 @@
 #include "support/house.h"
 
 #include <QApplication>
+
 #include <gtest/gtest.h>
 
 int main(int argc, char* argv[])

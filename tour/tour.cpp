@@ -118,7 +118,7 @@ void Tour::WorkWizard()
     user_.Clicks("cmdNext");
     Photo("wizard_3_database");
     user_.Clicks("cmdNext").Types("txtFiscalYearName", "2026");
-    user_.Picks("cboStartMonth", T("January", "Janvier")).Picks("cboStartYear", "2026");
+    user_.Picks("cboStartMonth", T("January", "janvier")).Picks("cboStartYear", "2026");
     Photo("wizard_4_fiscal_year");
     user_.Clicks("cmdNext");
     user_.Types("txtHours_Vacation", "105").Types("txtHours_Sick", "35");
@@ -127,7 +127,9 @@ void Tour::WorkWizard()
     Photo("wizard_5_categories");
     user_.Clicks("cmdNext");
     user_.Types("txtAdminFamilyName", "Tremblay").Types("txtAdminFirstName", "Alice");
-    user_.Types("txtAdminPhoneNumber", "418-555-0100").Types("txtAdminPassword", "secret").LeavesField("txtAdminPassword");
+    user_.Types("txtAdminPhoneNumber", "418-555-0100")
+        .Types("txtAdminPassword", "secret")
+        .LeavesField("txtAdminPassword");
     Photo("wizard_6_administrator");
     user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui"));
     user_.WillAnswer(T("CONFIGURATION COMPLETED SUCCESSFULLY:", "CONFIGURATION INITIALE COMPLÉTÉE:"), "OK");
@@ -144,9 +146,10 @@ void Tour::AddPeople()
     house_.Hire({"EGAGNON", "Émilie", "Gagnon", "Sales", "", {"SelfLevelRead"}, luc});
     house_.Hire({"PROY", "Pierre", "Roy", "Stores", "", {"SelfLevelRead"}, luc});
     house_.Sql("UPDATE Employees SET Language = ?", {english_ ? 0 : 1});
-    house_.Sql("INSERT INTO Entitlements (FiscalYear, CategoryID, EmployeeID, AnnualEntitlement, Active) SELECT "
-               "Categories.FiscalYear, Categories.RecordID, Employees.RecordID, 105, 1 FROM Categories, Employees WHERE "
-               "Categories.SystemName IN ('Vacation', 'Sick') AND Employees.FiscalYear = 1");
+    house_.Sql(
+        "INSERT INTO Entitlements (FiscalYear, CategoryID, EmployeeID, AnnualEntitlement, Active) SELECT "
+        "Categories.FiscalYear, Categories.RecordID, Employees.RecordID, 105, 1 FROM Categories, Employees WHERE "
+        "Categories.SystemName IN ('Vacation', 'Sick') AND Employees.FiscalYear = 1");
 }
 
 void Tour::LogInAsAdministrator()
@@ -316,11 +319,13 @@ void Tour::RequestLeave()
 void Tour::Confirm()
 {
     const std::pair<const char*, const char*> expected[] = {
-        {"SELECT COUNT(*) || '|' || SUM(TotalDuration) FROM Attendance A, Categories C WHERE A.CategoryID = C.RecordID AND "
+        {"SELECT COUNT(*) || '|' || SUM(TotalDuration) FROM Attendance A, Categories C WHERE A.CategoryID = C.RecordID "
+         "AND "
          "SystemName = 'Vacation' AND Submitted = 0",
          "12|84.0"},
         {"SELECT COUNT(DISTINCT CategoryID) FROM Attendance WHERE RecordDate = 46317", "2"},
-        {"SELECT Duration || '|' || TotalDuration || '|' || EndTime FROM Attendance A, Categories C WHERE A.CategoryID = "
+        {"SELECT Duration || '|' || TotalDuration || '|' || EndTime FROM Attendance A, Categories C WHERE A.CategoryID "
+         "= "
          "C.RecordID AND SystemName = 'Time accumulated'",
          "2.5|3.75|25.0"},
         {"SELECT COUNT(*) || '|' || SUM(RequestStatus) FROM Attendance WHERE Submitted = 1", "2|0"},

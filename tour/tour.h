@@ -3,6 +3,7 @@
 #include "support/user.h"
 
 #include <QString>
+
 #include <memory>
 
 class frmMain;

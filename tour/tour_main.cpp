@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QTextStream>
+
 #include <cstdlib>
 
 /// Walks through the program in English and in French: tour FOLDER.

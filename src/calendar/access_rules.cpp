@@ -164,7 +164,8 @@ bool IsAllowed(const QString& item)
 
 bool IsShown(const QString& item)
 {
-    static const QStringList adminsOwn{"mnuSpecialExportEmployee", "mnuSpecialImportEmployee", "mnuSpecialBatchUpdates"};
+    static const QStringList adminsOwn{"mnuSpecialExportEmployee", "mnuSpecialImportEmployee",
+                                       "mnuSpecialBatchUpdates"};
     static const QStringList effectiveOnly{"imgCreateConsecutive", "imgCreateMultiple", "imgCreateSingle", "imgModify"};
     if (adminsOwn.contains(item))
         return SessionState.LoginID == "ADMIN";

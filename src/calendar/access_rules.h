@@ -4,12 +4,22 @@
 
 #include <QHash>
 #include <QString>
+
 #include <vector>
 
 /// When a menu entry or tool may be used. All conditions that are set must hold; every right means "equals 1".
-struct AccessRule {
-    enum class Year { Any, Open };
-    enum class User { Anybody, AdminOnly };
+struct AccessRule
+{
+    enum class Year
+    {
+        Any,
+        Open
+    };
+    enum class User
+    {
+        Anybody,
+        AdminOnly
+    };
 
     std::vector<Right> AllOf;
     std::vector<Right> AnyOf;
@@ -28,7 +38,8 @@ bool IsAllowed(const QString& item);
 bool IsShown(const QString& item);
 
 /// The scopes of reports and schedules, in the order of the menus.
-struct ReportScope {
+struct ReportScope
+{
     const char* Suffix;    ///< of the menu entries, such as "_Global"
     const char* YtdSuffix; ///< of the year-to-date entries, which are spelt out
     const char* English;
@@ -38,7 +49,8 @@ struct ReportScope {
 extern const std::vector<ReportScope> kReportScopes;
 
 /// The report families, by the start of their menu entries' names.
-struct ReportFamily {
+struct ReportFamily
+{
     const char* Name;
     const char* English;
     const char* French;

@@ -53,12 +53,13 @@ QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence)
 {
     const ScopeFilter filter = CalendarScope();
     QVector<CalendarRecord> records;
-    for (Recordset row = datAbsence.Select(
-             "SELECT DISTINCT Attendance.RecordDate, Attendance.CategoryID, Categories.SystemName, "
-             "Categories.CategoryColorCode FROM Attendance, Categories WHERE Attendance.CategoryID = Categories.RecordID "
-             "AND Attendance.RecordDate BETWEEN ?3 AND ?4" +
-                 filter.Sql + " ORDER BY Attendance.RecordDate ASC",
-             filter.Scope, filter.Category, SessionState.CommencingDate, SessionState.EndingDate);
+    for (Recordset row =
+             datAbsence.Select("SELECT DISTINCT Attendance.RecordDate, Attendance.CategoryID, Categories.SystemName, "
+                               "Categories.CategoryColorCode FROM Attendance, Categories WHERE Attendance.CategoryID = "
+                               "Categories.RecordID "
+                               "AND Attendance.RecordDate BETWEEN ?3 AND ?4" +
+                                   filter.Sql + " ORDER BY Attendance.RecordDate ASC",
+                               filter.Scope, filter.Category, SessionState.CommencingDate, SessionState.EndingDate);
          !row.AtEnd(); row.MoveNext())
         records.append({row.Long("RecordDate"), row.Long("CategoryID"), row.Long("CategoryColorCode")});
     return records;
@@ -89,11 +90,11 @@ QStringList DailyAttendance(DataControl& datAbsence, int date)
 QString ConflictingRecords(DataControl& datAbsence, int date)
 {
     QString lines;
-    for (Recordset row = datAbsence.Select(QString(kTimesOfRecord) +
-                                               " FROM Attendance, Categories WHERE Attendance.CategoryID = "
-                                               "Categories.RecordID AND Attendance.RecordDate = ? AND "
-                                               "Attendance.EmployeeID = ? AND Attendance.CancelledDate = 0",
-                                           date, SessionState.EmployeeID);
+    for (Recordset row =
+             datAbsence.Select(QString(kTimesOfRecord) + " FROM Attendance, Categories WHERE Attendance.CategoryID = "
+                                                         "Categories.RecordID AND Attendance.RecordDate = ? AND "
+                                                         "Attendance.EmployeeID = ? AND Attendance.CancelledDate = 0",
+                               date, SessionState.EmployeeID);
          !row.AtEnd(); row.MoveNext())
         lines += ConflictLine(row);
     return lines;

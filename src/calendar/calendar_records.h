@@ -7,7 +7,8 @@
 
 /// What follows "WHERE ..." in every calendar query: the employee, or else the unit shown; the chosen category; hidden
 /// categories; live records only; effective or pending ones. Its two values go in the place of its question marks.
-struct ScopeFilter {
+struct ScopeFilter
+{
     QString Sql;
     int Scope = 0;    ///< id of the employee or unit, 0 the whole company
     int Category = 0; ///< 0 all
@@ -15,7 +16,8 @@ struct ScopeFilter {
 ScopeFilter CalendarScope();
 
 /// One category on one date of the calendar. `Color` is 0xBBGGRR, 0 none.
-struct CalendarRecord {
+struct CalendarRecord
+{
     int RecordDate = 0;
     int CategoryID = 0;
     int Color = 0;

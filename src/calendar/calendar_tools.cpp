@@ -21,7 +21,8 @@ QString NotOnWeekday(int weekday)
 {
     static const char* const english[] = {"Sundays!",   "Mondays!", "Tuesdays!", "Wednesdays!",
                                           "Thursdays!", "Fridays!", "Saturdays!"};
-    static const char* const french[] = {"dimanche!", "lundi!", "mardi!", "mercredi!", "jeudi!", "vendredi!", "samedi!"};
+    static const char* const french[] = {"dimanche!", "lundi!",    "mardi!", "mercredi!",
+                                         "jeudi!",    "vendredi!", "samedi!"};
     return T(english[weekday], french[weekday]);
 }
 
@@ -195,9 +196,10 @@ void CalendarTools::StartModify()
             T("There are no attendance records to be modified!", "Il n'y a aucun enregistrement à modifier!")))
         return;
     SessionState.ModifyingRecord = true;
-    Begin(false, {},
-          T("Click on the attendance record you wish to modify. Press «Escape» to abort the procedure.",
-            "Cliquez sur l'enregistrement que vous souhaitez modifier. Appuyez sur «Échap» pour annuler la procédure."));
+    Begin(
+        false, {},
+        T("Click on the attendance record you wish to modify. Press «Escape» to abort the procedure.",
+          "Cliquez sur l'enregistrement que vous souhaitez modifier. Appuyez sur «Échap» pour annuler la procédure."));
 }
 
 void CalendarTools::StartRemove()
@@ -210,11 +212,12 @@ void CalendarTools::StartRemove()
             T("There are no attendance records to be removed!", "Il n'y a aucun enregistrement à supprimer!")))
         return;
     SessionState.CancellingRecords = true;
-    Begin(true, "imgRemove",
-          T("Click on the attendance records you wish to remove and then click on the active icon again. Press "
-            "«Escape» to abort the procedure.",
-            "Cliquez sur les enregistrements que vous souhaitez supprimer et cliquez ensuite sur l'icône active. Appuyez "
-            "sur «Échap» pour annuler la procédure."));
+    Begin(
+        true, "imgRemove",
+        T("Click on the attendance records you wish to remove and then click on the active icon again. Press "
+          "«Escape» to abort the procedure.",
+          "Cliquez sur les enregistrements que vous souhaitez supprimer et cliquez ensuite sur l'icône active. Appuyez "
+          "sur «Échap» pour annuler la procédure."));
 }
 
 void CalendarTools::DateClicked(int date)
@@ -246,13 +249,14 @@ bool CalendarTools::AcceptsDayOff(int date) const
     const int weekday = WeekdayIndex(date);
     if (!SessionState.HasSchedule || SessionState.HoursWorked[weekday] != 0)
         return true;
-    return Ask(T("WARNING:", "ATTENTION:"),
-               Fill(T("According to your database, {name} doesn't work on {weekday}\r\n\r\nDo you still wish to make an "
-                      "entry on that day?",
-                      "Selon votre banque de données {name} ne travaille pas le {weekday}\r\n\r\nSouhaitez-vous "
-                      "tout-de-même enregistrer une absence ce jour là?"),
-                    {{"name", SessionState.CurrentSelection}, {"weekday", NotOnWeekday(weekday)}}),
-               Face::Warning);
+    return Ask(
+        T("WARNING:", "ATTENTION:"),
+        Fill(T("According to your database, {name} doesn't work on {weekday}\r\n\r\nDo you still wish to make an "
+               "entry on that day?",
+               "Selon votre banque de données {name} ne travaille pas le {weekday}\r\n\r\nSouhaitez-vous "
+               "tout-de-même enregistrer une absence ce jour là?"),
+             {{"name", SessionState.CurrentSelection}, {"weekday", NotOnWeekday(weekday)}}),
+        Face::Warning);
 }
 
 /// Asks about other records of the date; true when the user does not want the date.
@@ -327,10 +331,11 @@ int CalendarTools::RecordOnDate(int date, bool pending)
 {
     std::vector<std::pair<QString, int>> lines;
     const Connection connection(host_.Data());
-    for (Recordset record = host_.Data().Select(
-             "SELECT * FROM Attendance WHERE RecordDate = ? AND EmployeeID = ? AND CategoryID = ? AND Submitted = ? AND "
-             "CancelledDate = 0",
-             date, SessionState.EmployeeID, SessionState.SelectedCategoryID, pending ? 1 : 0);
+    for (Recordset record =
+             host_.Data().Select("SELECT * FROM Attendance WHERE RecordDate = ? AND EmployeeID = ? AND CategoryID = ? "
+                                 "AND Submitted = ? AND "
+                                 "CancelledDate = 0",
+                                 date, SessionState.EmployeeID, SessionState.SelectedCategoryID, pending ? 1 : 0);
          !record.AtEnd(); record.MoveNext())
         lines.emplace_back(RecordLine(record), record.Long("RecordID"));
     if (lines.empty())
@@ -396,8 +401,9 @@ void CalendarTools::Unmark(int date)
     DateList& marked = SessionState.MarkedDates;
     const auto kept = std::remove(marked.begin(), marked.end(), date);
     std::fill(kept, marked.end(), 0);
-    removals_.erase(std::remove_if(removals_.begin(), removals_.end(), [date](const auto& pair) { return pair.first == date; }),
-                    removals_.end());
+    removals_.erase(
+        std::remove_if(removals_.begin(), removals_.end(), [date](const auto& pair) { return pair.first == date; }),
+        removals_.end());
     host_.Calendar().Mark(date, {});
     host_.RefreshDate(date);
 }

@@ -3,6 +3,7 @@
 #include "calendar/year_calendar.h"
 
 #include <QString>
+
 #include <utility>
 #include <vector>
 
@@ -46,7 +47,7 @@ public:
 
     bool SelectingSingle = false;
     bool SelectingMultiple = false;
-    QString HoveredTool; ///< the image under the mouse, empty none
+    QString HoveredTool;            ///< the image under the mouse, empty none
     std::vector<int> MarkedRecords; ///< RecordIDs marked for removal
 
     bool IsSelecting() const { return SelectingSingle || SelectingMultiple; }

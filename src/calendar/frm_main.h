@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QMainWindow>
+
 #include <memory>
 
 class CalendarPane;

@@ -18,7 +18,9 @@ constexpr int kSeparatorWidth = 14;
 constexpr int kSpacerHeight = 14;
 constexpr int kDayColumns = 28;
 constexpr int kTextRows = 24;
-const QSize kRecordsSize(560, 190);
+constexpr int kRecordsWidth = 560;
+constexpr int kFewestLines = 2;
+constexpr int kMostLines = 9;
 const QPoint kHintOffset(18, 22);
 
 /// The pixels of part `index` when `whole` is divided into parts that differ by one pixel at most.
@@ -79,6 +81,7 @@ void CalendarPane::BuildOverlays()
     lblRecordsDate = AsHead(Named<QLabel>("lblRecordsDate"));
     txtAttendanceRecords = Named<QPlainTextEdit>("txtAttendanceRecords");
     txtAttendanceRecords->setReadOnly(true);
+    txtAttendanceRecords->setProperty("look", "bare");
     txtAttendanceRecords->setFocusPolicy(Qt::NoFocus);
     auto* records = new QVBoxLayout;
     records->addWidget(lblRecordsDate);
@@ -169,11 +172,14 @@ void CalendarPane::ShowRecords(const QString& title, const QString& records)
 /// Beside the clicked cell, but inside the pane.
 void CalendarPane::PlaceRecords()
 {
+    const int lines = std::clamp(txtAttendanceRecords->blockCount(), kFewestLines, kMostLines);
+    txtAttendanceRecords->setFixedHeight((lines + 1) * txtAttendanceRecords->fontMetrics().lineSpacing());
+    const QSize size(kRecordsWidth, fraShowRecords->sizeHint().height());
     const QRect cell = flxCalendar->CellRect(flxCalendar->Row(), flxCalendar->Col());
-    const int left = std::clamp(cell.left() - kRecordsSize.width() / 2, 0, std::max(0, width() - kRecordsSize.width()));
-    const bool below = cell.bottom() + kRecordsSize.height() < height();
-    const int top = below ? cell.bottom() + 2 : std::max(0, cell.top() - kRecordsSize.height() - 2);
-    fraShowRecords->setGeometry(QRect(QPoint(left, top), kRecordsSize));
+    const int left = std::clamp(cell.left() - size.width() / 2, 0, std::max(0, width() - size.width()));
+    const bool below = cell.bottom() + size.height() < height();
+    const int top = below ? cell.bottom() + 2 : std::max(0, cell.top() - size.height() - 2);
+    fraShowRecords->setGeometry(QRect(QPoint(left, top), size));
 }
 
 void CalendarPane::HideRecords()
@@ -221,7 +227,7 @@ void CalendarPane::ResizeScreen()
                                           : Share(width() - separators, kDayColumns, day++));
     int text = 0;
     for (int row = 0; row < YearCalendar::kRows; ++row)
-        flxCalendar->SetRowHeight(
-            row, YearCalendar::IsSpacerRow(row) ? kSpacerHeight : Share(height() - spacers, kTextRows, text++));
+        flxCalendar->SetRowHeight(row, YearCalendar::IsSpacerRow(row) ? kSpacerHeight
+                                                                      : Share(height() - spacers, kTextRows, text++));
     flxCalendar->EndUpdate();
 }

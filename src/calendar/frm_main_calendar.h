@@ -3,6 +3,7 @@
 #include "calendar/year_calendar.h"
 
 #include <QWidget>
+
 #include <functional>
 
 class FlexGrid;

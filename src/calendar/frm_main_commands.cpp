@@ -202,9 +202,9 @@ void frmMain::timTimeOut_Timer()
     const int left = SessionState.TimeOutSeconds - IdleSeconds;
     if (left > 0)
         return header_->ShowTimeOut({});
-    header_->ShowTimeOut(Fill(T("Tarvell will be shut down in {seconds} seconds...",
-                                "Tarvell sera interrompu dans {seconds} secondes..."),
-                              {{"seconds", QString::number(left)}}));
+    header_->ShowTimeOut(Fill(
+        T("Tarvell will be shut down in {seconds} seconds...", "Tarvell sera interrompu dans {seconds} secondes..."),
+        {{"seconds", QString::number(left)}}));
     if (left <= -kShutDownSeconds)
         EndProgram();
 }

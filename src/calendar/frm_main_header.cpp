@@ -103,7 +103,8 @@ void MainHeader::LoadCategories(DataControl& datAbsence)
     s.SelectedCategoryID = 0;
     cboCategories->clear();
     cboCategories->addItem(AllCategories(), 0);
-    struct Noted {
+    struct Noted
+    {
         const char* SystemName;
         QString& Name;
         int& ID;

@@ -3,6 +3,7 @@
 #include "calendar/year_change.h"
 
 #include <QWidget>
+
 #include <functional>
 
 class QComboBox;

@@ -3,6 +3,7 @@
 #include "platform/dao/dao.h"
 
 #include <QFrame>
+
 #include <functional>
 #include <vector>
 

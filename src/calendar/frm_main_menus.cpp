@@ -8,11 +8,13 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+
 #include <vector>
 
 namespace
 {
-struct MenuEntry {
+struct MenuEntry
+{
     QString Name;   ///< empty: a line between groups
     QString Parent; ///< empty: a menu of the bar
     const char* English = "";
@@ -32,7 +34,12 @@ const std::vector<MenuEntry> kFileAndReports = {
     {"mnuFileCategories", "mnuFile", "&Categories of attendance...", "&Catégories d'absentéisme..."},
     {"mnuFileHolidays", "mnuFile", "&Statutory holidays...", "Congés &fériés..."},
     {"", "mnuFile"},
-    {"mnuFilePrintCalendar", "mnuFile", "&Print calendar...", "&Imprimer le calendrier...", false, {Qt::CTRL | Qt::Key_P}},
+    {"mnuFilePrintCalendar",
+     "mnuFile",
+     "&Print calendar...",
+     "&Imprimer le calendrier...",
+     false,
+     {Qt::CTRL | Qt::Key_P}},
     {"mnuFilePrintRequest", "mnuFile", "Print &request for leave form...", "Imprimer un formulaire de de&mande..."},
     {"", "mnuFile"},
     {"mnuFileDatabaseLocation", "mnuFile", "Database &location...", "&Localisation de la banque de données..."},

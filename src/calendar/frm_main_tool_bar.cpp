@@ -13,7 +13,8 @@ constexpr int kIconSize = 24;
 constexpr int kZoomedIconSize = 32;
 constexpr int kToolWidth = 96;
 
-struct ToolEntry {
+struct ToolEntry
+{
     const char* Name;
     const char* Picture;
     const char* English;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+
 #include <functional>
 #include <map>
 
@@ -26,7 +27,8 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    struct Slot {
+    struct Slot
+    {
         QToolButton* Image = nullptr;
         QToolButton* Disabled = nullptr;
     };

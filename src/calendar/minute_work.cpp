@@ -7,7 +7,8 @@ namespace
 {
 using Phase = MinuteWork::Phase;
 
-struct Step {
+struct Step
+{
     const char* Name;
     Phase When;
     bool OncePerSession;

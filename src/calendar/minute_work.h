@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
+
 #include <functional>
 
 /// What the main window's timer does in the background, step by step in a fixed order. The work of a step is given by
@@ -11,7 +12,11 @@ class MinuteWork
 {
 public:
     /// Steps that leave the window usable come first; before the others the window locks its controls.
-    enum class Phase { Open, Locked };
+    enum class Phase
+    {
+        Open,
+        Locked
+    };
 
     void SetWork(const QString& step, std::function<void()> work) { work_[step] = std::move(work); }
     /// Runs the steps of a phase that are due now; once-per-session steps run a single time.

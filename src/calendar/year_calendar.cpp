@@ -3,7 +3,6 @@
 #include "foundation/texts.h"
 #include "platform/clock.h"
 
-
 namespace
 {
 constexpr int kMonths = 12;

@@ -4,6 +4,7 @@
 #include "reference/holidays.h"
 
 #include <QPoint>
+
 #include <array>
 #include <functional>
 
@@ -15,12 +16,13 @@ constexpr int Black = 0;
 constexpr int Head = 0x800000;
 constexpr int Holiday = 0xFF0000;
 constexpr int Today = 255;
-constexpr int NoColor = 65535;       ///< a record of a category without a colour
+constexpr int NoColor = 65535; ///< a record of a category without a colour
 constexpr int SeveralCategories = 0x80C0FF;
 constexpr int TimeBank = 0xC0C0C0;
 } // namespace CalendarColor
 
-struct CalendarCell {
+struct CalendarCell
+{
     QString Text;
     int BackColor = CalendarColor::White;
     int ForeColor = CalendarColor::Black;

@@ -5,7 +5,11 @@
 #include <functional>
 
 /// Which neighbour of the session's fiscal year to move to.
-enum class Neighbour { Next, Previous };
+enum class Neighbour
+{
+    Next,
+    Previous
+};
 
 /// Moves the session to a neighbouring fiscal year: the user's record, units and rights of that year, the year's
 /// dates and its neighbours. A user without a record there is sent to `logIn` (target year and name), which returns

@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QLocale>
+
 #include <array>
 #include <cmath>
 
@@ -131,10 +132,10 @@ void ShowMessage(const QString& text, const QString& title, int buttons, int fac
 int ResultOfButton(const QString& caption, int position)
 {
     static const QHash<QString, int> codes = {
-        {"OK", MessageCode::OK},          {"Cancel", MessageCode::Cancel},     {"Annuler", MessageCode::Cancel},
-        {"Abort", MessageCode::Abort},    {"Interrompre", MessageCode::Abort}, {"Retry", MessageCode::Retry},
+        {"OK", MessageCode::OK},           {"Cancel", MessageCode::Cancel},     {"Annuler", MessageCode::Cancel},
+        {"Abort", MessageCode::Abort},     {"Interrompre", MessageCode::Abort}, {"Retry", MessageCode::Retry},
         {"Réessayer", MessageCode::Retry}, {"Ignore", MessageCode::Ignore},     {"Ignorer", MessageCode::Ignore},
-        {"Yes", MessageCode::Yes},        {"Oui", MessageCode::Yes},           {"No", MessageCode::No},
+        {"Yes", MessageCode::Yes},         {"Oui", MessageCode::Yes},           {"No", MessageCode::No},
         {"Non", MessageCode::No},
     };
     return codes.value(caption, MessageCode::First + position);
@@ -243,8 +244,18 @@ void ProperCase(const QString& text)
 void HtmlEscape(const QString& text)
 {
     static const std::array<std::pair<QString, QString>, 12> entities = {{
-        {"â", "&acirc;"},  {"Â", "&Acirc;"},  {"à", "&agrave;"}, {"À", "&Agrave;"}, {"é", "&eacute;"}, {"É", "&Eacute;"},
-        {"è", "&egrave;"}, {"È", "&Egrave;"}, {"ê", "&ecirc;"},  {"Ê", "&Ecirc;"},  {"ô", "&ocirc;"},  {"Ô", "&Ocirc;"},
+        {"â", "&acirc;"},
+        {"Â", "&Acirc;"},
+        {"à", "&agrave;"},
+        {"À", "&Agrave;"},
+        {"é", "&eacute;"},
+        {"É", "&Eacute;"},
+        {"è", "&egrave;"},
+        {"È", "&Egrave;"},
+        {"ê", "&ecirc;"},
+        {"Ê", "&Ecirc;"},
+        {"ô", "&ocirc;"},
+        {"Ô", "&Ocirc;"},
     }};
     SessionState.HtmlEscaped = text;
     for (const auto& [letter, entity] : entities)

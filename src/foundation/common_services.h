@@ -2,21 +2,42 @@
 
 #include <QString>
 #include <QStringList>
+
 #include <functional>
 
 struct RuntimeError;
 
 /// Button sets of the message box, in both languages; Custom1 to Custom4 take the caller's captions.
-enum class Buttons {
-    Ok = 0, OkCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4, RetryCancel = 5,
-    OkAnnuler = 6, InterrompreReessayerIgnorer = 7, OuiNonAnnuler = 8, OuiNon = 9, ReessayerAnnuler = 10,
-    Custom1 = 11, Custom2 = 12, Custom3 = 13, Custom4 = 14
+enum class Buttons
+{
+    Ok = 0,
+    OkCancel = 1,
+    AbortRetryIgnore = 2,
+    YesNoCancel = 3,
+    YesNo = 4,
+    RetryCancel = 5,
+    OkAnnuler = 6,
+    InterrompreReessayerIgnorer = 7,
+    OuiNonAnnuler = 8,
+    OuiNon = 9,
+    ReessayerAnnuler = 10,
+    Custom1 = 11,
+    Custom2 = 12,
+    Custom3 = 13,
+    Custom4 = 14
 };
 
 /// The picture beside the text. 8 to 10 are accepted and show none.
-enum class Face {
-    Warning = 0, Presenting = 1, Informing = 2, Congratulating = 3, Paniquing = 4, Ashamed = 5,
-    AlternatePicture = 6, Sad = 7
+enum class Face
+{
+    Warning = 0,
+    Presenting = 1,
+    Informing = 2,
+    Congratulating = 3,
+    Paniquing = 4,
+    Ashamed = 5,
+    AlternatePicture = 6,
+    Sad = 7
 };
 
 /// Codes in SessionState.MessageResult. Other captions give 7 + position: 8, 9, 10, 11.
@@ -27,7 +48,8 @@ constexpr int First = 8, Second = 9, Third = 10, Fourth = 11;
 } // namespace MessageCode
 
 /// What the message box is asked to show, after the range checks.
-struct Message {
+struct Message
+{
     QString Text;
     QString Title;
     int Buttons = 0;

@@ -31,8 +31,7 @@ QString ConnectionFailure(const RuntimeError& error)
 void EndOnFailedConnection(const RuntimeError& error)
 {
     Tell(T("FATAL ERROR:", "UNE ERREUR EST SURVENUE:"),
-         ConnectionFailure(error) +
-             T("The system will now be shut down!", "Le système sera maintenant interrompu!"),
+         ConnectionFailure(error) + T("The system will now be shut down!", "Le système sera maintenant interrompu!"),
          Face::Paniquing);
     EndProgram();
 }

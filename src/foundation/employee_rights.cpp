@@ -1,6 +1,10 @@
 #include "foundation/employee_rights.h"
 
-#define RIGHT(name) RightColumn{#name, &SecurityProfile::name}
+#define RIGHT(name)                                                                                                    \
+    RightColumn                                                                                                        \
+    {                                                                                                                  \
+#name, &SecurityProfile::name                                                                                  \
+    }
 
 const std::array<RightColumn, 25> kRights = {
     RIGHT(AccessToRestrictedCategory),

@@ -3,7 +3,8 @@
 #include <array>
 
 /// What a user may see and do: one member per rights column of `Employees`, 1 granted. Every test is "equals 1".
-struct SecurityProfile {
+struct SecurityProfile
+{
     int AccessToRestrictedCategory = 0;
     int IsAuthorizedToApprove = 0;
     int GroupLevelRead = 0;
@@ -33,7 +34,8 @@ struct SecurityProfile {
 
 using Right = int SecurityProfile::*;
 
-struct RightColumn {
+struct RightColumn
+{
     const char* Column;
     Right Member;
 };

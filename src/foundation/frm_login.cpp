@@ -89,12 +89,12 @@ void frmLogin::showEvent(QShowEvent* event)
 void frmLogin::Form_Load()
 {
     lblInstructions->setVisible(ChangingYear);
-    lblInstructions->setText(
-        Fill(T("Your current user identification ({LoginID}) does not give you access to fiscal year {FiscalYearName}. "
-               "Please login under a different user identification.",
-               "Votre nom d'usager ({LoginID}) ne vous donne pas accès à l'année fiscale {FiscalYearName}. Veuillez vous "
-               "enregistrer sous un autre nom d'usager."),
-             {{"LoginID", SessionState.LoginID}, {"FiscalYearName", FiscalYearName}}));
+    lblInstructions->setText(Fill(
+        T("Your current user identification ({LoginID}) does not give you access to fiscal year {FiscalYearName}. "
+          "Please login under a different user identification.",
+          "Votre nom d'usager ({LoginID}) ne vous donne pas accès à l'année fiscale {FiscalYearName}. Veuillez vous "
+          "enregistrer sous un autre nom d'usager."),
+        {{"LoginID", SessionState.LoginID}, {"FiscalYearName", FiscalYearName}}));
     txtUserName->setFocus();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/dao/dao.h"
 
 #include <QDialog>
+
 #include <functional>
 
 class QLabel;

@@ -3,12 +3,14 @@
 #include "platform/dao/dao.h"
 
 #include <QDialog>
+
 #include <functional>
 
 class QLabel;
 
 /// What the start needs of the floors above.
-struct StartUpSteps {
+struct StartUpSteps
+{
     std::function<void()> ShowSetUpWizard;
     std::function<void()> ShowServerConnection;
     std::function<void()> ShowMain;

@@ -28,7 +28,8 @@ void TakeName(const Recordset& employee)
 {
     Session& s = SessionState;
     const bool isAdmin = s.LoginID == "ADMIN";
-    s.UserName = isAdmin ? QString() : employee.Text("FirstName").trimmed() + " " + employee.Text("FamilyName").trimmed();
+    s.UserName =
+        isAdmin ? QString() : employee.Text("FirstName").trimmed() + " " + employee.Text("FamilyName").trimmed();
     s.CurrentSelection = isAdmin ? s.LoginID : s.UserName;
     s.TimeOutSeconds = isAdmin ? kAdminTimeOut : kEmployeeTimeOut;
 }
@@ -51,9 +52,8 @@ bool LogInUser(DataControl& datAbsence, int fiscalYear)
 
 bool CountAttenceRecords(DataControl& datAbsence)
 {
-    const Recordset batches =
-        datAbsence.Select("SELECT DISTINCT EnteredDate, CategoryID FROM Attendance WHERE EnteredBy = ? COLLATE BINARY",
-                          Who());
+    const Recordset batches = datAbsence.Select(
+        "SELECT DISTINCT EnteredDate, CategoryID FROM Attendance WHERE EnteredBy = ? COLLATE BINARY", Who());
     return batches.RecordCount() > kExperiencedUser;
 }
 

@@ -61,9 +61,9 @@ void CopyToAuditTwin(DataControl& datAbsence, const char* table, int recordID)
                                 .arg(table)
                                 .arg(recordID));
     const QString columns = AuditedColumns(datAbsence.Engine(), table).join(", ");
-    datAbsence.Execute(QStringLiteral("INSERT INTO %1_Modifications (%2) SELECT %2 FROM %1 WHERE RecordID = ?")
-                           .arg(table, columns),
-                       recordID);
+    datAbsence.Execute(
+        QStringLiteral("INSERT INTO %1_Modifications (%2) SELECT %2 FROM %1 WHERE RecordID = ?").arg(table, columns),
+        recordID);
 }
 
 QString InsertStatement(const char* table, const RowValues& values)

@@ -5,7 +5,8 @@
 #include <functional>
 #include <vector>
 
-struct ColumnValue {
+struct ColumnValue
+{
     const char* Column;
     QVariant Value;
 };

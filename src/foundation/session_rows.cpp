@@ -53,7 +53,8 @@ void LoadAdministratorInfo(DataControl& datAbsence)
     const Connection connection(datAbsence);
     if (!datAbsence.Read("SELECT * FROM Employees WHERE LoginID = 'ADMIN'"))
         return;
-    SessionState.AdminName = (datAbsence.Records.Text("FirstName").trimmed() + " " +
-                              datAbsence.Records.Text("FamilyName").trimmed()).trimmed();
+    SessionState.AdminName =
+        (datAbsence.Records.Text("FirstName").trimmed() + " " + datAbsence.Records.Text("FamilyName").trimmed())
+            .trimmed();
     datAbsence.Take("EMailAddress", SessionState.AdminEMail);
 }

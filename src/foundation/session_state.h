@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QVector>
+
 #include <array>
 
 /// A list of serial dates, ended by the first 0: a leap year and its end mark.
@@ -12,7 +13,8 @@ using DateList = std::array<int, 367>;
 
 /// The application-wide record that all forms read and write. It carries the rights of the user and the schedule of
 /// the employee shown. Dates are serial days (0 none), ids are RecordIDs (0 none), durations decimal hours.
-struct Session : SecurityProfile, WorkSchedule {
+struct Session : SecurityProfile, WorkSchedule
+{
     // The workstation's configuration.
     bool English = true; ///< false: French
     bool SQL_Server = false;

@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QString>
+
 #include <initializer_list>
 #include <utility>
 

@@ -4,6 +4,7 @@
 #include "foundation/session_state.h"
 
 #include <QRegularExpression>
+
 #include <cmath>
 
 double Val(const QString& text)

@@ -9,7 +9,8 @@ double Val(const QString& text);
 /// (seven digits) shows them.
 QString FormatNumber(float value, int decimals);
 
-/// Clock times are lists of hours and minutes: "07:30". Returns decimal hours; "00:00" gives kMidnight, an empty text 0.
+/// Clock times are lists of hours and minutes: "07:30". Returns decimal hours; "00:00" gives kMidnight, an empty text
+/// 0.
 float ClockHours(const QString& text);
 
 /// Midnight as a clock time, so that it differs from 0, none.

@@ -3,8 +3,7 @@
 #define DAY(name, weekday)                                                                                             \
     ScheduleColumn{name "_FirstHalfStart", &WorkSchedule::FirstHalfStart, weekday},                                    \
         ScheduleColumn{name "_FirstHalfEnd", &WorkSchedule::FirstHalfEnd, weekday},                                    \
-        ScheduleColumn{name "_SecondHalfStart", &WorkSchedule::SecondHalfStart, weekday},                              \
-        ScheduleColumn                                                                                                 \
+        ScheduleColumn{name "_SecondHalfStart", &WorkSchedule::SecondHalfStart, weekday}, ScheduleColumn               \
     {                                                                                                                  \
         name "_SecondHalfEnd", &WorkSchedule::SecondHalfEnd, weekday                                                   \
     }

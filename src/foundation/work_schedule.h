@@ -4,7 +4,8 @@
 
 /// The weekly schedule of an employee. Arrays are indexed 0 Sunday to 6 Saturday; all values are decimal hours.
 /// A clock time of 0 means none; midnight is 1e-7.
-struct WorkSchedule {
+struct WorkSchedule
+{
     std::array<float, 7> FirstHalfStart{};
     std::array<float, 7> FirstHalfEnd{};
     std::array<float, 7> SecondHalfStart{};
@@ -16,7 +17,8 @@ struct WorkSchedule {
 
 using WeekdayHours = std::array<float, 7> WorkSchedule::*;
 
-struct ScheduleColumn {
+struct ScheduleColumn
+{
     const char* Column;
     WeekdayHours Member;
     int Weekday;

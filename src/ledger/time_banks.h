@@ -6,6 +6,6 @@
 /// categories related to the time bank. 0 when there are none.
 float TimeBankOfEmployee(DataControl& datAbsence, int employeeID);
 
-/// The time bank of what the calendar shows: the employee, or else the group, department or organization. 0 when nothing
-/// is selected.
+/// The time bank of what the calendar shows: the employee, or else the group, department or organization. 0 when
+/// nothing is selected.
 float TimeBankOfSelection(DataControl& datAbsence);

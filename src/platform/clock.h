@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QDateTime>
+
 #include <functional>
 
 /// The serial day (days since 1899-12-30) of a date, and back.
@@ -20,7 +21,8 @@ double SerialOfDateTime(const QDateTime& moment);
 void Wait(int seconds);
 
 /// What the clock is made of; tests put their own in.
-struct ClockSource {
+struct ClockSource
+{
     std::function<QDateTime()> Moment;
     std::function<void(int seconds)> Wait;
 };

@@ -33,8 +33,10 @@ QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     QVector<CategoryItem> items;
-    for (Recordset row = datAbsence.Select(CategoriesQuery(), SessionState.EmployeeDepartmentID, SessionState.FiscalYearID);
+    for (Recordset row =
+             datAbsence.Select(CategoriesQuery(), SessionState.EmployeeDepartmentID, SessionState.FiscalYearID);
          !row.AtEnd(); row.MoveNext())
-        items.append({row.Long("RecordID"), row.Text(CategoryNameColumn()).trimmed(), row.Text("SystemName").trimmed()});
+        items.append(
+            {row.Long("RecordID"), row.Text(CategoryNameColumn()).trimmed(), row.Text("SystemName").trimmed()});
     return items;
 }

@@ -5,7 +5,8 @@
 #include <QVector>
 
 /// One category as the lists offer it, with its name in the session's language.
-struct CategoryItem {
+struct CategoryItem
+{
     int RecordID = 0;
     QString Name;
     QString SystemName; ///< empty for a category made by users

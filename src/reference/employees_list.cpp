@@ -37,7 +37,8 @@ void EmployeesListToBeReloaded(DataControl& datAbsence)
 void ReloadEmployeesList(DataControl& datAbsence, ListedEmployees which)
 {
     if (SessionState.SQL_Server)
-        return SendToServer(QStringLiteral("DELETE FROM Employees_List WHERE FiscalYear = %1").arg(SessionState.FiscalYearID));
+        return SendToServer(
+            QStringLiteral("DELETE FROM Employees_List WHERE FiscalYear = %1").arg(SessionState.FiscalYearID));
     const Connection connection(datAbsence);
     Batch batch(datAbsence.Engine());
     try {

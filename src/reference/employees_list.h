@@ -8,7 +8,11 @@
 /// Flags the list of the session's year. Throws when the year cannot be written.
 void EmployeesListToBeReloaded(DataControl& datAbsence);
 
-enum class ListedEmployees { ActiveOnly, All };
+enum class ListedEmployees
+{
+    ActiveOnly,
+    All
+};
 
 /// Rebuilds the list of the session's year and clears the flag. Throws when it cannot be written; the list is then as
 /// it was.

@@ -9,9 +9,10 @@ QVector<Holiday> LoadHolidays(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     QVector<Holiday> holidays;
-    for (Recordset row = datAbsence.Select("SELECT * FROM Holidays WHERE HolidayDate BETWEEN ? AND ? AND CancelledDate = 0 "
-                                           "ORDER BY HolidayDate ASC",
-                                           SessionState.CommencingDate, SessionState.EndingDate);
+    for (Recordset row =
+             datAbsence.Select("SELECT * FROM Holidays WHERE HolidayDate BETWEEN ? AND ? AND CancelledDate = 0 "
+                               "ORDER BY HolidayDate ASC",
+                               SessionState.CommencingDate, SessionState.EndingDate);
          !row.AtEnd(); row.MoveNext())
         holidays.append({row.Long("HolidayDate"), row.Text("HolidayName").trimmed()});
     return holidays;

@@ -5,7 +5,8 @@
 #include <QVector>
 
 /// A statutory holiday; `Date` is a serial day.
-struct Holiday {
+struct Holiday
+{
     int Date = 0;
     QString Name;
 };

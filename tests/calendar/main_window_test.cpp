@@ -1,7 +1,6 @@
-#include "calendar/frm_main.h"
-
 #include "attendance/frm_attendance.h"
 #include "calendar/access_rules.h"
+#include "calendar/frm_main.h"
 #include "foundation/frm_login.h"
 #include "platform/clock.h"
 #include "platform/controls/flex_grid.h"
@@ -12,6 +11,7 @@
 
 #include <QAction>
 #include <QTest>
+
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -192,7 +192,8 @@ TEST_F(MainWindow, EachUsersRightsDecideWhatIsEnabled)
     main->timAbsence_Timer();
     EXPECT_FALSE(Visible("imgCreateSingle") || Visible("imgRemove") || Visible("imgApprove") || Visible("imgSubmit"));
     EXPECT_FALSE(Enabled("mnuFileEmployees") || Enabled("mnuFileHolidays") || Enabled("mnuSpecialFiscalYearCreate"));
-    EXPECT_TRUE(Enabled("mnuSpecialFiscalYearClose") && Enabled("mnuReportsYTD_Global") && Visible("imgUpdateSelection"));
+    EXPECT_TRUE(Enabled("mnuSpecialFiscalYearClose") && Enabled("mnuReportsYTD_Global") &&
+                Visible("imgUpdateSelection"));
 }
 
 TEST(AccessRules, EveryRightOpensJustItsOwnItems)
@@ -227,10 +228,11 @@ TEST(AccessRules, EveryRightOpensJustItsOwnItems)
     EXPECT_EQ(gained({&P::DepartmentLevelCreate}), "mnuBlocked mnuBlocked_Dept mnuBlocked_Group mnuBlocked_Individual");
     EXPECT_EQ(gained({&P::CanGenerateReports}), "");
     EXPECT_EQ(gained({&P::DepartmentLevelRead}), "imgUpdateSelection");
-    EXPECT_EQ(gained({&P::DepartmentLevelRead, &P::CanGenerateReports}),
-              "imgUpdateSelection mnuReportsAbsenteeismByDate_Dept mnuReportsCancelled_Dept mnuReportsRegularCtg_Dept "
-              "mnuReportsSubmitted_Dept mnuReportsTimeBankCtg_Dept mnuReportsYTDTimeBank_Dept mnuReportsYTD_Departmental "
-              "mnuSchedule_Dept");
+    EXPECT_EQ(
+        gained({&P::DepartmentLevelRead, &P::CanGenerateReports}),
+        "imgUpdateSelection mnuReportsAbsenteeismByDate_Dept mnuReportsCancelled_Dept mnuReportsRegularCtg_Dept "
+        "mnuReportsSubmitted_Dept mnuReportsTimeBankCtg_Dept mnuReportsYTDTimeBank_Dept mnuReportsYTD_Departmental "
+        "mnuSchedule_Dept");
     EXPECT_EQ(gained({&P::DepartmentLevelRead, &P::AccessToEmployeesModule}),
               "imgUpdateSelection mnuFileEmployees mnuReportsAbsenteeismCost_Dept");
 }
@@ -238,7 +240,8 @@ TEST(AccessRules, EveryRightOpensJustItsOwnItems)
 TEST_F(MainWindow, CreatingNeedsAnEmployeeOtherThanTheAdministrator)
 {
     Opens("ADMIN");
-    user.WillAnswer("ERROR:", "OK", "The system administrator is not considered as an employee!").Clicks("imgCreateSingle");
+    user.WillAnswer("ERROR:", "OK", "The system administrator is not considered as an employee!")
+        .Clicks("imgCreateSingle");
     SessionState.EmployeeID = 0;
     user.WillAnswer("ERROR:", "OK", "You must first select an employee!").Clicks("imgCreateMultiple");
     user.WillAnswer("UNABLE TO PROCEED:", "OK", "Before you can modify attendance records").Clicks("imgModify");
@@ -287,7 +290,10 @@ TEST_F(MainWindow, MarkedDatesBecomeRecordsAndTheCalendarFollows)
     user.WhenOpens<frmAttendance>([this](frmAttendance&) {
         EXPECT_EQ(SessionState.AttendanceDates[0], SerialOfDate({2026, 12, 15}));
         EXPECT_EQ(SessionState.AttendanceDates[2], 0);
-        user.Picks("cboCategories", "Vacation").Checks("chkWholeDay").WillAnswer("CONFIRM:", "Yes").Clicks("cmdAddOrUpdate");
+        user.Picks("cboCategories", "Vacation")
+            .Checks("chkWholeDay")
+            .WillAnswer("CONFIRM:", "Yes")
+            .Clicks("cmdAddOrUpdate");
     });
     user.Clicks("imgCreateMultiple");
     EXPECT_EQ(Back(12, 15), kVacationColor);
@@ -327,7 +333,8 @@ TEST_F(MainWindow, ARequestIsForOneselfAndNeedsAnApprover)
     Opens("MBOUCHARD");
     ChoosesEmployee(luc, "Luc Roy");
     SessionState.UserApprovedBy = 0;
-    user.WillAnswer("OPERATION DENIED:", "OK", "See your system administrator (Alice Tremblay) for more details.").Clicks("imgSubmit");
+    user.WillAnswer("OPERATION DENIED:", "OK", "See your system administrator (Alice Tremblay) for more details.")
+        .Clicks("imgSubmit");
     SessionState.UserApprovedBy = 1;
     user.Clicks("imgSubmit");
     EXPECT_EQ(user.Reads("lblCurrentSelection_DISPLAY"), "Marie Bouchard");
@@ -414,9 +421,8 @@ TEST_F(MainWindow, ANeighbouringYearBringsItsOwnUserAndRights)
     user.Clicks("cmdNextYear");
     EXPECT_EQ(SessionState.FiscalYearName, "2026");
     house.Hire({"LROY", "Luc", "Roy", "Production", ""}, 2);
-    user.WhenOpens<frmLogin>([this](frmLogin&) {
-        user.Types("txtUserName", "lroy").Types("txtPassword", "pass").Clicks("cmdOK");
-    });
+    user.WhenOpens<frmLogin>(
+        [this](frmLogin&) { user.Types("txtUserName", "lroy").Types("txtPassword", "pass").Clicks("cmdOK"); });
     user.Clicks("cmdNextYear");
     EXPECT_EQ(SessionState.FiscalYearName, "2027");
     EXPECT_EQ(user.Reads("lblCurrentSelection_DISPLAY"), "Luc Roy");

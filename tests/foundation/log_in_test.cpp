@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -22,7 +23,8 @@ protected:
 
     void Start()
     {
-        frmSplashScreen splash({[this] { shown << "wizard"; }, [this] { shown << "server"; }, [this] { shown << "main"; }});
+        frmSplashScreen splash(
+            {[this] { shown << "wizard"; }, [this] { shown << "server"; }, [this] { shown << "main"; }});
         splash.Form_Activate();
     }
     void Types(frmLogin& login, const QString& name, const QString& password)
@@ -87,7 +89,8 @@ TEST_F(LogIn, AdminEntersAnyYearAndIsToldWhenItIsClosed)
     house.Configured().Company();
     house.Sql("UPDATE FiscalYears SET ClosedDate = ?", {SerialOfDate({2026, 2, 27})});
     user.WhenOpens<frmLogin>([this](frmLogin& login) {
-        user.WillAnswer("FISCAL YEAR CLOSED:", "OK", "Fiscal year 2026 was closed on Fri 27-Feb-2026.\r\n\r\nYou can no longer");
+        user.WillAnswer("FISCAL YEAR CLOSED:", "OK",
+                        "Fiscal year 2026 was closed on Fri 27-Feb-2026.\r\n\r\nYou can no longer");
         Types(login, "admin", "secret");
     });
     Start();
@@ -144,7 +147,8 @@ TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
         house.Today(year, month, day);
         ChooseCurrentFiscalYear(datAbsence);
         FindNeighbouringYears(datAbsence);
-        return SessionState.FiscalYearName + " after " + SessionState.PreviousFYName + " before " + SessionState.NextFYName;
+        return SessionState.FiscalYearName + " after " + SessionState.PreviousFYName + " before " +
+               SessionState.NextFYName;
     };
     EXPECT_EQ(chosen(2026, 4, 1), "2026 after  before 2027");
     EXPECT_EQ(chosen(2025, 6, 1), "2026 after  before 2027");
@@ -159,7 +163,8 @@ TEST_F(LogIn, AnExperiencedUserNeedsNoHint)
     const int marie = Hired("MBOUCHARD", {"SelfLevelCreate"});
     for (int day = 1; day <= 26; ++day) {
         const int record = house.Record(marie, "Vacation", {2026, 3, 2}, 7);
-        house.Sql("UPDATE Attendance SET EnteredBy = 'MBOUCHARD', EnteredDate = ? WHERE RecordID = ?", {46000 + day / 2 * 2, record});
+        house.Sql("UPDATE Attendance SET EnteredBy = 'MBOUCHARD', EnteredDate = ? WHERE RecordID = ?",
+                  {46000 + day / 2 * 2, record});
     }
     house.LogIn("MBOUCHARD");
     EXPECT_TRUE(SessionState.ShowSelectHint);

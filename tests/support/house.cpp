@@ -24,7 +24,8 @@ std::function<void(const QString&)>& ComplaintHandler()
 
 QDateTime moment; // what the program takes for now
 
-struct SystemCategory {
+struct SystemCategory
+{
     const char* SystemName;
     const char* French;
     const char* Code;
@@ -165,8 +166,12 @@ void House::SeedCategories(int fiscalYear)
 
 void House::SeedAdministrator()
 {
-    QVariantMap admin{{"LoginID", "ADMIN"}, {"Password", "SECRET"}, {"FirstName", "Alice"}, {"FamilyName", "Tremblay"},
-                      {"EMailAddress", "alice@example.org"}, {"EnteredBy", "SYSTEM"}};
+    QVariantMap admin{{"LoginID", "ADMIN"},
+                      {"Password", "SECRET"},
+                      {"FirstName", "Alice"},
+                      {"FamilyName", "Tremblay"},
+                      {"EMailAddress", "alice@example.org"},
+                      {"EnteredBy", "SYSTEM"}};
     for (const auto& [column, member] : kRights)
         admin[column] = 1;
     Insert("Employees", admin);
@@ -176,13 +181,13 @@ House& House::Units()
 {
     const auto unit = [this](const char* table, const QString& kind, const QString& english, const QString& french,
                              QVariantMap above) {
-        above.insert({{"FiscalYear", 1}, {"Active", 1}, {kind + "EnglishName", english}, {kind + "FrenchName", french}});
+        above.insert(
+            {{"FiscalYear", 1}, {"Active", 1}, {kind + "EnglishName", english}, {kind + "FrenchName", french}});
         return Insert(table, above);
     };
     const int works = unit("Organizations", "Organization", "Northern Works", "Ateliers du Nord", {});
     const int trade = unit("Organizations", "Organization", "Southern Trade", "Commerce du Sud", {});
-    const int production =
-        unit("Departments", "Department", "Production", "Fabrication", {{"OrganizationID", works}});
+    const int production = unit("Departments", "Department", "Production", "Fabrication", {{"OrganizationID", works}});
     const int sales = unit("Departments", "Department", "Sales", "Ventes", {{"OrganizationID", works}});
     const int stores = unit("Departments", "Department", "Stores", "Magasins", {{"OrganizationID", trade}});
     unit("Groups", "Group", "Assembly", "Assemblage", {{"OrganizationID", works}, {"DepartmentID", production}});
@@ -196,7 +201,8 @@ House& House::Units()
 
 int House::Hire(const Person& person, int fiscalYear)
 {
-    const int department = Number("SELECT RecordID FROM Departments WHERE DepartmentEnglishName = ?", {person.Department});
+    const int department =
+        Number("SELECT RecordID FROM Departments WHERE DepartmentEnglishName = ?", {person.Department});
     QVariantMap employee{
         {"FiscalYear", fiscalYear},
         {"OrganizationID", Number("SELECT OrganizationID FROM Departments WHERE RecordID = ?", {department})},

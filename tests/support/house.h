@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+
 #include <functional>
 #include <memory>
 #include <ostream>
@@ -15,19 +16,21 @@ void SetComplaintHandler(std::function<void(const QString&)> handler);
 void Complain(const QString& text);
 
 /// What EndProgram throws inside the house.
-struct ProgramEnded {};
+struct ProgramEnded
+{};
 
 /// One employee of the test company. Rights are column names, each granted.
-struct Person {
+struct Person
+{
     QString LoginID;
     QString FirstName;
     QString FamilyName;
-    QString Department;     ///< English name
-    QString Group = {};     ///< English name, empty for none
+    QString Department; ///< English name
+    QString Group = {}; ///< English name, empty for none
     QStringList Rights = {};
-    int ApprovedBy = 0;     ///< RecordID of the first approver
+    int ApprovedBy = 0; ///< RecordID of the first approver
     float HourlyRate = 20;
-    bool Scheduled = true;  ///< Monday to Friday 8:30 to 12:00 and 13:00 to 16:30
+    bool Scheduled = true; ///< Monday to Friday 8:30 to 12:00 and 13:00 to 16:30
 };
 
 /// A program folder of its own with the delivered empty databases, a fixed day and a session in its first state.

@@ -142,7 +142,8 @@ User& User::Picks(const QString& name, const QString& entry)
             return *this;
         }
         list->scrollToItem(found.first());
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualItemRect(found.first()).center());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          list->visualItemRect(found.first()).center());
     }
     return *this;
 }

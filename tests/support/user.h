@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QWidget>
+
 #include <deque>
 #include <functional>
 #include <memory>
@@ -37,17 +38,17 @@ public:
         return dynamic_cast<Form&>(*form_);
     }
 
-    User& Types(const QString& name, const QString& text);     ///< replaces the contents, key by key
+    User& Types(const QString& name, const QString& text); ///< replaces the contents, key by key
     User& Presses(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    User& Clicks(const QString& name);                         ///< a button, check box, option or label
+    User& Clicks(const QString& name); ///< a button, check box, option or label
     User& Checks(const QString& name, bool checked = true);
-    User& Picks(const QString& name, const QString& entry);    ///< an entry of a list or combo box that starts so
-    User& LeavesField(const QString& name);                    ///< the focus moves on
+    User& Picks(const QString& name, const QString& entry); ///< an entry of a list or combo box that starts so
+    User& LeavesField(const QString& name);                 ///< the focus moves on
 
     /// What stands in a control: text of fields and labels, current text of lists, "1"/"0" of check boxes.
     QString Reads(const QString& name) const;
     QStringList Entries(const QString& name) const;
-    bool CanUse(const QString& name) const;                    ///< visible and enabled
+    bool CanUse(const QString& name) const; ///< visible and enabled
     bool HasFocus(const QString& name) const;
 
     /// The next message must bear this title; it is answered with the button of that caption. `containing` must stand
@@ -75,7 +76,8 @@ public:
     User& Photographs(const QString& file);
 
 private:
-    struct Answer {
+    struct Answer
+    {
         QString Title;
         QString Button;
         QString Containing;
