@@ -131,15 +131,22 @@ void frmMain::RefreshDate(int date)
     pane_->RefreshDate(calendar_, date);
 }
 
-/// The entry form chooses categories for its own records; the calendar keeps the category that it shows.
+/// The entry form chooses employees and categories for its own records; the calendar keeps the category that it shows,
+/// and follows to another employee only when records were written for him.
 void frmMain::ShowAttendance(int recordToModify, bool conflictsAccepted)
 {
+    const CalendarSelection shown = SessionState;
     const int shownCategory = SessionState.SelectedCategoryID;
     frmAttendance form(this);
     form.RecordToModify = recordToModify;
     form.ConflictsAccepted = conflictsAccepted;
-    ShowModal(form);
+    if (ShowModal(form) != QDialog::Accepted)
+        static_cast<CalendarSelection&>(SessionState) = shown;
     SessionState.SelectedCategoryID = shownCategory;
+    if (SessionState.EmployeeID != shown.EmployeeID)
+        ReloadSelection();
+    else
+        LoadEmployeeInfo();
     ReloadIfAsked();
 }
 
