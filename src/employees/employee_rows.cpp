@@ -133,11 +133,16 @@ bool LoadEmployeeRecord_ACCESS(DataControl& datAbsence, EmployeeRecord& record)
 
 bool LoadEmployeeRecord_SQL()
 {
+    TellAlreadyInactive();
+    return false;
+}
+
+void TellAlreadyInactive()
+{
     Tell(T("UNABLE TO PROCEED:", "CETTE OPÉRATION NE PEUT ÊTRE COMPLÉTÉE:"),
          T("The selected employee record is already inactive!",
            "L'employé(e) que vous venez de sélectionner est déjà inactif(ve)!"),
          Face::Warning);
-    return false;
 }
 
 bool IsLoginIDTaken(DataControl& datAbsence, const EmployeeRecord& record)

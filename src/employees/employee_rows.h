@@ -13,6 +13,8 @@ void CountEmployees(DataControl& datAbsence, int& count);
 bool LoadEmployeeRecord_ACCESS(DataControl& datAbsence, EmployeeRecord& record);
 /// The server back end reads nothing: says that the employee is inactive, and returns false.
 bool LoadEmployeeRecord_SQL();
+/// Says that the employee selected is inactive already.
+void TellAlreadyInactive();
 
 /// Another employee of the year logs in by that name, or it is the administrator's. Letter case does not count.
 bool IsLoginIDTaken(DataControl& datAbsence, const EmployeeRecord& record);
