@@ -13,6 +13,23 @@
 
 namespace
 {
+/// The last guard: a failure of the data engine that no form expected is told, and the program goes on.
+class Application : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const RuntimeError& error) {
+            TellError(error);
+            return false;
+        }
+    }
+};
+
 /// Runs the start in a window of its own; the wizard comes back to it when it is done.
 class Program
 {
@@ -49,7 +66,7 @@ private:
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
+    const Application application(argc, argv);
     QApplication::setApplicationName("Tarvell");
     QApplication::setApplicationVersion(
         QStringLiteral("%1.%2.%3").arg(TARVELL_VERSION_MAJOR).arg(TARVELL_VERSION_MINOR).arg(TARVELL_VERSION_REVISION));

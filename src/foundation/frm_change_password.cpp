@@ -61,6 +61,7 @@ void frmChangePassword::ConnectControls()
     for (QLineEdit* field : {txtOldPassword, txtNewPassword, txtRepeatedPassword}) {
         field->setMaxLength(kPasswordLimit);
         field->setEchoMode(QLineEdit::Password);
+        field->ensurePolished(); // the character is asked for once, when a polished field changes its style
         field->setStyleSheet("lineedit-password-character: 42");
         FilterKeys(field, KeyFilter::LogIn);
     }

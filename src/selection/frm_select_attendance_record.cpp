@@ -9,8 +9,8 @@
 
 namespace
 {
-constexpr int kInstructionsWidth = 440;
-constexpr int kListHeight = 130;
+constexpr QSize kSize(480, 250);
+constexpr int kListHeight = 90;
 } // namespace
 
 frmSelectAttendanceRecord::frmSelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines, QWidget* parent)
@@ -30,7 +30,6 @@ void frmSelectAttendanceRecord::BuildControls(const std::vector<std::pair<QStrin
                         "Il y a plus d'une absence enregistrée ce jour là. Veuillez spécifier laquelle des absences "
                         "suivantes vous souhaitez modifier ou supprimer."));
     lblInstructions->setWordWrap(true);
-    lblInstructions->setMinimumWidth(kInstructionsWidth);
     lstRecords = Named<QListWidget>("lstRecords");
     lstRecords->setMinimumHeight(kListHeight);
     lstRecords->setAccessibleName(lblInstructions->text());
@@ -46,11 +45,13 @@ void frmSelectAttendanceRecord::BuildControls(const std::vector<std::pair<QStrin
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* content = new QVBoxLayout;
+    content->setSpacing(12);
     content->addWidget(lblInstructions);
     content->addWidget(lstRecords);
     QVBoxLayout* page = PageLayout(this);
     page->addWidget(MakeCard(content));
     page->addLayout(ButtonRow({cmdCancel, cmdSelect}));
+    resize(kSize);
 }
 
 void frmSelectAttendanceRecord::cmdSelect_Click()

@@ -34,6 +34,7 @@ void frmSelectEmployee::BuildControls()
     setObjectName("frmSelectEmployee");
     lblInstructions = Named<QLabel>("lblInstructions");
     lblInstructions->setWordWrap(true);
+    lblInstructions->setContentsMargins(0, 0, 0, 8);
     const std::array<QString, kReachLists> names = {"Organizations", "Departments", "Groups", "Employees"};
     auto* content = new QGridLayout;
     content->addWidget(lblInstructions, 0, 0, 1, 2);
@@ -42,7 +43,6 @@ void frmSelectEmployee::BuildControls()
         heads_[i] = AsHead(Named<QLabel>("lbl" + names[i]));
         lists_[i] = Named<QListWidget>("lst" + names[i]);
         lists_[i]->setMinimumWidth(kListWidth);
-        lists_[i]->setAccessibleName(names[i]);
         heads_[i]->setBuddy(lists_[i]);
         if (list == ReachList::Employees) {
             content->addWidget(heads_[i], 1, 1);

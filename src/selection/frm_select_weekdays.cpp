@@ -23,6 +23,7 @@ frmSelectWeekdays::frmSelectWeekdays(QWidget* parent) : QDialog(parent), boxes_(
     connect(cmdCancel, &QPushButton::clicked, this, &frmSelectWeekdays::reject);
 
     auto* content = new QVBoxLayout;
+    content->setSpacing(12);
     content->addWidget(lblInstructions);
     content->addWidget(boxes_);
     QVBoxLayout* page = PageLayout(this);

@@ -13,6 +13,7 @@
 #include "setup/frm_step_language.h"
 #include "setup/installation.h"
 
+#include <QRadioButton>
 #include <QStackedWidget>
 
 namespace
@@ -20,12 +21,20 @@ namespace
 constexpr int kDatabaseStep = 3;
 constexpr int kLastStep = 6;
 constexpr int kNameInSummary = 20; // characters of the fiscal year's name
-constexpr QSize kSize(920, 560);
+constexpr QSize kSize(940, 480);
 
 /// Until a language is chosen the wizard speaks both.
 QString Bilingual(const char* english, const char* french, const char* between = "  -  ")
 {
     return QString::fromUtf8(english) + between + QString::fromUtf8(french);
+}
+/// The first field of a step, if it has one.
+QWidget* FirstField(const QWidget* step)
+{
+    for (QWidget* field : step->findChildren<QWidget*>())
+        if (field->isVisibleTo(step) && (qobject_cast<QLineEdit*>(field) || qobject_cast<QRadioButton*>(field)))
+            return field;
+    return nullptr;
 }
 } // namespace
 
@@ -93,7 +102,7 @@ void frmSetUpWizard::LoadCaptions()
     cmdCancel->setText(text("&Cancel", "&Annuler"));
     cmdPrevious->setText(text("&Previous", "&Précédent"));
     lblStep->setText(Fill(text("Step {n} of {last}", "Étape {n} de {last}"),
-                          {{"n", QString::number(CurrentStep)}, {"last", QString::number(kLastStep)}}));
+                          {{"n", QString::number(CurrentStep)}, {"last", QString::number(LastStep())}}));
     cmdNext->setText(IsLastStep() ? text("FINISH", "TERMINER") : text("&Next", "&Suivant"));
     for (WizardStep* step : steps_->findChildren<WizardStep*>())
         step->LoadCaptions();
@@ -137,6 +146,8 @@ void frmSetUpWizard::ShowStep(int step, const QString& title)
     LoadCaptions();
     static_cast<WizardStep*>(steps_->currentWidget())->ShowChoices();
     UpdateButtons();
+    QWidget* field = FirstField(steps_->currentWidget());
+    (field ? field : cmdNext)->setFocus();
 }
 
 void frmSetUpWizard::GoToStep(int step)
@@ -147,9 +158,15 @@ void frmSetUpWizard::GoToStep(int step)
     (this->*show[step - 1])();
 }
 
+/// An existing database needs no rows of the wizard's.
+int frmSetUpWizard::LastStep() const
+{
+    return choices_.Kind == Installation::None || IsNew(choices_.Kind) ? kLastStep : kDatabaseStep;
+}
+
 bool frmSetUpWizard::IsLastStep() const
 {
-    return CurrentStep == kLastStep || (CurrentStep == kDatabaseStep && !IsNew(choices_.Kind));
+    return CurrentStep == LastStep();
 }
 
 void frmSetUpWizard::UpdateButtons()

@@ -20,6 +20,8 @@ class frmSetUpWizard : public QDialog
 {
 public:
     explicit frmSetUpWizard(std::function<void()> startNormally, QWidget* parent = nullptr);
+    /// Hides first: the field that loses the focus still answers to the whole form.
+    ~frmSetUpWizard() override { hide(); }
     void reject() override { cmdCancel_Click(); }
 
 private:
@@ -37,6 +39,7 @@ private:
     void ShowStep(int step, const QString& title);
     void GoToStep(int step);
     void UpdateButtons();
+    int LastStep() const;
     bool IsLastStep() const;
 
     void cmdNext_Click();

@@ -94,7 +94,7 @@ void AdministratorStep::LoadCaptions()
                                     "les années fiscales. Conservez ce nom d'usager et ce mot-clé en lieu sûr."));
     labels_[0]->setText(T("&Last name", "Nom de &famille"));
     labels_[1]->setText(T("&First name", "P&rénom"));
-    labels_[2]->setText(T("&Phone number", "Numéro de &téléphone"));
+    labels_[2]->setText(T("P&hone number", "Numéro de &téléphone"));
     labels_[3]->setText(T("User name", "Nom d'usager"));
     labels_[4]->setText(T("Pass&word", "&Mot-clé"));
     lblOptional->setText(T("optional!", "facultatif!"));

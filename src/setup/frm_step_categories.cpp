@@ -97,10 +97,6 @@ void CategoriesStep::BuildColumn(int index, QGridLayout* grid)
     grid->addWidget(column.Varies, 4, index + 1);
     grid->addWidget(column.NoEntitlement, 5, index + 1);
     grid->addWidget(column.CarryOver, 6, index + 1);
-    for (QWidget* field : {static_cast<QWidget*>(column.Name), static_cast<QWidget*>(column.Hours),
-                           static_cast<QWidget*>(column.Minutes), static_cast<QWidget*>(column.Varies),
-                           static_cast<QWidget*>(column.NoEntitlement)})
-        QWidget::setTabOrder(field, field->nextInFocusChain());
 }
 
 void CategoriesStep::ConnectColumn(int index)

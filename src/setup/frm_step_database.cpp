@@ -81,10 +81,13 @@ QWidget* DatabaseStep::MakeFilePage()
     content->setSpacing(12);
     content->addWidget(lblDatabaseHelp);
     content->addSpacing(10);
-    content->addWidget(lblDatabaseHead);
-    content->addWidget(lblDatabasePath);
-    content->addSpacing(6);
-    content->addWidget(cmdRelocateDatabase, 0, Qt::AlignLeft);
+    auto* place = new QVBoxLayout;
+    place->setSpacing(8);
+    place->addWidget(lblDatabaseHead);
+    place->addWidget(lblDatabasePath);
+    place->addSpacing(8);
+    place->addWidget(cmdRelocateDatabase, 0, Qt::AlignLeft);
+    content->addWidget(MakeCard(place));
     content->addStretch();
     return page;
 }
@@ -165,12 +168,12 @@ void DatabaseStep::LoadCaptions()
     lblDatabaseHead->setText(T("Location of the database", "Emplacement de la banque de données"));
     cmdRelocateDatabase->setText(
         isNew ? T("&Relocate database", "&Relocaliser la banque de données")
-              : T("&Specify path to existing database", "&Spécifier l'emplacement de la banque de données existante"));
+              : T("&Specify path to existing database", "Spécifier l'&emplacement de la banque de données existante"));
     lblServerHead->setText(
         T("Microsoft SQL Server connection parameters:", "Paramètres de connexion à Microsoft SQL Server:"));
     labels_[0]->setText(T("&IP address", "Adresse &IP"));
     labels_[1]->setText(T("&User name", "Nom d'&usager"));
-    labels_[2]->setText(T("&Password", "&Mot-clé"));
+    labels_[2]->setText(T("Pass&word", "&Mot-clé"));
     labels_[3]->setText(T("&Database name", "Nom de la &banque de données"));
     cmdTestConnection->setText(T("&Test connection", "&Tester la connexion"));
 }

@@ -65,11 +65,15 @@ void FiscalYearStep::BuildControls()
     content->addWidget(lblStartYear, 3, 2);
     content->addWidget(cboStartYear, 3, 3);
     content->setRowMinimumHeight(4, 10);
-    content->addWidget(lblStartCaption, 5, 1);
-    content->addWidget(lblEndCaption, 5, 2, 1, 2);
-    content->addWidget(lblFiscalYearStart, 6, 1);
-    content->addWidget(lblFiscalYearEnd, 6, 2, 1, 2);
-    content->setRowStretch(7, 1);
+    auto* dates = new QGridLayout;
+    dates->setHorizontalSpacing(40);
+    dates->addWidget(lblStartCaption, 0, 0);
+    dates->addWidget(lblEndCaption, 0, 1);
+    dates->addWidget(lblFiscalYearStart, 1, 0);
+    dates->addWidget(lblFiscalYearEnd, 1, 1);
+    dates->setColumnStretch(2, 1);
+    content->addLayout(dates, 5, 1, 1, 4);
+    content->setRowStretch(6, 1);
     content->setColumnStretch(4, 1);
 }
 
@@ -96,7 +100,7 @@ void FiscalYearStep::LoadCaptions()
           "fiscale; la période de temps au cours de laquelle vous enregistrez et contrôlez les absences de vos "
           "employés."));
     lblFiscalYearName->setText(T("Name of the &fiscal year", "Nom de l'année &fiscale"));
-    lblStartMonth->setText(T("Starts on the first of", "Débute le premier jour de"));
+    lblStartMonth->setText(T("Starts on the &1st of", "Débute le &1er"));
     lblStartYear->setText(T("&Year", "A&nnée"));
     lblStartCaption->setText(T("Start", "Début"));
     lblEndCaption->setText(T("End", "Fin"));

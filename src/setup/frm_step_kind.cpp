@@ -77,7 +77,7 @@ constexpr KindText kKinds[] = {
 KindStep::KindStep(SetUpChoices& choices) : WizardStep("fraStep2", choices), lblKind(WrappedLabel("lblKind"))
 {
     auto* content = new QVBoxLayout(this);
-    content->setSpacing(18);
+    content->setSpacing(12);
     content->addWidget(AsHead(lblKind));
     for (std::size_t index = 0; index < std::size(kKinds); ++index)
         content->addWidget(MakeOption(index));
@@ -95,15 +95,13 @@ QWidget* KindStep::MakeOption(std::size_t index)
     connect(button, &QRadioButton::clicked, this, [this, &kind] { Choose(kind.Kind); });
     connect(info, &QPushButton::clicked, this,
             [&kind] { Tell(T("INFORMATION:", "INFORMATION:"), T(kind.EnglishNote, kind.FrenchNote)); });
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(10);
-    layout->addWidget(button, 0, Qt::AlignTop);
-    layout->addWidget(text, 1);
-    layout->addWidget(info, 0, Qt::AlignTop);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(12);
+    row->addWidget(button);
+    row->addWidget(text, 1);
+    row->addWidget(info);
     options_.push_back({button, text, info});
-    return row;
+    return MakeCard(row);
 }
 
 void KindStep::Choose(Installation kind)

@@ -23,8 +23,15 @@ LanguageStep::LanguageStep(SetUpChoices& choices)
     content->addWidget(imgLogo, 0, Qt::AlignHCenter);
     content->addWidget(lblWelcome);
     content->addSpacing(12);
-    content->addWidget(optEnglish, 0, Qt::AlignHCenter);
-    content->addWidget(optFrench, 0, Qt::AlignHCenter);
+    auto* languages = new QVBoxLayout;
+    languages->setSpacing(12);
+    languages->addWidget(optEnglish);
+    languages->addWidget(optFrench);
+    auto* centred = new QHBoxLayout;
+    centred->addStretch();
+    centred->addLayout(languages);
+    centred->addStretch();
+    content->addLayout(centred);
     content->addStretch(2);
     lblWelcome->setAlignment(Qt::AlignHCenter);
     const auto choose = [this] {
