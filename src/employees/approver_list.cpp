@@ -1,0 +1,96 @@
+#include "employees/approver_list.h"
+
+#include "foundation/connection.h"
+#include "foundation/rows.h"
+#include "foundation/session_state.h"
+#include "foundation/texts.h"
+
+namespace
+{
+constexpr int kLocationWidth = 20;
+
+/// One part of the list: a statement with the id of a unit and its name as Location, or without both.
+struct Block
+{
+    QString Statement; ///< up to the conditions that all blocks share
+    int UnitID = 0;
+};
+
+QVector<Block> BlocksOf(const EmployeeRecord& record)
+{
+    const QString select = "SELECT Employees.FamilyName, Employees.FirstName, Employees.RecordID, ";
+    const QString department = select + T("Departments.DepartmentEnglishName", "Departments.DepartmentFrenchName") +
+                               " AS Location FROM Employees, Departments WHERE Employees.DepartmentID = "
+                               "Departments.RecordID AND ";
+    const QString organization = select +
+                                 T("Organizations.OrganizationEnglishName", "Organizations.OrganizationFrenchName") +
+                                 " AS Location FROM Employees, Organizations WHERE Employees.OrganizationID = "
+                                 "Organizations.RecordID AND ";
+    QVector<Block> blocks;
+    if (record.GroupID != 0)
+        blocks.append({department + "Employees.GroupID = ?", record.GroupID});
+    if (record.DepartmentID != 0)
+        blocks.append({department + "Employees.DepartmentID = ? AND Employees.GroupID = 0", record.DepartmentID});
+    if (record.OrganizationID != 0)
+        blocks.append(
+            {organization + "Employees.OrganizationID = ? AND Employees.DepartmentID = 0", record.OrganizationID});
+    blocks.append({"SELECT FamilyName, FirstName, RecordID FROM Employees WHERE GlobalLevelCreate = ?", 1});
+    return blocks;
+}
+
+QString WholeStatement(const Block& block)
+{
+    return block.Statement + " AND Employees.FiscalYear = ? AND Employees.RecordID <> ? AND "
+                             "Employees.IsAuthorizedToApprove = 1 AND Employees.DeactivatedDate = 0 "
+                             "ORDER BY Employees.FamilyName ASC, Employees.FirstName ASC";
+}
+
+QString NameOf(const Recordset& employee)
+{
+    return employee.Text("FamilyName").trimmed() + ", " + employee.Text("FirstName").trimmed();
+}
+
+QString Listed(const Recordset& employee)
+{
+    if (!employee.Columns().contains("Location"))
+        return NameOf(employee);
+    const QString location = employee.Text("Location").left(kLocationWidth).trimmed();
+    return location.leftJustified(kLocationWidth) + " / " + NameOf(employee);
+}
+} // namespace
+
+QVector<Approver> LoadApprovedBy(DataControl& datAbsence, const EmployeeRecord& record)
+{
+    return SessionState.SQL_Server ? LoadApprovedBy_SQL(record) : LoadApprovedBy_ACCESS(datAbsence, record);
+}
+
+QVector<Approver> LoadApprovedBy_ACCESS(DataControl& datAbsence, const EmployeeRecord& record)
+{
+    const Connection connection(datAbsence);
+    QVector<Approver> approvers;
+    for (const Block& block : BlocksOf(record))
+        for (Recordset employee = datAbsence.Select(WholeStatement(block), block.UnitID, SessionState.FiscalYearID,
+                                                    record.RecordID);
+             !employee.AtEnd(); employee.MoveNext())
+            approvers.append({employee.Long("RecordID"), Listed(employee)});
+    return approvers;
+}
+
+QVector<Approver> LoadApprovedBy_SQL(const EmployeeRecord& record)
+{
+    for (const Block& block : BlocksOf(record)) {
+        QString statement = WholeStatement(block);
+        for (const int value : {block.UnitID, SessionState.FiscalYearID, record.RecordID})
+            statement.replace(statement.indexOf('?'), 1, QString::number(value));
+        SendToServer(statement);
+    }
+    return {};
+}
+
+QString ApproverName(DataControl& datAbsence, int recordID)
+{
+    const Connection connection(datAbsence);
+    if (!datAbsence.Read("SELECT FamilyName, FirstName FROM Employees WHERE RecordID = ?", recordID))
+        return {};
+    return NameOf(datAbsence.Records);
+}

@@ -1,0 +1,85 @@
+#include "employees/clone_source.h"
+
+#include "employees/security_profile_rules.h"
+#include "employees/work_schedule_rules.h"
+#include "foundation/connection.h"
+#include "foundation/session_rows.h"
+#include "foundation/texts.h"
+
+namespace
+{
+/// The employees of one's own unit, whose location goes without saying.
+Recordset SelectOfUnit(DataControl& datAbsence, const char* column, int unit)
+{
+    return datAbsence.Select(QStringLiteral("SELECT FamilyName, FirstName, RecordID, '' AS Location FROM Employees "
+                                            "WHERE FiscalYear = ? AND %1 = ? ORDER BY FamilyName ASC, FirstName ASC")
+                                 .arg(column),
+                             SessionState.FiscalYearID, unit);
+}
+
+/// The employees with the name of their unit; `kind` begins the names of its table and columns.
+Recordset SelectWithLocation(DataControl& datAbsence, const QString& kind, int organizationID)
+{
+    return datAbsence.Select(
+        QStringLiteral("SELECT Employees.FamilyName, Employees.FirstName, Employees.RecordID, %1s.%2 AS Location "
+                       "FROM Employees, %1s WHERE Employees.%1ID = %1s.RecordID AND Employees.FiscalYear = ?1 AND "
+                       "(?2 = 0 OR Employees.OrganizationID = ?2) "
+                       "ORDER BY %1s.%2 ASC, Employees.FamilyName ASC, Employees.FirstName ASC")
+            .arg(kind, kind + T("EnglishName", "FrenchName")),
+        SessionState.FiscalYearID, organizationID);
+}
+
+Recordset SelectInReach(DataControl& datAbsence)
+{
+    if (SessionState.UserGroupID != 0)
+        return SelectOfUnit(datAbsence, "GroupID", SessionState.UserGroupID);
+    if (SessionState.UserDepartmentID != 0)
+        return SelectOfUnit(datAbsence, "DepartmentID", SessionState.UserDepartmentID);
+    return SelectWithLocation(datAbsence, SessionState.UserOrganizationID != 0 ? "Department" : "Organization",
+                              SessionState.UserOrganizationID);
+}
+
+QString Listed(const Recordset& row)
+{
+    const QString name = row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed();
+    const QString location = row.Text("Location").trimmed();
+    return location.isEmpty() ? name : location + " / " + name;
+}
+
+void TakeWorkplace(const Recordset& row, EmployeeRecord& record)
+{
+    row.Take("OrganizationID", record.OrganizationID);
+    row.Take("DepartmentID", record.DepartmentID);
+    row.Take("GroupID", record.GroupID);
+    row.Take("AttendanceApprovedBy_Main", record.ApprovedByMain);
+    row.Take("AttendanceApprovedBy_Backup", record.ApprovedByBackup);
+}
+
+void TakeSchedule(const Recordset& row, EmployeeRecord& record)
+{
+    ReadSchedule(row, record);
+    ShowDayLengths(record);
+    for (std::size_t day = 0; day < record.HoursWorked.size(); ++day)
+        record.HoursSpecified[day] = record.HoursWorked[day] > 0;
+}
+} // namespace
+
+QVector<CloneSource> LoadCloneSources(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    QVector<CloneSource> sources;
+    for (Recordset row = SelectInReach(datAbsence); !row.AtEnd(); row.MoveNext())
+        sources.append({row.Long("RecordID"), Listed(row)});
+    return sources;
+}
+
+void TakeTemplate(DataControl& datAbsence, int sourceEmployeeID, EmployeeRecord& record)
+{
+    const Connection connection(datAbsence);
+    if (!datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", sourceEmployeeID))
+        return;
+    TakeWorkplace(datAbsence.Records, record);
+    TakeSchedule(datAbsence.Records, record);
+    ReadRights(datAbsence.Records, record);
+    CompleteLoadedRights(record);
+}

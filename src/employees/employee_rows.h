@@ -1,0 +1,44 @@
+#pragma once
+
+#include "employees/employee_record.h"
+#include "foundation/rows.h"
+
+#include <QStringList>
+
+/// The number of active employees of the session's year; `count` is unchanged when it cannot be read.
+void CountEmployees(DataControl& datAbsence, int& count);
+
+/// Fills the record from the row `record.RecordID`; all else that the record held is forgotten. Fields that are NULL
+/// stay empty. False, and an empty record, when there is no such row.
+bool LoadEmployeeRecord_ACCESS(DataControl& datAbsence, EmployeeRecord& record);
+/// The server back end reads nothing: says that the employee is inactive, and returns false.
+bool LoadEmployeeRecord_SQL();
+/// Says that the employee selected is inactive already.
+void TellAlreadyInactive();
+
+/// Another employee of the year logs in by that name, or it is the administrator's. Letter case does not count.
+bool IsLoginIDTaken(DataControl& datAbsence, const EmployeeRecord& record);
+/// An active employee of that name in the record's department, or in its organization when it has no department.
+/// `modifying`: the employee himself does not count.
+bool HasNamesake(DataControl& datAbsence, const EmployeeRecord& record, bool modifying);
+
+/// All that the employee file writes of a record, but its place in a year and a unit.
+RowValues EmployeeColumns(const EmployeeRecord& record);
+
+/// What a new employee sets off in the year's list of entitlements: names of the categories that still need an annual
+/// entitlement, in the user's language.
+using EntitlementReminders = QStringList;
+
+/// Writes a new employee with his entitlements, and flags the list of employees. Throws RuntimeError when something
+/// cannot be written; nothing is written then.
+EntitlementReminders AddEmployee(DataControl& datAbsence, const EmployeeRecord& record);
+/// Stores the row as it stands in the modifications log, changes it, and flags the list of employees. Throws
+/// RuntimeError; nothing is written then.
+void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record);
+
+/// Copies the row of an employee, as it stands, into Employees_Modifications. A failure is ignored: the change that
+/// follows goes on without its copy.
+void ModificationsLog(DataControl& datAbsence, int employee);
+
+/// Runs `work` connected and in one transaction, which is undone when it throws. The server back end has none.
+void WriteAtOnce(DataControl& datAbsence, const std::function<void()>& work);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "employees/employee_record.h"
+
+/// The names of the units that are selected for a record; empty for none.
+struct UnitNames
+{
+    QString Organization;
+    QString Department;
+    QString Group;
+};
+
+/// What the final confirmation shows of a record.
+QString EmployeeSummary(const EmployeeRecord& record, const UnitNames& units, bool modifying);
+
+/// Shows the summary and asks for the final confirmation. True for Yes.
+bool ApproveRecord(const EmployeeRecord& record, const UnitNames& units, bool modifying);

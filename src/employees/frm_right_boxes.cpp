@@ -1,0 +1,35 @@
+#include "employees/frm_right_boxes.h"
+
+#include "platform/controls/form_kit.h"
+
+#include <QCheckBox>
+
+#include <algorithm>
+
+QCheckBox* RightBoxes::Make(const ProfileBox& box)
+{
+    auto* control = Named<QCheckBox>(box.Name);
+    QObject::connect(control, &QCheckBox::clicked, control,
+                     [this, right = box.Member](bool checked) { changed_(right, checked); });
+    boxes_.push_back({box.Member, control});
+    return control;
+}
+
+QCheckBox* RightBoxes::Of(Right right) const
+{
+    const auto found =
+        std::find_if(boxes_.begin(), boxes_.end(), [right](const Box& box) { return box.Member == right; });
+    return found == boxes_.end() ? nullptr : found->Control;
+}
+
+void RightBoxes::Show(const SecurityProfile& profile)
+{
+    for (const Box& box : boxes_)
+        box.Control->setChecked(profile.*box.Member == 1);
+}
+
+void RightBoxes::SetEnabled(bool enabled, bool modifying)
+{
+    for (const Box& box : boxes_)
+        box.Control->setEnabled(enabled && MayTick(box.Member, modifying));
+}

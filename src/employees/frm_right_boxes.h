@@ -1,0 +1,34 @@
+#pragma once
+
+#include "employees/employee_record.h"
+#include "employees/security_profile_rules.h"
+
+#include <functional>
+
+class QCheckBox;
+
+/// The check boxes of the security profile and of the modules, which move each other across the two tabs.
+class RightBoxes
+{
+public:
+    /// `changed` is called when the user checks or clears a box.
+    explicit RightBoxes(std::function<void(Right box, bool granted)> changed) : changed_(std::move(changed)) {}
+
+    /// A new box without a caption; the layout that it is put into owns it.
+    QCheckBox* Make(const ProfileBox& box);
+    /// The box of a right.
+    QCheckBox* Of(Right right) const;
+    /// Shows what is granted; nothing is reported.
+    void Show(const SecurityProfile& profile);
+    /// Enables the boxes that the user may tick, or none.
+    void SetEnabled(bool enabled, bool modifying);
+
+private:
+    struct Box
+    {
+        Right Member;
+        QCheckBox* Control;
+    };
+    std::function<void(Right, bool)> changed_;
+    std::vector<Box> boxes_;
+};

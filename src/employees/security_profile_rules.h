@@ -1,0 +1,48 @@
+#pragma once
+
+#include "foundation/employee_rights.h"
+
+#include <array>
+#include <vector>
+
+/// A check box of the security profile and the right that it stands for.
+struct ProfileBox
+{
+    const char* Name;
+    Right Member;
+};
+
+/// The boxes of the employee file: fifteen of levels by kinds of access (viewing, adding, all), four single rights and
+/// five modules. The module of organizations has none and is never granted here.
+inline constexpr int kLevels = 5; ///< Global, Organization, Department, Group, Individual
+inline constexpr int kKinds = 3;  ///< ReadOnly, CreateOnly, Absolute
+extern const std::array<std::array<ProfileBox, kKinds>, kLevels> kLevelBoxes;
+extern const std::array<ProfileBox, 4> kSingleRightBoxes;
+extern const std::array<ProfileBox, 5> kModuleBoxes;
+
+/// All of them, in that order.
+std::vector<ProfileBox> ProfileBoxes();
+
+/// Checking a box checks what its right includes, clearing it clears what includes it. Complete as it stands: what is
+/// moved along moves nothing further.
+struct Implication
+{
+    Right Box;
+    std::vector<Right> Checks;
+    std::vector<Right> Unchecks;
+};
+const std::vector<Implication>& Implications();
+
+/// A box was checked or cleared by the user.
+void ChangeRight(SecurityProfile& profile, Right box, bool granted);
+
+/// The boxes take over what a row says: whoever maintains categories sees the hidden ones whatever the row says, and
+/// everybody sees his own records.
+void CompleteLoadedRights(SecurityProfile& profile);
+
+/// The user may tick this box for an employee: he holds the right that opens it. On Modify the group level opens one
+/// box more.
+bool MayTick(Right box, bool modifying);
+
+/// 0 none, 1 view, 2 add, 3 absolute at a row of kLevelBoxes; the individual level never shows 0.
+int LevelDigit(const SecurityProfile& profile, int level);

@@ -1,0 +1,38 @@
+#include "selection/approvers_of_year.h"
+
+#include "foundation/connection.h"
+#include "foundation/texts.h"
+#include "reference/employees_list.h"
+
+namespace
+{
+QString Place(const Recordset& row, const QStringList& columns)
+{
+    QStringList names;
+    for (const QString& column : columns)
+        names << row.Text(column).trimmed();
+    names.removeAll(QString());
+    return names.join(" / ");
+}
+} // namespace
+
+QVector<ListedApprover> LoadApproversList(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
+    const QStringList units = SessionState.English
+                                  ? QStringList{"OrgEnglishName", "DeptEnglishName", "GroupEnglishName"}
+                                  : QStringList{"OrgFrenchName", "DeptFrenchName", "GroupFrenchName"};
+    QVector<ListedApprover> approvers;
+    for (Recordset row = datAbsence.Select(
+             "SELECT Employees_List.* FROM Employees_List, Employees WHERE Employees_List.EmplID = Employees.RecordID "
+             "AND "
+             "Employees.IsAuthorizedToApprove = 1 AND Employees.DeactivatedDate = 0 AND Employees_List.FiscalYear = ? "
+             "ORDER BY Employees_List." +
+                 units.join(", Employees_List.") + ", Employees_List.FamilyName, Employees_List.FirstName",
+             SessionState.FiscalYearID);
+         !row.AtEnd(); row.MoveNext())
+        approvers.append({row.Long("EmplID"), row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed(),
+                          Place(row, units)});
+    return approvers;
+}
