@@ -1,7 +1,6 @@
 #include "reference/frm_unit.h"
 
 #include "foundation/common_services.h"
-#include "foundation/texts.h"
 #include "platform/controls/entry_filters.h"
 #include "platform/controls/form_kit.h"
 #include "reference/frm_unit_pages.h"
@@ -36,13 +35,23 @@ public:
                           index.data(kRemark).toString());
         painter->restore();
     }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int remark = option->fontMetrics.horizontalAdvance(index.data(kRemark).toString());
+        const int room = option->rect.width() - remark - 3 * kCardGap;
+        if (room > 0)
+            option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, room);
+    }
 };
 
-QString RemarkOn(const UnitItem& item)
+QString RemarkOn(const UnitItem& item, const UnitKind& kind)
 {
     QStringList remarks{item.ParentName};
     if (!item.Active)
-        remarks << T("inactive", "inactif");
+        remarks << Say(kind.Texts.InactiveRemark);
     remarks.removeAll(QString());
     return remarks.join(", ");
 }
@@ -181,7 +190,7 @@ void frmUnit::ShowRecords(const QVector<UnitItem>& items)
     cboRecords->clear();
     for (const UnitItem& item : items) {
         cboRecords->addItem(item.Name, item.RecordID);
-        cboRecords->setItemData(cboRecords->count() - 1, RemarkOn(item), kRemark);
+        cboRecords->setItemData(cboRecords->count() - 1, RemarkOn(item, kind_), kRemark);
     }
     cboRecords->setCurrentIndex(cboRecords->findData(unit_.RecordID));
 }

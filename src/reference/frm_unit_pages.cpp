@@ -9,8 +9,8 @@
 
 namespace
 {
-constexpr int kListHeight = 170;
-constexpr int kColumnGap = 14;
+constexpr int kListHeight = 130;
+constexpr int kFieldGap = 14;
 
 /// Where an address field stands in a raster of six columns.
 struct Place
@@ -27,7 +27,7 @@ UnitAddressPage::UnitAddressPage()
 {
     auto* raster = Raster();
     raster->setContentsMargins(0, 0, 0, 0);
-    raster->setHorizontalSpacing(kColumnGap);
+    raster->setSpacing(kFieldGap);
     for (int column = 0; column < 6; ++column)
         raster->setColumnStretch(column, 1);
     for (int line = 0; line < kAddressLines; ++line) {
@@ -70,6 +70,7 @@ UnitParentPage::UnitParentPage(const UnitKind& kind) : kind_(kind)
     lblParent = new QLabel(this);
     lstParents = Named<QListWidget>(kind.ParentList);
     lstParents->setMinimumHeight(kListHeight);
+    lstParents->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     auto* column = Captioned(lblParent, lstParents);
     column->setContentsMargins(0, 0, 0, 0);
     setLayout(column);

@@ -42,6 +42,7 @@ const UnitKind kOrganizations = {
                   "Nom anglais de l'organisation:  {english}\r\nNom français de l'organisation:{french}"},
         .Added = {"The new organization has been added to your database.",
                   "La nouvelle organisation a été ajoutée dans votre banque de données."},
+        .InactiveRemark = {"inactive", "inactive"},
         .InactiveTitle = {"ORGANIZATION INACTIVE:", "ORGANISATION INACTIVE:"},
         .ReactivateQuestion = {"The selected organization is currently inactive. In order to modify it, you must "
                                "first re-activate it.\r\n\r\nDo you wish to reactivate «{name}»?\r\n\r\nNOTE: "
@@ -81,7 +82,8 @@ const UnitKind kDepartments = {
     false,
     {
         .Caption = {"Departments", "Départements"},
-        .ListLabel = {"Departments of fiscal year {FiscalYearName}", "Départements de l'année fiscale {FiscalYearName}"},
+        .ListLabel = {"Departments of fiscal year {FiscalYearName}",
+                      "Départements de l'année fiscale {FiscalYearName}"},
         .ListPrompt = {"Select a department", "Sélectionnez un département"},
         .EnglishNameLabel = {"Department's English name", "Nom anglais du département (facultatif)"},
         .FrenchNameLabel = {"Department's French name (optional)", "Nom français du département"},
@@ -100,14 +102,16 @@ const UnitKind kDepartments = {
                             "{FiscalYearName}!",
                             "Le nom français du département a déjà été utilisé au cours de l'année fiscale "
                             "{FiscalYearName}!"},
-        .ParentMissing = {"You must specify the organization under which the department is grouped!",
-                          "Vous devez spécifier le nom de l'organisation sous laquelle le département sera répertorié!"},
+        .ParentMissing =
+            {"You must specify the organization under which the department is grouped!",
+             "Vous devez spécifier le nom de l'organisation sous laquelle le département sera répertorié!"},
         .AddQuestion = {"Add the following department to your database?",
                         "Souhaitez-vous ajouter le département suivant dans votre  banque de données?"},
         .Names = {"Department English name: {english}\r\nDepartment French name:  {french}",
                   "Nom anglais du département:  {english}\r\nNom français du département: {french}"},
         .Added = {"The new department has been added to your database.",
                   "Le nouveau département a été ajouté dans votre banque de données."},
+        .InactiveRemark = {"inactive", "inactif"},
         .InactiveTitle = {"DEPARTMENT INACTIVE:", "DÉPARTEMENT INACTIF:"},
         .ReactivateQuestion = {"The selected department is currently inactive. In order to modify it, you must first "
                                "re-activate it.\r\n\r\nDo you wish to reactivate «{name}»?\r\n\r\nNOTE: Reactivating a "
@@ -172,6 +176,7 @@ const UnitKind kGroups = {
                   "Nom anglais du groupe:  {english}\r\nNom français du groupe: {french}"},
         .Added = {"The new group has been added to your database.",
                   "Le nouveau groupe a été ajouté dans votre banque de données."},
+        .InactiveRemark = {"inactive", "inactif"},
         .InactiveTitle = {"GROUP INACTIVE:", "GROUPE INACTIF:"},
         .ReactivateQuestion = {"The selected group is currently inactive. In order to modify it, you must first "
                                "re-activate it.\r\n\r\nDo you wish to reactivate «{name}»?\r\n\r\nNOTE: Reactivating a "
@@ -210,8 +215,7 @@ const std::array<AddressField, kAddressLines> kAddressFields = {{
      "City",
      75,
      {"City", "Ville"},
-     {"You must specify a city for the organization!",
-      "Vous devez spécifier la ville où est située l'organisation!"}},
+     {"You must specify a city for the organization!", "Vous devez spécifier la ville où est située l'organisation!"}},
     {"txtState",
      "StateProvince",
      75,

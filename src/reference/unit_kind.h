@@ -35,6 +35,7 @@ struct UnitTexts
     UnitText AddQuestion;
     UnitText Names; ///< the lines below the questions of adding and modifying
     UnitText Added;
+    UnitText InactiveRemark; ///< in the list, beside the name
     UnitText InactiveTitle;
     UnitText ReactivateQuestion;
     UnitText MoveQuestion;

@@ -24,9 +24,10 @@ QVector<UnitItem> SelectItems(DataControl& datAbsence, const UnitKind& kind, con
     const QString parentName = above ? QStringLiteral("P.") + NameColumn(*above) : QStringLiteral("''");
     const QString join =
         above ? QStringLiteral(" LEFT JOIN %1 AS P ON P.RecordID = U.%2").arg(above->Table, above->Key) : QString();
-    const QString query = QStringLiteral("SELECT U.RecordID, U.%1 AS UnitName, U.Active, %2 AS ParentName FROM %3 AS U%4 "
-                                         "WHERE %5 ORDER BY U.%1 ASC, ParentName ASC")
-                              .arg(NameColumn(kind), parentName, kind.Table, join, condition);
+    const QString query =
+        QStringLiteral("SELECT U.RecordID, U.%1 AS UnitName, U.Active, %2 AS ParentName FROM %3 AS U%4 "
+                       "WHERE %5 ORDER BY U.%1 ASC, ParentName ASC")
+            .arg(NameColumn(kind), parentName, kind.Table, join, condition);
     QVector<UnitItem> items;
     for (Recordset rows = datAbsence.Select(query, values...); !rows.AtEnd(); rows.MoveNext())
         items.append({rows.Long("RecordID"), rows.Text("UnitName").trimmed(), rows.Text("ParentName").trimmed(),
@@ -69,7 +70,8 @@ void WriteRowsOf(DataControl& datAbsence, const char* table, const UnitKind& kin
         bound << value;
     }
     bound << unitID;
-    datAbsence.Engine().Execute(QStringLiteral("UPDATE %1 SET ").arg(table) + settings.join(", ") + ofUnit + "?", bound);
+    datAbsence.Engine().Execute(QStringLiteral("UPDATE %1 SET ").arg(table) + settings.join(", ") + ofUnit + "?",
+                                bound);
 }
 
 void WriteRowsBelow(DataControl& datAbsence, const UnitKind& kind, int unitID, const RowValues& values)

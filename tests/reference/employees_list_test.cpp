@@ -1,5 +1,4 @@
 #include "reference/employees_list.h"
-
 #include "support/house.h"
 
 #include <gtest/gtest.h>

@@ -161,7 +161,8 @@ TEST_F(FrmUnits, AReactivatedOrganizationBringsAllBackThatWasBelowIt)
     EXPECT_EQ(Active().filter("=1"), QStringList());
 
     user.Clicks("cmdModify");
-    user.WillAnswer("ORGANISATION INACTIVE:", "Oui", "réactivez en même temps tous les départements, groupes et employés")
+    user.WillAnswer("ORGANISATION INACTIVE:", "Oui",
+                    "réactivez en même temps tous les départements, groupes et employés")
         .Picks("cboRecords", "Ateliers du Nord");
     EXPECT_EQ(user.Reads("txtFrenchName"), "Ateliers du Nord");
     EXPECT_TRUE(user.CanUse("cmdModify")) << "the modification goes on";
@@ -185,9 +186,10 @@ TEST_F(FrmUnits, ANewDepartmentUsesThePublicCategoriesOnly)
         .WillAnswer("OPERATION COMPLETED:", "OK", "The new department has been added to your database.")
         .Clicks("cmdAdd");
 
-    EXPECT_EQ(house.Rows("SELECT FiscalYear, OrganizationID, DepartmentEnglishName, Active, PreviousID, DepartmentHead, "
-                         "EnteredBy FROM Departments WHERE RecordID = 4"),
-              "1|2|Recherche|1|0|0|ADMIN");
+    EXPECT_EQ(
+        house.Rows("SELECT FiscalYear, OrganizationID, DepartmentEnglishName, Active, PreviousID, DepartmentHead, "
+                   "EnteredBy FROM Departments WHERE RecordID = 4"),
+        "1|2|Recherche|1|0|0|ADMIN");
     EXPECT_EQ(house.Rows("SELECT FiscalYear, COUNT(*), SUM(IsUsed), SUM(IsUsed * CategoryID) AS Sick FROM "
                          "CategoriesDepartments WHERE DepartmentID = 4 GROUP BY FiscalYear"),
               QStringLiteral("1|8|1|%1").arg(house.CategoryID("Sick")));
@@ -198,8 +200,9 @@ TEST_F(FrmUnits, AMovedDepartmentTakesItsGroupsAndEmployeesAlong)
     user.Opens<frmDepartments>().Picks("cboRecords", "Production").Clicks("cmdModify");
     EXPECT_EQ(user.Reads("lstOrganizations"), "Northern Works");
     user.Types("txtEnglishName", "Plant").Picks("lstOrganizations", "Southern Trade");
-    const QString moving = "You are moving «Plant» under a new organization! If you proceed with this modification, all "
-                           "the employees currently associated to this department will be assigned to «Southern Trade»";
+    const QString moving =
+        "You are moving «Plant» under a new organization! If you proceed with this modification, all "
+        "the employees currently associated to this department will be assigned to «Southern Trade»";
     user.WillAnswer("CONFIRM:", "Yes", "Record the following modifications?\r\n\r\nDepartment English name: Plant")
         .WillAnswer("WARNING:", "No", moving)
         .Clicks("cmdModify");
@@ -209,10 +212,12 @@ TEST_F(FrmUnits, AMovedDepartmentTakesItsGroupsAndEmployeesAlong)
 
     user.WillAnswer("CONFIRM:", "Yes").WillAnswer("WARNING:", "Yes", moving).WillAnswer("OPERATION COMPLETED:", "OK");
     user.Clicks("cmdModify");
-    EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentEnglishName FROM Departments WHERE RecordID = 1"), "2|Plant");
+    EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentEnglishName FROM Departments WHERE RecordID = 1"),
+              "2|Plant");
     EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentID FROM Groups"), "2|1");
     EXPECT_EQ(house.Rows(kPlaces), "2|1|1\n1|2|0");
-    EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentEnglishName FROM Departments_Modifications"), "1|Production");
+    EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentEnglishName FROM Departments_Modifications"),
+              "1|Production");
 }
 
 TEST_F(FrmUnits, AMovedGroupFollowsItsNewDepartmentIntoTheOtherOrganization)
