@@ -29,7 +29,7 @@ void DeactivateNextYear(DataControl& datAbsence, int employee, const QString& re
 void DeactivateEmployee(DataControl& datAbsence, int employee, const QString& reason)
 {
     WriteAtOnce(datAbsence, [&] {
-        ModificationsLog(datAbsence, employee);
+        LogEmployeeModification(datAbsence, employee);
         WriteRow(datAbsence, "Employees", employee, Deactivation(reason));
         DeactivateNextYear(datAbsence, employee, reason);
         DeactivateEntitlements(datAbsence, employee);

@@ -209,13 +209,13 @@ void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record)
     values.push_back({"ModifiedBy", Who()});
     values.push_back({"ModifiedDate", Today()});
     WriteAtOnce(datAbsence, [&] {
-        ModificationsLog(datAbsence, record.RecordID);
+        LogEmployeeModification(datAbsence, record.RecordID);
         WriteRow(datAbsence, "Employees", record.RecordID, values);
         EmployeesListToBeReloaded(datAbsence);
     });
 }
 
-void ModificationsLog(DataControl& datAbsence, int employee)
+void LogEmployeeModification(DataControl& datAbsence, int employee)
 {
     try {
         CopyToAuditTwin(datAbsence, "Employees", employee);

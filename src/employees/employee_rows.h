@@ -38,7 +38,7 @@ void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record);
 
 /// Copies the row of an employee, as it stands, into Employees_Modifications. A failure is ignored: the change that
 /// follows goes on without its copy.
-void ModificationsLog(DataControl& datAbsence, int employee);
+void LogEmployeeModification(DataControl& datAbsence, int employee);
 
 /// Runs `work` connected and in one transaction, which is undone when it throws. The server back end has none.
 void WriteAtOnce(DataControl& datAbsence, const std::function<void()>& work);

@@ -1,6 +1,7 @@
 #include "employees/frm_employees.h"
 
 #include "employees/employee_rows.h"
+#include "employees/employee_validation.h"
 #include "employees/frm_employee_general_page.h"
 #include "employees/frm_employee_kit.h"
 #include "employees/frm_employee_modules_page.h"
@@ -22,7 +23,7 @@ namespace
 constexpr QSize kSize(1040, 760);
 constexpr int kYearWidth = 150;
 
-QString MissingUnits(const QString& text)
+QString InYear(const QString& text)
 {
     return Fill(text, {{"FiscalYearName", SessionState.FiscalYearName}});
 }
@@ -192,12 +193,12 @@ void frmEmployees::LoadRecords()
     const QString denied = T("OPERATION DENIED:", "OPÉRATION REFUSÉE:");
     MustClose = units_[0].isEmpty() || units_[1].isEmpty();
     if (units_[0].isEmpty())
-        Tell(denied, MissingUnits(T("Before you can update your list of employees you must first set up at least one "
+        Tell(denied, InYear(T("Before you can update your list of employees you must first set up at least one "
                                     "organization in fiscal year {FiscalYearName}!",
                                     "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
                                     "moins une organisation dans l'année fiscale {FiscalYearName}!")));
     else if (units_[1].isEmpty())
-        Tell(denied, MissingUnits(T("Before you can update your list of employees you must first set up at least one "
+        Tell(denied, InYear(T("Before you can update your list of employees you must first set up at least one "
                                     "department in fiscal year {FiscalYearName}!",
                                     "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
                                     "moins un département dans l'année fiscale {FiscalYearName}!")));

@@ -4,10 +4,10 @@
 #include "employees/frm_clone_employee.h"
 #include "employees/frm_employee_general_page.h"
 #include "employees/frm_employee_profile_page.h"
-#include "employees/frm_employee_schedule_page.h"
 #include "employees/frm_employees.h"
 #include "employees/frm_transfer_employees.h"
 #include "employees/hourly_rate.h"
+#include "employees/work_schedule_rules.h"
 #include "foundation/common_services.h"
 #include "foundation/frm_input_box.h"
 #include "foundation/session_state.h"
@@ -215,7 +215,7 @@ bool frmEmployees::IsRecordAccepted()
     ReadForm();
     const ValidationContext context{ModifyMode, profile_->cboApprovedBy_FirstLevel->count() > 0};
     const auto field = ValidateRecord(datAbsence, record_, context);
-    schedule_->Show();
+    ShowRecord();
     if (field) {
         ShowFieldInError(*field);
         return false;
