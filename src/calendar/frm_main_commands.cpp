@@ -3,6 +3,7 @@
 #include "calendar/frm_main_calendar.h"
 #include "calendar/frm_main_header.h"
 #include "calendar/frm_main_tool_bar.h"
+#include "employees/frm_employees.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/frm_about.h"
@@ -53,6 +54,7 @@ MainMenus::Commands frmMain::MenuCommands()
         {"mnuFileOrganizations", [this] { OpenEditor<frmOrganizations>(); }},
         {"mnuFileDepartments", [this] { OpenEditor<frmDepartments>(); }},
         {"mnuFileGroups", [this] { OpenEditor<frmGroups>(); }},
+        {"mnuFileEmployees", [this] { OpenEditor<frmEmployees>(); }},
         {"mnuFileDatabaseLocation", [this] { mnuFileDatabaseLocation_Click(); }},
         {"mnuFileExit", [this] { cmdQuit_Click(); }},
         {"mnuSpecialDisplayApproved", [this] { mnuSpecialDisplayApproved_Click(); }},
