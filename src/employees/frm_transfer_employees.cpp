@@ -10,7 +10,8 @@
 namespace
 {
 constexpr int kListWidth = 230;
-constexpr int kUnitListHeight = 96;
+constexpr int kUnitListHeight = 104;
+constexpr int kListGap = 10;
 
 QListWidget* MakeList(const QString& name)
 {
@@ -54,7 +55,10 @@ void frmTransferEmployees::BuildControls()
     sides->addWidget(MakeCard(LayToSide()), 1);
     QVBoxLayout* page = PageLayout(this);
     page->addLayout(sides, 1);
-    page->addLayout(ButtonRow({cmdQuit, cmdProcess}));
+    auto* foot = ButtonRow({cmdQuit, cmdProcess});
+    foot->insertWidget(0, optMoveWithAccruals);
+    foot->insertWidget(1, optMoveWithoutAccruals);
+    page->addLayout(foot);
 }
 
 void frmTransferEmployees::BuildSide(UnitLists& side, const QString& name)
@@ -69,6 +73,7 @@ void frmTransferEmployees::BuildSide(UnitLists& side, const QString& name)
 QVBoxLayout* frmTransferEmployees::LayFromSide()
 {
     auto* units = new QVBoxLayout;
+    units->setSpacing(kListGap);
     for (std::size_t i = 0; i < from_.Lists.size(); ++i)
         units->addLayout(Captioned(from_.Captions[i], from_.Lists[i]));
     auto* lists = new QHBoxLayout;
@@ -76,6 +81,7 @@ QVBoxLayout* frmTransferEmployees::LayFromSide()
     lists->addLayout(units);
     lists->addLayout(Captioned(lblFromEmployee, lstFromEmployee));
     auto* content = new QVBoxLayout;
+    content->setSpacing(kListGap);
     content->addWidget(lblStep1);
     content->addLayout(lists);
     return content;
@@ -84,11 +90,10 @@ QVBoxLayout* frmTransferEmployees::LayFromSide()
 QVBoxLayout* frmTransferEmployees::LayToSide()
 {
     auto* content = new QVBoxLayout;
+    content->setSpacing(kListGap);
     content->addWidget(lblStep2);
     for (std::size_t i = 0; i < to_.Lists.size(); ++i)
         content->addLayout(Captioned(to_.Captions[i], to_.Lists[i]));
-    content->addWidget(optMoveWithAccruals);
-    content->addWidget(optMoveWithoutAccruals);
     return content;
 }
 
