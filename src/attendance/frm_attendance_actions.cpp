@@ -22,6 +22,7 @@ void frmAttendance::cmdAddOrUpdate_Click()
         updated_ = PassesGuards() && FindApprovers() && Dispatch();
     } catch (const RuntimeError& error) {
         TellError(error);
+        SessionState.ReloadCalendar = true; // the records written before the failure stay
     }
     sstAttendance->setEnabled(true);
     SetButtonsEnabled(true);

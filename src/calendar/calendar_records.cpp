@@ -53,13 +53,12 @@ QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence)
 {
     const ScopeFilter filter = CalendarScope();
     QVector<CalendarRecord> records;
-    for (Recordset row =
-             datAbsence.Select("SELECT DISTINCT Attendance.RecordDate, Attendance.CategoryID, Categories.SystemName, "
-                               "Categories.CategoryColorCode FROM Attendance, Categories WHERE Attendance.CategoryID = "
-                               "Categories.RecordID "
-                               "AND Attendance.RecordDate BETWEEN ?3 AND ?4" +
-                                   filter.Sql + " ORDER BY Attendance.RecordDate ASC",
-                               filter.Scope, filter.Category, SessionState.CommencingDate, SessionState.EndingDate);
+    for (Recordset row = datAbsence.Select(
+             "SELECT Days.RecordDate, Days.CategoryID, Categories.CategoryColorCode FROM Categories, (SELECT DISTINCT "
+             "Attendance.RecordDate, Attendance.CategoryID FROM Attendance, Categories WHERE Attendance.CategoryID = "
+             "Categories.RecordID AND Attendance.RecordDate BETWEEN ?3 AND ?4" +
+                 filter.Sql + ") AS Days WHERE Days.CategoryID = Categories.RecordID ORDER BY Days.RecordDate ASC",
+             filter.Scope, filter.Category, SessionState.CommencingDate, SessionState.EndingDate);
          !row.AtEnd(); row.MoveNext())
         records.append({row.Long("RecordDate"), row.Long("CategoryID"), row.Long("CategoryColorCode")});
     return records;

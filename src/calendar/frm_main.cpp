@@ -176,7 +176,6 @@ void frmMain::ReloadIfAsked()
     if (!SessionState.ReloadCalendar)
         return;
     SessionState.ReloadCalendar = false;
-    LoadEmployeeInfo();
     DisplayNames();
     ReloadCalendar();
 }
@@ -193,6 +192,7 @@ void frmMain::ReloadSelection()
     legend_->LoadLegend(datAbsence);
     LoadEmployeeInfo();
     DisplayNames();
+    SessionState.ReloadCalendar = false;
     ReloadCalendar();
     ActivateAllowedControls();
 }

@@ -54,6 +54,8 @@ private:
     void BuildControls();
     void ConnectControls();
     MainMenus::Commands MenuCommands();
+    template <typename Form>
+    void OpenEditor();
 
     void LoadCategories();
     QVector<CalendarRecord> LoadAttendance_ACCESS();

@@ -15,6 +15,9 @@
 #include "platform/clock.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
+#include "reference/frm_departments.h"
+#include "reference/frm_groups.h"
+#include "reference/frm_organizations.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
 #include "selection/frm_select_employee.h"
@@ -34,9 +37,22 @@ void Open(QWidget* parent)
 }
 } // namespace
 
+/// Opens a form that may change what the calendar and its lists show.
+template <typename Form>
+void frmMain::OpenEditor()
+{
+    Busy = true;
+    Open<Form>(this);
+    ReloadSelection();
+    Busy = false;
+}
+
 MainMenus::Commands frmMain::MenuCommands()
 {
     return {
+        {"mnuFileOrganizations", [this] { OpenEditor<frmOrganizations>(); }},
+        {"mnuFileDepartments", [this] { OpenEditor<frmDepartments>(); }},
+        {"mnuFileGroups", [this] { OpenEditor<frmGroups>(); }},
         {"mnuFileDatabaseLocation", [this] { mnuFileDatabaseLocation_Click(); }},
         {"mnuFileExit", [this] { cmdQuit_Click(); }},
         {"mnuSpecialDisplayApproved", [this] { mnuSpecialDisplayApproved_Click(); }},
@@ -131,15 +147,22 @@ void frmMain::RefreshDate(int date)
     pane_->RefreshDate(calendar_, date);
 }
 
-/// The entry form chooses categories for its own records; the calendar keeps the category that it shows.
+/// The entry form chooses employees and categories for its own records; the calendar keeps the category that it shows,
+/// and follows to another employee only when records were written for him.
 void frmMain::ShowAttendance(int recordToModify, bool conflictsAccepted)
 {
+    const CalendarSelection shown = SessionState;
     const int shownCategory = SessionState.SelectedCategoryID;
     frmAttendance form(this);
     form.RecordToModify = recordToModify;
     form.ConflictsAccepted = conflictsAccepted;
-    ShowModal(form);
+    if (ShowModal(form) != QDialog::Accepted)
+        static_cast<CalendarSelection&>(SessionState) = shown;
     SessionState.SelectedCategoryID = shownCategory;
+    if (SessionState.EmployeeID != shown.EmployeeID)
+        ReloadSelection();
+    else
+        LoadEmployeeInfo();
     ReloadIfAsked();
 }
 

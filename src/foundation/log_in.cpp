@@ -18,7 +18,8 @@ bool FindUser(DataControl& datAbsence, int fiscalYear)
 {
     const Session& s = SessionState;
     if (s.LoginID == "ADMIN")
-        return datAbsence.Read("SELECT * FROM Employees WHERE LoginID = 'ADMIN' AND Password = ?", s.UserPassword);
+        return datAbsence.Read("SELECT * FROM Employees WHERE LoginID = 'ADMIN' AND FiscalYear = 0 AND Password = ?",
+                               s.UserPassword);
     return datAbsence.Read("SELECT * FROM Employees WHERE LoginID = ? AND Password = ? AND FiscalYear = ? AND "
                            "DeactivatedDate = 0",
                            s.LoginID, s.UserPassword, fiscalYear);
@@ -53,7 +54,8 @@ bool LogInUser(DataControl& datAbsence, int fiscalYear)
 bool CountAttenceRecords(DataControl& datAbsence)
 {
     const Recordset batches = datAbsence.Select(
-        "SELECT DISTINCT EnteredDate, CategoryID FROM Attendance WHERE EnteredBy = ? COLLATE BINARY", Who());
+        "SELECT DISTINCT EnteredDate, CategoryID FROM Attendance WHERE EnteredBy = ? COLLATE BINARY LIMIT ?", Who(),
+        kExperiencedUser + 1);
     return batches.RecordCount() > kExperiencedUser;
 }
 

@@ -51,7 +51,7 @@ void TakeFiscalYear(const Recordset& year)
 void LoadAdministratorInfo(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
-    if (!datAbsence.Read("SELECT * FROM Employees WHERE LoginID = 'ADMIN'"))
+    if (!datAbsence.Read("SELECT * FROM Employees WHERE LoginID = 'ADMIN' AND FiscalYear = 0"))
         return;
     SessionState.AdminName =
         (datAbsence.Records.Text("FirstName").trimmed() + " " + datAbsence.Records.Text("FamilyName").trimmed())

@@ -11,9 +11,19 @@
 /// A list of serial dates, ended by the first 0: a leap year and its end mark.
 using DateList = std::array<int, 367>;
 
+/// Whose attendance the calendar shows: an employee, or a whole unit where EmployeeID is 0.
+struct CalendarSelection
+{
+    int EmployeeID = 0;
+    int EmployeeOrganizationID = 0;
+    int EmployeeDepartmentID = 0;
+    int EmployeeGroupID = 0;
+    QString CurrentSelection; ///< the shown name: an employee's, a unit's, or the log-in name
+};
+
 /// The application-wide record that all forms read and write. It carries the rights of the user and the schedule of
 /// the employee shown. Dates are serial days (0 none), ids are RecordIDs (0 none), durations decimal hours.
-struct Session : SecurityProfile, WorkSchedule
+struct Session : SecurityProfile, WorkSchedule, CalendarSelection
 {
     // The workstation's configuration.
     bool English = true; ///< false: French
@@ -57,11 +67,6 @@ struct Session : SecurityProfile, WorkSchedule
     bool ShowApproved = true; ///< false: pending requests
     int SelectedDate = 0;
     int SelectedCategoryID = 0; ///< 0 all categories
-    int EmployeeID = 0;
-    int EmployeeOrganizationID = 0;
-    int EmployeeDepartmentID = 0;
-    int EmployeeGroupID = 0;
-    QString CurrentSelection; ///< the shown name: an employee's, a unit's, or the log-in name
     QString VacationName, SickName, PersonalName, DoctorName;
     int VacationID = 0, SickID = 0, PersonalID = 0, DoctorID = 0;
     bool ReloadCalendar = false; ///< set by the forms that change what the calendar shows

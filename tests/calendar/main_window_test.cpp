@@ -311,6 +311,27 @@ TEST_F(MainWindow, MarkedDatesBecomeRecordsAndTheCalendarFollows)
     PressesEscape();
 }
 
+TEST_F(MainWindow, AnotherEmployeeOfTheEntryFormIsFollowedOnlyWhenRecordsWereWritten)
+{
+    const int luc = house.Hire({"LROY", "Luc", "Roy", "Sales", "", {}, 0, 20, false});
+    OpensOn(marie, "Marie Bouchard");
+    for (const bool writing : {false, true}) {
+        user.Clicks("imgCreateSingle");
+        user.WhenOpens<frmAttendance>([this, writing](frmAttendance&) {
+            user.Picks("lstWho", "Roy, Luc").Picks("cboCategories", "Sick");
+            if (!writing)
+                return void(user.Clicks("cmdQuit"));
+            user.Types("txtDurationInHours", "2").LeavesField("txtDurationInHours");
+            user.WillAnswer("CONFIRM:", "Yes").Clicks("cmdAddOrUpdate");
+        });
+        ClicksDay(4, 14);
+        EXPECT_EQ(SessionState.EmployeeID, writing ? luc : marie);
+        EXPECT_EQ(user.Reads("lblCurrentSelection_DISPLAY"), writing ? "Luc Roy" : "Marie Bouchard");
+        EXPECT_EQ(SessionState.HasSchedule, !writing);
+    }
+    EXPECT_EQ(Back(4, 14), 0xFFC0C0);
+}
+
 TEST_F(MainWindow, APeriodGoesThroughTheDatesForm)
 {
     OpensOn(marie, "Marie Bouchard");

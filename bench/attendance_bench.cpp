@@ -1,0 +1,105 @@
+#include "attendance/frm_attendance.h"
+#include "foundation/common_services.h"
+#include "measuring.h"
+#include "platform/clock.h"
+#include "support/user.h"
+
+namespace
+{
+/// A form of entry that a user has filled in; the work is his press of the button, guards and question included.
+class Entry : public Measured
+{
+public:
+    explicit Entry(BigCompany& company) : Measured(company)
+    {
+        company.LogIn("U0001");
+        SetMessagePresenter([](const Message&) { return MessageCode::Yes; });
+    }
+
+    void Prepare() override
+    {
+        SessionState.AttendanceDates.fill(0);
+        SessionState.AttendanceDates[0] = Date();
+        SessionState.EmployeeID = BigCompany::kEmployee;
+        SessionState.SelectedCategoryID = BigCompany::kVacation;
+        form_ = std::make_unique<frmAttendance>();
+        FillIn(*form_);
+    }
+
+    void Work() override { user_.Clicks("cmdAddOrUpdate"); }
+
+    void CleanUp() override
+    {
+        if (form_->result() != QDialog::Accepted)
+            Complain("the entry was refused");
+        form_.reset();
+        Company().Sql(QStringLiteral("DELETE FROM Attendance WHERE RecordID > %1").arg(BigCompany::kRecords));
+        Company().Sql("DELETE FROM Attendance_Modifications");
+    }
+
+protected:
+    virtual int Date() const = 0;
+    virtual void FillIn(frmAttendance& form) = 0;
+
+    void Show(frmAttendance& form)
+    {
+        form.show();
+        user_.Works(form);
+    }
+    User& TheUser() { return user_; }
+
+private:
+    User user_;
+    std::unique_ptr<frmAttendance> form_;
+};
+
+class RecordAdded : public Entry
+{
+public:
+    using Entry::Entry;
+
+protected:
+    int Date() const override { return SerialOfDate({2026, 12, 31}); }
+
+    void FillIn(frmAttendance& form) override
+    {
+        Show(form);
+        TheUser().Checks("chkWholeDay").Types("txtComment", "Measured");
+    }
+};
+
+class RecordChanged : public Entry
+{
+public:
+    explicit RecordChanged(BigCompany& company)
+        : Entry(company), record_(company.Number(QStringLiteral("SELECT RecordID FROM Attendance WHERE EmployeeID = %1 "
+                                                                "AND CategoryID = %2 AND CancelledDate = 0 LIMIT 1")
+                                                     .arg(BigCompany::kEmployee)
+                                                     .arg(BigCompany::kVacation))),
+          date_(company.Number(QStringLiteral("SELECT RecordDate FROM Attendance WHERE RecordID = %1").arg(record_)))
+    {}
+
+protected:
+    int Date() const override { return date_; }
+
+    void FillIn(frmAttendance& form) override
+    {
+        SessionState.ModifyingRecord = true;
+        form.RecordToModify = record_;
+        Show(form);
+        hours_ = hours_ == 2 ? 3 : 2;
+        TheUser().Types("txtDurationInHours", QString::number(hours_));
+    }
+
+private:
+    const int record_;
+    const int date_;
+    int hours_ = 2;
+};
+} // namespace
+
+void RegisterAttendance(BigCompany& company)
+{
+    Register<RecordAdded>("Record added", company, Floor::Commit, {1, 20});
+    Register<RecordChanged>("Record changed", company, Floor::Commit, {1, 20});
+}

@@ -1,0 +1,134 @@
+#include "measuring.h"
+
+#include "raw_engine.h"
+#include "support/statement_trace.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <cstdio>
+
+namespace
+{
+constexpr int kRounds = 25;
+constexpr double kNanoseconds = 1e6; // of a millisecond
+
+struct Verdict
+{
+    std::string Name;
+    double Measured;
+    double Floor;
+    double Bar;
+};
+
+std::vector<Verdict>& Verdicts()
+{
+    static std::vector<Verdict> verdicts;
+    return verdicts;
+}
+
+template <typename Work>
+double MillisecondsOf(const Work& work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return static_cast<double>(timer.nsecsElapsed()) / kNanoseconds;
+}
+
+double Median(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+bool Writes(const QByteArray& statement)
+{
+    return statement.startsWith("INSERT") || statement.startsWith("UPDATE") || statement.startsWith("DELETE");
+}
+
+/// The statements that the work runs, from a round that also warms everything up.
+QList<QByteArray> StatementsOf(Measured& measured)
+{
+    measured.Prepare();
+    QList<QByteArray> statements;
+    {
+        const StatementTrace trace;
+        measured.Work();
+        statements = trace.Statements();
+    }
+    measured.CleanUp();
+    statements.removeIf(
+        [](const QByteArray& statement) { return !statement.startsWith("SELECT") && !Writes(statement); });
+    return statements;
+}
+
+double StatementsFloor(Measured& measured, const QList<QByteArray>& statements)
+{
+    return MillisecondsOf([&] {
+        RawEngine engine(measured.Company().DatabaseFile());
+        for (const QByteArray& statement : statements)
+            engine.Run(statement);
+    });
+}
+
+double CommitFloor(Measured& measured, const QList<QByteArray>& statements)
+{
+    RawEngine engine(measured.Company().DatabaseFile());
+    engine.Run("SELECT COUNT(*) FROM sqlite_master"); // the first statement reads the schema
+    return MillisecondsOf([&] {
+        engine.Run("BEGIN IMMEDIATE");
+        for (const QByteArray& statement : statements)
+            if (Writes(statement))
+                engine.Run(statement);
+        engine.Run("COMMIT");
+    });
+}
+
+/// Floor and work take turns, so that both meet the same disturbances.
+void Measure(benchmark::State& state, const std::string& name, Measured& measured, Floor floor, const Bar& bar)
+{
+    const QList<QByteArray> statements = StatementsOf(measured);
+    std::vector<double> floors;
+    std::vector<double> works;
+    for ([[maybe_unused]] auto round : state) {
+        measured.Prepare();
+        works.push_back(MillisecondsOf([&] { measured.Work(); }));
+        state.SetIterationTime(works.back() / 1000);
+        floors.push_back(floor == Floor::Commit ? CommitFloor(measured, statements)
+                                                : StatementsFloor(measured, statements));
+        measured.CleanUp();
+    }
+    const double least = Median(floors);
+    const Verdict verdict{name, Median(works), least, bar.Floors * least + bar.Milliseconds};
+    Verdicts().push_back(verdict);
+    state.counters["median_ms"] = verdict.Measured;
+    state.counters["floor_ms"] = verdict.Floor;
+    state.counters["bar_ms"] = verdict.Bar;
+}
+} // namespace
+
+void Register(const char* name, BigCompany& company, Floor floor, const Bar& bar, const MakeMeasured& make)
+{
+    const auto measure = [name, &company, floor, bar, make](benchmark::State& state) {
+        const std::unique_ptr<Measured> measured = make(company);
+        Measure(state, name, *measured, floor, bar);
+    };
+    benchmark::RegisterBenchmark(name, measure)->Iterations(kRounds)->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
+bool TellVerdicts()
+{
+    int missed = 0;
+    std::printf("\n%-40s %10s %10s %10s\n", "median, ms", "measured", "floor", "bar");
+    for (const Verdict& verdict : Verdicts()) {
+        const bool met = verdict.Measured <= verdict.Bar;
+        missed += met ? 0 : 1;
+        std::printf("%-40s %10.2f %10.2f %10.2f  %s\n", verdict.Name.c_str(), verdict.Measured, verdict.Floor,
+                    verdict.Bar, met ? "met" : "MISSED");
+    }
+    std::printf("%zu bars met, %d missed\n", Verdicts().size() - static_cast<std::size_t>(missed), missed);
+    return missed == 0;
+}

@@ -1,0 +1,134 @@
+#include "foundation/rows.h"
+#include "reference/unit_records.h"
+#include "support/house.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+class UnitRules : public testing::Test
+{
+protected:
+    UnitRules() { house.Configured().Company().LogIn("ADMIN"); }
+
+    UnitEntry Named(const QString& english, const QString& french, int parent = 1, int recordID = 0)
+    {
+        UnitEntry unit;
+        unit.RecordID = recordID;
+        unit.EnglishName = english;
+        unit.FrenchName = french;
+        unit.ParentID = unit.StoredParentID = parent;
+        return unit;
+    }
+    /// "field: text" of what is wrong, empty when all is well.
+    QString Fault(const UnitKind& kind, UnitEntry unit)
+    {
+        const auto fault = ValidateRecord(datAbsence, kind, unit);
+        return fault ? fault->Field + ": " + fault->Text : QString();
+    }
+    QStringList Shown(const QVector<UnitItem>& items)
+    {
+        QStringList names;
+        for (const UnitItem& item : items)
+            names << item.Name + "/" + item.ParentName + (item.Active ? "" : " -");
+        return names;
+    }
+
+    House house;
+    DataControl datAbsence{"UnitRules"};
+};
+
+TEST_F(UnitRules, ANameLeftEmptyTakesTheOtherLanguages)
+{
+    UnitEntry unit = Named("  ", " Recherche ");
+    EXPECT_FALSE(ValidateRecord(datAbsence, kDepartments, unit));
+    EXPECT_EQ(unit.EnglishName + "|" + unit.FrenchName, "Recherche|Recherche");
+
+    EXPECT_EQ(Fault(kDepartments, Named(" ", "")), "txtEnglishName: You must specify a name for the department!");
+    SessionState.English = false;
+    EXPECT_EQ(Fault(kGroups, Named("", "")), "txtFrenchName: Vous devez spécifier le nom du groupe!");
+}
+
+TEST_F(UnitRules, ANameIsUsedOncePerYearAndLanguageExceptByGroups)
+{
+    house.Sql("UPDATE Departments SET Active = 0 WHERE RecordID = 2");
+    EXPECT_EQ(Fault(kDepartments, Named("SALES ", "Autre")),
+              "txtEnglishName: The English name you specified for the department has already been used in fiscal year "
+              "2026!");
+    EXPECT_EQ(Fault(kDepartments, Named("Fabrication", "fabrication")),
+              "txtFrenchName: The French name you specified for the department has already been used in fiscal year "
+              "2026!")
+        << "the English name is free: each language is compared with its own";
+    EXPECT_EQ(Fault(kDepartments, Named("Sales", "Ventes", 1, 2)), "") << "a record may keep its name";
+    EXPECT_EQ(Fault(kGroups, Named("Assembly", "Assemblage", 2)), "");
+
+    SessionState.English = false;
+    EXPECT_EQ(Fault(kOrganizations, Named("Northern Works", "x")),
+              "txtEnglishName: Le nom anglais de l'organisation a déjà été utilisé au cours de l'année fiscale 2026!");
+    SessionState.FiscalYearID = house.FiscalYear("2027", 2027);
+    EXPECT_EQ(Fault(kDepartments, Named("Sales", "Ventes")), "");
+}
+
+TEST_F(UnitRules, AnOrganizationNeedsItsAddressAndTheOthersAUnitAbove)
+{
+    UnitEntry unit = Named("Eastern Labs", "");
+    const QStringList expected = {
+        "txtAddressLine1: You must specify an address for the organization!",
+        "txtCity: You must specify a city for the organization!",
+        "txtState: You must specify a state or a province for the organization!",
+        "txtCountry: You must specify a country for the organization!",
+    };
+    for (const QString& fault : expected) {
+        EXPECT_EQ(Fault(kOrganizations, unit), fault);
+        for (int line = 0; line < kAddressLines; ++line)
+            if (fault.startsWith(kAddressFields[line].Control))
+                unit.Address[line] = "x";
+    }
+    EXPECT_EQ(Fault(kOrganizations, unit), "");
+    EXPECT_EQ(Fault(kDepartments, Named("Labs", "", 0)),
+              "lstOrganizations: You must specify the organization under which the department is grouped!");
+    EXPECT_EQ(Fault(kGroups, Named("Labs", "", 0)),
+              "lstDepartments: You must specify to which department the group is associated!");
+}
+
+TEST_F(UnitRules, ListsFollowTheLanguageAndTheYear)
+{
+    house.Sql("UPDATE Departments SET Active = 0 WHERE RecordID = 2");
+    house.Sql("INSERT INTO Departments (FiscalYear, OrganizationID, DepartmentFrenchName, Active) VALUES "
+              "(2, 1, 'Autre', 1), (1, 2, 'Études', 1)");
+    SessionState.English = false;
+    EXPECT_EQ(Shown(LoadUnitItems(datAbsence, kDepartments, ListedUnits::All)),
+              (QStringList{"Études/Commerce du Sud", "Fabrication/Ateliers du Nord", "Magasins/Commerce du Sud",
+                           "Ventes/Ateliers du Nord -"}));
+    EXPECT_EQ(LoadUnitItems(datAbsence, kDepartments, ListedUnits::ActiveOnly).size(), 3);
+    EXPECT_EQ(LoadParentItems(datAbsence, kGroups, 0).size(), 3);
+    EXPECT_EQ(Shown(LoadParentItems(datAbsence, kGroups, 2)).last(), "Ventes/Ateliers du Nord -")
+        << "where a group is now can be kept";
+}
+
+TEST_F(UnitRules, TheServerIsSentTheSameChanges)
+{
+    QStringList sent;
+    SetServerSink([&sent](const QString& statement) { sent << statement; });
+    SessionState.SQL_Server = true;
+    UnitEntry unit = Named("Sales", "Ventes", 2, 2);
+    unit.StoredParentID = 1;
+    ModifyUnit(datAbsence, kDepartments, unit);
+    ReactivateUnit(datAbsence, kGroups, 1);
+
+    EXPECT_EQ(
+        sent.join('\n'),
+        "INSERT INTO Departments_Modifications SELECT * FROM Departments WHERE RecordID = 2\n"
+        "UPDATE Departments SET DepartmentFrenchName = 'Ventes', DepartmentEnglishName = 'Sales', "
+        "OrganizationID = 2, ModifiedBy = 'ADMIN', ModifiedDate = 46083 WHERE RecordID = 2\n"
+        "UPDATE Groups SET OrganizationID = 2 WHERE DepartmentID = 2\n"
+        "UPDATE Employees SET OrganizationID = 2 WHERE DepartmentID = 2\n"
+        "UPDATE FiscalYears SET ReloadEmployeesList = 1 WHERE RecordID = 1\n"
+        "INSERT INTO Groups_Modifications SELECT * FROM Groups WHERE RecordID = 1\n"
+        "UPDATE Groups SET Active = 1, ModifiedBy = 'ADMIN', ModifiedDate = 46083 WHERE RecordID = 1\n"
+        "UPDATE Employees SET DeactivatedDate = 0, DeactivatedBy = '', ReasonForDeactivation = '' WHERE GroupID = "
+        "1\n"
+        "UPDATE FiscalYears SET ReloadEmployeesList = 1 WHERE RecordID = 1");
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Departments_Modifications"), 0);
+}
+} // namespace
