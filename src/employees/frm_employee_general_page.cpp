@@ -13,7 +13,8 @@
 
 namespace
 {
-constexpr int kUnitListHeight = 76;
+constexpr int kUnitListHeight = 72;
+constexpr int kCommentHeight = 56;
 constexpr int kFirstHireYear = 1931;
 constexpr int kFirstBirthYear = 1901;
 constexpr int kLastBirthYear = 1990;
@@ -47,7 +48,7 @@ enum
 
 /// In the order of the enumeration above.
 constexpr TextField kFields[] = {
-    {"txtName", &EmployeeRecord::FamilyName, KeyFilter::PersonName, 35, "Family &name:", "&Nom de famille:"},
+    {"txtName", &EmployeeRecord::FamilyName, KeyFilter::PersonName, 35, "Family name:", "Nom de famille:"},
     {"txtFirstName", &EmployeeRecord::FirstName, KeyFilter::PersonName, 35, "First name:", "Prénom:"},
     {"txtEmployeeID", &EmployeeRecord::EmployeeID, KeyFilter::Comment, 35, "Employee ID:", "Numéro d'employé(e):"},
     {"txtHourlyRate", &EmployeeRecord::HourlyRate, KeyFilter::DecimalNumber, kUnlimited, "Hourly rate:",
@@ -102,16 +103,19 @@ void Fill(QComboBox* combo, const QStringList& entries)
 EmployeeGeneralPage::EmployeeGeneralPage()
 {
     BuildControls();
-    auto* page = new QGridLayout(this);
+    auto* left = new QVBoxLayout;
+    left->addWidget(PersonCard());
+    left->addWidget(ContactCard(), 1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(UnitsCard(), 3);
+    right->addWidget(CommentCard(), 1);
+    auto* page = new QHBoxLayout(this);
     page->setContentsMargins(kTabMargin, kTabMargin, kTabMargin, kTabMargin);
     page->setSpacing(kTabMargin);
-    page->addWidget(PersonCard(), 0, 0);
-    page->addWidget(ContactCard(), 1, 0);
-    page->addWidget(UnitsCard(), 0, 1, 2, 1);
-    page->addWidget(CommentCard(), 2, 0, 1, 2);
-    page->setColumnStretch(0, 3);
-    page->setColumnStretch(1, 2);
-    page->setRowStretch(2, 1);
+    page->addLayout(left, 3);
+    page->addLayout(right, 2);
+    for (QBoxLayout* column : {left, right})
+        column->setSpacing(kTabMargin);
 }
 
 void EmployeeGeneralPage::BuildControls()
@@ -187,16 +191,17 @@ QWidget* EmployeeGeneralPage::PersonCard()
 QWidget* EmployeeGeneralPage::ContactCard()
 {
     auto* raster = Raster();
-    raster->addLayout(Field(kAddress), 0, 0, 1, 2);
-    raster->addLayout(Field(kCity), 0, 2);
-    raster->addLayout(Field(kState), 1, 0);
-    raster->addLayout(Field(kPostalCode), 1, 1);
-    raster->addLayout(Field(kCountry), 1, 2);
-    raster->addLayout(Field(kPhoneHome), 2, 0);
-    raster->addLayout(Field(kPhoneWork), 2, 1);
-    raster->addLayout(Field(kEMail), 2, 2);
+    raster->addLayout(Field(kAddress), 0, 0, 1, 3);
+    raster->addLayout(Field(kCity), 1, 0);
+    raster->addLayout(Field(kState), 1, 1);
+    raster->addLayout(Field(kPostalCode), 1, 2);
+    raster->addLayout(Field(kCountry), 2, 0);
+    raster->addLayout(Field(kPhoneHome), 2, 1);
+    raster->addLayout(Field(kPhoneWork), 2, 2);
+    raster->addLayout(Field(kEMail), 3, 0, 1, 3);
     for (int column = 0; column < 3; ++column)
-        raster->setColumnStretch(column, column < 2 ? 2 : 3);
+        raster->setColumnStretch(column, 1);
+    raster->setRowStretch(raster->rowCount(), 1);
     return HeadedCard(lblContact, raster);
 }
 
@@ -212,7 +217,7 @@ QWidget* EmployeeGeneralPage::CommentCard()
 {
     auto* content = new QVBoxLayout;
     content->addWidget(txtComment);
-    txtComment->setMinimumHeight(kUnitListHeight);
+    txtComment->setMinimumHeight(kCommentHeight);
     return HeadedCard(lblComment, content);
 }
 

@@ -43,7 +43,7 @@ constexpr Bilingual kKindCaptions[] = {
      "Création, modification et annulation d'absences"},
 };
 constexpr Bilingual kSingleCaptions[] = {
-    {"Authorized to &approve requests for leave", "&Autorisé(e) à approuver les demandes de congé"},
+    {"Authorized to approve requests for leave", "Autorisé(e) à approuver les demandes de congé"},
     {"This employee has access to «HIDDEN CATEGORIES OF ATTENDANCE»",
      "Cet(te) employé(e) a accès aux «CATÉGORIES D'ABSENCES CACHÉES»"},
     {"This employee is authorized to view comments specified for absences",

@@ -20,7 +20,7 @@
 
 namespace
 {
-constexpr QSize kSize(1040, 760);
+constexpr QSize kSize(1040, 660);
 constexpr int kYearWidth = 150;
 
 QString InYear(const QString& text)

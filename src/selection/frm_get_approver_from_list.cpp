@@ -86,7 +86,7 @@ void frmGetApproverFromList::LoadRecords()
 void frmGetApproverFromList::AddHead(const QString& place)
 {
     auto* head = new QListWidgetItem(place, lstApprovers);
-    head->setFlags(Qt::NoItemFlags);
+    head->setFlags(Qt::ItemIsEnabled);
     QFont bold = lstApprovers->font();
     bold.setBold(true);
     head->setFont(bold);

@@ -1,0 +1,154 @@
+#include "employees/transfer_employee.h"
+
+#include "employees/employee_rows.h"
+#include "foundation/common_services.h"
+#include "foundation/connection.h"
+#include "foundation/texts.h"
+#include "foundation/values.h"
+#include "platform/clock.h"
+#include "reference/employees_list.h"
+
+namespace
+{
+/// More entitlements than this of one employee are not looked at.
+constexpr int kMostEntitlements = 1000;
+
+RowValues UnitColumns(const TransferPlace& place)
+{
+    return {{"OrganizationID", place.OrganizationID}, {"DepartmentID", place.DepartmentID}, {"GroupID", place.GroupID}};
+}
+
+void UpdateEmployee(DataControl& datAbsence, const EmployeeTransfer& transfer)
+{
+    RowValues values = UnitColumns(transfer.To);
+    values.push_back({"ModifiedBy", Who()});
+    values.push_back({"ModifiedDate", Today()});
+    WriteRow(datAbsence, "Employees", transfer.RecordID, values);
+}
+
+/// Records up to today keep their unit, so that reports of the past still charge it.
+void UpdateAttendance_ACCESS(DataControl& datAbsence, const EmployeeTransfer& transfer)
+{
+    datAbsence.Execute(
+        "UPDATE Attendance SET OrganizationID = ?, DepartmentID = ?, GroupID = ? WHERE EmployeeID = ? AND "
+        "RecordDate > ? AND CancelledDate = 0",
+        transfer.To.OrganizationID, transfer.To.DepartmentID, transfer.To.GroupID, transfer.RecordID, Today());
+}
+
+void UpdateAttendance_SQL(const EmployeeTransfer& transfer)
+{
+    SendToServer(QStringLiteral("UPDATE Attendance SET OrganizationID = %1, DepartmentID = %2, GroupID = %3 WHERE "
+                                "EmployeeID = %4 AND RecordDate > %5 AND CancelledDate = 0")
+                     .arg(transfer.To.OrganizationID)
+                     .arg(transfer.To.DepartmentID)
+                     .arg(transfer.To.GroupID)
+                     .arg(transfer.RecordID)
+                     .arg(Today()));
+}
+
+void UpdateAttendance(DataControl& datAbsence, const EmployeeTransfer& transfer)
+{
+    if (SessionState.SQL_Server)
+        UpdateAttendance_SQL(transfer);
+    else
+        UpdateAttendance_ACCESS(datAbsence, transfer);
+}
+
+/// The new department decides which categories its people use; balances move along unchanged. The employee's row
+/// already names that department.
+void UpdateEntitlements(DataControl& datAbsence, int employee)
+{
+    for (Recordset row = datAbsence.Select(
+             "SELECT DISTINCT Entitlements.RecordID, CategoriesDepartments.IsUsed, Employees.DepartmentID FROM "
+             "Entitlements, CategoriesDepartments, Employees, Categories WHERE "
+             "Entitlements.CategoryID = CategoriesDepartments.CategoryID AND "
+             "Entitlements.CategoryID = Categories.RecordID AND Entitlements.EmployeeID = Employees.RecordID AND "
+             "Categories.CanBeRemoved = 1 AND CategoriesDepartments.DepartmentID = Employees.DepartmentID AND "
+             "Entitlements.EmployeeID = ? LIMIT ?",
+             employee, kMostEntitlements);
+         !row.AtEnd(); row.MoveNext())
+        WriteRow(datAbsence, "Entitlements", row.Long("RecordID"), {{"Active", row.Long("IsUsed")}});
+}
+
+void ShowPlaceInCalendar(const EmployeeTransfer& transfer)
+{
+    SessionState.ReloadCalendar = true;
+    if (SessionState.EmployeeID != transfer.RecordID)
+        return;
+    SessionState.EmployeeOrganizationID = transfer.To.OrganizationID;
+    SessionState.EmployeeDepartmentID = transfer.To.DepartmentID;
+    SessionState.EmployeeGroupID = transfer.To.GroupID;
+}
+
+/// The condition that names the deepest unit chosen; all employees without one.
+std::pair<QString, int> DeepestUnit(const TransferPlace& place)
+{
+    if (place.GroupID != 0)
+        return {"GroupID = ?1", place.GroupID};
+    if (place.DepartmentID != 0)
+        return {"DepartmentID = ?1", place.DepartmentID};
+    return {"(?1 = 0 OR OrganizationID = ?1)", place.OrganizationID};
+}
+
+void TellMissing(const QString& text)
+{
+    Tell(T("ERROR:", "ERREUR:"), text, Face::Warning);
+}
+} // namespace
+
+QVector<TransferCandidate> ReloadEmployees(DataControl& datAbsence, const TransferPlace& within)
+{
+    const Connection connection(datAbsence);
+    const auto [condition, unit] = DeepestUnit(within);
+    QVector<TransferCandidate> candidates;
+    for (Recordset row = datAbsence.Select("SELECT * FROM Employees WHERE " + condition +
+                                               " AND DeactivatedDate = 0 AND FiscalYear = ?2 "
+                                               "ORDER BY FamilyName ASC, FirstName ASC",
+                                           unit, SessionState.FiscalYearID);
+         !row.AtEnd(); row.MoveNext())
+        candidates.append(
+            {row.Long("RecordID"), row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed()});
+    return candidates;
+}
+
+void TakePlaceOfEmployee(DataControl& datAbsence, int employee, TransferPlace& place)
+{
+    const Connection connection(datAbsence);
+    if (!datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", employee))
+        return;
+    datAbsence.Take("OrganizationID", place.OrganizationID);
+    datAbsence.Take("DepartmentID", place.DepartmentID);
+    datAbsence.Take("GroupID", place.GroupID);
+}
+
+bool ValidateTransfer(const EmployeeTransfer& transfer)
+{
+    if (transfer.RecordID == 0)
+        TellMissing(T("You must select the name of the employee you wish to transfer!",
+                      "Vous devez spécifier le nom de l'employé(e) que vous souhaitez transférer!"));
+    else if (transfer.To.OrganizationID == 0)
+        TellMissing(T("You must specify where the employee is being transferred to!",
+                      "Vous devez spécifier l'endroit où l'employé(e) sera transféré(e)!"));
+    return transfer.RecordID != 0 && transfer.To.OrganizationID != 0;
+}
+
+bool ConfirmTransfer(const EmployeeTransfer& transfer, const QString& fromLines, const QString& toLines)
+{
+    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
+               Fill(T("Do you wish to transfer {name} from:", "Souhaitez-vous transférer {name} de:"),
+                    {{"name", transfer.Name}}) +
+                   "\r\n\r\n" + fromLines + "\r\n" + T("TO:", "À:") + "\r\n\r\n" + toLines);
+}
+
+void TransferEmployee(DataControl& datAbsence, const EmployeeTransfer& transfer)
+{
+    WriteAtOnce(datAbsence, [&] {
+        LogEmployeeModification(datAbsence, transfer.RecordID);
+        UpdateEmployee(datAbsence, transfer);
+        UpdateAttendance(datAbsence, transfer);
+        if (transfer.From.DepartmentID != transfer.To.DepartmentID)
+            UpdateEntitlements(datAbsence, transfer.RecordID);
+        EmployeesListToBeReloaded(datAbsence);
+    });
+    ShowPlaceInCalendar(transfer);
+}

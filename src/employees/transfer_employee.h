@@ -1,0 +1,34 @@
+#pragma once
+
+#include "employees/transfer_place.h"
+
+/// An employee who may be transferred, as the list shows him.
+struct TransferCandidate
+{
+    int RecordID = 0;
+    QString Name; ///< "FamilyName, FirstName"
+};
+
+/// What is to be carried out.
+struct EmployeeTransfer
+{
+    int RecordID = 0; ///< the employee's, 0 none selected
+    QString Name;
+    TransferPlace From;
+    TransferPlace To;
+};
+
+/// The active employees of the deepest unit chosen, or of the session's year, by name. Empty when nothing can be read.
+QVector<TransferCandidate> ReloadEmployees(DataControl& datAbsence, const TransferPlace& within);
+/// The units that an employee's row holds; `place` is unchanged when it cannot be read.
+void TakePlaceOfEmployee(DataControl& datAbsence, int employee, TransferPlace& place);
+
+/// Says what is missing; true when nothing is.
+bool ValidateTransfer(const EmployeeTransfer& transfer);
+/// Asks for the final Yes, naming the units of both sides.
+bool ConfirmTransfer(const EmployeeTransfer& transfer, const QString& fromLines, const QString& toLines);
+
+/// Moves the employee, his records of the days after today that are not cancelled, and, into another department, the
+/// entitlements' being active. The row as it stands goes to the modifications log. The calendar follows when it shows
+/// him. Throws RuntimeError when something cannot be written; nothing has changed then.
+void TransferEmployee(DataControl& datAbsence, const EmployeeTransfer& transfer);
