@@ -1,4 +1,5 @@
 #include "calendar/frm_main.h"
+#include "employees/frm_employees.h"
 #include "foundation/common_services.h"
 #include "foundation/frm_message_box.h"
 #include "foundation/frm_splash_screen.h"
@@ -6,6 +7,7 @@
 #include "platform/controls/file_dialog.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
+#include "reports/frm_lists.h"
 #include "setup/frm_set_up_wizard.h"
 
 #include <QApplication>
@@ -75,6 +77,10 @@ int main(int argc, char* argv[])
     InstallMessageBox();
     InstallFileDialog();
     PrepareProgramFolder(QApplication::applicationDirPath() + "/delivered");
+    frmEmployees::ShowEmployeesList = [](QWidget* parent) {
+        frmLists list(ListKind::Employees, parent);
+        ShowModal(list);
+    };
     Program program;
     program.Start();
     return QApplication::exec();

@@ -1,5 +1,3 @@
-#include "tour.h"
-
 #include "calendar/frm_main.h"
 #include "employees/frm_clone_employee.h"
 #include "employees/frm_employees.h"
@@ -7,11 +5,11 @@
 #include "foundation/texts.h"
 #include "platform/clock.h"
 #include "platform/controls/form_kit.h"
-#include "platform/controls/input_box.h"
 #include "reference/frm_departments.h"
 #include "reference/frm_groups.h"
 #include "reference/frm_organizations.h"
 #include "selection/frm_select_employee.h"
+#include "tour.h"
 
 #include <QTabWidget>
 
@@ -143,7 +141,8 @@ void Tour::FillEmployee(const NewEmployee& person)
     user_.Types("txtUserName", person.LoginID).Types("txtPassword", "pass");
     user_.Checks("chkApprovalAuthority", person.Approves);
     if (!person.Approver.isEmpty())
-        user_.Picks("cboApprovedBy_FirstLevel", user_.Entries("cboApprovedBy_FirstLevel").filter(person.Approver).value(0));
+        user_.Picks("cboApprovedBy_FirstLevel",
+                    user_.Entries("cboApprovedBy_FirstLevel").filter(person.Approver).value(0));
     photo("employees_3_profile");
     if (pictured) {
         tabs->setCurrentIndex(3);
