@@ -1,5 +1,4 @@
 #include "calendar/frm_main.h"
-#include "employees/frm_employees.h"
 #include "foundation/common_services.h"
 #include "foundation/frm_message_box.h"
 #include "foundation/frm_splash_screen.h"
@@ -7,7 +6,6 @@
 #include "platform/controls/file_dialog.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
-#include "reports/frm_lists.h"
 #include "setup/frm_set_up_wizard.h"
 
 #include <QApplication>
@@ -77,10 +75,6 @@ int main(int argc, char* argv[])
     InstallMessageBox();
     InstallFileDialog();
     PrepareProgramFolder(QApplication::applicationDirPath() + "/delivered");
-    frmEmployees::ShowEmployeesList = [](QWidget* parent) {
-        frmLists list(ListKind::Employees, parent);
-        ShowModal(list);
-    };
     Program program;
     program.Start();
     return QApplication::exec();

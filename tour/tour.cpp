@@ -51,6 +51,8 @@ void Tour::Walk()
     AddPeople();
     TransferEmployee();
     DeactivateEmployee();
+    ModifyEmployee();
+    ListEmployees();
     TakeVacation();
     TakePeriod();
     FallSick();
@@ -324,6 +326,14 @@ void Tour::Confirm()
         {"SELECT COUNT(*) || '|' || SUM(RequestStatus) FROM Attendance WHERE Submitted = 1", "2|0"},
         {"SELECT COUNT(*) || '|' || Duration FROM Attendance_Modifications", "1|3.5"},
         {"SELECT COUNT(*) FROM Attendance WHERE UnitCost <> 2450", "0"},
+        {"SELECT COUNT(*) || '|' || SUM(DeactivatedDate > 0) || '|' || COUNT(DISTINCT DepartmentID) FROM Employees "
+         "WHERE "
+         "FiscalYear = 1",
+         "6|1|4"},
+        {"SELECT COUNT(*) || '|' || SUM(Active) FROM Entitlements", "24|15"},
+        {"SELECT HourlyRate || '|' || AddressLine2 || '|' || (SELECT LoginID FROM Employees A WHERE A.RecordID = "
+         "Employees.AttendanceApprovedBy_Main) FROM Employees WHERE LoginID = 'PROY'",
+         "26.0|G1R 2B5|LCOTE"},
     };
     for (const auto& [sql, result] : expected) {
         const QString found = house_.Rows(sql);

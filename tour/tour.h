@@ -41,6 +41,8 @@ private:
     void FillEmployee(const NewEmployee& person);
     void TransferEmployee();
     void DeactivateEmployee();
+    void ModifyEmployee();
+    void ListEmployees();
     void Choose(const char* menu);
     void ChooseEmployee(const QString& department, const QString& name);
     void TakeVacation();

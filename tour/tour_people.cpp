@@ -8,7 +8,10 @@
 #include "reference/frm_departments.h"
 #include "reference/frm_groups.h"
 #include "reference/frm_organizations.h"
+#include "reports/frm_lists.h"
+#include "selection/frm_get_approver_from_list.h"
 #include "selection/frm_select_employee.h"
+#include "selection/frm_select_period.h"
 #include "tour.h"
 
 #include <QTabWidget>
@@ -179,6 +182,44 @@ void Tour::DeactivateEmployee()
             user_.Clicks("cmdOK");
         });
         user_.WillAnswer(Completed(), "OK").Clicks("cmdDeactivate").Clicks("cmdQuit");
+    });
+    Choose("mnuFileEmployees");
+}
+
+void Tour::ModifyEmployee()
+{
+    Say("Pierre gets an approver from the list and a better rate since March");
+    user_.WhenOpens<frmEmployees>([this](frmEmployees& form) {
+        user_.WhenOpens<frmSelectEmployee>(
+            [this](frmSelectEmployee&) { user_.Picks("lstEmployees", "Roy, Pierre").Clicks("cmdSelect"); });
+        user_.Works(form).Clicks("cmdModify").Types("txtHourlyRate", "26");
+        form.findChild<QTabWidget*>("sstEmployees")->setCurrentIndex(2);
+        user_.WhenOpens<frmGetApproverFromList>([this](frmGetApproverFromList&) {
+            user_.Picks("lstApprovers", user_.Entries("lstApprovers").filter("Luc").value(0));
+            Photo("get_approver_from_list");
+            user_.Clicks("cmdSelect");
+        });
+        user_.Clicks("cmdGetApprover1FromList").WillAnswer(Confirming(), T("Yes", "Oui"));
+        user_.WillAnswer(T("New hourly rate specified:", "Un changement de taux horaire a été détecté!"),
+                         T("Yes", "Oui"));
+        user_.WhenOpens<frmSelectPeriod>([this](frmSelectPeriod&) {
+            user_.Picks("cboFrom", FormatDate(SerialOfDate({2026, 3, 2}), "ddd dd-mmm-yyyy"));
+            Photo("select_period");
+            user_.Clicks("cmdOK");
+        });
+        user_.WillAnswer(Completed(), "OK").Clicks("cmdModify").Clicks("cmdQuit");
+    });
+    Choose("mnuFileEmployees");
+}
+
+void Tour::ListEmployees()
+{
+    user_.WhenOpens<frmEmployees>([this](frmEmployees& form) {
+        user_.WhenOpens<frmLists>([this](frmLists&) {
+            Photo("lists_employees");
+            user_.Clicks("cmdOK");
+        });
+        user_.Works(form).Clicks("cmdListRecords").Clicks("cmdQuit");
     });
     Choose("mnuFileEmployees");
 }

@@ -19,6 +19,7 @@
 #include "reference/frm_departments.h"
 #include "reference/frm_groups.h"
 #include "reference/frm_organizations.h"
+#include "reports/frm_lists.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
 #include "selection/frm_select_employee.h"
@@ -46,6 +47,15 @@ void frmMain::OpenEditor()
     Open<Form>(this);
     ReloadSelection();
     Busy = false;
+}
+
+/// Hands the floors below the forms that stand above them.
+void frmMain::HandDownForms()
+{
+    frmEmployees::ShowEmployeesList = [](QWidget* parent) {
+        frmLists list(ListKind::Employees, parent);
+        ShowModal(list);
+    };
 }
 
 MainMenus::Commands frmMain::MenuCommands()
