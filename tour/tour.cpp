@@ -333,7 +333,7 @@ void Tour::Confirm()
         {"SELECT COUNT(*) || '|' || SUM(Active) FROM Entitlements", "24|15"},
         {"SELECT HourlyRate || '|' || AddressLine2 || '|' || (SELECT LoginID FROM Employees A WHERE A.RecordID = "
          "Employees.AttendanceApprovedBy_Main) FROM Employees WHERE LoginID = 'PROY'",
-         "26.0|G1R 2B5|LCOTE"},
+         "26|G1R 2B5|LCOTE"},
     };
     for (const auto& [sql, result] : expected) {
         const QString found = house_.Rows(sql);
