@@ -1,29 +1,6 @@
 #include "attendance/frm_attendance.h"
-#include "measuring.h"
-#include "platform/clock.h"
+#include "opening.h"
 #include "selection/frm_select_employee.h"
-#include "support/user.h"
-
-namespace
-{
-/// A form with a list of the whole company: made, loaded and painted.
-template <typename Form>
-class Opening : public Measured
-{
-public:
-    explicit Opening(BigCompany& company) : Measured(company)
-    {
-        company.LogIn("U0001");
-        SessionState.AttendanceDates[0] = SerialOfDate({2026, 12, 31});
-    }
-
-    void Work() override { user_.Opens<Form>(); }
-    void CleanUp() override { user_.Leaves(); }
-
-private:
-    User user_;
-};
-} // namespace
 
 void RegisterLists(BigCompany& company)
 {

@@ -20,6 +20,7 @@ int main(int argc, char* argv[])
     RegisterCalendar(company);
     RegisterAttendance(company);
     RegisterLists(company);
+    RegisterEmployees(company);
     benchmark::RunSpecifiedBenchmarks();
     return TellVerdicts() ? 0 : 1;
 }

@@ -55,3 +55,4 @@ bool TellVerdicts();
 void RegisterCalendar(BigCompany& company);
 void RegisterAttendance(BigCompany& company);
 void RegisterLists(BigCompany& company);
+void RegisterEmployees(BigCompany& company);

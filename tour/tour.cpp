@@ -46,8 +46,13 @@ Tour::~Tour() = default;
 void Tour::Walk()
 {
     SetUpWorkstation();
-    AddPeople();
     LogInAsAdministrator();
+    AddUnits();
+    AddPeople();
+    TransferEmployee();
+    DeactivateEmployee();
+    ModifyEmployee();
+    ListEmployees();
     TakeVacation();
     TakePeriod();
     FallSick();
@@ -66,6 +71,11 @@ void Tour::Say(const QString& what) const
 void Tour::Photo(const QString& name)
 {
     user_.Photographs(QStringLiteral("%1/%2_%3.png").arg(folder_, name, english_ ? "en" : "fr"));
+}
+
+void Tour::Choose(const char* menu)
+{
+    main_->findChild<QAction*>(menu)->trigger();
 }
 
 void Tour::PhotoMessage(const Message& message)
@@ -134,22 +144,6 @@ void Tour::WorkWizard()
     user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui"));
     user_.WillAnswer(T("CONFIGURATION COMPLETED SUCCESSFULLY:", "CONFIGURATION INITIALE COMPLÉTÉE:"), "OK");
     user_.Clicks("cmdNext");
-}
-
-void Tour::AddPeople()
-{
-    Say("Units and people come in");
-    house_.Units();
-    house_.Hire({"LCOTE", "Luc", "Côté", "Production", "Assembly", {"SelfLevelRead", "IsAuthorizedToApprove"}});
-    const int luc = house_.Number("SELECT RecordID FROM Employees WHERE LoginID = 'LCOTE'");
-    house_.Hire({"MBOUCHARD", "Marie", "Bouchard", "Production", "Assembly", {"SelfLevelRead"}, luc, 24.5F});
-    house_.Hire({"EGAGNON", "Émilie", "Gagnon", "Sales", "", {"SelfLevelRead"}, luc});
-    house_.Hire({"PROY", "Pierre", "Roy", "Stores", "", {"SelfLevelRead"}, luc});
-    house_.Sql("UPDATE Employees SET Language = ?", {english_ ? 0 : 1});
-    house_.Sql(
-        "INSERT INTO Entitlements (FiscalYear, CategoryID, EmployeeID, AnnualEntitlement, Active) SELECT "
-        "Categories.FiscalYear, Categories.RecordID, Employees.RecordID, 105, 1 FROM Categories, Employees WHERE "
-        "Categories.SystemName IN ('Vacation', 'Sick') AND Employees.FiscalYear = 1");
 }
 
 void Tour::LogInAsAdministrator()
@@ -279,28 +273,29 @@ void Tour::ModifyRecord()
 void Tour::VisitSmallForms()
 {
     Say("The small forms");
-    const auto choose = [this](const char* menu) { main_->findChild<QAction*>(menu)->trigger(); };
     user_.WhenOpens<frmChangePassword>([this](frmChangePassword&) {
         Photo("change_password");
         user_.Clicks("cmdCancel");
     });
-    choose("mnuSpecialChangePassword");
+    Choose("mnuSpecialChangePassword");
     user_.WhenOpens<frmUpdateAdminInfo>([this](frmUpdateAdminInfo&) {
         Photo("update_admin_info");
         user_.Clicks("cmdCancel");
     });
-    choose("mnuSpecialUpdateAdminInfo");
+    Choose("mnuSpecialUpdateAdminInfo");
     user_.WhenOpens<frmAbout>([this](frmAbout&) {
         Photo("about");
         user_.Clicks("cmdOK");
     });
-    choose("mnuHelpAbout");
+    Choose("mnuHelpAbout");
 }
 
 void Tour::RequestLeave()
 {
     Say("Marie logs in herself and asks for the days before Christmas");
     LogInAs("mbouchard", "pass");
+    if (!english_)
+        Choose("mnuSpecialSwitchLanguage");
     user_.Clicks("imgSubmit");
     ClickDays(12, {23, 24});
     user_.WhenOpens<frmAttendance>([this](frmAttendance&) {
@@ -311,7 +306,7 @@ void Tour::RequestLeave()
         user_.Clicks("cmdAddOrUpdate");
     });
     user_.Clicks("imgSubmit");
-    main_->findChild<QAction*>("mnuSpecialDisplayPending")->trigger();
+    Choose("mnuSpecialDisplayPending");
     Photo("main_window_pending");
 }
 
@@ -331,6 +326,14 @@ void Tour::Confirm()
         {"SELECT COUNT(*) || '|' || SUM(RequestStatus) FROM Attendance WHERE Submitted = 1", "2|0"},
         {"SELECT COUNT(*) || '|' || Duration FROM Attendance_Modifications", "1|3.5"},
         {"SELECT COUNT(*) FROM Attendance WHERE UnitCost <> 2450", "0"},
+        {"SELECT COUNT(*) || '|' || SUM(DeactivatedDate > 0) || '|' || COUNT(DISTINCT DepartmentID) FROM Employees "
+         "WHERE "
+         "FiscalYear = 1",
+         "6|1|4"},
+        {"SELECT COUNT(*) || '|' || SUM(Active) FROM Entitlements", "24|15"},
+        {"SELECT HourlyRate || '|' || AddressLine2 || '|' || (SELECT LoginID FROM Employees A WHERE A.RecordID = "
+         "Employees.AttendanceApprovedBy_Main) FROM Employees WHERE LoginID = 'PROY'",
+         "26|G1R 2B5|LCOTE"},
     };
     for (const auto& [sql, result] : expected) {
         const QString found = house_.Rows(sql);

@@ -8,6 +8,16 @@
 
 class frmMain;
 
+/// An employee whom the tour enters.
+struct NewEmployee
+{
+    QString FamilyName, FirstName, LoginID, Department, Group;
+    QString Start, End;    ///< of the day, Monday to Friday; empty for irregular hours
+    QString Approver = {}; ///< start of the first approver's entry
+    QString Template = {}; ///< the colleague whose record is the pattern
+    bool Approves = false;
+};
+
 /// A walk through the program from an empty folder, in one language: what a new customer does on the first days. It
 /// leaves the databases and a picture of each form in its folder.
 class Tour
@@ -22,7 +32,18 @@ private:
     void WorkWizard();
     void LogInAsAdministrator();
     void LogInAs(const QString& loginID, const QString& password);
+    void AddUnits();
+    void AddOrganization(const QString& english, const QString& french, const QString& city);
+    void AddUnit(const char* menu, const QString& parentList, const QString& parent, const QString& english,
+                 const QString& french);
     void AddPeople();
+    void AddEmployee(const NewEmployee& person);
+    void FillEmployee(const NewEmployee& person);
+    void TransferEmployee();
+    void DeactivateEmployee();
+    void ModifyEmployee();
+    void ListEmployees();
+    void Choose(const char* menu);
     void ChooseEmployee(const QString& department, const QString& name);
     void TakeVacation();
     void TakePeriod();

@@ -100,6 +100,7 @@ void AttendanceGeneralPage::BuildControls()
     lblEmployeeName = Named<QLabel>("lblEmployeeName");
     lstWho = Named<QListWidget>("lstWho");
     lstWho->setItemDelegate(new EmployeeDelegate(lstWho));
+    lstWho->setUniformItemSizes(true); // one line is measured, not one for each employee
     txtWhen = Named<QPlainTextEdit>("txtWhen");
     txtWhen->setReadOnly(true);
     txtWhen->setTabChangesFocus(true);

@@ -26,6 +26,7 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
 {
     BuildControls();
     ConnectControls();
+    HandDownForms();
 }
 
 void frmMain::BuildControls()

@@ -53,6 +53,7 @@ protected:
 private:
     void BuildControls();
     void ConnectControls();
+    static void HandDownForms();
     MainMenus::Commands MenuCommands();
     template <typename Form>
     void OpenEditor();

@@ -3,6 +3,7 @@
 #include "calendar/frm_main_calendar.h"
 #include "calendar/frm_main_header.h"
 #include "calendar/frm_main_tool_bar.h"
+#include "employees/frm_employees.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/frm_about.h"
@@ -18,6 +19,7 @@
 #include "reference/frm_departments.h"
 #include "reference/frm_groups.h"
 #include "reference/frm_organizations.h"
+#include "reports/frm_lists.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
 #include "selection/frm_select_employee.h"
@@ -47,12 +49,22 @@ void frmMain::OpenEditor()
     Busy = false;
 }
 
+/// Hands the floors below the forms that stand above them.
+void frmMain::HandDownForms()
+{
+    frmEmployees::ShowEmployeesList = [](QWidget* parent) {
+        frmLists list(ListKind::Employees, parent);
+        ShowModal(list);
+    };
+}
+
 MainMenus::Commands frmMain::MenuCommands()
 {
     return {
         {"mnuFileOrganizations", [this] { OpenEditor<frmOrganizations>(); }},
         {"mnuFileDepartments", [this] { OpenEditor<frmDepartments>(); }},
         {"mnuFileGroups", [this] { OpenEditor<frmGroups>(); }},
+        {"mnuFileEmployees", [this] { OpenEditor<frmEmployees>(); }},
         {"mnuFileDatabaseLocation", [this] { mnuFileDatabaseLocation_Click(); }},
         {"mnuFileExit", [this] { cmdQuit_Click(); }},
         {"mnuSpecialDisplayApproved", [this] { mnuSpecialDisplayApproved_Click(); }},

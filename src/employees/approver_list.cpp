@@ -69,8 +69,8 @@ QVector<Approver> LoadApprovedBy_ACCESS(DataControl& datAbsence, const EmployeeR
     const Connection connection(datAbsence);
     QVector<Approver> approvers;
     for (const Block& block : BlocksOf(record))
-        for (Recordset employee = datAbsence.Select(WholeStatement(block), block.UnitID, SessionState.FiscalYearID,
-                                                    record.RecordID);
+        for (Recordset employee =
+                 datAbsence.Select(WholeStatement(block), block.UnitID, SessionState.FiscalYearID, record.RecordID);
              !employee.AtEnd(); employee.MoveNext())
             approvers.append({employee.Long("RecordID"), Listed(employee)});
     return approvers;

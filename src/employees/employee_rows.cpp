@@ -23,12 +23,12 @@ struct TextColumn
     QString EmployeeRecord::*Member;
 };
 constexpr TextColumn kTextColumns[] = {
-    {"FamilyName", &EmployeeRecord::FamilyName},     {"FirstName", &EmployeeRecord::FirstName},
-    {"EmployeeID", &EmployeeRecord::EmployeeID},     {"AddressLine1", &EmployeeRecord::AddressLine1},
-    {"AddressLine2", &EmployeeRecord::PostalCode},   {"City", &EmployeeRecord::City},
+    {"FamilyName", &EmployeeRecord::FamilyName},       {"FirstName", &EmployeeRecord::FirstName},
+    {"EmployeeID", &EmployeeRecord::EmployeeID},       {"AddressLine1", &EmployeeRecord::AddressLine1},
+    {"AddressLine2", &EmployeeRecord::PostalCode},     {"City", &EmployeeRecord::City},
     {"ProvinceState", &EmployeeRecord::ProvinceState}, {"Country", &EmployeeRecord::Country},
-    {"PhoneHome", &EmployeeRecord::PhoneHome},       {"PhoneOffice", &EmployeeRecord::PhoneOffice},
-    {"EMailAddress", &EmployeeRecord::EMailAddress}, {"Comment", &EmployeeRecord::Comment},
+    {"PhoneHome", &EmployeeRecord::PhoneHome},         {"PhoneOffice", &EmployeeRecord::PhoneOffice},
+    {"EMailAddress", &EmployeeRecord::EMailAddress},   {"Comment", &EmployeeRecord::Comment},
 };
 
 struct NumberColumn

@@ -38,8 +38,7 @@ QStringList WorkingDays(const EmployeeRecord& record)
 QString ScheduleBlock(const EmployeeRecord& record)
 {
     if (record.IrregularHours)
-        return T("This employee works irregular hours",
-                 "Cet(te) employé(e) travaille selon un horaire irrégulier.");
+        return T("This employee works irregular hours", "Cet(te) employé(e) travaille selon un horaire irrégulier.");
     QString block = T("Hours worked:      ", "Heures travaillées:") + "\t\t";
     const QStringList days = WorkingDays(record);
     for (qsizetype i = 0; i < days.size(); ++i) {

@@ -49,7 +49,8 @@ constexpr Bilingual kSingleCaptions[] = {
     {"This employee is authorized to view comments specified for absences",
      "Cet(te) employé(e) est autorisé(e) à voir les commentaires spécifiés pour les absences"},
     {"This employee is authorized to generate reports for people whose attendance he/she has access to",
-     "Cet(te) employé(e) est autorisé(e) à produire des rapports sur les personnes dont il/elle peut voir les absences"},
+     "Cet(te) employé(e) est autorisé(e) à produire des rapports sur les personnes dont il/elle peut voir les "
+     "absences"},
 };
 
 QLineEdit* LogInField(const QString& name, int limit)
@@ -160,13 +161,13 @@ QWidget* EmployeeProfilePage::SingleRightsCard(RightBoxes& boxes)
 
 void EmployeeProfilePage::LoadCaptions()
 {
-    lblExplanation->setText(
-        T("By default, every employee in your organization has access to their own attendance records and is allowed to "
-          "submit their own requests for leave. Use the check boxes contained in this window to grant additional "
-          "privileges to the employee.",
-          "Par défaut, chacun des employés de votre organisation a accès aux enregistrements qui le concernent et est "
-          "autorisé à soumettre ses propres demandes de congé. Il vous est possible, en cochant les cases contenues dans "
-          "cette fenêtre, d'octroyer des privilèges additionnels à cet(te) employé(e)."));
+    lblExplanation->setText(T(
+        "By default, every employee in your organization has access to their own attendance records and is allowed to "
+        "submit their own requests for leave. Use the check boxes contained in this window to grant additional "
+        "privileges to the employee.",
+        "Par défaut, chacun des employés de votre organisation a accès aux enregistrements qui le concernent et est "
+        "autorisé à soumettre ses propres demandes de congé. Il vous est possible, en cochant les cases contenues dans "
+        "cette fenêtre, d'octroyer des privilèges additionnels à cet(te) employé(e)."));
     lblLogIn->setText(T("Log-in and approval of requests", "Accès et approbation des demandes"));
     lblUserName->setText(T("&Username:", "Nom d'&usager:"));
     lblPassword->setText(T("Password:", "Mot-clé:"));
@@ -217,9 +218,9 @@ void EmployeeProfilePage::Normalise()
 
 void EmployeeProfilePage::SetEntryEnabled(bool enabled)
 {
-    for (QWidget* control : std::initializer_list<QWidget*>{txtUserName, txtPassword, cboApprovedBy_FirstLevel,
-                                                            cboApprovedBy_SecondLevel, cmdGetApprover1FromList,
-                                                            cmdGetApprover2FromList})
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{txtUserName, txtPassword, cboApprovedBy_FirstLevel, cboApprovedBy_SecondLevel,
+                                         cmdGetApprover1FromList, cmdGetApprover2FromList})
         control->setEnabled(enabled);
 }
 

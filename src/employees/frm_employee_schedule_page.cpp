@@ -138,20 +138,21 @@ QComboBox* EmployeeSchedulePage::TimeList(ClockTime time, int day) const
 
 void EmployeeSchedulePage::LoadCaptions()
 {
-    lblExplanation->setText(
-        T("If the employee works according to a regular schedule, you should take the time to detail that schedule here. "
-          "Providing this information greatly accelerates the process of entering attendance records. In most cases, all "
-          "you will ever need to do is check a box to specify the duration of an absence.",
-          "Si l'employé(e) travaille selon un horaire régulier, vous devriez prendre le temps de détailler cet horaire. En "
-          "fournissant cette information dès le départ, vous réduirez considérablement le temps nécessaire à "
-          "l'enregistrement des absences. Dans la plupart des cas, il vous suffira de cocher une case afin de spécifier "
-          "la durée d'une absence."));
+    lblExplanation->setText(T(
+        "If the employee works according to a regular schedule, you should take the time to detail that schedule here. "
+        "Providing this information greatly accelerates the process of entering attendance records. In most cases, all "
+        "you will ever need to do is check a box to specify the duration of an absence.",
+        "Si l'employé(e) travaille selon un horaire régulier, vous devriez prendre le temps de détailler cet horaire. "
+        "En "
+        "fournissant cette information dès le départ, vous réduirez considérablement le temps nécessaire à "
+        "l'enregistrement des absences. Dans la plupart des cas, il vous suffira de cocher une case afin de spécifier "
+        "la durée d'une absence."));
     lblFirstHalf->setText(T("First half of the day", "Première moitié de la journée"));
     lblSecondHalf->setText(T("Second half of the day", "Seconde moitié de la journée"));
     lblTotal->setText(T("Total", "Total"));
-    const QString captions[] = {T("Start time", "Heure de début"), T("End time", "Heure de fin"),
-                                T("Start time", "Heure de début"), T("End time", "Heure de fin"),
-                                T("Hours", "Heures"),              T("Minutes", "Minutes")};
+    const QString captions[] = {
+        T("Start time", "Heure de début"), T("End time", "Heure de fin"), T("Start time", "Heure de début"),
+        T("End time", "Heure de fin"),     T("Hours", "Heures"),          T("Minutes", "Minutes")};
     for (std::size_t i = 0; i < columns_.size(); ++i)
         columns_[i]->setText(captions[i]);
     const QString total =

@@ -194,14 +194,14 @@ void frmEmployees::LoadRecords()
     MustClose = units_[0].isEmpty() || units_[1].isEmpty();
     if (units_[0].isEmpty())
         Tell(denied, InYear(T("Before you can update your list of employees you must first set up at least one "
-                                    "organization in fiscal year {FiscalYearName}!",
-                                    "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
-                                    "moins une organisation dans l'année fiscale {FiscalYearName}!")));
+                              "organization in fiscal year {FiscalYearName}!",
+                              "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
+                              "moins une organisation dans l'année fiscale {FiscalYearName}!")));
     else if (units_[1].isEmpty())
         Tell(denied, InYear(T("Before you can update your list of employees you must first set up at least one "
-                                    "department in fiscal year {FiscalYearName}!",
-                                    "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
-                                    "moins un département dans l'année fiscale {FiscalYearName}!")));
+                              "department in fiscal year {FiscalYearName}!",
+                              "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
+                              "moins un département dans l'année fiscale {FiscalYearName}!")));
     else
         SelectStartingUnits();
 }
@@ -216,10 +216,9 @@ void frmEmployees::SelectStartingUnits()
         }
     if (units_[2].size() == 1)
         record_.GroupID = units_[2].first().RecordID;
-    for (const auto& [own, unit] :
-         {std::pair(SessionState.UserOrganizationID, &EmployeeRecord::OrganizationID),
-          std::pair(SessionState.UserDepartmentID, &EmployeeRecord::DepartmentID),
-          std::pair(SessionState.UserGroupID, &EmployeeRecord::GroupID)})
+    for (const auto& [own, unit] : {std::pair(SessionState.UserOrganizationID, &EmployeeRecord::OrganizationID),
+                                    std::pair(SessionState.UserDepartmentID, &EmployeeRecord::DepartmentID),
+                                    std::pair(SessionState.UserGroupID, &EmployeeRecord::GroupID)})
         if (own != 0)
             record_.*unit = own;
     ShowRecord();
@@ -252,8 +251,8 @@ void frmEmployees::Right_Click(Right box, bool granted)
     boxes_.Show(record_);
 }
 
-/// Both lists offer those who may approve for the unit, and show the approvers of the record. One whom the unit does not
-/// offer is shown only when he is looked for `wherever` he works.
+/// Both lists offer those who may approve for the unit, and show the approvers of the record. One whom the unit does
+/// not offer is shown only when he is looked for `wherever` he works.
 void frmEmployees::LoadApprovers(bool wherever)
 {
     const LoadingGuard loading(Loading);

@@ -53,7 +53,8 @@ void RemindOfNextYear(const EmployeeRecord& record)
     if (SessionState.NextFYID <= 0)
         return;
     const QString text =
-        T("TARVELL automatically reproduces your list of employees from one fiscal year to the next upon creation of a new "
+        T("TARVELL automatically reproduces your list of employees from one fiscal year to the next upon creation of a "
+          "new "
           "fiscal year. The next fiscal year ({NextFYName}) having already been created, you will now be required to "
           "create {FirstName} {Name} in the new year yourself.",
           "TARVELL reproduit automatiquement la liste de vos employés d'une année fiscale à l'autre au moment de la "
@@ -83,7 +84,8 @@ void TellWithoutReason(const EmployeeRecord& record)
 {
     const QString text =
         T("You did not specify a reason for the deactivation of {FirstName} {Name}. The operation is now cancelled.",
-          "Vous n'avez spécifié aucune une raison pour la désactivation de {FirstName} {Name}. L'opération est maintenant "
+          "Vous n'avez spécifié aucune une raison pour la désactivation de {FirstName} {Name}. L'opération est "
+          "maintenant "
           "annulée.");
     Tell(T("OPERATION CANCELLED:", "OPÉRATION ANNULÉE:"), WithName(text, record));
 }
@@ -266,8 +268,7 @@ void frmEmployees::SaveModified()
     } catch (const RuntimeError& error) {
         return TellError(error);
     }
-    Tell(Completed(),
-         T("All modifications have been recorded.", "Toutes les modifications ont été enregistrées."));
+    Tell(Completed(), T("All modifications have been recorded.", "Toutes les modifications ont été enregistrées."));
     cmdCancelOperation_Click();
 }
 

@@ -45,10 +45,11 @@ bool BeginsBeforeFirstHalfEnds(const EmployeeRecord& record, ClockTime time, int
 {
     if (time != ClockTime::SecondHalfStart || record.FirstHalfEnd[day] <= record.SecondHalfStart[day])
         return false;
-    TellTimeRefused(T("The START TIME of the second half of the working day cannot be earlier than the END TIME of the "
-                      "first half of the working day!",
-                      "L'HEURE DE DÉBUT de la seconde moitié de la journée ne peut pas être antérieure à l'HEURE DE FIN "
-                      "de la première moitié de la journée!"));
+    TellTimeRefused(
+        T("The START TIME of the second half of the working day cannot be earlier than the END TIME of the "
+          "first half of the working day!",
+          "L'HEURE DE DÉBUT de la seconde moitié de la journée ne peut pas être antérieure à l'HEURE DE FIN "
+          "de la première moitié de la journée!"));
     return true;
 }
 
@@ -125,8 +126,8 @@ std::optional<FieldInError> CheckHalves(const EmployeeRecord& record)
     return {};
 }
 
-/// The length of a regular day. The value loaded with a row is the starting point: a week that is changed evenly differs
-/// from it on every day and ends with 0 until it is saved once more. That is kept.
+/// The length of a regular day. The value loaded with a row is the starting point: a week that is changed evenly
+/// differs from it on every day and ends with 0 until it is saved once more. That is kept.
 void FindHoursWorkedDaily(EmployeeRecord& record)
 {
     bool differing = false;
@@ -150,7 +151,8 @@ std::optional<FieldInError> CheckThatDaysHaveHours(const EmployeeRecord& record)
     Tell(T("ERROR:", "ERREUR:"),
          T("You must specify the employee's weekly schedule! If the employee works irregular hours, check the box "
            "reserved to that effect.",
-           "Vous devez spécifier l'horaire de travail de l'employé(e). Si l'employé(e) ne travaille pas selon un horaire "
+           "Vous devez spécifier l'horaire de travail de l'employé(e). Si l'employé(e) ne travaille pas selon un "
+           "horaire "
            "régulier veuillez cocher la case destinée à cet effet."),
          Face::Warning);
     return FieldInError{EmployeeTab::Schedule, {}};
@@ -172,16 +174,16 @@ QString MismatchLines(const EmployeeRecord& record)
 
 bool AskAboutMismatch(const QString& lines)
 {
-    const QString text =
-        T("On the following weekdays, you entered a total number of hours worked which doesn't add up with the "
-          "specified start times and end times:\r\n\r\nWeekday\t\tTime entered\t\tTime calculated\r\n{lines}\r\nFor "
-          "your information, the USER-SPECIFIED DURATION OF THE WORKING DAY is used when creating attendance records "
-          "instead of the CALCULATED DURATION OF THE WORKING DAY.\r\n\r\nProceed anyway?",
-          "La liste ci-après identifie les journées de travail dont la durée que vous avez indiquée ne concorde pas avec "
-          "les heures de début et heures de fin spécifiées:\r\n\r\nJour\t\tDurée spécifiée\t\tDurée "
-          "calculée\r\n{lines}\r\nPour votre information, la durée d'une journée de travail que VOUS spécifiez est "
-          "utilisée lors de l'enregistrement des absences plutôt que la «durée calculée» de cette même "
-          "journée.\r\n\r\nSouhaitez-vous continuer?");
+    const QString text = T(
+        "On the following weekdays, you entered a total number of hours worked which doesn't add up with the "
+        "specified start times and end times:\r\n\r\nWeekday\t\tTime entered\t\tTime calculated\r\n{lines}\r\nFor "
+        "your information, the USER-SPECIFIED DURATION OF THE WORKING DAY is used when creating attendance records "
+        "instead of the CALCULATED DURATION OF THE WORKING DAY.\r\n\r\nProceed anyway?",
+        "La liste ci-après identifie les journées de travail dont la durée que vous avez indiquée ne concorde pas avec "
+        "les heures de début et heures de fin spécifiées:\r\n\r\nJour\t\tDurée spécifiée\t\tDurée "
+        "calculée\r\n{lines}\r\nPour votre information, la durée d'une journée de travail que VOUS spécifiez est "
+        "utilisée lors de l'enregistrement des absences plutôt que la «durée calculée» de cette même "
+        "journée.\r\n\r\nSouhaitez-vous continuer?");
     SessionState.MessageScrollBar = true;
     const bool yes = Ask(T("WARNING:", "MISE EN GARDE:"), Fill(text, {{"lines", lines}}), Face::Warning);
     SessionState.MessageScrollBar = false;
@@ -272,8 +274,7 @@ void OfferTime(EmployeeRecord& record, ClockTime time, int day)
 
 void LeaveTime(EmployeeRecord& record, ClockTime time, int day)
 {
-    if (record.RecalculationPending && TimeOf(record, time, day) > 0 &&
-        TimeOf(record, InfoOf(time).OtherEnd, day) > 0)
+    if (record.RecalculationPending && TimeOf(record, time, day) > 0 && TimeOf(record, InfoOf(time).OtherEnd, day) > 0)
         CalculateWorkingDay(record, day);
 }
 
@@ -315,12 +316,12 @@ void ShowDayLengths(EmployeeRecord& record)
 
 bool ConfirmIrregularHours(EmployeeRecord& record)
 {
-    record.IrregularHours =
-        Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
-            T("By checking this box you are saying that this employee's working hours will vary from one week to the "
-              "next. Is this really what you mean?",
-              "En cochant cette case vous signifiez que les heures de travail de cet(te) employé(e) varient d'une semaine "
-              "à l'autre. Est-ce vraiment ce que vous voulez dire?"));
+    record.IrregularHours = Ask(
+        T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
+        T("By checking this box you are saying that this employee's working hours will vary from one week to the "
+          "next. Is this really what you mean?",
+          "En cochant cette case vous signifiez que les heures de travail de cet(te) employé(e) varient d'une semaine "
+          "à l'autre. Est-ce vraiment ce que vous voulez dire?"));
     if (record.IrregularHours)
         EmptyWeek(record);
     return record.IrregularHours;

@@ -13,7 +13,6 @@ const QStringList& NotYetAvailable()
         "frmGetApprovedBy",
         "imgRemove_Click",
         "mnuFileCategories",
-        "mnuFileEmployees",
         "mnuFileEntitlements",
         "mnuFileHolidays",
         "mnuFileNewDatabase",

@@ -69,8 +69,7 @@ UnitParentPage::UnitParentPage(const UnitKind& kind) : kind_(kind)
 {
     lblParent = new QLabel(this);
     lstParents = Named<QListWidget>(kind.ParentList);
-    lstParents->setMinimumHeight(kListHeight);
-    lstParents->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    lstParents->setFixedHeight(kListHeight);
     auto* column = Captioned(lblParent, lstParents);
     column->setContentsMargins(0, 0, 0, 0);
     setLayout(column);

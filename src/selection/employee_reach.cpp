@@ -91,7 +91,8 @@ QVector<ReachEntry> Groups(DataControl& datAbsence, const EmployeeSelection& wit
 QVector<ReachEntry> Employees(DataControl& datAbsence, const EmployeeSelection& within)
 {
     const int only = ReachesAUnit() ? 0 : SessionState.UserID;
-    return Entries(datAbsence.Select("SELECT * FROM Employees WHERE FiscalYear = ? AND DeactivatedDate = 0 AND "
+    return Entries(datAbsence.Select("SELECT RecordID, OrganizationID, DepartmentID, GroupID, FamilyName, FirstName "
+                                     "FROM Employees WHERE FiscalYear = ? AND DeactivatedDate = 0 AND "
                                      "(? = 0 OR OrganizationID = ?) AND (? = 0 OR DepartmentID = ?) AND "
                                      "(? = 0 OR GroupID = ?) AND (? = 0 OR RecordID = ?) "
                                      "ORDER BY FamilyName ASC, FirstName ASC",

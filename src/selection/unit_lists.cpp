@@ -84,7 +84,7 @@ QVector<Unit> UnitsByPosition(DataControl& datAbsence, UnitList list, int organi
 
 Unit FindUnit(const QVector<Unit>& units, int recordID)
 {
-    const auto found = std::find_if(units.begin(), units.end(),
-                                    [recordID](const Unit& unit) { return unit.RecordID == recordID; });
+    const auto found =
+        std::find_if(units.begin(), units.end(), [recordID](const Unit& unit) { return unit.RecordID == recordID; });
     return found == units.end() || recordID == 0 ? Unit() : *found;
 }

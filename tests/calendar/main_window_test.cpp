@@ -512,7 +512,8 @@ TEST_F(MainWindow, EveryMenuEntryDoesWhatItSaysOrSaysThatItCannotYet)
     Opens("ADMIN");
     user.WillAnswer("DATABASE PATH:", "OK", house.Folder());
     Chooses("mnuFileDatabaseLocation");
-    for (const char* entry : {"mnuFileEmployees", "mnuReportsYTD_Global", "mnuSchedule_Dept", "mnuFilePrintCalendar"}) {
+    for (const char* entry :
+         {"mnuFileCategories", "mnuReportsYTD_Global", "mnuSchedule_Dept", "mnuFilePrintCalendar"}) {
         user.WillAnswer("NOT AVAILABLE YET:", "OK");
         Chooses(entry);
     }
