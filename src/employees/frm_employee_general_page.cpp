@@ -274,6 +274,7 @@ void EmployeeGeneralPage::Show(const EmployeeRecord& record)
     const int chosen[] = {record.OrganizationID, record.DepartmentID, record.GroupID};
     for (std::size_t i = 0; i < lstUnits.size(); ++i) {
         lstUnits[i]->setCurrentRow(-1);
+        lstUnits[i]->clearSelection();
         for (int row = 0; row < lstUnits[i]->count(); ++row)
             if (chosen[i] != 0 && lstUnits[i]->item(row)->data(Qt::UserRole).toInt() == chosen[i])
                 lstUnits[i]->setCurrentRow(row);
@@ -325,8 +326,8 @@ void EmployeeGeneralPage::SetUnitsEnabled(bool organizations, bool departments, 
 
 QString EmployeeGeneralPage::SelectedUnit(UnitList list) const
 {
-    const QListWidgetItem* item = lstUnits[static_cast<std::size_t>(list)]->currentItem();
-    return item ? item->text() : QString();
+    const QList<QListWidgetItem*> items = lstUnits[static_cast<std::size_t>(list)]->selectedItems();
+    return items.isEmpty() ? QString() : items.first()->text();
 }
 
 void EmployeeGeneralPage::ShowDate(const DateCombos& combos, const DateEntry& entry)

@@ -113,7 +113,7 @@ void EmployeeSchedulePage::ConnectDay(int day)
         ConnectTime(time, day);
     for (QLineEdit* box : {txtTotalHours[day], txtTotalMinutes[day]}) {
         connect(box, &QLineEdit::textChanged, this, [this, day] { Total_Change(day); });
-        // Enter finishes the editing too, but stays in the box and presses the main button.
+        // Enter finishes the editing too, but stays in the box and presses the main button: see LeaveFocusedTotal.
         connect(box, &QLineEdit::editingFinished, this, [this, box, day] {
             if (!box->hasFocus())
                 Total_LostFocus(day);
@@ -243,14 +243,24 @@ void EmployeeSchedulePage::Total_Change(int day)
         TypeTotal(record_, day, txtTotalHours[day]->text(), txtTotalMinutes[day]->text());
 }
 
-void EmployeeSchedulePage::Total_LostFocus(int day)
+bool EmployeeSchedulePage::Total_LostFocus(int day)
 {
     if (Loading)
-        return;
+        return true;
     const auto refused = LeaveTotal(record_, day);
     ShowDay(day);
     if (refused)
         (*refused == TotalBox::Hours ? txtTotalHours : txtTotalMinutes)[day]->setFocus();
+    return !refused;
+}
+
+bool EmployeeSchedulePage::LeaveFocusedTotal()
+{
+    const QWidget* focused = window()->focusWidget();
+    for (int day = 0; day < kDays; ++day)
+        if (focused == txtTotalHours[day] || focused == txtTotalMinutes[day])
+            return Total_LostFocus(day);
+    return true;
 }
 
 void EmployeeSchedulePage::chkIrregularHours_Click(bool checked)

@@ -24,6 +24,8 @@ public:
     void LoadComboBoxes();
     void Show();
     void SetEntryEnabled(bool enabled);
+    /// Takes in the total that has the focus, if one has. False when it was refused: it is blank and keeps the focus.
+    bool LeaveFocusedTotal();
 
 private:
     void BuildControls();
@@ -35,7 +37,7 @@ private:
     void Time_GotFocus(ClockTime time, int day);
     void Time_LostFocus(ClockTime time, int day);
     void Total_Change(int day);
-    void Total_LostFocus(int day);
+    bool Total_LostFocus(int day); ///< false when it was refused
     void chkIrregularHours_Click(bool checked);
     void ShowDay(int day);
     QComboBox* TimeList(ClockTime time, int day) const;

@@ -104,7 +104,7 @@ void frmEmployees::ConnectControls()
     connect(cmdQuit, &QPushButton::clicked, this, &frmEmployees::cmdQuit_Click);
     connect(sstEmployees, &QTabWidget::currentChanged, this, &frmEmployees::sstEmployees_Click);
     for (const UnitList list : kUnitLists)
-        connect(general_->lstUnits[static_cast<std::size_t>(list)], &QListWidget::currentItemChanged, this,
+        connect(general_->lstUnits[static_cast<std::size_t>(list)], &QListWidget::itemSelectionChanged, this,
                 [this, list] { UnitList_Click(list); });
     ConnectApprovers();
 }
@@ -229,11 +229,11 @@ void frmEmployees::SelectStartingUnits()
 void frmEmployees::UnitList_Click(UnitList list)
 {
     const auto index = static_cast<std::size_t>(list);
-    const int row = general_->lstUnits[index]->currentRow();
-    if (Loading || row < 0)
+    const QListWidget* box = general_->lstUnits[index];
+    if (Loading || box->selectedItems().isEmpty())
         return;
     ReadForm();
-    const Unit& unit = units_[index][row];
+    const Unit& unit = units_[index][box->row(box->selectedItems().first())];
     record_.OrganizationID = unit.OrganizationID;
     record_.DepartmentID = unit.DepartmentID;
     record_.GroupID = list == UnitList::Groups ? unit.RecordID : 0;

@@ -4,6 +4,7 @@
 #include "employees/frm_clone_employee.h"
 #include "employees/frm_employee_general_page.h"
 #include "employees/frm_employee_profile_page.h"
+#include "employees/frm_employee_schedule_page.h"
 #include "employees/frm_employees.h"
 #include "employees/frm_transfer_employees.h"
 #include "employees/hourly_rate.h"
@@ -205,9 +206,12 @@ bool frmEmployees::LoadEmployeeRecord()
     return true;
 }
 
-/// A field that is left by pressing a button may refuse its contents and keep the focus: nothing is saved then.
+/// A field that is left by pressing a button, or by Enter, may refuse its contents and keep the focus: nothing is saved
+/// then.
 bool frmEmployees::LeavesFieldsFor(QPushButton* button)
 {
+    if (!schedule_->LeaveFocusedTotal())
+        return false;
     button->setFocus();
     return focusWidget() == button;
 }
