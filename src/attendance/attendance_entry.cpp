@@ -12,8 +12,6 @@ namespace
 constexpr float kHoursOfDay = 24;
 constexpr int kMostHours = 23;
 constexpr int kMostMinutes = 59;
-constexpr int kMinutesOfStep = 5;
-constexpr int kMinutesOfDay = 24 * 60;
 
 void Negate(AttendanceEntry& entry)
 {
@@ -157,16 +155,6 @@ QVector<int> SelectedDates()
 {
     const DateList& dates = SessionState.AttendanceDates;
     return {dates.begin(), std::find(dates.begin(), dates.end(), 0)};
-}
-
-QStringList ClockTexts()
-{
-    QStringList texts;
-    for (int minute = 0; minute < kMinutesOfDay; minute += kMinutesOfStep)
-        texts << QStringLiteral("%1:%2")
-                     .arg(minute / 60, 2, 10, QLatin1Char('0'))
-                     .arg(minute % 60, 2, 10, QLatin1Char('0'));
-    return texts;
 }
 
 bool DrawsOnTimeBank(const AttendanceEntry& entry)

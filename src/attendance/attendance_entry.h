@@ -84,9 +84,6 @@ extern const std::array<Multiplicator, 18> kMultiplicators;
 /// Place of a factor in the list, -1 when it is not on offer.
 int MultiplicatorIndex(float value);
 
-/// "00:00" to "23:55" by steps of five minutes.
-QStringList ClockTexts();
-
 /// Time comes off the bank in this category: its durations are negative.
 bool DrawsOnTimeBank(const AttendanceEntry& entry);
 

@@ -2,6 +2,7 @@
 
 #include "employees/frm_employee_kit.h"
 #include "foundation/texts.h"
+#include "foundation/values.h"
 #include "platform/controls/entry_filters.h"
 #include "platform/controls/form_kit.h"
 #include "selection/consecutive_dates.h"
@@ -9,12 +10,10 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QStringListModel>
-#include <QTime>
 
 namespace
 {
 constexpr int kDays = 7;
-constexpr int kMinutesApart = 5;
 constexpr int kTotalWidth = 70;
 constexpr int kGroupGap = 28; ///< between the halves of the day and the total
 constexpr int kRowGap = 10;
@@ -23,14 +22,6 @@ constexpr int kRowGap = 10;
 constexpr int kTimeColumns[] = {2, 3, 5, 6};
 constexpr int kHoursColumn = 8;
 constexpr int kMinutesColumn = 9;
-
-QStringList ClockTexts()
-{
-    QStringList texts;
-    for (int minute = 0; minute < 24 * 60; minute += kMinutesApart)
-        texts << QTime(0, 0).addSecs(minute * 60).toString("hh:mm");
-    return texts;
-}
 
 QLineEdit* TotalField(const QString& name, int day)
 {

@@ -4,6 +4,7 @@
 #include "foundation/session_state.h"
 
 #include <QRegularExpression>
+#include <QTime>
 
 #include <cmath>
 
@@ -27,6 +28,16 @@ float ClockHours(const QString& text)
         return 0;
     const float hours = DecimalHours(text.section(':', 0, 0).toFloat(), text.section(':', 1, 1).toFloat());
     return hours == 0 ? kMidnight : hours;
+}
+
+QStringList ClockTexts()
+{
+    constexpr int kMinutesOfDay = 24 * 60;
+    constexpr int kMinutesApart = 5;
+    QStringList texts;
+    for (int minute = 0; minute < kMinutesOfDay; minute += kMinutesApart)
+        texts << QTime(0, 0).addSecs(minute * 60).toString("hh:mm");
+    return texts;
 }
 
 QString Who()
