@@ -4,13 +4,12 @@
 #include "foundation/texts.h"
 #include "platform/controls/entry_filters.h"
 #include "platform/controls/form_kit.h"
+#include "platform/controls/remark_delegate.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QListWidget>
-#include <QPainter>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -24,34 +23,16 @@ constexpr int kShortField = 110;
 constexpr int kEntriesShown = 16;
 constexpr int kOwnEntry = Qt::UserRole + 1; ///< marks a time that stands in the list only while it is shown
 
-/// Employees with their unit set off at the right edge.
-class EmployeeDelegate : public QStyledItemDelegate
+/// An entry of the list of employees: the name, and behind it the unit.
+QString NameOf(const QModelIndex& entry)
 {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    return entry.data().toString().section(" / ", 0, 0);
+}
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::paint(painter, option, index);
-        const bool selected = option.state.testFlag(QStyle::State_Selected);
-        painter->save();
-        painter->setPen(selected ? option.palette.highlightedText().color() : option.palette.placeholderText().color());
-        painter->drawText(option.rect.adjusted(0, 0, -kGap, 0), Qt::AlignRight | Qt::AlignVCenter, Unit(index));
-        painter->restore();
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const QString name = option->text.section(" / ", 0, 0);
-        const int room = option->rect.width() - option->fontMetrics.horizontalAdvance(Unit(index)) - 3 * kGap;
-        option->text = room > 0 ? option->fontMetrics.elidedText(name, Qt::ElideRight, room) : name;
-    }
-
-private:
-    static QString Unit(const QModelIndex& index) { return index.data().toString().section(" / ", 1).trimmed(); }
-};
+QString UnitOf(const QModelIndex& entry)
+{
+    return entry.data().toString().section(" / ", 1).trimmed();
+}
 
 QComboBox* TimeList(const QString& name)
 {
@@ -99,7 +80,7 @@ void AttendanceGeneralPage::BuildControls()
     lblWhy = Named<QLabel>("lblWhy");
     lblEmployeeName = Named<QLabel>("lblEmployeeName");
     lstWho = Named<QListWidget>("lstWho");
-    lstWho->setItemDelegate(new EmployeeDelegate(lstWho));
+    lstWho->setItemDelegate(new RemarkDelegate(NameOf, UnitOf, lstWho));
     lstWho->setUniformItemSizes(true); // one line is measured, not one for each employee
     txtWhen = Named<QPlainTextEdit>("txtWhen");
     txtWhen->setReadOnly(true);

@@ -3,12 +3,11 @@
 #include "foundation/common_services.h"
 #include "platform/controls/entry_filters.h"
 #include "platform/controls/form_kit.h"
+#include "platform/controls/remark_delegate.h"
 #include "reference/frm_unit_pages.h"
 
 #include <QComboBox>
-#include <QPainter>
 #include <QStyle>
-#include <QStyledItemDelegate>
 #include <QTimer>
 
 namespace
@@ -19,33 +18,16 @@ constexpr int kCardGap = 14;
 constexpr int kEntriesShown = 16;
 constexpr int kRemark = Qt::UserRole + 1;
 
-/// Where a unit belongs and that it is inactive stand in grey at the right edge of the list; its name stays as it is.
-class RecordDelegate : public QStyledItemDelegate
+QString NameOf(const QModelIndex& entry)
 {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    return entry.data().toString();
+}
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::paint(painter, option, index);
-        const bool selected = option.state.testFlag(QStyle::State_Selected);
-        painter->save();
-        painter->setPen(selected ? option.palette.highlightedText().color() : option.palette.placeholderText().color());
-        painter->drawText(option.rect.adjusted(0, 0, -kCardGap, 0), Qt::AlignRight | Qt::AlignVCenter,
-                          index.data(kRemark).toString());
-        painter->restore();
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const int remark = option->fontMetrics.horizontalAdvance(index.data(kRemark).toString());
-        const int room = option->rect.width() - remark - 3 * kCardGap;
-        if (room > 0)
-            option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, room);
-    }
-};
+/// Where a unit belongs and that it is inactive.
+QString RemarkOf(const QModelIndex& entry)
+{
+    return entry.data(kRemark).toString();
+}
 
 QString RemarkOn(const UnitItem& item, const UnitKind& kind)
 {
@@ -88,7 +70,7 @@ void frmUnit::BuildControls()
 {
     lblRecords = Named<QLabel>("lblRecords");
     cboRecords = Named<QComboBox>("cboRecords");
-    cboRecords->setItemDelegate(new RecordDelegate(cboRecords));
+    cboRecords->setItemDelegate(new RemarkDelegate(NameOf, RemarkOf, cboRecords));
     cboRecords->setMaxVisibleItems(kEntriesShown);
     lblEnglishName = Named<QLabel>("lblEnglishName");
     txtEnglishName = NameField("txtEnglishName");
