@@ -63,6 +63,11 @@ QString ProfileBlock(const EmployeeRecord& record)
 }
 } // namespace
 
+QString WithName(const QString& text, const EmployeeRecord& record)
+{
+    return Fill(text, {{"FirstName", record.FirstName}, {"Name", record.FamilyName}});
+}
+
 QString EmployeeSummary(const EmployeeRecord& record, const UnitNames& units, bool modifying)
 {
     const QString question = modifying ? T("Modify the selected employee record as follows?",

@@ -10,6 +10,9 @@ struct UnitNames
     QString Group;
 };
 
+/// Replaces "{FirstName}" and "{Name}" of a text.
+QString WithName(const QString& text, const EmployeeRecord& record);
+
 /// What the final confirmation shows of a record.
 QString EmployeeSummary(const EmployeeRecord& record, const UnitNames& units, bool modifying);
 

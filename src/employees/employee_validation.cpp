@@ -1,6 +1,7 @@
 #include "employees/employee_validation.h"
 
 #include "employees/employee_rows.h"
+#include "employees/employee_summary.h"
 #include "employees/work_schedule_rules.h"
 #include "foundation/common_services.h"
 #include "foundation/session_state.h"
@@ -33,12 +34,6 @@ FieldInError Refuse(const QString& text, const FieldInError& field)
 {
     Tell(T("ERROR:", "ERREUR:"), text, Face::Warning);
     return field;
-}
-
-/// Texts with "{FirstName}" and "{Name}".
-QString WithName(const QString& text, const EmployeeRecord& record)
-{
-    return Fill(text, {{"FirstName", record.FirstName}, {"Name", record.FamilyName}});
 }
 
 Verdict Confirmed(bool yes, const FieldInError& field)

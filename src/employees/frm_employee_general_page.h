@@ -10,7 +10,6 @@
 
 class QBoxLayout;
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;

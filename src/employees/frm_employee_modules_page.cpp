@@ -9,7 +9,7 @@
 
 namespace
 {
-constexpr int kExplanationIndent = 21; ///< under the caption of the box
+constexpr int kExplanationIndent = 23; ///< under the caption of the box
 
 struct ModuleTexts
 {

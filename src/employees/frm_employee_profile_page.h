@@ -8,7 +8,6 @@
 #include <array>
 
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;

@@ -20,7 +20,7 @@
 
 namespace
 {
-constexpr QSize kSize(1040, 660);
+constexpr QSize kSize(1040, 638);
 constexpr int kYearWidth = 150;
 
 QString InYear(const QString& text)
@@ -178,7 +178,8 @@ void frmEmployees::Form_Activate()
 {
     LoadRecords();
     if (MustClose)
-        cmdQuit_Click();
+        return cmdQuit_Click();
+    cmdAdd->setFocus();
 }
 
 void frmEmployees::LoadRecords()
@@ -289,6 +290,7 @@ void frmEmployees::cboApprovedBy_SecondLevel_Click()
                "Vous devez spécifier un premier niveau d'approbation avant d'en spécifier un second!"),
              Face::Warning);
         ShowText(combo, QString());
+        record_.ApprovedByBackup = 0;
         return profile_->cboApprovedBy_FirstLevel->setFocus();
     }
     record_.ApprovedByBackup = combo->currentData().toInt();

@@ -30,11 +30,6 @@ QString Completed()
     return T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:");
 }
 
-QString WithName(const QString& text, const EmployeeRecord& record)
-{
-    return Fill(text, {{"FirstName", record.FirstName}, {"Name", record.FamilyName}});
-}
-
 void RemindOfEntitlements(const EntitlementReminders& categories)
 {
     if (categories.isEmpty())

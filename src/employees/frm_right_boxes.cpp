@@ -4,8 +4,6 @@
 
 #include <QCheckBox>
 
-#include <algorithm>
-
 QCheckBox* RightBoxes::Make(const ProfileBox& box)
 {
     auto* control = Named<QCheckBox>(box.Name);
@@ -13,13 +11,6 @@ QCheckBox* RightBoxes::Make(const ProfileBox& box)
                      [this, right = box.Member](bool checked) { changed_(right, checked); });
     boxes_.push_back({box.Member, control});
     return control;
-}
-
-QCheckBox* RightBoxes::Of(Right right) const
-{
-    const auto found =
-        std::find_if(boxes_.begin(), boxes_.end(), [right](const Box& box) { return box.Member == right; });
-    return found == boxes_.end() ? nullptr : found->Control;
 }
 
 void RightBoxes::Show(const SecurityProfile& profile)

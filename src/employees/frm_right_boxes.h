@@ -16,8 +16,6 @@ public:
 
     /// A new box without a caption; the layout that it is put into owns it.
     QCheckBox* Make(const ProfileBox& box);
-    /// The box of a right.
-    QCheckBox* Of(Right right) const;
     /// Shows what is granted; nothing is reported.
     void Show(const SecurityProfile& profile);
     /// Enables the boxes that the user may tick, or none.

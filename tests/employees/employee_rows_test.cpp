@@ -1,4 +1,5 @@
 #include "employees/approver_list.h"
+#include "employees/employee_deactivation.h"
 #include "employees/employee_rows.h"
 #include "employees/employee_summary.h"
 #include "employees/employees_fixture.h"
@@ -162,6 +163,13 @@ TEST_F(EmployeeRows, TheServerBackEndOnlyComposesStatements)
     ASSERT_EQ(sent.size(), 3);
     EXPECT_TRUE(sent[0].startsWith("INSERT INTO Employees_Modifications SELECT * FROM Employees WHERE RecordID = "));
     EXPECT_TRUE(sent[1].startsWith("UPDATE Employees SET FamilyName = 'Davis', "));
+    sent.clear();
+    EXPECT_TRUE(AddEmployee(datAbsence, record).isEmpty());
+    ASSERT_EQ(sent.size(), 2);
+    EXPECT_TRUE(sent[0].startsWith("INSERT INTO Employees (FiscalYear, OrganizationID, "));
+    sent.clear();
+    DeactivateEmployee(datAbsence, chris, "gone");
+    EXPECT_EQ(sent.size(), 4) << sent.join('\n').toStdString();
     sent.clear();
     UpdateHourlyRate(datAbsence, record, 46083);
     EXPECT_EQ(sent, QStringList{QStringLiteral("UPDATE Attendance SET HourlyRate = '20.55', UnitCost = 20.55, "

@@ -28,9 +28,8 @@ protected:
     /// The employee of that family name will be chosen from the list that opens next.
     User& WillChoose(const QString& familyName)
     {
-        return user.WhenOpens<frmSelectEmployee>([this, familyName](frmSelectEmployee&) {
-            user.Picks("lstEmployees", familyName).Clicks("cmdSelect");
-        });
+        return user.WhenOpens<frmSelectEmployee>(
+            [this, familyName](frmSelectEmployee&) { user.Picks("lstEmployees", familyName).Clicks("cmdSelect"); });
     }
 
     QString EmployeeCell(const QString& column, int employee)

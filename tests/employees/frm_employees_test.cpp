@@ -102,11 +102,12 @@ TEST_F(FrmEmployees, ANewEmployeeIsWrittenWithAllThatWasTypedAndHisEntitlements)
     OnTab(kModules).Checks("chkModuleCategories");
 
     user.WillAnswer("WARNING:", "Yes", "Tuesday\t\t07:00\t\t00:00\r\n")
-        .WillAnswer("CONFIRM:", "Yes",
-                    "Add the following employee record to your database?\r\n\r\n"
-                    "Name and ID:\t\tJean-Marc O`brien-Smith     E12\r\nOrganization:\t\tNorthern Works\r\n"
-                    "Department:\t\tProduction\r\nGroup:      \t\tAssembly\r\nHours worked:      \t\tMon - 07:00, Tue - "
-                    "07:00\r\nUsername and password:\tJEANMARCOBRIEN-SMITH, SECRET7\r\nSecurity profile by level")
+        .WillAnswer(
+            "CONFIRM:", "Yes",
+            "Add the following employee record to your database?\r\n\r\n"
+            "Name and ID:\t\tJean-Marc O`brien-Smith     E12\r\nOrganization:\t\tNorthern Works\r\n"
+            "Department:\t\tProduction\r\nGroup:      \t\tAssembly\r\nHours worked:      \t\tMon - 07:00, Tue - "
+            "07:00\r\nUsername and password:\tJEANMARCOBRIEN-SMITH, SECRET7\r\nSecurity profile by level")
         .WillAnswer("REMINDER:", "OK", "for the following categorie(s):\r\n\r\n - Vacation\r\n")
         .WillAnswer("REMINDER:", "OK",
                     "The next fiscal year (2027) having already been created, you will now be required to create "
@@ -115,20 +116,46 @@ TEST_F(FrmEmployees, ANewEmployeeIsWrittenWithAllThatWasTypedAndHisEntitlements)
         .Clicks("cmdAdd");
 
     const int employee = NewestEmployee();
-    EXPECT_EQ(
-        Filled("Employees", employee),
-        (QStringList{"RecordID=" + QString::number(employee), "FiscalYear=1", "OrganizationID=1", "DepartmentID=1",
-                     "GroupID=1", "FamilyName=O`brien-Smith", "FirstName=Jean-Marc", "EmployeeID=E12",
-                     "AddressLine1=12, Elm St.", "AddressLine2=H2X 1Y4", "City=Laval", "ProvinceState=Québec1",
-                     "Country=Canada", "PhoneHome=514-5550101", "PhoneOffice=514555-0102",
-                     "DateOfBirth=" + QString::number(SerialOfDate({1980, 2, 29})), "DateEntered=46083",
-                     "EnteredBy=ADMIN", "DeactivatedBy= ", "ReasonForDeactivation= ", "HourlyRate=31.5",
-                     "AttendanceApprovedBy_Main=" + QString::number(marc), "HoursWorkedMonday=7",
-                     "HoursWorkedTuesday=7", "MONDAY_FirstHalfStart=1.0000000116860974e-07", "MONDAY_FirstHalfEnd=4",
-                     "MONDAY_SecondHalfStart=5", "MONDAY_SecondHalfEnd=8", "AccessToRestrictedCategory=1",
-                     "GroupLevelRead=1", "GroupLevelCreate=1", "SelfLevelRead=1", "AccessToCategoriesModule=1",
-                     "Comment=Don`t call", "EMailAddress=jm@example.org", "Username=JEANMARCOBRIEN-",
-                     "Password=SECRET7", "HoursWorkedDaily=7", "CanViewComments=1", "LoginID=JEANMARCOBRIEN-SMITH"}));
+    EXPECT_EQ(Filled("Employees", employee), (QStringList{"RecordID=" + QString::number(employee),
+                                                          "FiscalYear=1",
+                                                          "OrganizationID=1",
+                                                          "DepartmentID=1",
+                                                          "GroupID=1",
+                                                          "FamilyName=O`brien-Smith",
+                                                          "FirstName=Jean-Marc",
+                                                          "EmployeeID=E12",
+                                                          "AddressLine1=12, Elm St.",
+                                                          "AddressLine2=H2X 1Y4",
+                                                          "City=Laval",
+                                                          "ProvinceState=Québec1",
+                                                          "Country=Canada",
+                                                          "PhoneHome=514-5550101",
+                                                          "PhoneOffice=514555-0102",
+                                                          "DateOfBirth=" + QString::number(SerialOfDate({1980, 2, 29})),
+                                                          "DateEntered=46083",
+                                                          "EnteredBy=ADMIN",
+                                                          "DeactivatedBy= ",
+                                                          "ReasonForDeactivation= ",
+                                                          "HourlyRate=31.5",
+                                                          "AttendanceApprovedBy_Main=" + QString::number(marc),
+                                                          "HoursWorkedMonday=7",
+                                                          "HoursWorkedTuesday=7",
+                                                          "MONDAY_FirstHalfStart=1.0000000116860974e-07",
+                                                          "MONDAY_FirstHalfEnd=4",
+                                                          "MONDAY_SecondHalfStart=5",
+                                                          "MONDAY_SecondHalfEnd=8",
+                                                          "AccessToRestrictedCategory=1",
+                                                          "GroupLevelRead=1",
+                                                          "GroupLevelCreate=1",
+                                                          "SelfLevelRead=1",
+                                                          "AccessToCategoriesModule=1",
+                                                          "Comment=Don`t call",
+                                                          "EMailAddress=jm@example.org",
+                                                          "Username=JEANMARCOBRIEN-",
+                                                          "Password=SECRET7",
+                                                          "HoursWorkedDaily=7",
+                                                          "CanViewComments=1",
+                                                          "LoginID=JEANMARCOBRIEN-SMITH"}));
     EXPECT_EQ(house.Rows("SELECT SystemName, AnnualEntitlement, MayBeCarriedOver, Entitlements.Active, CarriedOver, "
                          "Entitlements.FiscalYear, EnteredBy, EnteredDate, Comment FROM Entitlements JOIN Categories "
                          "ON CategoryID = Categories.RecordID WHERE EmployeeID = ? ORDER BY CategoryID",
@@ -181,19 +208,21 @@ TEST_F(FrmEmployees, AModifiedEmployeeIsAuditedAndHisRateReachesBackAsFarAsTold)
     user.Types("txtHourlyRate", "25.5").Types("txtCity", "Laval");
     user.WhenOpens<frmSelectPeriod>(
         [this](frmSelectPeriod&) { user.Picks("cboFrom", "Wed 01-Apr-2026").Clicks("cmdOK"); });
-    user.WillAnswer("CONFIRM:", "Yes",
-                    "Modify the selected employee record as follows?\r\n\r\nName and ID:\t\tChris Davis     \r\n"
-                    "Organization:\t\tNorthern Works\r\nDepartment:\t\tProduction\r\nGroup:      \t\tAssembly\r\n"
-                    "Hours worked:      \t\tMon - 07:00, Tue - 07:00, Wed - 07:00, \r\n\t\t\tThu - 07:00, Fri - 07:00\r\n"
-                    "Username and password:\tCHRIS, \r\n")
+    user.WillAnswer(
+            "CONFIRM:", "Yes",
+            "Modify the selected employee record as follows?\r\n\r\nName and ID:\t\tChris Davis     \r\n"
+            "Organization:\t\tNorthern Works\r\nDepartment:\t\tProduction\r\nGroup:      \t\tAssembly\r\n"
+            "Hours worked:      \t\tMon - 07:00, Tue - 07:00, Wed - 07:00, \r\n\t\t\tThu - 07:00, Fri - 07:00\r\n"
+            "Username and password:\tCHRIS, \r\n")
         .WillAnswer("New hourly rate specified:", "Yes",
                     " » Previous rate:\t20.55\r\n » New rate:\t\t25.50\r\n\r\nDo you wish to apply this hourly rate "
                     "retroactively to the attendance records entered so far in fiscal year 2026?")
         .WillAnswer("OPERATION COMPLETED:", "OK", "All modifications have been recorded.")
         .Clicks("cmdModify");
 
-    const QString columns = "SELECT City, ROUND(HourlyRate, 2), PreviousID, DeactivatedBy, ModifiedBy, ModifiedDate, Password, "
-                            "HoursWorkedDaily FROM ";
+    const QString columns =
+        "SELECT City, ROUND(HourlyRate, 2), PreviousID, DeactivatedBy, ModifiedBy, ModifiedDate, Password, "
+        "HoursWorkedDaily FROM ";
     EXPECT_EQ(house.Rows(columns + "Employees WHERE RecordID = ?", {chris}), "Laval|25.5|0| |ADMIN|46083|PASS|7");
     EXPECT_EQ(house.Rows(columns + "Employees_Modifications WHERE RecordID = ?", {chris}), "|20.55|99|||0|PASS|7");
     EXPECT_EQ(house.Rows("SELECT HourlyRate, UnitCost, ExtendedCost FROM Attendance ORDER BY RecordDate"),
@@ -419,9 +448,8 @@ TEST_F(FrmEmployees, ApproversArePickedInTwoLevels)
         .Picks("cboApprovedBy_SecondLevel", head);
     user.WhenOpens<frmGetApproverFromList>([this](frmGetApproverFromList& form) {
         const QStringList entries = user.Entries("lstApprovers");
-        const auto stone = std::find_if(entries.begin(), entries.end(), [](const QString& entry) {
-            return entry.contains("Stone");
-        });
+        const auto stone =
+            std::find_if(entries.begin(), entries.end(), [](const QString& entry) { return entry.contains("Stone"); });
         ASSERT_NE(stone, entries.end());
         user.Picks("lstApprovers", *stone).Clicks("cmdSelect");
         EXPECT_EQ(form.ApproverName(), "Stone, Stella");

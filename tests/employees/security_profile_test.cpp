@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -82,8 +83,8 @@ TEST(SecurityProfile, AClickMovesNoMoreThanItMust)
 {
     SecurityProfile profile;
     ChangeRight(profile, RightOf("chkDepartment_CreateOnly"), true);
-    EXPECT_EQ(Granted(profile), (QStringList{"Department_ReadOnly", "Department_CreateOnly", "Group_ReadOnly",
-                                             "Group_CreateOnly"}));
+    EXPECT_EQ(Granted(profile),
+              (QStringList{"Department_ReadOnly", "Department_CreateOnly", "Group_ReadOnly", "Group_CreateOnly"}));
     ChangeRight(profile, RightOf("chkGlobal_Absolute"), true);
     EXPECT_EQ(Granted(profile).size(), 12);
     ChangeRight(profile, RightOf("chkGlobal_Absolute"), false);

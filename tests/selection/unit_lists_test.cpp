@@ -2,6 +2,7 @@
 #include "support/house.h"
 
 #include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -36,8 +37,7 @@ TEST_F(UnitLists, TheUsersPositionDecidesWhatTheyOffer)
 {
     house.Sql("INSERT INTO Groups (FiscalYear, Active, OrganizationID, DepartmentID, GroupEnglishName) "
               "VALUES (1, 1, 2, 3, 'Yard'), (1, 1, 1, 2, 'Counter'), (2, 1, 1, 1, 'Next year'), (1, 0, 1, 1, 'Old')");
-    EXPECT_EQ(AllNames(),
-              "Northern Works, Southern Trade / Production, Sales, Stores / Assembly, Counter, Yard");
+    EXPECT_EQ(AllNames(), "Northern Works, Southern Trade / Production, Sales, Stores / Assembly, Counter, Yard");
     SessionState.UserOrganizationID = 1;
     EXPECT_EQ(AllNames(), "Northern Works / Production, Sales / Assembly, Counter");
     SessionState.UserDepartmentID = 2;
