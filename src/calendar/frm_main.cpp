@@ -149,8 +149,8 @@ void frmMain::LoadDates()
     const Connection connection(datAbsence);
     const QVector<CalendarRecord> records = SessionState.SQL_Server ? LoadAttendance_SQL() : LoadAttendance_ACCESS();
     holidays_ = LoadHolidays(datAbsence);
-    const bool oneEmployee = SessionState.EmployeeID != 0;
-    header_->ShowTotal(DurationAsText(total_, oneEmployee));
+    const bool inDays = SessionState.EmployeeID != 0 && total_ != 0;
+    header_->ShowTotal(DurationAsText(total_, inDays));
     calendar_.LoadDates(records, holidays_, [this](int done, int all) { pane_->ShowProgress(done, all); });
     pane_->Show(calendar_);
 }

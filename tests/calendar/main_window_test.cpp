@@ -131,7 +131,7 @@ TEST_F(MainWindow, AUnitShowsTheHoursOfAllItsPeopleAndHiddenCategoriesStayHidden
     house.Record(luc, "Sick", {2026, 3, 3}, 7.5F);
     house.Sql("UPDATE Categories SET Restricted = 1 WHERE SystemName = 'Sick'");
     Opens("LROY");
-    EXPECT_EQ(user.Reads("lblTotalForTheYear_DISPLAY"), "0 days 00:00");
+    EXPECT_EQ(user.Reads("lblTotalForTheYear_DISPLAY"), "00:00");
     user.WhenOpens<frmSelectEmployee>([](frmSelectEmployee& form) {
         SessionState.EmployeeID = 0;
         SessionState.EmployeeGroupID = 0;
