@@ -113,11 +113,7 @@ bool frmLogin::LogIn()
     const Connection connection(datAbsence);
     if (UpgradeProbes)
         UpgradeProbes(datAbsence);
-    const QString previousLogin = SessionState.LoginID;
-    SessionState.LoginID = txtUserName->text().toUpper();
-    SessionState.UserPassword = txtPassword->text().toUpper();
-    if (!LogInUser(datAbsence, FiscalYearID)) {
-        SessionState.LoginID = previousLogin;
+    if (!TakesUser()) {
         Tell(T("Access denied!...", "Accès refusé!..."),
              T("The username and password you specified are invalid!",
                "Le nom d'usager et le mot-clé que vous avez spécifiés sont invalides!"),
@@ -126,6 +122,23 @@ bool frmLogin::LogIn()
     }
     TellWhenYearIsClosed();
     return true;
+}
+
+/// Whoever is refused, or cannot be logged in for a failure, leaves the session as it was.
+bool frmLogin::TakesUser()
+{
+    const Session before = SessionState;
+    SessionState.LoginID = txtUserName->text().toUpper();
+    SessionState.UserPassword = txtPassword->text().toUpper();
+    try {
+        if (LogInUser(datAbsence, FiscalYearID))
+            return true;
+    } catch (const RuntimeError&) {
+        SessionState = before;
+        throw;
+    }
+    SessionState = before;
+    return false;
 }
 
 void frmLogin::cmdCancel_Click()

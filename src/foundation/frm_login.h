@@ -36,6 +36,7 @@ private:
     void cmdOK_Click();
     void cmdCancel_Click();
     bool LogIn();
+    bool TakesUser();
 
     DataControl datAbsence{"frmLogin"};
     QLabel* lblInstructions = nullptr;

@@ -135,6 +135,29 @@ TEST_F(LogIn, MovingToAYearWithoutARecordCanBeCancelled)
     EXPECT_FALSE(login.isVisible());
 }
 
+TEST_F(LogIn, ALogInThatFailsLeavesTheSessionToTheUserBefore)
+{
+    house.Configured().Company();
+    const int marie = Hired("MBOUCHARD");
+    house.LogIn("ADMIN");
+    house.Sql("UPDATE Employees SET Language = 1 WHERE RecordID = ?", {marie});
+    house.Sql("CREATE TRIGGER Refuse BEFORE UPDATE ON Employees BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    const int administrator = SessionState.UserID;
+    frmLogin login;
+    login.FiscalYearID = 1;
+    login.ChangingYear = true;
+    login.show();
+    user.Works(login).WillAnswer("AN ERROR HAS OCCURRED:", "OK");
+    Types(login, "MBOUCHARD", "PASS");
+    user.WillAnswer("Access denied!...", "OK");
+    Types(login, "MBOUCHARD", "WRONG");
+    user.Clicks("cmdCancel");
+    EXPECT_EQ(SessionState.UserID, administrator);
+    EXPECT_EQ(SessionState.LoginID, "ADMIN");
+    EXPECT_EQ(SessionState.GlobalLevelRead, 1);
+    EXPECT_TRUE(SessionState.English);
+}
+
 TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
 {
     house.FiscalYear("2024", 2024);
