@@ -223,13 +223,12 @@ void frmMain::DeactivateAllControls(const QString& usableTool)
 
 void frmMain::ChangeToYear(Neighbour direction)
 {
-    Busy = true;
+    const LoadingGuard busy(Busy);
     const Connection connection(datAbsence);
     if (ChangeYear(datAbsence, direction, [this](int year, const QString& name) { return LogIn(year, name); })) {
         LoadCaptions();
         ReloadSelection();
     }
-    Busy = false;
 }
 
 bool frmMain::LogIn(int year, const QString& name)

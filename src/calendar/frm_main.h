@@ -70,6 +70,7 @@ private:
     void DisplayNames();
 
     void Form_KeyDown(int key);
+    void RunMinuteWork();
     void imgUpdateSelection_Click();
     void ToolClicked();
     void ChangeToYear(Neighbour direction);

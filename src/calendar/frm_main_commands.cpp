@@ -43,10 +43,9 @@ void Open(QWidget* parent)
 template <typename Form>
 void frmMain::OpenEditor()
 {
-    Busy = true;
+    const LoadingGuard busy(Busy);
     Open<Form>(this);
     ReloadSelection();
-    Busy = false;
 }
 
 /// Hands the floors below the forms that stand above them.
@@ -104,8 +103,8 @@ void frmMain::mnuSpecialDisplayPending_Click()
 
 void frmMain::mnuSpecialSwitchLanguage_Click()
 {
+    const LoadingGuard busy(Busy);
     SessionState.English = !SessionState.English;
-    Busy = true;
     LoadCaptions();
     try {
         const Connection connection(datAbsence);
@@ -114,7 +113,6 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
         TellError(error);
     }
     ReloadSelection();
-    Busy = false;
 }
 
 void frmMain::ToolClicked()
@@ -127,11 +125,10 @@ void frmMain::ToolClicked()
 
 void frmMain::imgUpdateSelection_Click()
 {
+    const LoadingGuard busy(Busy);
     frmSelectEmployee form(this);
-    Busy = true;
     if (ShowModal(form) == QDialog::Accepted)
         ReloadSelection();
-    Busy = false;
 }
 
 void frmMain::ShowHint(const QString& hint)
@@ -222,13 +219,22 @@ void frmMain::timAbsence_Timer()
         pane_->ResizeScreen();
         timAbsence->setInterval(kMinute);
     }
-    TimerBusy = true;
-    minuteWork_.Run(MinuteWork::Phase::Open);
-    DeactivateAllControls();
-    minuteWork_.Run(MinuteWork::Phase::Locked);
-    TimerBusy = false;
+    RunMinuteWork();
     ActivateAllowedControls();
     LastTimerTick = CurrentDateTime();
+}
+
+/// A step that fails is told; it must not keep the window locked.
+void frmMain::RunMinuteWork()
+{
+    const LoadingGuard running(TimerBusy);
+    try {
+        minuteWork_.Run(MinuteWork::Phase::Open);
+        DeactivateAllControls();
+        minuteWork_.Run(MinuteWork::Phase::Locked);
+    } catch (const RuntimeError& error) {
+        TellError(error);
+    }
 }
 
 void frmMain::timTimeOut_Timer()

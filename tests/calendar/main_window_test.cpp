@@ -507,6 +507,17 @@ TEST_F(MainWindow, TheTimersStepsRunInOrderAndOnce)
     EXPECT_FALSE(OfferApproval({}));
 }
 
+TEST_F(MainWindow, AStepThatFailsIsToldAndLocksNothing)
+{
+    Opens("ADMIN");
+    main->BackgroundWork().SetWork("IsFYClosingScheduled", [] { throw RuntimeError(3043, "network"); });
+    user.WillAnswer("AN ERROR HAS OCCURRED:", "OK", "3043: network");
+    main->timAbsence_Timer();
+    EXPECT_FALSE(main->TimerBusy);
+    EXPECT_TRUE(Enabled("mnuFile"));
+    EXPECT_TRUE(user.CanUse("imgCreateSingle"));
+}
+
 TEST_F(MainWindow, EveryMenuEntryDoesWhatItSaysOrSaysThatItCannotYet)
 {
     Opens("ADMIN");
