@@ -2,6 +2,7 @@
 #include "calendar/frm_main.h"
 #include "calendar/frm_main_calendar.h"
 #include "calendar/frm_main_header.h"
+#include "calendar/frm_main_legend.h"
 #include "calendar/frm_main_tool_bar.h"
 #include "employees/frm_employees.h"
 #include "foundation/common_services.h"
@@ -112,7 +113,12 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
     } catch (const RuntimeError& error) {
         TellError(error);
     }
-    ReloadSelection();
+    const int category = SessionState.SelectedCategoryID;
+    LoadCategories();
+    header_->SelectCategory(category);
+    SessionState.SelectedCategoryID = category;
+    legend_->LoadLegend(datAbsence);
+    ReloadCalendar();
 }
 
 void frmMain::ToolClicked()

@@ -452,9 +452,13 @@ TEST_F(MainWindow, ANeighbouringYearBringsItsOwnUserAndRights)
 
 TEST_F(MainWindow, TheLanguageSwitchesAtOnceAndIsKept)
 {
+    house.Record(marie, "Vacation", {2026, 3, 2}, 7);
     OpensOn(marie, "Marie Bouchard");
+    user.Picks("cboCategories", "Sick");
     Chooses("mnuSpecialSwitchLanguage");
     EXPECT_EQ(main->windowTitle(), "Tarvell   Identification: [ADMIN]");
+    EXPECT_EQ(user.Reads("cboCategories"), "Maladie");
+    EXPECT_EQ(Back(3, 2), 0xFFFFFF); // the calendar still shows that category alone
     EXPECT_EQ(Grid().TextMatrix(0, 8), "FÉVRIER 2026");
     EXPECT_TRUE(user.Entries("cboCategories").contains("Rendez-vous médical"));
     EXPECT_EQ(house.Number("SELECT Language FROM Employees WHERE LoginID = 'ADMIN'"), 1);
