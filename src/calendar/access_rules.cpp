@@ -134,7 +134,7 @@ const std::vector<ReportFamily> kReportFamilies = {
     {"mnuReportsSubmitted", "&Submitted requests", "&Demandes soumises"},
     {"mnuReportsYTD", "&Year-to-date summary", "&Sommaire de l'année"},
     {"mnuReportsYTDTimeBank", "Time bank s&ummary", "Sommaire des banques de &temps"},
-    {"mnuReportsAbsenteeismByDate", "Absenteeism by &date", "Absentéisme par da&te"},
+    {"mnuReportsAbsenteeismByDate", "Absenteeism by &date", "Absentéisme &par date"},
     {"mnuReportsAbsenteeismCost", "C&ost of absenteeism", "&Coût de l'absentéisme"},
 };
 

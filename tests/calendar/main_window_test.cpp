@@ -10,6 +10,7 @@
 #include "support/user.h"
 
 #include <QAction>
+#include <QMenuBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -462,6 +463,26 @@ TEST_F(MainWindow, TheLanguageSwitchesAtOnceAndIsKept)
     EXPECT_EQ(Grid().TextMatrix(0, 8), "FÉVRIER 2026");
     EXPECT_TRUE(user.Entries("cboCategories").contains("Rendez-vous médical"));
     EXPECT_EQ(house.Number("SELECT Language FROM Employees WHERE LoginID = 'ADMIN'"), 1);
+}
+
+TEST_F(MainWindow, EachLetterOpensOneEntryOfAMenu)
+{
+    Opens("ADMIN");
+    for (const char* language : {"English", "French"}) {
+        QList<QWidget*> menus{main->menuBar()};
+        for (QMenu* menu : main->findChildren<QMenu*>())
+            menus << menu;
+        ASSERT_GT(menus.size(), 10);
+        for (const QWidget* menu : menus) {
+            QStringList letters;
+            for (const QAction* entry : menu->actions())
+                if (!entry->isSeparator())
+                    letters << QKeySequence::mnemonic(entry->text()).toString();
+            EXPECT_EQ(QSet<QString>(letters.begin(), letters.end()).size(), letters.size())
+                << language << ": " << letters.join(' ').toStdString();
+        }
+        Chooses("mnuSpecialSwitchLanguage");
+    }
 }
 
 TEST_F(MainWindow, AnIdleProgramCountsDownPastZeroAndEnds)
