@@ -39,10 +39,21 @@ public:
         splash_ = std::make_unique<frmSplashScreen>(
             StartUpSteps{[this] { ShowSetUpWizard(); }, [] { TellNotYet("frmConnect"); }, [this] { ShowMain(); }});
         splash_->show();
-        QTimer::singleShot(0, splash_.get(), [this] { splash_->Form_Activate(); });
+        QTimer::singleShot(0, splash_.get(), [this] { Activate(); });
     }
 
 private:
+    /// A start that fails half-way would leave nothing on the screen to work in or to close.
+    void Activate()
+    {
+        try {
+            splash_->Form_Activate();
+        } catch (const RuntimeError& error) {
+            TellError(error);
+            EndProgram();
+        }
+    }
+
     void ShowSetUpWizard()
     {
         frmSetUpWizard wizard([this] { configured_ = true; });

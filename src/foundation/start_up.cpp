@@ -26,6 +26,16 @@ RowValues ConfigurationValues()
             {"Password", s.Password},     {"DatabasePath", s.DatabasePath}, {"DatabaseName", s.DatabaseName}};
 }
 
+/// A configuration that cannot be written is told; the database found serves this run all the same.
+void KeepConfiguration()
+{
+    try {
+        WriteConfiguration();
+    } catch (const RuntimeError& error) {
+        TellError(error);
+    }
+}
+
 void ConnectToNewAccessDatabase(DataControl& datAbsence)
 {
     const QString path =
@@ -45,7 +55,7 @@ void ConnectToNewAccessDatabase(DataControl& datAbsence)
               "next time you start Tarvell?",
               "Tarvell est maintenant connecté à la banque de données spécifiée.\r\n\r\nSouhaitez-vous exploiter cette "
               "banque de données la prochaine fois que vous démarrerez Tarvell?")))
-        WriteConfiguration();
+        KeepConfiguration();
     ConnectToDatabase(datAbsence);
 }
 } // namespace

@@ -240,4 +240,23 @@ TEST_F(LogIn, ALostDatabaseCanBeLookedForElsewhere)
     ASSERT_TRUE(ReadConfiguration());
     EXPECT_EQ(SessionState.DatabasePath, other.Folder().replace('/', '\\').toUpper());
 }
+
+TEST_F(LogIn, ADatabaseFoundElsewhereServesTheRunThatCannotKeepIt)
+{
+    House other;
+    other.Company();
+    House workstation;
+    workstation.Configured();
+    QFile::remove(workstation.Folder() + "/Tarvell.mdb");
+    Database::Open(workstation.Folder() + "/Config.mdb", kConfigPassword)
+        ->Execute("CREATE TRIGGER Refuse BEFORE UPDATE ON Configuration BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    user.WillAnswer("FATAL ERROR:", "Yes")
+        .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
+        .WillChooseFile(other.Folder() + "/Tarvell.mdb")
+        .WillAnswer("CONNECTION TO DATABASE SUCCESSFUL:", "Yes")
+        .WillAnswer("AN ERROR HAS OCCURRED:", "OK")
+        .WhenOpens<frmLogin>([this](frmLogin& login) { Types(login, "ADMIN", "SECRET"); });
+    Start();
+    EXPECT_EQ(shown, QStringList{"main"});
+}
 } // namespace
