@@ -177,6 +177,10 @@ void frmSetUpWizard::UpdateButtons()
 
 void frmSetUpWizard::cmdNext_Click()
 {
+    // The button's letter leaves the focus in the field: it must have its say before the step is left.
+    cmdNext->setFocus();
+    if (!cmdNext->isEnabled())
+        return;
     if (CurrentStep == kDatabaseStep && !IsDatabaseAccepted())
         return;
     if (IsLastStep())

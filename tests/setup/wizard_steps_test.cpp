@@ -2,6 +2,8 @@
 #include "platform/clock.h"
 #include "setup/wizard_house.h"
 
+#include <QPushButton>
+
 class WizardSteps : public Wizard
 {
 protected:
@@ -86,6 +88,22 @@ TEST_F(WizardSteps, TheFiscalYearLastsTwelveMonths)
     EXPECT_FALSE(user.CanUse("cmdNext"));
     user.Picks("cboStartYear", "2026").Types("txtFiscalYearName", "   ");
     EXPECT_FALSE(user.CanUse("cmdNext"));
+}
+
+TEST_F(WizardSteps, TheLetterOfTheNextButtonLetsTheFieldHaveItsSay)
+{
+    AtFiscalYear("optEnglish");
+    auto* cmdNext = user.The<frmSetUpWizard>().findChild<QPushButton*>("cmdNext");
+    user.Types("txtFiscalYearName", "First").Types("cboStartYear", "12");
+    user.WillAnswer("ERROR!", "OK", "beginning of the fiscal year is invalid!");
+    cmdNext->click(); // as the letter does: the focus stays in the field
+    EXPECT_TRUE(user.CanUse("cboStartYear"));
+    user.Picks("cboStartYear", "2026").Clicks("cmdNext");
+    for (const char* category : {"Vacation", "PersonalTime", "Doctor"})
+        user.Checks(QString("chk%1_EntitlementVaries").arg(category));
+    user.Types("txtMinutes_Sick", "75");
+    cmdNext->click();
+    EXPECT_TRUE(user.CanUse("txtMinutes_Sick")) << "the minutes were cleared: nothing is said of this category";
 }
 
 TEST_F(WizardSteps, TimeAndTheTwoBoxesExcludeEachOther)
