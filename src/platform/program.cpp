@@ -39,6 +39,11 @@ QString FindPart(const QDir& folder, const QString& part)
     return part;
 }
 
+bool Deliver(const QString& file, const QString& target)
+{
+    return QFile::copy(file, target) && QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
+}
+
 bool CanBeWritten(const QString& folder)
 {
     QFile probe(folder + "/tarvell.tmp");
@@ -65,11 +70,12 @@ void PrepareProgramFolder(const QString& deliveredFolder)
     const auto lies = [](const QString& name) { return QFile::exists(NativePath(JoinPath(ProgramFolder(), name))); };
     if (std::any_of(names.begin(), names.end(), lies))
         return;
-    for (const QString& name : names) {
-        const QString target = ProgramFolder() + "/" + name;
-        QFile::copy(deliveredFolder + "/" + name, target);
-        QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
-    }
+    const auto deliver = [&](const QString& name) {
+        return Deliver(deliveredFolder + "/" + name, ProgramFolder() + "/" + name);
+    };
+    if (!std::all_of(names.begin(), names.end(), deliver))
+        for (const QString& name : names) // one without the other would never be completed by a later start
+            QFile::remove(ProgramFolder() + "/" + name);
 }
 
 QString NativePath(const QString& path)

@@ -62,6 +62,15 @@ TEST(ProgramFolderTest, AUserWithoutRightsGetsTheDeliveredDatabasesInAFolderOfTh
         const int rows = config->OpenRecordset("SELECT * FROM Configuration").RecordCount();
         return QFile::exists(NativePath(JoinPath(ProgramFolder(), "Tarvell.mdb"))) ? 10 + rows : 2;
     };
+    const QString away = delivered.path() + "/away.mdb";
+    ASSERT_TRUE(QFile::rename(delivered.path() + "/Tarvell.mdb", away));
+    const auto fails = [&] {
+        qputenv("HOME", home.path().toUtf8());
+        PrepareProgramFolder(delivered.path());
+        return QFile::exists(ProgramFolder() + "/Config.mdb") ? 1 : 0;
+    };
+    EXPECT_EQ(AsOrdinaryUser(fails), 0) << "a half-made folder would stay half-made";
+    ASSERT_TRUE(QFile::rename(away, delivered.path() + "/Tarvell.mdb"));
     EXPECT_EQ(AsOrdinaryUser(start), 11);
     EXPECT_EQ(AsOrdinaryUser(start), 12) << "the second start finds the files of the first";
 }

@@ -140,7 +140,7 @@ std::unique_ptr<Database> Database::Open(const QString& path, const QString& pas
 {
     const QString file = NativePath(path);
     if (!QFileInfo(file).isFile())
-        throw RuntimeError(EngineError::FileNotFound, "Could not find the file '" + path + "'.");
+        throw RuntimeError(EngineError::FileNotFound, "Could not find the file '" + file + "'.");
     std::unique_ptr<Database> database(new Database(OpenFile(file, SQLITE_OPEN_READWRITE), file));
     RequireOwnFile(database->Handle());
     RequirePassword(database->Handle(), password);
