@@ -461,6 +461,9 @@ TEST_F(FrmEmployees, ApproversArePickedInTwoLevels)
         << "a group keeps the approvers";
     user.Picks("lstDepartments", "Sales");
     EXPECT_EQ(user.Reads("cboApprovedBy_FirstLevel") + user.Reads("cboApprovedBy_SecondLevel"), "");
+    user.Picks("lstOrganizations", "Northern Works");
+    EXPECT_EQ(user.Reads("lstOrganizations") + user.Reads("lstDepartments"), "Northern Works")
+        << "the organization alone, chosen once more";
     user.Clicks("cmdCancelOperation");
 
     house.Sql("UPDATE Employees SET AttendanceApprovedBy_Main = ? WHERE RecordID = ?", {stella, chris});
