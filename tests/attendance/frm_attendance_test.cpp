@@ -256,6 +256,24 @@ TEST_F(FrmAttendance, BorrowedTimeIsStoredAsClaimedWhileTheListShowsNothing)
               QString::number(house.CategoryID("Time claimed")) + "|-5|-5");
 }
 
+TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
+{
+    house.Sql("UPDATE Employees SET GlobalLevelRead = 1, SelfLevelCreate = 1, SelfLevelModify = 1 WHERE RecordID = ?",
+              {chris});
+    house.LogIn("CHRIS");
+    Begin({kMonday}, marc, "Sick");
+    user.Opens<frmAttendance>().Types("txtDurationInHours", "2");
+    user.WillAnswer("ERROR:", "OK", "You must select an employee from the list!").Clicks("cmdAddOrUpdate");
+    user.Picks("lstWho", "Davis").Types("txtDurationInHours", "2").Picks("cboCategories", "Sick");
+    user.WillAnswer("CONFIRM:", "Yes").Clicks("cmdAddOrUpdate");
+    EXPECT_EQ(house.Number("SELECT EmployeeID FROM Attendance"), chris);
+
+    frmAttendance form;
+    Modify(form, house.Record(marc, "Sick", kTuesday, 2), marc, "Sick", kTuesday);
+    EXPECT_FALSE(user.CanUse("cmdAddOrUpdate"));
+    EXPECT_EQ(SessionState.EmployeeID, marc);
+}
+
 TEST_F(FrmAttendance, WhoMayAddForNobodyCanOnlyClose)
 {
     house.LogIn("CHRIS");
