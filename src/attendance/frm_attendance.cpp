@@ -349,17 +349,10 @@ bool frmAttendance::LeaveDurationBoxes()
     return true;
 }
 
-/// The box may have been left for another tab, which is still on its way.
 void frmAttendance::RefuseDuration(QWidget* box)
 {
     ShowEntry();
-    box->setFocus();
-    QTimer::singleShot(0, box, [this, box] {
-        if (box->isVisible())
-            return;
-        sstAttendance->setCurrentWidget(general_);
-        box->setFocus();
-    });
+    KeepFocus(box);
 }
 
 void frmAttendance::txtHourlyRate_LostFocus()

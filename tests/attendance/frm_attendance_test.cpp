@@ -1,6 +1,10 @@
 #include "attendance/attendance_fixture.h"
 #include "attendance/frm_attendance.h"
 
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+
 namespace
 {
 const QDate kMonday(2026, 3, 2);
@@ -212,6 +216,13 @@ TEST_F(FrmAttendance, DurationBoxesRefuseWhatNoDayHolds)
     EXPECT_TRUE(user.HasFocus("txtDurationInMinutes"));
     user.Types("txtDurationInMinutes", "59").LeavesField("txtDurationInMinutes");
     EXPECT_EQ(user.Reads("txtTotalTime"), "23:59");
+
+    auto& tabs = *user.The<frmAttendance>().findChild<QTabWidget*>("sstAttendance");
+    user.Types("txtDurationInHours", "24");
+    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(1).center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(tabs.currentIndex(), 0) << "also when it is left for the other tab";
+    EXPECT_TRUE(user.HasFocus("txtDurationInHours"));
 }
 
 TEST_F(FrmAttendance, AnotherEmployeeStartsAfresh)

@@ -5,7 +5,10 @@
 #include <QIcon>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QStackedWidget>
 #include <QSvgRenderer>
+#include <QTabWidget>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -84,6 +87,17 @@ QFont ProgramFont()
     font.setFamilies({"Liberation Sans", "Arial", "Nimbus Sans", "DejaVu Sans"});
     font.setPointSizeF(kFontPoints);
     return font;
+}
+
+void ShowTabOf(QWidget* field)
+{
+    QWidget* page = field;
+    for (QWidget* above = field->parentWidget(); above; above = above->parentWidget()) {
+        if (auto* tabs = qobject_cast<QTabWidget*>(above))
+            return tabs->setCurrentWidget(page);
+        if (!qobject_cast<QStackedWidget*>(above))
+            page = above;
+    }
 }
 } // namespace
 
@@ -179,6 +193,18 @@ BusyPointer::BusyPointer()
 BusyPointer::~BusyPointer()
 {
     QApplication::restoreOverrideCursor();
+}
+
+void KeepFocus(QWidget* field)
+{
+    field->setFocus();
+    // The other tab is still on its way.
+    QTimer::singleShot(0, field, [field] {
+        if (field->isVisible() || !field->window()->isVisible())
+            return;
+        ShowTabOf(field);
+        field->setFocus();
+    });
 }
 
 void ApplyStyle()
