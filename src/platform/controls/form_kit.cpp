@@ -36,6 +36,15 @@ class ProgramStyle : public QProxyStyle
 public:
     ProgramStyle() : QProxyStyle("Fusion") {}
 
+    /// The wheel turns the list that has the focus, never one that the pointer passes while a page scrolls.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override
+    {
+        if (hint == SH_ComboBox_AllowWheelScrolling && widget)
+            return widget->hasFocus() ? 1 : 0;
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override
     {
