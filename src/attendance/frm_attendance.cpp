@@ -155,13 +155,11 @@ void frmAttendance::LoadEmployees()
 {
     const LoadingGuard loading(Loading);
     const auto employees = LoadRecords(datAbsence);
-    QListWidget* list = general_->lstWho;
     for (const ListEntry& employee : employees.value_or(QVector<ListEntry>())) {
-        auto* item = new QListWidgetItem(employee.Text, list);
+        auto* item = new QListWidgetItem(employee.Text, general_->lstWho);
         item->setData(Qt::UserRole, employee.ItemData);
-        if (SessionState.EmployeeID > 0 && employee.ItemData == SessionState.EmployeeID)
-            list->setCurrentItem(item);
     }
+    MarkEmployee();
     mayAdd_ = employees.has_value() && MayEnterForEmployee();
     SetButtonsEnabled(true);
 }
@@ -175,6 +173,15 @@ bool frmAttendance::MayEnterForEmployee()
     if (!SessionState.ModifyingRecord)
         SessionState.EmployeeID = 0;
     return !SessionState.ModifyingRecord;
+}
+
+/// Marks the session's employee, also after a click with Ctrl has taken the mark away.
+void frmAttendance::MarkEmployee()
+{
+    const LoadingGuard loading(Loading);
+    for (int row = 0; SessionState.EmployeeID > 0 && row < general_->lstWho->count(); ++row)
+        if (general_->lstWho->item(row)->data(Qt::UserRole).toInt() == SessionState.EmployeeID)
+            return general_->lstWho->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
 }
 
 void frmAttendance::LoadCategoryList()
@@ -255,8 +262,10 @@ void frmAttendance::BlankCategory()
 void frmAttendance::lstWho_Click()
 {
     const QList<QListWidgetItem*> marked = general_->lstWho->selectedItems();
-    if (Loading || marked.isEmpty())
+    if (Loading)
         return;
+    if (marked.isEmpty())
+        return MarkEmployee();
     ReadForm();
     const int employee = marked.first()->data(Qt::UserRole).toInt();
     const bool another = employee != SessionState.EmployeeID;

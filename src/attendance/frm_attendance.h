@@ -50,6 +50,7 @@ private:
     void Form_Activate();
 
     void LoadEmployees();
+    void MarkEmployee();
     bool MayEnterForEmployee();
     void LoadCategoryList();
     void EnterCategory();

@@ -1,6 +1,7 @@
 #include "attendance/attendance_fixture.h"
 #include "attendance/frm_attendance.h"
 
+#include <QListWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -275,7 +276,9 @@ TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
     Begin({kMonday}, marc, "Sick");
     user.Opens<frmAttendance>().Types("txtDurationInHours", "2");
     user.WillAnswer("ERROR:", "OK", "You must select an employee from the list!").Clicks("cmdAddOrUpdate");
-    user.Picks("lstWho", "Davis").Types("txtDurationInHours", "2").Picks("cboCategories", "Sick");
+    user.Picks("lstWho", "Davis").ClicksWithCtrl("lstWho");
+    EXPECT_EQ(user.The<frmAttendance>().findChild<QListWidget*>("lstWho")->selectedItems().size(), 1);
+    user.Types("txtDurationInHours", "2").Picks("cboCategories", "Sick");
     user.WillAnswer("CONFIRM:", "Yes").Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Number("SELECT EmployeeID FROM Attendance"), chris);
 
