@@ -64,7 +64,7 @@ void frmAttendance::BuildControls()
 
 void frmAttendance::ConnectControls()
 {
-    connect(general_->lstWho, &QListWidget::currentItemChanged, this, &frmAttendance::lstWho_Click);
+    connect(general_->lstWho, &QListWidget::itemSelectionChanged, this, &frmAttendance::lstWho_Click);
     connect(general_->cboCategories, &QComboBox::currentIndexChanged, this, &frmAttendance::cboCategories_Click);
     const std::pair<QCheckBox*, DayPart> parts[] = {{general_->chkWholeDay, DayPart::WholeDay},
                                                     {general_->chkFirstHalf, DayPart::FirstHalf},
@@ -155,15 +155,33 @@ void frmAttendance::LoadEmployees()
 {
     const LoadingGuard loading(Loading);
     const auto employees = LoadRecords(datAbsence);
-    mayAdd_ = employees.has_value();
-    SetButtonsEnabled(true);
-    QListWidget* list = general_->lstWho;
     for (const ListEntry& employee : employees.value_or(QVector<ListEntry>())) {
-        auto* item = new QListWidgetItem(employee.Text, list);
+        auto* item = new QListWidgetItem(employee.Text, general_->lstWho);
         item->setData(Qt::UserRole, employee.ItemData);
-        if (SessionState.EmployeeID > 0 && employee.ItemData == SessionState.EmployeeID)
-            list->setCurrentItem(item);
     }
+    MarkEmployee();
+    mayAdd_ = employees.has_value() && MayEnterForEmployee();
+    SetButtonsEnabled(true);
+}
+
+/// The calendar shows whom the user may view; who is not listed here is beyond his rights to enter records. A new
+/// record can still be for somebody else.
+bool frmAttendance::MayEnterForEmployee()
+{
+    if (general_->lstWho->currentItem())
+        return true;
+    if (!SessionState.ModifyingRecord)
+        SessionState.EmployeeID = 0;
+    return !SessionState.ModifyingRecord;
+}
+
+/// Marks the session's employee, also after a click with Ctrl has taken the mark away.
+void frmAttendance::MarkEmployee()
+{
+    const LoadingGuard loading(Loading);
+    for (int row = 0; SessionState.EmployeeID > 0 && row < general_->lstWho->count(); ++row)
+        if (general_->lstWho->item(row)->data(Qt::UserRole).toInt() == SessionState.EmployeeID)
+            return general_->lstWho->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
 }
 
 void frmAttendance::LoadCategoryList()
@@ -240,12 +258,16 @@ void frmAttendance::BlankCategory()
     ShowCategory();
 }
 
-void frmAttendance::lstWho_Click(const QListWidgetItem* item)
+/// The marked entry counts: a list that takes the focus makes its first entry current unmarked.
+void frmAttendance::lstWho_Click()
 {
-    if (Loading || !item)
+    const QList<QListWidgetItem*> marked = general_->lstWho->selectedItems();
+    if (Loading)
         return;
+    if (marked.isEmpty())
+        return MarkEmployee();
     ReadForm();
-    const int employee = item->data(Qt::UserRole).toInt();
+    const int employee = marked.first()->data(Qt::UserRole).toInt();
     const bool another = employee != SessionState.EmployeeID;
     SessionState.EmployeeID = employee;
     ClearEntryFields(entry_);
@@ -339,7 +361,7 @@ bool frmAttendance::LeaveDurationBoxes()
 void frmAttendance::RefuseDuration(QWidget* box)
 {
     ShowEntry();
-    box->setFocus();
+    KeepFocus(box);
 }
 
 void frmAttendance::txtHourlyRate_LostFocus()

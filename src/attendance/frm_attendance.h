@@ -9,7 +9,6 @@
 
 class AttendanceAdditionalPage;
 class AttendanceGeneralPage;
-class QListWidgetItem;
 class QPushButton;
 class QTabWidget;
 
@@ -51,6 +50,8 @@ private:
     void Form_Activate();
 
     void LoadEmployees();
+    void MarkEmployee();
+    bool MayEnterForEmployee();
     void LoadCategoryList();
     void EnterCategory();
     void ReadForm();
@@ -60,7 +61,7 @@ private:
     void WarnOfMissingEntitlement();
     void BlankCategory();
 
-    void lstWho_Click(const QListWidgetItem* item);
+    void lstWho_Click();
     void cboCategories_Click(int index);
     void DayPart_Click(DayPart part, bool checked);
     void Time_Click(void (*choose)(AttendanceEntry&, const QString&), const QString& text);

@@ -37,11 +37,19 @@ struct NumberColumn
     int EmployeeRecord::*Member;
 };
 constexpr NumberColumn kNumberColumns[] = {
-    {"DateOfBirth", &EmployeeRecord::DateOfBirth},
-    {"DateOfHire", &EmployeeRecord::DateOfHire},
     {"DeactivatedDate", &EmployeeRecord::DeactivatedDate},
     {"AttendanceApprovedBy_Main", &EmployeeRecord::ApprovedByMain},
     {"AttendanceApprovedBy_Backup", &EmployeeRecord::ApprovedByBackup},
+};
+struct DateColumn
+{
+    const char* Column;
+    int EmployeeRecord::*Member;
+    DateEntry EmployeeRecord::*Entry;
+};
+constexpr DateColumn kDateColumns[] = {
+    {"DateOfBirth", &EmployeeRecord::DateOfBirth, &EmployeeRecord::Birth},
+    {"DateOfHire", &EmployeeRecord::DateOfHire, &EmployeeRecord::Hire},
 };
 /// Written by Add alone: later only a transfer changes them.
 constexpr NumberColumn kUnitColumns[] = {
@@ -75,8 +83,10 @@ void TakeRow(const Recordset& row, EmployeeRecord& record)
     for (const auto& [column, member] : kUnitColumns)
         row.Take(column, record.*member);
     row.Take("DeactivatedBy", record.DeactivatedBy);
-    record.Birth = EntryOf(record.DateOfBirth);
-    record.Hire = EntryOf(record.DateOfHire);
+    for (const auto& [column, member, entry] : kDateColumns) {
+        row.Take(column, record.*member);
+        record.*entry = EntryOf(record.*member);
+    }
     TakeLogIn(row, record);
     ReadRights(row, record);
     CompleteLoadedRights(record);
@@ -172,6 +182,8 @@ RowValues EmployeeColumns(const EmployeeRecord& record)
         values.push_back({column, record.*member});
     for (const auto& [column, member] : kNumberColumns)
         values.push_back({column, record.*member});
+    for (const auto& [column, member, entry] : kDateColumns)
+        values.push_back({column, (record.*entry).IsFilled() ? record.*member : 0});
     const RowValues others = {
         {"DateEntered", Today()},
         {"EnteredBy", Who()},

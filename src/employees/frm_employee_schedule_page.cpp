@@ -241,7 +241,7 @@ bool EmployeeSchedulePage::Total_LostFocus(int day)
     const auto refused = LeaveTotal(record_, day);
     ShowDay(day);
     if (refused)
-        (*refused == TotalBox::Hours ? txtTotalHours : txtTotalMinutes)[day]->setFocus();
+        KeepFocus((*refused == TotalBox::Hours ? txtTotalHours : txtTotalMinutes)[day]);
     return !refused;
 }
 

@@ -103,10 +103,19 @@ void frmEmployees::ConnectControls()
     connect(cmdCancelOperation, &QPushButton::clicked, this, &frmEmployees::cmdCancelOperation_Click);
     connect(cmdQuit, &QPushButton::clicked, this, &frmEmployees::cmdQuit_Click);
     connect(sstEmployees, &QTabWidget::currentChanged, this, &frmEmployees::sstEmployees_Click);
-    for (const UnitList list : kUnitLists)
-        connect(general_->lstUnits[static_cast<std::size_t>(list)], &QListWidget::itemSelectionChanged, this,
-                [this, list] { UnitList_Click(list); });
+    ConnectUnitLists();
     ConnectApprovers();
+}
+
+/// A click counts also on the unit that is selected already: it takes the choice back to that level.
+void frmEmployees::ConnectUnitLists()
+{
+    for (const UnitList list : kUnitLists) {
+        const QListWidget* box = general_->lstUnits[static_cast<std::size_t>(list)];
+        const auto choose = [this, list] { UnitList_Click(list); };
+        connect(box, &QListWidget::itemSelectionChanged, this, choose);
+        connect(box, &QListWidget::itemClicked, this, choose);
+    }
 }
 
 void frmEmployees::ConnectApprovers()
@@ -231,9 +240,11 @@ void frmEmployees::UnitList_Click(UnitList list)
 {
     const auto index = static_cast<std::size_t>(list);
     const QListWidget* box = general_->lstUnits[index];
-    if (Loading || box->selectedItems().isEmpty())
+    if (Loading)
         return;
     ReadForm();
+    if (box->selectedItems().isEmpty())
+        return ShowRecord(); // a choice is changed, never taken away
     const Unit& unit = units_[index][box->row(box->selectedItems().first())];
     record_.OrganizationID = unit.OrganizationID;
     record_.DepartmentID = unit.DepartmentID;

@@ -44,6 +44,7 @@ private:
     void BuildButtons();
     void LayControls();
     void ConnectControls();
+    void ConnectUnitLists();
     void ConnectApprovers();
     void LoadCaptions();
     void LoadComboBoxes();

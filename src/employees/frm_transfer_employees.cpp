@@ -111,8 +111,10 @@ void frmTransferEmployees::ConnectSide(UnitLists& side, const std::function<void
 {
     for (const UnitList list : kUnitLists) {
         const auto choose = [this, &side, list, chosen] {
-            if (Loading || side.Lists[Index(list)]->selectedItems().isEmpty())
+            if (Loading)
                 return;
+            if (side.Lists[Index(list)]->selectedItems().isEmpty())
+                return HighlightChoice(side); // a choice is changed, never taken away
             ChooseInSide(side, list);
             chosen();
         };
@@ -176,7 +178,7 @@ void frmTransferEmployees::HighlightChoice(const UnitLists& side)
         for (int i = 0; i < units.size() && row < 0 && chosen != 0; ++i)
             if (units[i].RecordID == chosen)
                 row = i;
-        side.Lists[Index(list)]->setCurrentRow(row);
+        side.Lists[Index(list)]->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
     }
 }
 
@@ -204,7 +206,10 @@ void frmTransferEmployees::LoadEmployees()
 
 void frmTransferEmployees::lstFromEmployee_Click()
 {
-    if (Loading || lstFromEmployee->selectedItems().isEmpty())
+    if (Loading)
+        return;
+    RecordID = 0;
+    if (lstFromEmployee->selectedItems().isEmpty())
         return;
     RecordID = lstFromEmployee->selectedItems().first()->data(Qt::UserRole).toInt();
     if (RecordID == 0)

@@ -207,6 +207,7 @@ void EmptyWeek(EmployeeRecord& record)
         (record.*info.Member).fill(0);
     record.HoursWorked.fill(0);
     record.HoursSpecified.fill(false);
+    record.HoursWorkedDaily = 0;
     record.TotalHours.fill(QString());
     record.TotalMinutes.fill(QString());
 }

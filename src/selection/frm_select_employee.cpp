@@ -122,8 +122,10 @@ void frmSelectEmployee::LoadList(ReachList list)
 void frmSelectEmployee::Choose(ReachList list)
 {
     QListWidget* box = lists_[Index(list)];
-    if (Loading || box->selectedItems().isEmpty())
+    if (Loading)
         return;
+    if (box->selectedItems().isEmpty())
+        return HighlightChoice(list); // a choice is changed, never taken away
     choice_ = entries_[Index(list)][box->row(box->selectedItems().first())].Selection;
     for (const ReachList below : kLists)
         if (below > list)
@@ -147,7 +149,7 @@ void frmSelectEmployee::HighlightChoice(ReachList upTo)
         if (found == entries.end())
             box->clearSelection();
         else
-            box->setCurrentRow(static_cast<int>(found - entries.begin()));
+            box->setCurrentRow(static_cast<int>(found - entries.begin()), QItemSelectionModel::ClearAndSelect);
     }
 }
 

@@ -1,6 +1,11 @@
 #include "attendance/attendance_fixture.h"
 #include "attendance/frm_attendance.h"
 
+#include <QListWidget>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+
 namespace
 {
 const QDate kMonday(2026, 3, 2);
@@ -212,6 +217,13 @@ TEST_F(FrmAttendance, DurationBoxesRefuseWhatNoDayHolds)
     EXPECT_TRUE(user.HasFocus("txtDurationInMinutes"));
     user.Types("txtDurationInMinutes", "59").LeavesField("txtDurationInMinutes");
     EXPECT_EQ(user.Reads("txtTotalTime"), "23:59");
+
+    auto& tabs = *user.The<frmAttendance>().findChild<QTabWidget*>("sstAttendance");
+    user.Types("txtDurationInHours", "24");
+    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(1).center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(tabs.currentIndex(), 0) << "also when it is left for the other tab";
+    EXPECT_TRUE(user.HasFocus("txtDurationInHours"));
 }
 
 TEST_F(FrmAttendance, AnotherEmployeeStartsAfresh)
@@ -254,6 +266,26 @@ TEST_F(FrmAttendance, BorrowedTimeIsStoredAsClaimedWhileTheListShowsNothing)
     user.WillAnswer("CONFIRM:", "Yes").WillAnswer("CONFIRM:", "Yes").Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Rows("SELECT CategoryID, Duration, TotalDuration FROM Attendance WHERE RecordDate = 46083"),
               QString::number(house.CategoryID("Time claimed")) + "|-5|-5");
+}
+
+TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
+{
+    house.Sql("UPDATE Employees SET GlobalLevelRead = 1, SelfLevelCreate = 1, SelfLevelModify = 1 WHERE RecordID = ?",
+              {chris});
+    house.LogIn("CHRIS");
+    Begin({kMonday}, marc, "Sick");
+    user.Opens<frmAttendance>().Types("txtDurationInHours", "2");
+    user.WillAnswer("ERROR:", "OK", "You must select an employee from the list!").Clicks("cmdAddOrUpdate");
+    user.Picks("lstWho", "Davis").ClicksWithCtrl("lstWho");
+    EXPECT_EQ(user.The<frmAttendance>().findChild<QListWidget*>("lstWho")->selectedItems().size(), 1);
+    user.Types("txtDurationInHours", "2").Picks("cboCategories", "Sick");
+    user.WillAnswer("CONFIRM:", "Yes").Clicks("cmdAddOrUpdate");
+    EXPECT_EQ(house.Number("SELECT EmployeeID FROM Attendance"), chris);
+
+    frmAttendance form;
+    Modify(form, house.Record(marc, "Sick", kTuesday, 2), marc, "Sick", kTuesday);
+    EXPECT_FALSE(user.CanUse("cmdAddOrUpdate"));
+    EXPECT_EQ(SessionState.EmployeeID, marc);
 }
 
 TEST_F(FrmAttendance, WhoMayAddForNobodyCanOnlyClose)

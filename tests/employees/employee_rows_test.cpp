@@ -39,6 +39,9 @@ TEST_F(EmployeeRows, ARowComesBackAsItWasWritten)
     record.HoursWorked[0] = 7.33333F;
     record.HoursWorkedDaily = 6.7F;
     record.DateOfHire = SerialOfDate({2019, 12, 31});
+    record.Hire = {"2019", "12", "31"};
+    record.DateOfBirth = SerialOfDate({1980, 2, 29});
+    record.Birth = {"", "2", "29"}; // the year was emptied again
     record.DepartmentLevelRead = record.AccessToEmployeesModule = record.AccessToOrganizationsModule = 1;
     record.SelfLevelRead = 0;
     AddEmployee(datAbsence, record);

@@ -5,6 +5,7 @@
 #include "selection/frm_get_approver_from_list.h"
 #include "selection/frm_select_period.h"
 
+#include <QListWidget>
 #include <QTabWidget>
 
 namespace
@@ -461,6 +462,11 @@ TEST_F(FrmEmployees, ApproversArePickedInTwoLevels)
         << "a group keeps the approvers";
     user.Picks("lstDepartments", "Sales");
     EXPECT_EQ(user.Reads("cboApprovedBy_FirstLevel") + user.Reads("cboApprovedBy_SecondLevel"), "");
+    user.Picks("lstOrganizations", "Northern Works");
+    EXPECT_EQ(user.Reads("lstOrganizations") + user.Reads("lstDepartments"), "Northern Works")
+        << "the organization alone, chosen once more";
+    user.ClicksWithCtrl("lstOrganizations");
+    EXPECT_EQ(user.The<frmEmployees>().findChild<QListWidget*>("lstOrganizations")->selectedItems().size(), 1);
     user.Clicks("cmdCancelOperation");
 
     house.Sql("UPDATE Employees SET AttendanceApprovedBy_Main = ? WHERE RecordID = ?", {stella, chris});

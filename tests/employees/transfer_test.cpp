@@ -3,6 +3,8 @@
 #include "platform/clock.h"
 #include "support/user.h"
 
+#include <QListWidget>
+
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
@@ -196,6 +198,16 @@ TEST_F(Transferring, AUserWithADepartmentOfHisOwnFindsOnlyThatOne)
     user.Picks("lstFromEmployee", "Abel").WillAnswer("CONFIRM:", "Yes").WillAnswer("OPERATION COMPLETED:", "OK");
     user.Clicks("cmdProcess");
     EXPECT_EQ(Place("Employees", anna), "1|1|0");
+}
+
+TEST_F(Transferring, AChoiceTakenAwayWithCtrlIsSeenToStayOrGo)
+{
+    user.Opens<frmTransferEmployees>().Picks("lstToDepartment", "Sales").ClicksWithCtrl("lstToDepartment");
+    const auto& form = user.The<frmTransferEmployees>();
+    EXPECT_EQ(form.findChild<QListWidget*>("lstToDepartment")->selectedItems().size(), 1);
+    user.Picks("lstFromEmployee", "Abel").ClicksWithCtrl("lstFromEmployee");
+    EXPECT_TRUE(form.findChild<QListWidget*>("lstFromEmployee")->selectedItems().isEmpty());
+    user.WillAnswer("ERROR:", "OK", "You must select the name of the employee").Clicks("cmdProcess");
 }
 
 TEST_F(Transferring, AFailureInTheMiddleLeavesEverythingAsItWas)

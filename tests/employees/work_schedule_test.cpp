@@ -175,6 +175,7 @@ TEST_F(WorkScheduleTest, TypedTotalsThatDifferAreListedAndAskedAboutOnce)
 TEST_F(WorkScheduleTest, AWeekWithoutHoursIsIrregularOrRefused)
 {
     Pick(kMonday, {"08:00", "12:00"});
+    record.HoursWorkedDaily = 4; // as loaded
     user.WillAnswer("CONFIRM:", "No");
     EXPECT_FALSE(ConfirmIrregularHours(record));
     EXPECT_EQ(Total(kMonday), "4:0");
@@ -183,6 +184,7 @@ TEST_F(WorkScheduleTest, AWeekWithoutHoursIsIrregularOrRefused)
     EXPECT_EQ(record.FirstHalfEnd[kMonday] + record.HoursWorked[kMonday], 0);
     EXPECT_EQ(Total(kMonday), ":");
     EXPECT_FALSE(CheckSchedule(record));
+    EXPECT_EQ(record.HoursWorkedDaily, 0);
 
     record.IrregularHours = false;
     user.WillAnswer("ERROR:", "OK", "You must specify the employee's weekly schedule!");

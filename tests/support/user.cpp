@@ -148,6 +148,14 @@ User& User::Picks(const QString& name, const QString& entry)
     return *this;
 }
 
+User& User::ClicksWithCtrl(const QString& name)
+{
+    if (auto* list = Find<QListWidget>(name); list && list->currentItem())
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          list->visualItemRect(list->currentItem()).center());
+    return *this;
+}
+
 User& User::LeavesField(const QString& name)
 {
     QWidget* field = FindWidget(name);

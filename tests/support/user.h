@@ -43,6 +43,7 @@ public:
     User& Clicks(const QString& name); ///< a button, check box, option or label
     User& Checks(const QString& name, bool checked = true);
     User& Picks(const QString& name, const QString& entry); ///< an entry of a list or combo box that starts so
+    User& ClicksWithCtrl(const QString& list);              ///< on the current entry: takes its mark away
     User& LeavesField(const QString& name);                 ///< the focus moves on
 
     /// What stands in a control: text of fields and labels, current text of lists, "1"/"0" of check boxes.

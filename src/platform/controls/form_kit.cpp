@@ -5,7 +5,10 @@
 #include <QIcon>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QStackedWidget>
 #include <QSvgRenderer>
+#include <QTabWidget>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -32,6 +35,15 @@ class ProgramStyle : public QProxyStyle
 {
 public:
     ProgramStyle() : QProxyStyle("Fusion") {}
+
+    /// The wheel turns the list that has the focus, never one that the pointer passes while a page scrolls.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override
+    {
+        if (hint == SH_ComboBox_AllowWheelScrolling && widget)
+            return widget->hasFocus() ? 1 : 0;
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override
@@ -84,6 +96,17 @@ QFont ProgramFont()
     font.setFamilies({"Liberation Sans", "Arial", "Nimbus Sans", "DejaVu Sans"});
     font.setPointSizeF(kFontPoints);
     return font;
+}
+
+void ShowTabOf(QWidget* field)
+{
+    QWidget* page = field;
+    for (QWidget* above = field->parentWidget(); above; above = above->parentWidget()) {
+        if (auto* tabs = qobject_cast<QTabWidget*>(above))
+            return tabs->setCurrentWidget(page);
+        if (!qobject_cast<QStackedWidget*>(above))
+            page = above;
+    }
 }
 } // namespace
 
@@ -179,6 +202,18 @@ BusyPointer::BusyPointer()
 BusyPointer::~BusyPointer()
 {
     QApplication::restoreOverrideCursor();
+}
+
+void KeepFocus(QWidget* field)
+{
+    field->setFocus();
+    // The other tab is still on its way.
+    QTimer::singleShot(0, field, [field] {
+        if (field->isVisible() || !field->window()->isVisible())
+            return;
+        ShowTabOf(field);
+        field->setFocus();
+    });
 }
 
 void ApplyStyle()

@@ -72,6 +72,9 @@ public:
     BusyPointer& operator=(const BusyPointer&) = delete;
 };
 
+/// Gives a field the focus back that is just being left. If it was left for another tab, its own tab returns.
+void KeepFocus(QWidget* field);
+
 /// The program's style sheet, colours, fonts and window icon, set once on the application.
 void ApplyStyle();
 

@@ -1,8 +1,11 @@
 #include "platform/controls/form_kit.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QIcon>
 #include <QTimer>
+#include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -52,6 +55,26 @@ TEST(FormKit, AModalFormIsWorkedByTheRunnerOrWaitsForAPerson)
     SetModalRunner({});
     QTimer::singleShot(0, &form, [&form] { form.done(3); });
     EXPECT_EQ(ShowModal(form), 3);
+}
+
+TEST(FormKit, TheWheelTurnsOnlyTheListThatHasTheFocus)
+{
+    QWidget form;
+    QVBoxLayout layout(&form);
+    QComboBox lists[2];
+    for (QComboBox& list : lists) {
+        list.addItems({"one", "two"});
+        layout.addWidget(&list);
+    }
+    form.show();
+    form.activateWindow();
+    lists[0].setFocus();
+    QApplication::processEvents();
+    for (QComboBox& list : lists) {
+        QWheelEvent wheel({5, 5}, list.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&list, &wheel);
+    }
+    EXPECT_EQ(lists[0].currentText() + lists[1].currentText(), "twoone");
 }
 
 TEST(FormKit, GuardsGiveBackWhatTheyFound)
