@@ -40,12 +40,13 @@ void Open(QWidget* parent)
 }
 } // namespace
 
-/// Opens a form that may change what the calendar and its lists show.
+/// Opens a form that may change what the calendar and its lists show. The window is busy only with the reload: a form
+/// left open must not keep an idle program alive.
 template <typename Form>
 void frmMain::OpenEditor()
 {
-    const LoadingGuard busy(Busy);
     Open<Form>(this);
+    const LoadingGuard busy(Busy);
     ReloadSelection();
 }
 
@@ -131,10 +132,11 @@ void frmMain::ToolClicked()
 
 void frmMain::imgUpdateSelection_Click()
 {
-    const LoadingGuard busy(Busy);
     frmSelectEmployee form(this);
-    if (ShowModal(form) == QDialog::Accepted)
-        ReloadSelection();
+    if (ShowModal(form) != QDialog::Accepted)
+        return;
+    const LoadingGuard busy(Busy);
+    ReloadSelection();
 }
 
 void frmMain::ShowHint(const QString& hint)

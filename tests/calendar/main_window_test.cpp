@@ -4,6 +4,7 @@
 #include "foundation/frm_login.h"
 #include "platform/clock.h"
 #include "platform/controls/flex_grid.h"
+#include "reference/frm_organizations.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
 #include "selection/frm_select_employee.h"
@@ -506,6 +507,19 @@ TEST_F(MainWindow, AnIdleProgramCountsDownPastZeroAndEnds)
     main->IdleSeconds = 899;
     EXPECT_THROW(main->timTimeOut_Timer(), ProgramEnded);
     EXPECT_NE(house.Cell("SELECT LoggedIn FROM Employees WHERE RecordID = ?", {marie}), "0");
+}
+
+TEST_F(MainWindow, AFormLeftOpenDoesNotKeepAnIdleProgramAlive)
+{
+    Opens("ADMIN");
+    const auto isLeftOpen = [this](QDialog& form) {
+        main->IdleSeconds = SessionState.TimeOutSeconds + 59;
+        EXPECT_THROW(main->timTimeOut_Timer(), ProgramEnded);
+        form.reject();
+    };
+    user.WhenOpens<frmSelectEmployee>(isLeftOpen).Clicks("imgUpdateSelection");
+    user.WhenOpens<frmOrganizations>(isLeftOpen);
+    Chooses("mnuFileOrganizations");
 }
 
 TEST_F(MainWindow, TheTimersStepsRunInOrderAndOnce)
