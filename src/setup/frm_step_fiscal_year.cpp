@@ -87,6 +87,10 @@ void FiscalYearStep::ConnectControls()
     });
     connect(cboStartMonth, &QComboBox::currentIndexChanged, this, &FiscalYearStep::cboStartMonth_Click);
     connect(cboStartYear, &QComboBox::currentIndexChanged, this, &FiscalYearStep::cboStartMonth_Click);
+    connect(cboStartYear, &QComboBox::editTextChanged, this, [this](const QString& year) {
+        if (year.size() == kYearDigits)
+            cboStartMonth_Click();
+    });
     connect(cboStartYear->lineEdit(), &QLineEdit::editingFinished, this, &FiscalYearStep::cboStartMonth_Click);
 }
 
