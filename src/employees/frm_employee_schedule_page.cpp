@@ -104,7 +104,7 @@ void EmployeeSchedulePage::ConnectDay(int day)
         ConnectTime(time, day);
     for (QLineEdit* box : {txtTotalHours[day], txtTotalMinutes[day]}) {
         connect(box, &QLineEdit::textChanged, this, [this, day] { Total_Change(day); });
-        // Enter finishes the editing too, but stays in the box and presses the main button: see LeaveFocusedTotal.
+        // Enter finishes the editing too, but stays in the box and presses the main button: see LeaveFocusedTotalFor.
         connect(box, &QLineEdit::editingFinished, this, [this, box, day] {
             if (!box->hasFocus())
                 Total_LostFocus(day);
@@ -230,8 +230,10 @@ void EmployeeSchedulePage::Time_LostFocus(ClockTime time, int day)
 
 void EmployeeSchedulePage::Total_Change(int day)
 {
-    if (!Loading)
-        TypeTotal(record_, day, txtTotalHours[day]->text(), txtTotalMinutes[day]->text());
+    if (Loading)
+        return;
+    refusedFor_ = nullptr;
+    TypeTotal(record_, day, txtTotalHours[day]->text(), txtTotalMinutes[day]->text());
 }
 
 bool EmployeeSchedulePage::Total_LostFocus(int day)
@@ -240,13 +242,17 @@ bool EmployeeSchedulePage::Total_LostFocus(int day)
         return true;
     const auto refused = LeaveTotal(record_, day);
     ShowDay(day);
-    if (refused)
+    if (refused) {
+        refusedFor_ = window()->focusWidget();
         KeepFocus((*refused == TotalBox::Hours ? txtTotalHours : txtTotalMinutes)[day]);
+    }
     return !refused;
 }
 
-bool EmployeeSchedulePage::LeaveFocusedTotal()
+bool EmployeeSchedulePage::LeaveFocusedTotalFor(const QWidget* button)
 {
+    if (std::exchange(refusedFor_, nullptr) == button)
+        return false; // the press of the mouse was refused: the click that it ends in does not count
     const QWidget* focused = window()->focusWidget();
     for (int day = 0; day < kDays; ++day)
         if (focused == txtTotalHours[day] || focused == txtTotalMinutes[day])

@@ -24,8 +24,9 @@ public:
     void LoadComboBoxes();
     void Show();
     void SetEntryEnabled(bool enabled);
-    /// Takes in the total that has the focus, if one has. False when it was refused: it is blank and keeps the focus.
-    bool LeaveFocusedTotal();
+    /// Takes in the total that has the focus, if one has, before `button` does its work. False when it was refused,
+    /// also by the press that has just moved the focus to the button: it is blank and keeps the focus.
+    bool LeaveFocusedTotalFor(const QWidget* button);
 
 private:
     void BuildControls();
@@ -55,4 +56,5 @@ private:
     std::array<QLineEdit*, 7> txtTotalHours{};
     std::array<QLineEdit*, 7> txtTotalMinutes{};
     QCheckBox* chkIrregularHours = nullptr;
+    const QWidget* refusedFor_ = nullptr; ///< where the focus went from the total that was refused last
 };

@@ -205,7 +205,7 @@ bool frmEmployees::LoadEmployeeRecord()
 /// then.
 bool frmEmployees::LeavesFieldsFor(QPushButton* button)
 {
-    if (!schedule_->LeaveFocusedTotal())
+    if (!schedule_->LeaveFocusedTotalFor(button))
         return false;
     button->setFocus();
     return focusWidget() == button;

@@ -6,7 +6,9 @@
 #include "selection/frm_select_period.h"
 
 #include <QListWidget>
+#include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 
 namespace
 {
@@ -492,6 +494,11 @@ TEST_F(FrmEmployees, TheScheduleFillsInWhileThePersonTabsThroughIt)
     EXPECT_EQ(user.Reads("cboSecondHalfEndTime(2)") + user.Reads("txtTotalHours(2)"), "") << "typing clears";
     user.Types("txtTotalHours(3)", "24").Presses("txtTotalHours(3)", Qt::Key_Return);
     EXPECT_TRUE(user.HasFocus("txtTotalHours(3)")) << "nothing is saved, nothing is asked";
+    EXPECT_EQ(user.Reads("txtTotalHours(3)"), "");
+    user.Types("txtTotalHours(3)", "24");
+    auto* cmdAdd = user.The<frmEmployees>().findChild<QPushButton*>("cmdAdd");
+    QTest::mouseClick(cmdAdd, Qt::LeftButton);
+    EXPECT_TRUE(user.HasFocus("txtTotalHours(3)")) << "nor by the mouse";
     EXPECT_EQ(user.Reads("txtTotalHours(3)"), "");
 
     user.WillAnswer("CONFIRM:", "Yes", "will vary from one week to the next").Checks("chkIrregularHours");

@@ -7,6 +7,7 @@
 #include <QProxyStyle>
 #include <QStackedWidget>
 #include <QSvgRenderer>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 
@@ -43,6 +44,14 @@ public:
         if (hint == SH_ComboBox_AllowWheelScrolling && widget)
             return widget->hasFocus() ? 1 : 0;
         return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+    /// The tab that has the focus is known by its colour; the toolkit's frame would strike its caption through.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override
+    {
+        if (element != PE_FrameFocusRect || !qobject_cast<const QTabBar*>(widget))
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
