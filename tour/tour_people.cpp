@@ -214,6 +214,7 @@ void Tour::ModifyEmployee()
 
 void Tour::ListEmployees()
 {
+    Say("The lists of employees and categories");
     user_.WhenOpens<frmEmployees>([this](frmEmployees& form) {
         user_.WhenOpens<frmLists>([this](frmLists&) {
             Photo("lists_employees");
@@ -222,4 +223,10 @@ void Tour::ListEmployees()
         user_.Works(form).Clicks("cmdListRecords").Clicks("cmdQuit");
     });
     Choose("mnuFileEmployees");
+    user_.WhenOpens<frmLists>([this](frmLists&) {
+        Photo("lists_categories");
+        user_.Clicks("cmdOK");
+    });
+    frmLists categories(ListKind::Categories, main_.get());
+    ShowModal(categories);
 }
