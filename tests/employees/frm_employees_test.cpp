@@ -20,6 +20,51 @@ enum Tab
     kModules
 };
 
+/// What stands in the row that FillsInJeanMarc and SavesJeanMarc leave.
+QStringList JeanMarcsRow(int employee, int approver)
+{
+    return {"RecordID=" + QString::number(employee),
+            "FiscalYear=1",
+            "OrganizationID=1",
+            "DepartmentID=1",
+            "GroupID=1",
+            "FamilyName=O`brien-Smith",
+            "FirstName=Jean-Marc",
+            "EmployeeID=E12",
+            "AddressLine1=12, Elm St.",
+            "AddressLine2=H2X 1Y4",
+            "City=Laval",
+            "ProvinceState=Québec1",
+            "Country=Canada",
+            "PhoneHome=514-5550101",
+            "PhoneOffice=514555-0102",
+            "DateOfBirth=" + QString::number(SerialOfDate({1980, 2, 29})),
+            "DateEntered=46083",
+            "EnteredBy=ADMIN",
+            "DeactivatedBy= ",
+            "ReasonForDeactivation= ",
+            "HourlyRate=31.5",
+            "AttendanceApprovedBy_Main=" + QString::number(approver),
+            "HoursWorkedMonday=7",
+            "HoursWorkedTuesday=7",
+            "MONDAY_FirstHalfStart=1.0000000116860974e-07",
+            "MONDAY_FirstHalfEnd=4",
+            "MONDAY_SecondHalfStart=5",
+            "MONDAY_SecondHalfEnd=8",
+            "AccessToRestrictedCategory=1",
+            "GroupLevelRead=1",
+            "GroupLevelCreate=1",
+            "SelfLevelRead=1",
+            "AccessToCategoriesModule=1",
+            "Comment=Don`t call",
+            "EMailAddress=jm@example.org",
+            "Username=JEANMARCOBRIEN-",
+            "Password=SECRET7",
+            "HoursWorkedDaily=7",
+            "CanViewComments=1",
+            "LoginID=JEANMARCOBRIEN-SMITH"};
+}
+
 class FrmEmployees : public EmployeesTest
 {
 protected:
@@ -65,6 +110,55 @@ protected:
         return filled;
     }
 
+    /// Vacation without, sickness with a standard; a hidden category, and one that the department does not use.
+    void MonitorsCategories()
+    {
+        house.Sql("UPDATE Categories SET RequiresMonitoring = 1 WHERE FiscalYear = 1 AND TimeBankRelated = 0");
+        house.Sql("UPDATE Categories SET StandardEntitlement = 37.5, CarryOverAtYearEnd = 1 WHERE RecordID = ?",
+                  {house.CategoryID("Sick")});
+        house.Sql("UPDATE Categories SET Restricted = 1 WHERE RecordID = ?", {house.CategoryID("Personal time")});
+        house.Sql("UPDATE CategoriesDepartments SET IsUsed = 0 WHERE CategoryID = ? AND DepartmentID = 1",
+                  {house.CategoryID("Doctor appointments")});
+    }
+    /// Types what the filters, the defaults of the schedule and the rights make something else of.
+    void FillsInJeanMarc()
+    {
+        user.Picks("lstOrganizations", "Southern Trade").Picks("lstDepartments", "Production");
+        EXPECT_EQ(user.Reads("lstOrganizations") + user.Reads("lstGroups"), "Northern Works");
+        user.Picks("lstGroups", "Assembly");
+        user.Types("txtName", "o'brien-smith 2").Types("txtFirstName", "jean-MARC").Types("txtEmployeeID", "E#12");
+        user.Types("txtHourlyRate", "$31.5").Types("txtAddressLine1", "12, \"Elm\" St.").Types("txtCity", "Laval");
+        user.Types("txtStateProvince", "Québec 1").Types("txtPostalCode", "h2x 1y4").Types("txtCountry", "Canada");
+        user.Types("txtPhoneHome", "514-555 0101").Types("txtPhoneWork", "(514)555-0102");
+        user.Types("txtEMail", "j m@example.org").Types("txtComment", "Don't #call ");
+        user.Picks("cboBirthYear", "1980").Picks("cboBirthMonth", "2").Picks("cboBirthDay", "29");
+        user.Picks("cboHireYear", "2020").Picks("cboHireMonth", "1");
+        OnTab(kSchedule);
+        PicksDay(1, {"00:00", "04:00", "05:00", "08:00"});
+        user.Types("txtTotalHours(2)", "7").LeavesField("txtTotalHours(2)");
+        OnTab(kProfile).Types("txtUserName", "jeanmarc obrien-smith").Types("txtPassword", "secret7");
+        user.Picks("cboApprovedBy_FirstLevel", "Production           / Roy, Marc");
+        user.Checks("chkGroup_CreateOnly").Checks("chkViewComments");
+        OnTab(kModules).Checks("chkModuleCategories");
+    }
+    /// The second press, with all that it asks and tells.
+    void SavesJeanMarc()
+    {
+        user.WillAnswer("WARNING:", "Yes", "Tuesday\t\t07:00\t\t00:00\r\n")
+            .WillAnswer(
+                "CONFIRM:", "Yes",
+                "Add the following employee record to your database?\r\n\r\n"
+                "Name and ID:\t\tJean-Marc O`brien-Smith     E12\r\nOrganization:\t\tNorthern Works\r\n"
+                "Department:\t\tProduction\r\nGroup:      \t\tAssembly\r\nHours worked:      \t\tMon - 07:00, Tue - "
+                "07:00\r\nUsername and password:\tJEANMARCOBRIEN-SMITH, SECRET7\r\nSecurity profile by level")
+            .WillAnswer("REMINDER:", "OK", "for the following categorie(s):\r\n\r\n - Vacation\r\n")
+            .WillAnswer("REMINDER:", "OK",
+                        "The next fiscal year (2027) having already been created, you will now be required to create "
+                        "Jean-Marc O`brien-Smith in the new year yourself.")
+            .WillAnswer("OPERATION COMPLETED:", "OK", "The new employee has been added to your database.")
+            .Clicks("cmdAdd");
+    }
+
     int NewestEmployee() { return house.Number("SELECT MAX(RecordID) FROM Employees"); }
     int CountOf(const QString& table) { return house.Number("SELECT COUNT(*) FROM " + table); }
 };
@@ -72,12 +166,7 @@ protected:
 TEST_F(FrmEmployees, ANewEmployeeIsWrittenWithAllThatWasTypedAndHisEntitlements)
 {
     house.FiscalYear("2027", 2027);
-    house.Sql("UPDATE Categories SET RequiresMonitoring = 1 WHERE FiscalYear = 1 AND TimeBankRelated = 0");
-    house.Sql("UPDATE Categories SET StandardEntitlement = 37.5, CarryOverAtYearEnd = 1 WHERE RecordID = ?",
-              {house.CategoryID("Sick")});
-    house.Sql("UPDATE Categories SET Restricted = 1 WHERE RecordID = ?", {house.CategoryID("Personal time")});
-    house.Sql("UPDATE CategoriesDepartments SET IsUsed = 0 WHERE CategoryID = ? AND DepartmentID = 1",
-              {house.CategoryID("Doctor appointments")});
+    MonitorsCategories();
     house.LogIn("ADMIN");
 
     Opens();
@@ -86,79 +175,11 @@ TEST_F(FrmEmployees, ANewEmployeeIsWrittenWithAllThatWasTypedAndHisEntitlements)
     StartsAdding();
     EXPECT_TRUE(user.HasFocus("txtName"));
     EXPECT_FALSE(user.CanUse("cmdModify") || user.CanUse("cmdQuit") || user.CanUse("cmdTransfer"));
-    user.Picks("lstOrganizations", "Southern Trade").Picks("lstDepartments", "Production");
-    EXPECT_EQ(user.Reads("lstOrganizations") + user.Reads("lstGroups"), "Northern Works");
-    user.Picks("lstGroups", "Assembly");
-    user.Types("txtName", "o'brien-smith 2").Types("txtFirstName", "jean-MARC").Types("txtEmployeeID", "E#12");
-    user.Types("txtHourlyRate", "$31.5").Types("txtAddressLine1", "12, \"Elm\" St.").Types("txtCity", "Laval");
-    user.Types("txtStateProvince", "Québec 1").Types("txtPostalCode", "h2x 1y4").Types("txtCountry", "Canada");
-    user.Types("txtPhoneHome", "514-555 0101").Types("txtPhoneWork", "(514)555-0102");
-    user.Types("txtEMail", "j m@example.org").Types("txtComment", "Don't #call ");
-    user.Picks("cboBirthYear", "1980").Picks("cboBirthMonth", "2").Picks("cboBirthDay", "29");
-    user.Picks("cboHireYear", "2020").Picks("cboHireMonth", "1");
-    OnTab(kSchedule);
-    PicksDay(1, {"00:00", "04:00", "05:00", "08:00"});
-    user.Types("txtTotalHours(2)", "7").LeavesField("txtTotalHours(2)");
-    OnTab(kProfile).Types("txtUserName", "jeanmarc obrien-smith").Types("txtPassword", "secret7");
-    user.Picks("cboApprovedBy_FirstLevel", "Production           / Roy, Marc");
-    user.Checks("chkGroup_CreateOnly").Checks("chkViewComments");
-    OnTab(kModules).Checks("chkModuleCategories");
-
-    user.WillAnswer("WARNING:", "Yes", "Tuesday\t\t07:00\t\t00:00\r\n")
-        .WillAnswer(
-            "CONFIRM:", "Yes",
-            "Add the following employee record to your database?\r\n\r\n"
-            "Name and ID:\t\tJean-Marc O`brien-Smith     E12\r\nOrganization:\t\tNorthern Works\r\n"
-            "Department:\t\tProduction\r\nGroup:      \t\tAssembly\r\nHours worked:      \t\tMon - 07:00, Tue - "
-            "07:00\r\nUsername and password:\tJEANMARCOBRIEN-SMITH, SECRET7\r\nSecurity profile by level")
-        .WillAnswer("REMINDER:", "OK", "for the following categorie(s):\r\n\r\n - Vacation\r\n")
-        .WillAnswer("REMINDER:", "OK",
-                    "The next fiscal year (2027) having already been created, you will now be required to create "
-                    "Jean-Marc O`brien-Smith in the new year yourself.")
-        .WillAnswer("OPERATION COMPLETED:", "OK", "The new employee has been added to your database.")
-        .Clicks("cmdAdd");
+    FillsInJeanMarc();
+    SavesJeanMarc();
 
     const int employee = NewestEmployee();
-    EXPECT_EQ(Filled("Employees", employee), (QStringList{"RecordID=" + QString::number(employee),
-                                                          "FiscalYear=1",
-                                                          "OrganizationID=1",
-                                                          "DepartmentID=1",
-                                                          "GroupID=1",
-                                                          "FamilyName=O`brien-Smith",
-                                                          "FirstName=Jean-Marc",
-                                                          "EmployeeID=E12",
-                                                          "AddressLine1=12, Elm St.",
-                                                          "AddressLine2=H2X 1Y4",
-                                                          "City=Laval",
-                                                          "ProvinceState=Québec1",
-                                                          "Country=Canada",
-                                                          "PhoneHome=514-5550101",
-                                                          "PhoneOffice=514555-0102",
-                                                          "DateOfBirth=" + QString::number(SerialOfDate({1980, 2, 29})),
-                                                          "DateEntered=46083",
-                                                          "EnteredBy=ADMIN",
-                                                          "DeactivatedBy= ",
-                                                          "ReasonForDeactivation= ",
-                                                          "HourlyRate=31.5",
-                                                          "AttendanceApprovedBy_Main=" + QString::number(marc),
-                                                          "HoursWorkedMonday=7",
-                                                          "HoursWorkedTuesday=7",
-                                                          "MONDAY_FirstHalfStart=1.0000000116860974e-07",
-                                                          "MONDAY_FirstHalfEnd=4",
-                                                          "MONDAY_SecondHalfStart=5",
-                                                          "MONDAY_SecondHalfEnd=8",
-                                                          "AccessToRestrictedCategory=1",
-                                                          "GroupLevelRead=1",
-                                                          "GroupLevelCreate=1",
-                                                          "SelfLevelRead=1",
-                                                          "AccessToCategoriesModule=1",
-                                                          "Comment=Don`t call",
-                                                          "EMailAddress=jm@example.org",
-                                                          "Username=JEANMARCOBRIEN-",
-                                                          "Password=SECRET7",
-                                                          "HoursWorkedDaily=7",
-                                                          "CanViewComments=1",
-                                                          "LoginID=JEANMARCOBRIEN-SMITH"}));
+    EXPECT_EQ(Filled("Employees", employee), JeanMarcsRow(employee, marc));
     EXPECT_EQ(house.Rows("SELECT SystemName, AnnualEntitlement, MayBeCarriedOver, Entitlements.Active, CarriedOver, "
                          "Entitlements.FiscalYear, EnteredBy, EnteredDate, Comment FROM Entitlements JOIN Categories "
                          "ON CategoryID = Categories.RecordID WHERE EmployeeID = ? ORDER BY CategoryID",
