@@ -12,7 +12,7 @@ namespace
 const char* const kMark = " X";
 const char* const kRemovalMark = " X     ";
 
-void TellError(const char* english, const char* french)
+void Refuse(const char* english, const char* french)
 {
     Tell(T("ERROR:", "ERREUR:"), T(english, french), Face::Warning);
 }
@@ -57,14 +57,14 @@ void CalendarTools::imgZoom_Click()
 bool CalendarTools::CanCreate() const
 {
     if (SessionState.EmployeeID == 0) {
-        TellError("You must first select an employee!", "Vous devez d'abord sélectionner un(e) employé(e)!");
+        Refuse("You must first select an employee!", "Vous devez d'abord sélectionner un(e) employé(e)!");
         return false;
     }
     if (SessionState.CurrentSelection == "ADMIN") {
-        TellError("The system administrator is not considered as an employee! You can only enter / submit attendance "
-                  "records for employees within your organization.",
-                  "L'administrateur du système, n'est pas considéré comme un employé! Vous ne pouvez enregistrer ou "
-                  "soumettre des absences que pour les employés de votre entreprise.");
+        Refuse("The system administrator is not considered as an employee! You can only enter / submit attendance "
+               "records for employees within your organization.",
+               "L'administrateur du système, n'est pas considéré comme un employé! Vous ne pouvez enregistrer ou "
+               "soumettre des absences que pour les employés de votre entreprise.");
         return false;
     }
     return true;
@@ -310,8 +310,8 @@ void CalendarTools::EndMultipleSelection()
     const auto end = std::find(s.AttendanceDates.begin(), s.AttendanceDates.end(), 0);
     std::sort(s.AttendanceDates.begin(), end);
     if (s.AttendanceDates[0] == 0)
-        return TellError("You must first select date(s) from the calendar!",
-                         "Vous devez d'abord sélectionner une ou plusieurs dates à l'intérieur du calendrier!");
+        return Refuse("You must first select date(s) from the calendar!",
+                      "Vous devez d'abord sélectionner une ou plusieurs dates à l'intérieur du calendrier!");
     s.CreatingMultiple = true;
     host_.ShowHint({});
     host_.ShowAttendance(0, conflictsAccepted_);
@@ -379,9 +379,9 @@ void CalendarTools::imgRemove_Click()
     for (const auto& [date, record] : removals_)
         MarkedRecords.push_back(record);
     if (MarkedRecords.empty())
-        return TellError("You must first select record(s) to be cancelled from the calendar!",
-                         "Vous devez d'abord sélectionner les enregistrements à être supprimés à l'intérieur du "
-                         "calendrier!");
+        return Refuse("You must first select record(s) to be cancelled from the calendar!",
+                      "Vous devez d'abord sélectionner les enregistrements à être supprimés à l'intérieur du "
+                      "calendrier!");
     host_.ShowHint({});
     host_.RemoveMarkedRecords();
     End();

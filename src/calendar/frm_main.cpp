@@ -13,7 +13,6 @@
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
 #include "ledger/time_banks.h"
-#include "platform/clock.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
 
@@ -92,7 +91,6 @@ void frmMain::Form_Load()
     ActivateAllowedControls();
     DisplayNames();
     header_->ShowTotal(DurationAsText(0));
-    LastTimerTick = CurrentDateTime();
     pane_->Cover();
     timAbsence->start(1000);
     timTimeOut->start(1000);
@@ -131,11 +129,7 @@ void frmMain::DisplayNames()
 QVector<CalendarRecord> frmMain::LoadAttendance_ACCESS()
 {
     total_ = TotalForTheYear(datAbsence);
-    const QVector<CalendarRecord> records = RecordsOfTheYear(datAbsence);
-    FirstRecordDate = records.isEmpty() ? 0 : records.first().RecordDate;
-    LastRecordDate = records.isEmpty() ? 0 : records.last().RecordDate;
-    RecordCount = static_cast<int>(records.size());
-    return records;
+    return RecordsOfTheYear(datAbsence);
 }
 
 QVector<CalendarRecord> frmMain::LoadAttendance_SQL()

@@ -5,7 +5,6 @@
 #include "calendar/minute_work.h"
 #include "calendar/year_change.h"
 
-#include <QDateTime>
 #include <QMainWindow>
 
 #include <memory>
@@ -99,11 +98,7 @@ private:
     CalendarTools tools_{*this};
     MinuteWork minuteWork_;
     float total_ = 0;
-    int FirstRecordDate = 0;
-    int LastRecordDate = 0;
-    int RecordCount = 0;
     bool CalendarLoaded = false;
-    QDateTime LastTimerTick;
 
     std::unique_ptr<MainMenus> menus_;
     ToolBar* toolBar_ = nullptr;

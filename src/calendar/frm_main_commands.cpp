@@ -14,7 +14,6 @@
 #include "foundation/rows.h"
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
-#include "platform/clock.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
 #include "reference/frm_departments.h"
@@ -229,7 +228,6 @@ void frmMain::timAbsence_Timer()
     }
     RunMinuteWork();
     ActivateAllowedControls();
-    LastTimerTick = CurrentDateTime();
 }
 
 /// A step that fails is told; it must not keep the window locked.

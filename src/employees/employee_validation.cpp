@@ -108,15 +108,13 @@ Verdict CheckLoginID(Validation& v)
         return {};
     return Refuse(
         T("You must specify a username and a password for this employee!\r\n\r\nNOTE: While the username can be "
-          "anything, "
-          "we suggest you adopt a certain standard and adhere to it. For example, the username could be made of the "
-          "first letter of the employee's first name followed by their family name. According to this structure James "
-          "Bond's username would be «JBOND».",
+          "anything, we suggest you adopt a certain standard and adhere to it. For example, the username could be made "
+          "of the first letter of the employee's first name followed by their family name. According to this structure "
+          "James Bond's username would be «JBOND».",
           "Vous devez spécifier un nom d'usager et un mot-clé pour cet(te) employé(e)!\r\n\r\nN.B.: Bien que le nom "
           "d'usager puisse être n'importe quoi, nous vous suggérons d'adopter un standard et d'y adhérer. Vous "
-          "pourriez, "
-          "par exemple, combiner la première du prénom de l'employé(e) à son nom de famille. Selon cette structure, "
-          "James Bond aurait pour nom d'usager «JBOND»."),
+          "pourriez, par exemple, combiner la première du prénom de l'employé(e) à son nom de famille. Selon cette "
+          "structure, James Bond aurait pour nom d'usager «JBOND»."),
         Profile("txtUserName"));
 }
 
@@ -184,10 +182,9 @@ Verdict CheckEMail(Validation& v)
         "e-mail address for this employee?",
         "Vous n'avez pas spécifié le courriel de cet(te) employé(e)!\r\n\r\nTARVELL est conçu afin d'envoyer "
         "automatiquement un message de confirmation chaque fois que les demandes de congé d'un employé sont "
-        "approuvées. "
-        "À moins que vous ne spécifiiez le courriel de {FirstName} {Name}, vous devrez avoir recours à une autre "
-        "méthode afin d'aviser cet(te) employé(e) chaque fois que ses demandes de congé seront approuvées.\r\n\r\n"
-        "Souhaitez-vous continuer sans spécifier le courriel de {FirstName} {Name}?");
+        "approuvées. À moins que vous ne spécifiiez le courriel de {FirstName} {Name}, vous devrez avoir recours à une "
+        "autre méthode afin d'aviser cet(te) employé(e) chaque fois que ses demandes de congé seront "
+        "approuvées.\r\n\r\nSouhaitez-vous continuer sans spécifier le courriel de {FirstName} {Name}?");
     accepted = Ask(T("WARNING:", "VEUILLEZ CONFIRMER:"), WithName(text, v.Record), Face::Warning);
     return Confirmed(accepted, General("txtEMail"));
 }
@@ -200,9 +197,9 @@ Verdict CheckApprover(Validation& v)
     const QString text = T(
         "TARVELL is designed to allow employees to submit their own requests for leave and have them approved by the "
         "individual of your choice. This is a very useful feature of the system as it makes it possible to "
-        "decentralize "
-        "the data entry while keeping the required controls centralized.\r\n\r\nYou did not specify the name of the "
-        "employee who will be authorized to approve {FirstName} {Name}'s requests for leave. Proceed anyway?",
+        "decentralize the data entry while keeping the required controls centralized.\r\n\r\nYou did not specify the "
+        "name of the employee who will be authorized to approve {FirstName} {Name}'s requests for leave. Proceed "
+        "anyway?",
         "TARVELL permet aux employé(e)s de soumettre leurs propres demandes de congé et de les faire approuver par une "
         "personne désignée. Il s'agit d'une caractéristique très avantageuse du système puisqu'elle permet de "
         "décentraliser le fardeau de la saisie des données tout en centralisant les contrôles "

@@ -31,15 +31,12 @@ constexpr ModuleTexts kModules[] = {
      "If granted access to this module, the user will be authorized to define new categories of attendance or modify "
      "existing ones",
      "L'usager qui a accès à ce module est autorisé à définir de nouvelles catégories d'absences et à modifier celles "
-     "qui "
-     "existent"},
+     "qui existent"},
     {"EMPLOYEE ENTITLEMENTS MANAGEMENT MODULE", "MODULE DE GESTION DU TEMPS ALLOUÉ AUX EMPLOYÉS",
      "If granted access to this module, the user will be authorized to update the annual entitlements of employees at "
-     "a "
-     "level lower than his own",
+     "a level lower than his own",
      "L'usager qui a accès à ce module est autorisé à mettre à jour le temps alloué annuellement aux employés d'un "
-     "niveau "
-     "inférieur au sien"},
+     "niveau inférieur au sien"},
     {"EMPLOYEES CREATION MODULE", "MODULE DE CRÉATION DES EMPLOYÉS",
      "If granted access to this module, the user will be authorized to create new employee records or modify existing "
      "ones. The user will only be allowed to define security profiles equivalent or inferior to his own. The user will "

@@ -134,8 +134,7 @@ void EmployeeSchedulePage::LoadCaptions()
         "Providing this information greatly accelerates the process of entering attendance records. In most cases, all "
         "you will ever need to do is check a box to specify the duration of an absence.",
         "Si l'employé(e) travaille selon un horaire régulier, vous devriez prendre le temps de détailler cet horaire. "
-        "En "
-        "fournissant cette information dès le départ, vous réduirez considérablement le temps nécessaire à "
+        "En fournissant cette information dès le départ, vous réduirez considérablement le temps nécessaire à "
         "l'enregistrement des absences. Dans la plupart des cas, il vous suffira de cocher une case afin de spécifier "
         "la durée d'une absence."));
     lblFirstHalf->setText(T("First half of the day", "Première moitié de la journée"));

@@ -49,9 +49,8 @@ void RemindOfNextYear(const EmployeeRecord& record)
         return;
     const QString text =
         T("TARVELL automatically reproduces your list of employees from one fiscal year to the next upon creation of a "
-          "new "
-          "fiscal year. The next fiscal year ({NextFYName}) having already been created, you will now be required to "
-          "create {FirstName} {Name} in the new year yourself.",
+          "new fiscal year. The next fiscal year ({NextFYName}) having already been created, you will now be required "
+          "to create {FirstName} {Name} in the new year yourself.",
           "TARVELL reproduit automatiquement la liste de vos employés d'une année fiscale à l'autre au moment de la "
           "création d'une nouvelle année fiscale. La prochaine année fiscale ({NextFYName}) ayant déjà été créée, vous "
           "allez devoir y ajouter {FirstName} {Name} vous-même.");
@@ -80,8 +79,7 @@ void TellWithoutReason(const EmployeeRecord& record)
     const QString text =
         T("You did not specify a reason for the deactivation of {FirstName} {Name}. The operation is now cancelled.",
           "Vous n'avez spécifié aucune une raison pour la désactivation de {FirstName} {Name}. L'opération est "
-          "maintenant "
-          "annulée.");
+          "maintenant annulée.");
     Tell(T("OPERATION CANCELLED:", "OPÉRATION ANNULÉE:"), WithName(text, record));
 }
 

@@ -39,10 +39,8 @@ bool AskForRetroactiveRate(const EmployeeRecord& record)
     const QString text = T(
         "You just modified this employee's hourly rate as follows:\r\n\r\n » Previous rate:\t{old}\r\n » New "
         "rate:\t\t{new}\r\n\r\nDo you wish to apply this hourly rate retroactively to the attendance records entered "
-        "so "
-        "far in fiscal year {FiscalYearName}?\r\n\r\nNOTE: It will be possible for you to specify the date at which "
-        "the "
-        "change of rate became effective.",
+        "so far in fiscal year {FiscalYearName}?\r\n\r\nNOTE: It will be possible for you to specify the date at which "
+        "the change of rate became effective.",
         "Vous venez d'effectuer le changement suivant au taux horaire de cet(te) employé(e):\r\n\r\n » Taux horaire "
         "précédent:\t{old}\r\n » Nouveau taux horaire:  \t\t{new}\r\n\r\nSouhaitez-vous appliquer ce nouveau taux "
         "horaire rétroactivement aux absences enregistrées jusqu'à présent durant l'année fiscale "

@@ -152,8 +152,7 @@ std::optional<FieldInError> CheckThatDaysHaveHours(const EmployeeRecord& record)
          T("You must specify the employee's weekly schedule! If the employee works irregular hours, check the box "
            "reserved to that effect.",
            "Vous devez spécifier l'horaire de travail de l'employé(e). Si l'employé(e) ne travaille pas selon un "
-           "horaire "
-           "régulier veuillez cocher la case destinée à cet effet."),
+           "horaire régulier veuillez cocher la case destinée à cet effet."),
          Face::Warning);
     return FieldInError{EmployeeTab::Schedule, {}};
 }

@@ -42,13 +42,10 @@ void frmChangePassword::BuildControls()
                           {&lblNewPassword, &txtNewPassword, "NewPassword"},
                           {&lblRepeatedPassword, &txtRepeatedPassword, "RepeatedPassword"}};
     for (const auto& [label, text, name] : rows) {
-        *label = AsHead(Named<QLabel>(QLatin1String("lbl") + name));
+        *label = Named<QLabel>(QLatin1String("lbl") + name);
         *text = Named<QLineEdit>(QLatin1String("txt") + name);
         (*text)->setMinimumWidth(kFieldWidth);
-        (*label)->setBuddy(*text);
-        const int row = fields->rowCount();
-        fields->addWidget(*label, row, 0);
-        fields->addWidget(*text, row, 1);
+        AddFieldRow(fields, *label, *text);
     }
     txtUserID->setReadOnly(true);
     QVBoxLayout* page = PageLayout(this);
@@ -103,11 +100,9 @@ bool frmChangePassword::ArePasswordsValid()
     if (!IsUserPassword(datAbsence, txtOldPassword->text())) {
         Tell(T("UNABLE TO PROCEED!", "OPÉRATION REFUSÉE!"),
              T("The current password you specified is wrong!\r\n\r\nIf you have forgotten your current password you "
-               "may get "
-               "that information from your system administrator.",
+               "may get that information from your system administrator.",
                "Le mot-clé actuel que vous avez spécifié est erroné!\r\n\r\nSi vous avez oublié votre mot-clé actuel, "
-               "vous "
-               "pouvez l'obtenir auprès de votre administrateur du système."),
+               "vous pouvez l'obtenir auprès de votre administrateur du système."),
              Face::Warning);
         txtOldPassword->setFocus();
         return false;
@@ -115,11 +110,9 @@ bool frmChangePassword::ArePasswordsValid()
     if (txtNewPassword->text().toUpper() != txtRepeatedPassword->text().toUpper()) {
         Tell(T("UNABLE TO PROCEED!", "OPÉRATION REFUSÉE!"),
              T("The two new passwords you specified are different!\r\n\r\nPlease re-enter your new password and click "
-               "on "
-               "«Accept» again.",
+               "on «Accept» again.",
                "Les deux nouveaux mots-clés que vous avez spécifiés sont différents!\r\n\r\nVeuillez entrer de nouveau "
-               "votre "
-               "nouveau mot-clé et cliquer encore sur «Accepter»."),
+               "votre nouveau mot-clé et cliquer encore sur «Accepter»."),
              Face::Warning);
         txtNewPassword->setFocus();
         return false;

@@ -41,15 +41,12 @@ void frmUpdateAdminInfo::BuildControls()
                           {&lblPhoneOffice, &txtPhoneOffice, "PhoneOffice", 20, KeyFilter::Phone},
                           {&lblEMailAddress, &txtEMailAddress, "EMailAddress", 75, KeyFilter::EMailAddress}};
     for (const auto& [label, text, name, limit, filter] : rows) {
-        *label = AsHead(Named<QLabel>(QLatin1String("lbl") + name));
+        *label = Named<QLabel>(QLatin1String("lbl") + name);
         *text = Named<QLineEdit>(QLatin1String("txt") + name);
         (*text)->setMaxLength(limit);
         (*text)->setMinimumWidth(kFieldWidth);
         FilterKeys(*text, filter);
-        (*label)->setBuddy(*text);
-        const int row = fields->rowCount();
-        fields->addWidget(*label, row, 0);
-        fields->addWidget(*text, row, 1);
+        AddFieldRow(fields, *label, *text);
     }
     QVBoxLayout* page = PageLayout(this);
     page->addWidget(MakeCard(fields));

@@ -51,8 +51,7 @@ void ConnectToNewAccessDatabase(DataControl& datAbsence)
     SessionState.SQL_Server = false;
     if (Ask(T("CONNECTION TO DATABASE SUCCESSFUL:", "CONNEXION À LA BANQUE DE DONNÉES ÉTABLIE:"),
             T("Tarvell was able to access the specified database.\r\n\r\nDo you wish to connect to the same database "
-              "the "
-              "next time you start Tarvell?",
+              "the next time you start Tarvell?",
               "Tarvell est maintenant connecté à la banque de données spécifiée.\r\n\r\nSouhaitez-vous exploiter cette "
               "banque de données la prochaine fois que vous démarrerez Tarvell?")))
         KeepConfiguration();

@@ -26,8 +26,8 @@ QVector<ListedApprover> LoadApproversList(DataControl& datAbsence)
     QVector<ListedApprover> approvers;
     for (Recordset row = datAbsence.Select(
              "SELECT Employees_List.* FROM Employees_List, Employees WHERE Employees_List.EmplID = Employees.RecordID "
-             "AND "
-             "Employees.IsAuthorizedToApprove = 1 AND Employees.DeactivatedDate = 0 AND Employees_List.FiscalYear = ? "
+             "AND Employees.IsAuthorizedToApprove = 1 AND Employees.DeactivatedDate = 0 AND Employees_List.FiscalYear "
+             "= ? "
              "ORDER BY Employees_List." +
                  units.join(", Employees_List.") + ", Employees_List.FamilyName, Employees_List.FirstName",
              SessionState.FiscalYearID);

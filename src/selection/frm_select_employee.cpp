@@ -86,8 +86,7 @@ void frmSelectEmployee::LoadCaptions()
             ? T("Select the organization, department, group or employee whose attendance you wish to display on the "
                 "calendar",
                 "Sélectionnez l'organisation, le département, le groupe ou l'employé(e) dont vous souhaitez afficher "
-                "les "
-                "absences sur le calendrier")
+                "les absences sur le calendrier")
             : T("Select the employee record to be modified or deactivated from the following list",
                 "Sélectionnez l'employé(e) à être modifié(e) ou désactivé(e)"));
     heads_[Index(ReachList::Organizations)]->setText(T("&Organizations", "&Organisations"));

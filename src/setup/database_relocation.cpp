@@ -17,11 +17,9 @@ void TellOtherName()
 {
     Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
          T("In order to move your database, specify the new directory where you want the database to be relocated but "
-           "do "
-           "not change the name of the database itself.",
+           "do not change the name of the database itself.",
            "Afin de relocaliser votre banque de données, spécifiez le nouveau répertoire où elle doit être déplacée "
-           "mais ne "
-           "changez pas le nom de la banque de données elle-même."),
+           "mais ne changez pas le nom de la banque de données elle-même."),
          Face::Warning);
 }
 
@@ -37,10 +35,8 @@ void TellOccupied(const QString& target)
 {
     Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
          Fill(T("The database «{path}» already exists!\r\n\r\nBecause of the risk that this other database could be in "
-                "use "
-                "by another implementation of Tarvell, it cannot be overwritten. If you are absolutely certain that "
-                "«{path}» "
-                "IS NOT an active database, you should erase it or rename it first.",
+                "use by another implementation of Tarvell, it cannot be overwritten. If you are absolutely certain "
+                "that «{path}» IS NOT an active database, you should erase it or rename it first.",
                 "La banque de données «{path}» existe déjà!\r\n\r\nPuisque cette autre banque de données pourrait être "
                 "exploitée par une autre installation de Tarvell, elle ne peut être remplacée. Si vous êtes absolument "
                 "certain que «{path}» N'EST PAS une banque de données active, vous devriez d'abord l'effacer ou la "

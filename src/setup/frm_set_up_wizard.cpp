@@ -228,23 +228,18 @@ bool frmSetUpWizard::IsDatabaseAccepted()
         if (isEmpty)
             Tell(T("ERROR:", "ERREUR:"),
                  Fill(T("The database you intend to use ({path}) is currently empty! If you are not certain where your "
-                        "actual "
-                        "database resides, please ask your network administrator.",
+                        "actual database resides, please ask your network administrator.",
                         "La banque de données que vous souhaitez exploiter ({path}) est présentement vide! Si vous "
-                        "n'êtes pas "
-                        "certain de l'endroit où se trouve votre banque de données, veuillez consulter votre "
-                        "administrateur "
-                        "de réseau."),
+                        "n'êtes pas certain de l'endroit où se trouve votre banque de données, veuillez consulter "
+                        "votre administrateur de réseau."),
                       {{"path", ShownPath(choices_.NewDatabasePath)}}),
                  Face::Warning);
         else
             Tell(T("DATABASE NOT EMPTY:", "BANQUE DE DONNÉES NON VIDE:"),
                  T("If you are trying to connect to an EXISTING database then you should go back one step (click "
-                   "«Previous») "
-                   "and select the appropriate option.",
+                   "«Previous») and select the appropriate option.",
                    "Si vous tentez de vous connecter à une banque de données EXISTANTE, vous devriez alors revenir à "
-                   "l'étape "
-                   "précédente (cliquez sur «Précédent») et sélectionner l'option appropriée."),
+                   "l'étape précédente (cliquez sur «Précédent») et sélectionner l'option appropriée."),
                  Face::Warning);
     } catch (const RuntimeError& error) {
         TellError(error);
@@ -299,21 +294,15 @@ void frmSetUpWizard::Configure(const QString& databaseType, void (*install)(Data
     setEnabled(true);
     Tell(T("CONFIGURATION COMPLETED SUCCESSFULLY:", "CONFIGURATION INITIALE COMPLÉTÉE:"),
          T("You have successfully completed the initial configuration of Tarvell. Before you can start using the "
-           "software to "
-           "record absences, you will be required to: \r\n\r\n"
-           " - Identify the various organizations (divisions) within your business or institution\r\n"
-           " - Subdivide your organizations or divisions into departments\r\n"
-           " - Subdivide your departments into functional groups (optional)\r\n"
-           " - Identify your employees\r\n"
-           " - Create your own categories of attendance (optional)",
+           "software to record absences, you will be required to: \r\n\r\n - Identify the various organizations "
+           "(divisions) within your business or institution\r\n - Subdivide your organizations or divisions into "
+           "departments\r\n - Subdivide your departments into functional groups (optional)\r\n - Identify your "
+           "employees\r\n - Create your own categories of attendance (optional)",
            "Vous avez complété avec succès la configuration initiale de Tarvell. Avant de pouvoir utiliser le logiciel "
-           "pour "
-           "enregistrer des absences, vous devrez: \r\n\r\n"
-           " - Identifier les diverses organisations (divisions) de votre entreprise ou institution\r\n"
-           " - Subdiviser vos organisations ou divisions en départements\r\n"
-           " - Subdiviser vos départements en groupes fonctionnels (facultatif)\r\n"
-           " - Identifier vos employés\r\n"
-           " - Créer vos propres catégories d'absentéisme (facultatif)"),
+           "pour enregistrer des absences, vous devrez: \r\n\r\n - Identifier les diverses organisations (divisions) "
+           "de votre entreprise ou institution\r\n - Subdiviser vos organisations ou divisions en départements\r\n - "
+           "Subdiviser vos départements en groupes fonctionnels (facultatif)\r\n - Identifier vos employés\r\n - Créer "
+           "vos propres catégories d'absentéisme (facultatif)"),
          Face::Congratulating);
     StartNormally();
 }

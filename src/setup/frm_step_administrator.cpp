@@ -47,11 +47,8 @@ void AdministratorStep::BuildControls()
         (*field.Control)->setMaxLength(field.Limit);
         (*field.Control)->setFixedWidth(kFieldWidth);
         FilterKeys(*field.Control, field.Filter);
-        labels_[row] = AsHead(new QLabel);
-        labels_[row]->setBuddy(*field.Control);
-        content->addWidget(labels_[row], row + 2, 0);
-        content->addWidget(*field.Control, row + 2, 1);
-        ++row;
+        labels_[row] = new QLabel(this);
+        AddFieldRow(content, labels_[row++], *field.Control);
     }
     txtAdminUsername->setText("ADMIN");
     txtAdminUsername->setReadOnly(true);

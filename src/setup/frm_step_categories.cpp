@@ -163,17 +163,13 @@ void CategoriesStep::LoadCaptions()
 {
     lblCategoriesHelp->setText(
         T("Tarvell supports four basic categories of attendance, which are used by most businesses and institutions. "
-          "They "
-          "are the following: Vacation, Sick, Personal time and Doctor appointments. Though Tarvell lets you create as "
-          "many "
-          "categories as you want, you are required to specify how these four basic categories will be managed in your "
-          "own "
-          "environment.",
+          "They are the following: Vacation, Sick, Personal time and Doctor appointments. Though Tarvell lets you "
+          "create as many categories as you want, you are required to specify how these four basic categories will be "
+          "managed in your own environment.",
           "Tarvell comporte quatre catégories d'absentéisme de base, utilisées dans la plupart des entreprises et "
           "institutions. Ce sont les suivantes: Vacances, Maladie, Temps personnel et Rendez-vous médical. Bien que "
-          "Tarvell "
-          "vous permette de créer autant de catégories que vous le souhaitez, vous devez spécifier comment ces quatre "
-          "catégories de base seront gérées dans votre propre environnement."));
+          "Tarvell vous permette de créer autant de catégories que vous le souhaitez, vous devez spécifier comment ces "
+          "quatre catégories de base seront gérées dans votre propre environnement."));
     lblRow[0]->setText(T("Name of the category", "Nom de la catégorie"));
     lblRow[1]->setText(T("All employees are entitled to the same amount of time",
                          "Tous les employés ont droit à la même quantité de temps"));

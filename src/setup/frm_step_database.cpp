@@ -26,8 +26,7 @@ void TellRelocationFailure(const RuntimeError& error)
               "{description}\r\n\r\nPlease try again and if the problem persists, contact your network administrator.",
               "L'erreur suivante est survenue lors de la relocalisation de votre banque de données:\r\n\r\n{number}: "
               "{description}\r\n\r\nVeuillez essayer de nouveau et si le problème persiste, contactez votre "
-              "administrateur "
-              "de réseau."),
+              "administrateur de réseau."),
             {{"number", QString::number(error.Number)}, {"description", error.Description}}),
         Face::Ashamed);
 }
@@ -47,11 +46,9 @@ void TellInvalidStructure()
 {
     Tell(T("INVALID DATABASE STRUCTURE:", "STRUCTURE DE BANQUE DE DONNÉES INVALIDE:"),
          T("Please confirm with your network administrator that the IP address and database name you were given are "
-           "really "
-           "for Tarvell.",
+           "really for Tarvell.",
            "Veuillez confirmer auprès de votre administrateur de réseau que l'adresse IP et le nom de banque de "
-           "données qui "
-           "vous ont été fournis sont bien ceux de Tarvell."),
+           "données qui vous ont été fournis sont bien ceux de Tarvell."),
          Face::Warning);
 }
 
@@ -156,13 +153,10 @@ void DatabaseStep::LoadCaptions()
             ? T("Your database may stay on this computer if you are the only one to use it. If other people are to use "
                 "Tarvell, move it to a network folder that all of them can reach and write to.",
                 "Votre banque de données peut demeurer sur cet ordinateur si vous êtes la seule personne à l'utiliser. "
-                "Si "
-                "d'autres personnes doivent exploiter Tarvell, déplacez-la dans un répertoire du réseau auquel toutes "
-                "ont "
-                "accès, en lecture et en écriture.")
+                "Si d'autres personnes doivent exploiter Tarvell, déplacez-la dans un répertoire du réseau auquel "
+                "toutes ont accès, en lecture et en écriture.")
             : T("Specify the network folder where your organization keeps its database. If you do not know it, ask "
-                "your "
-                "network administrator.",
+                "your network administrator.",
                 "Spécifiez le répertoire du réseau où votre organisation conserve sa banque de données. Si vous ne le "
                 "connaissez pas, informez-vous auprès de votre administrateur de réseau."));
     lblDatabaseHead->setText(T("Location of the database", "Emplacement de la banque de données"));

@@ -98,8 +98,7 @@ void FiscalYearStep::LoadCaptions()
 {
     lblFiscalYearHelp->setText(
         T("Before you can start using Tarvell, the very first thing you need to do is create a fiscal year; the period "
-          "of "
-          "time during the course of which you record and monitor your employees' attendance.",
+          "of time during the course of which you record and monitor your employees' attendance.",
           "Avant de commencer à utiliser Tarvell, la toute première chose que vous devez faire est de créer une année "
           "fiscale; la période de temps au cours de laquelle vous enregistrez et contrôlez les absences de vos "
           "employés."));

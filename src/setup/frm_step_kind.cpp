@@ -28,49 +28,37 @@ constexpr KindText kKinds[] = {
      "\r\nYou will then create your first fiscal year, describe four categories of attendance and name your system "
      "administrator.",
      "Choisissez cette option si personne dans votre organisation n'utilise encore Tarvell. Vos données seront "
-     "conservées "
-     "dans un seul fichier, «Tarvell.mdb», que vous pouvez laisser sur cet ordinateur ou déplacer dans un répertoire "
-     "du "
-     "réseau si plusieurs personnes doivent l'exploiter.\r\n\r\nVous créerez ensuite votre première année fiscale, "
-     "décrirez "
-     "quatre catégories d'absentéisme et identifierez votre administrateur du système."},
+     "conservées dans un seul fichier, «Tarvell.mdb», que vous pouvez laisser sur cet ordinateur ou déplacer dans un "
+     "répertoire du réseau si plusieurs personnes doivent l'exploiter.\r\n\r\nVous créerez ensuite votre première "
+     "année fiscale, décrirez quatre catégories d'absentéisme et identifierez votre administrateur du système."},
     {Installation::NewServer, "NewSQLDatabase",
      "This is a new implementation of Tarvell  -  with a SQL Server database.",
      "Ceci est une nouvelle installation de Tarvell  -  avec une banque de données SQL Server.",
      "Choose this option if your network administrator has prepared an empty database for Tarvell on a SQL Server. You "
      "will need its IP address, its name, and the user name and password that give access to it.",
      "Choisissez cette option si votre administrateur de réseau a préparé une banque de données vide pour Tarvell sur "
-     "un "
-     "serveur SQL. Vous aurez besoin de son adresse IP, de son nom, ainsi que du nom d'usager et du mot-clé qui y "
-     "donnent "
-     "accès."},
+     "un serveur SQL. Vous aurez besoin de son adresse IP, de son nom, ainsi que du nom d'usager et du mot-clé qui y "
+     "donnent accès."},
     {Installation::ExistingAccess, "ExistingAccessDatabase",
      "A Microsoft Access database has already been set up for our organization. I just want to connect to this "
-     "existing "
-     "database and start using Tarvell.",
+     "existing database and start using Tarvell.",
      "Une banque de données Microsoft Access a déjà été configurée pour notre organisation. Je souhaite seulement m'y "
      "connecter et commencer à utiliser Tarvell.",
      "Choose this option if your colleagues already use Tarvell. You only have to point at the file «Tarvell.mdb» that "
-     "they "
-     "share; your system administrator knows in which network folder it lies.",
+     "they share; your system administrator knows in which network folder it lies.",
      "Choisissez cette option si vos collègues utilisent déjà Tarvell. Il vous suffit d'indiquer le fichier "
-     "«Tarvell.mdb» "
-     "qu'ils partagent; votre administrateur du système sait dans quel répertoire du réseau il se trouve."},
+     "«Tarvell.mdb» qu'ils partagent; votre administrateur du système sait dans quel répertoire du réseau il se "
+     "trouve."},
     {Installation::ExistingServer, "ExistingSQLDatabase",
      "A Microsoft SQL Server database has already been set up for our organization. I just want to connect to this "
-     "existing "
-     "database and start using Tarvell.",
+     "existing database and start using Tarvell.",
      "Une banque de données Microsoft SQL Server a déjà été configurée pour notre organisation. Je souhaite seulement "
-     "m'y "
-     "connecter et commencer à utiliser Tarvell.",
+     "m'y connecter et commencer à utiliser Tarvell.",
      "Choose this option if your colleagues already use Tarvell with a SQL Server. Your network administrator will "
-     "give you "
-     "the IP address and the name of the database, and the user name and password that give access to it.",
+     "give you the IP address and the name of the database, and the user name and password that give access to it.",
      "Choisissez cette option si vos collègues utilisent déjà Tarvell avec un serveur SQL. Votre administrateur de "
-     "réseau "
-     "vous fournira l'adresse IP et le nom de la banque de données, ainsi que le nom d'usager et le mot-clé qui y "
-     "donnent "
-     "accès."},
+     "réseau vous fournira l'adresse IP et le nom de la banque de données, ainsi que le nom d'usager et le mot-clé qui "
+     "y donnent accès."},
 };
 } // namespace
 

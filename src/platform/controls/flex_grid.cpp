@@ -34,10 +34,6 @@ FlexGrid::FlexGrid(QWidget* parent)
         if (cells_->flags(at))
             emit CellClicked(at.row(), at.column());
     });
-    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& at) {
-        if (cells_->flags(at))
-            emit CellDoubleClicked(at.row(), at.column());
-    });
     connect(this, &QTableView::entered, this,
             [this](const QModelIndex& at) { emit CellEntered(at.row(), at.column()); });
 }

@@ -28,8 +28,6 @@ public:
     /// The first rows and columns stay in place when the rest scrolls, and look like heads; they take no clicks.
     void SetFixedRows(int rows);
     void SetFixedCols(int cols);
-    int FixedRows() const { return fixedRows_; }
-    int FixedCols() const { return fixedCols_; }
     /// Adds a row at the end; cells are separated by tabs. Returns its index.
     int AddItem(const QString& cells);
     void RemoveItem(int row);
@@ -70,7 +68,6 @@ public:
     void SelectCell(int row, int col);
     /// The whole row of the current cell is tinted; unset, only the cell is framed.
     void SetRowSelection(bool wholeRow);
-    bool RowSelection() const { return rowSelection_; }
     /// Where the cell stands in the viewport, to lay an entry box over it.
     QRect CellRect(int row, int col) const;
 
@@ -81,7 +78,6 @@ public:
 signals:
     /// A cell was clicked, or Space or Enter was pressed on it.
     void CellClicked(int row, int col);
-    void CellDoubleClicked(int row, int col);
     /// The mouse came over a cell.
     void CellEntered(int row, int col);
 

@@ -144,6 +144,14 @@ QGridLayout* Raster()
     return raster;
 }
 
+void AddFieldRow(QGridLayout* fields, QLabel* label, QWidget* field)
+{
+    const int row = fields->rowCount();
+    AsHead(label)->setBuddy(field);
+    fields->addWidget(label, row, 0);
+    fields->addWidget(field, row, 1);
+}
+
 QFrame* MakeCard(QLayout* layout)
 {
     auto* card = WithLook(new QFrame, "card");

@@ -36,6 +36,8 @@ QFrame* MakeCard(QLayout* layout);
 QLabel* AsHead(QLabel* label);
 QLabel* AsCaption(QLabel* label);
 QLabel* AsFigure(QLabel* label);
+/// A new row of `fields`: the bold label at the left names the field at its right.
+void AddFieldRow(QGridLayout* fields, QLabel* label, QWidget* field);
 /// A small grey caption above the control that it names.
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control);
 /// The one blue main button of a form, pressed by Enter.
