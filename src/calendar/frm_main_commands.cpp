@@ -11,9 +11,9 @@
 #include "foundation/frm_change_password.h"
 #include "foundation/frm_update_admin_info.h"
 #include "foundation/not_yet.h"
-#include "foundation/rows.h"
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
+#include "foundation/user_profile.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
 #include "reference/frm_departments.h"
@@ -108,8 +108,7 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
     SessionState.English = !SessionState.English;
     LoadCaptions();
     try {
-        const Connection connection(datAbsence);
-        WriteRow(datAbsence, "Employees", SessionState.UserID, {{"Language", SessionState.English ? 0 : 1}});
+        SetUserLanguage(datAbsence);
     } catch (const RuntimeError& error) {
         TellError(error);
     }

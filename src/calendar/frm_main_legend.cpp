@@ -1,7 +1,6 @@
 #include "calendar/frm_main_legend.h"
 
 #include "calendar/year_calendar.h"
-#include "foundation/connection.h"
 #include "foundation/texts.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/controls/form_kit.h"
@@ -38,14 +37,6 @@ QPushButton* ArrowButton(const QString& name, const QString& picture)
     button->setProperty("look", "arrow");
     button->setIcon(PictureIcon(picture));
     return button;
-}
-
-QString LegendQuery()
-{
-    QString sql = "SELECT * FROM Categories WHERE FiscalYear = ? AND Active = 1 AND TimeBankRelated = 0 ";
-    if (SessionState.AccessToRestrictedCategory == 0)
-        sql += "AND Restricted = 0 ";
-    return sql + "ORDER BY SystemName DESC, " + CategoryNameColumn() + " ASC";
 }
 } // namespace
 
@@ -96,19 +87,13 @@ void LegendPane::LoadCaptions()
 
 void LegendPane::LoadLegend(DataControl& datAbsence)
 {
-    const Connection connection(datAbsence);
     categories_.clear();
-    for (Recordset row = datAbsence.Select(LegendQuery(), SessionState.FiscalYearID);
-         !row.AtEnd() && categories_.size() < kMostLabels; row.MoveNext()) {
+    for (const LegendItem& item : LoadLegendItems(datAbsence).mid(0, kMostLabels)) {
         QPushButton* label = lblLegend[categories_.size()];
-        const QString name = row.Text(CategoryNameColumn()).trimmed();
-        const QString code = row.Text("CategoryCode").trimmed();
-        const int color = row.Long("CategoryColorCode");
-        QString text = code.isEmpty() ? name : code + "  " + name;
-        label->setText(text.replace("&", "&&"));
+        label->setText(QString(item.Text).replace("&", "&&"));
         label->setToolTip(T("Show this category alone", "Afficher cette catégorie seulement"));
-        label->setStyleSheet(LabelStyle(color > 0 ? color : CalendarColor::NoColor));
-        categories_.push_back(row.Long("RecordID"));
+        label->setStyleSheet(LabelStyle(item.Color > 0 ? item.Color : CalendarColor::NoColor));
+        categories_.push_back(item.RecordID);
     }
     for (int index = 0; index < kMostLabels; ++index)
         lblLegend[index]->setVisible(index < static_cast<int>(categories_.size()));

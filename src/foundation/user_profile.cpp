@@ -19,6 +19,12 @@ void SetUserPassword(DataControl& datAbsence, const QString& password)
     SessionState.UserPassword = password.toUpper();
 }
 
+void SetUserLanguage(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    WriteRow(datAbsence, "Employees", SessionState.UserID, {{"Language", SessionState.English ? 0 : 1}});
+}
+
 AdministratorInfo ReadAdministratorInfo(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);

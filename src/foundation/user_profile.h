@@ -7,6 +7,9 @@ bool IsUserPassword(DataControl& datAbsence, const QString& password);
 /// Gives the user, in the fiscal year of the session, a new password, kept in upper case. Throws RuntimeError.
 void SetUserPassword(DataControl& datAbsence, const QString& password);
 
+/// Keeps the session's language as the user's own. Throws when it cannot be written.
+void SetUserLanguage(DataControl& datAbsence);
+
 /// What the administrator tells about himself.
 struct AdministratorInfo
 {

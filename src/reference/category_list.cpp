@@ -17,6 +17,13 @@ QString CategoriesQuery()
     const QString visible = SessionState.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0";
     return usable + visible + " ORDER BY Categories." + CategoryNameColumn() + " ASC";
 }
+
+QString LegendQuery()
+{
+    const QString visible = SessionState.AccessToRestrictedCategory == 0 ? "AND Restricted = 0 " : "";
+    return "SELECT * FROM Categories WHERE FiscalYear = ? AND Active = 1 AND TimeBankRelated = 0 " + visible +
+           "ORDER BY SystemName DESC, " + CategoryNameColumn() + " ASC";
+}
 } // namespace
 
 const char* CategoryNameColumn()
@@ -38,5 +45,17 @@ QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence)
          !row.AtEnd(); row.MoveNext())
         items.append(
             {row.Long("RecordID"), row.Text(CategoryNameColumn()).trimmed(), row.Text("SystemName").trimmed()});
+    return items;
+}
+
+QVector<LegendItem> LoadLegendItems(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    QVector<LegendItem> items;
+    for (Recordset row = datAbsence.Select(LegendQuery(), SessionState.FiscalYearID); !row.AtEnd(); row.MoveNext()) {
+        const QString code = row.Text("CategoryCode").trimmed();
+        const QString name = row.Text(CategoryNameColumn()).trimmed();
+        items.append({row.Long("RecordID"), code.isEmpty() ? name : code + "  " + name, row.Long("CategoryColorCode")});
+    }
     return items;
 }

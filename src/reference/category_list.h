@@ -16,6 +16,17 @@ struct CategoryItem
 /// when he has none; without hidden ones unless the user may see them. In order of name.
 QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence);
 
+/// One label of the legend: the code, if there is one, and the name. `Color` is 0xBBGGRR, 0 none.
+struct LegendItem
+{
+    int RecordID = 0;
+    QString Text;
+    int Color = 0;
+};
+
+/// The active categories of the year outside the time bank that the user may see, the system's own first.
+QVector<LegendItem> LoadLegendItems(DataControl& datAbsence);
+
 /// "(All categories)", the first entry of each list; it stands for no category.
 QString AllCategories();
 

@@ -2,7 +2,6 @@
 
 #include "foundation/common_services.h"
 #include "foundation/database_choice.h"
-#include "foundation/rows.h"
 #include "foundation/texts.h"
 #include "platform/controls/entry_filters.h"
 #include "platform/controls/form_kit.h"
@@ -246,7 +245,7 @@ void DatabaseStep::cmdTestConnection_Click()
     }
     cmdTestConnection->setEnabled(false);
     try {
-        SendToServer("SELECT * FROM FiscalYears");
+        AskServerForFiscalYears();
         TellDatabaseNotEmpty();
     } catch (const RuntimeError&) {
         TellInvalidStructure();

@@ -70,6 +70,11 @@ void InstallOnServer(DataControl& datAbsence, const SetUpChoices& choices)
     SendFirstRows(datAbsence, choices);
 }
 
+void AskServerForFiscalYears()
+{
+    SendToServer("SELECT * FROM FiscalYears");
+}
+
 void WriteDataSource(const SetUpChoices& choices)
 {
     const QStringList lines = {"[ODBC]",

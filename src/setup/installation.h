@@ -13,5 +13,8 @@ void InstallDatabase(DataControl& datAbsence, const SetUpChoices& choices);
 /// Configures the workstation for a server and sends it the first rows. Throws RuntimeError.
 void InstallOnServer(DataControl& datAbsence, const SetUpChoices& choices);
 
+/// The statement that tries a server connection. No client sends it, so nothing comes back and nothing fails.
+void AskServerForFiscalYears();
+
 /// Writes Absence.dsn, the data source file that a server connection reads, anew. Throws RuntimeError.
 void WriteDataSource(const SetUpChoices& choices);
