@@ -39,7 +39,7 @@ Recordset SelectInReach(DataControl& datAbsence)
                               SessionState.UserOrganizationID);
 }
 
-QString Listed(const Recordset& row)
+QString SourceListed(const Recordset& row)
 {
     const QString name = row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed();
     const QString location = row.Text("Location").trimmed();
@@ -69,7 +69,7 @@ QVector<CloneSource> LoadCloneSources(DataControl& datAbsence)
     const Connection connection(datAbsence);
     QVector<CloneSource> sources;
     for (Recordset row = SelectInReach(datAbsence); !row.AtEnd(); row.MoveNext())
-        sources.append({row.Long("RecordID"), Listed(row)});
+        sources.append({row.Long("RecordID"), SourceListed(row)});
     return sources;
 }
 

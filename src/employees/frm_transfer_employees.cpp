@@ -10,13 +10,13 @@
 namespace
 {
 constexpr int kListWidth = 230;
-constexpr int kUnitListHeight = 104;
+constexpr int kTransferListHeight = 104;
 constexpr int kListGap = 10;
 
 QListWidget* MakeList(const QString& name)
 {
     auto* list = Named<QListWidget>(name);
-    list->setMinimumSize(kListWidth, kUnitListHeight);
+    list->setMinimumSize(kListWidth, kTransferListHeight);
     return list;
 }
 

@@ -6,24 +6,24 @@
 
 namespace
 {
-using Profile = SecurityProfile;
-constexpr Right GlobalRead = &Profile::GlobalLevelRead;
-constexpr Right GlobalCreate = &Profile::GlobalLevelCreate;
-constexpr Right GlobalAll = &Profile::GlobalLevelModify;
-constexpr Right OrgRead = &Profile::OrganizationLevelRead;
-constexpr Right OrgCreate = &Profile::OrganizationLevelCreate;
-constexpr Right OrgAll = &Profile::OrganizationLevelModify;
-constexpr Right DeptRead = &Profile::DepartmentLevelRead;
-constexpr Right DeptCreate = &Profile::DepartmentLevelCreate;
-constexpr Right DeptAll = &Profile::DepartmentLevelModify;
-constexpr Right GroupRead = &Profile::GroupLevelRead;
-constexpr Right GroupCreate = &Profile::GroupLevelCreate;
-constexpr Right GroupAll = &Profile::GroupLevelModify;
-constexpr Right SelfRead = &Profile::SelfLevelRead;
-constexpr Right SelfCreate = &Profile::SelfLevelCreate;
-constexpr Right SelfAll = &Profile::SelfLevelModify;
-constexpr Right HiddenCategories = &Profile::AccessToRestrictedCategory;
-constexpr Right CategoriesModule = &Profile::AccessToCategoriesModule;
+using P = SecurityProfile;
+constexpr Right GlobalRead = &P::GlobalLevelRead;
+constexpr Right GlobalCreate = &P::GlobalLevelCreate;
+constexpr Right GlobalAll = &P::GlobalLevelModify;
+constexpr Right OrgRead = &P::OrganizationLevelRead;
+constexpr Right OrgCreate = &P::OrganizationLevelCreate;
+constexpr Right OrgAll = &P::OrganizationLevelModify;
+constexpr Right DeptRead = &P::DepartmentLevelRead;
+constexpr Right DeptCreate = &P::DepartmentLevelCreate;
+constexpr Right DeptAll = &P::DepartmentLevelModify;
+constexpr Right GroupRead = &P::GroupLevelRead;
+constexpr Right GroupCreate = &P::GroupLevelCreate;
+constexpr Right GroupAll = &P::GroupLevelModify;
+constexpr Right SelfRead = &P::SelfLevelRead;
+constexpr Right SelfCreate = &P::SelfLevelCreate;
+constexpr Right SelfAll = &P::SelfLevelModify;
+constexpr Right HiddenCategories = &P::AccessToRestrictedCategory;
+constexpr Right CategoriesModule = &P::AccessToCategoriesModule;
 
 enum class When
 {
@@ -42,7 +42,7 @@ struct Opening
 const std::vector<Opening>& Openings()
 {
     static const std::vector<Opening> openings = {
-        {&Profile::IsAuthorizedToApprove, {&Profile::IsAuthorizedToApprove}},
+        {&P::IsAuthorizedToApprove, {&P::IsAuthorizedToApprove}},
         {DeptRead, {DeptRead}},
         {DeptCreate, {DeptCreate, SelfCreate}},
         {DeptAll, {DeptAll, SelfAll}},
@@ -54,8 +54,8 @@ const std::vector<Opening>& Openings()
         {OrgCreate, {OrgCreate, SelfCreate}},
         {OrgAll, {OrgAll, SelfAll}},
         {HiddenCategories, {HiddenCategories}},
-        {&Profile::CanViewComments, {&Profile::CanViewComments}},
-        {&Profile::CanGenerateReports, {&Profile::CanGenerateReports}},
+        {&P::CanViewComments, {&P::CanViewComments}},
+        {&P::CanGenerateReports, {&P::CanGenerateReports}},
     };
     return openings;
 }
@@ -63,7 +63,7 @@ const std::vector<Opening>& Openings()
 /// All boxes but two: the approval of requests follows his own right, and everybody views his own records anyhow.
 bool IsOpenToAdministrator(Right box)
 {
-    return box != &Profile::IsAuthorizedToApprove && box != SelfRead;
+    return box != &P::IsAuthorizedToApprove && box != SelfRead;
 }
 
 bool Contains(const std::vector<Right>& boxes, Right box)
@@ -87,18 +87,18 @@ const std::array<std::array<ProfileBox, kKinds>, kLevels> kLevelBoxes = {{
 }};
 
 const std::array<ProfileBox, 4> kSingleRightBoxes = {{
-    {"chkApprovalAuthority", &Profile::IsAuthorizedToApprove},
+    {"chkApprovalAuthority", &P::IsAuthorizedToApprove},
     {"chkViewHiddenCategories", HiddenCategories},
-    {"chkViewComments", &Profile::CanViewComments},
-    {"chkGenerateReports", &Profile::CanGenerateReports},
+    {"chkViewComments", &P::CanViewComments},
+    {"chkGenerateReports", &P::CanGenerateReports},
 }};
 
 const std::array<ProfileBox, 5> kModuleBoxes = {{
-    {"chkModuleDepartments", &Profile::AccessToDepartmentsModule},
-    {"chkModuleGroups", &Profile::AccessToGroupsModule},
+    {"chkModuleDepartments", &P::AccessToDepartmentsModule},
+    {"chkModuleGroups", &P::AccessToGroupsModule},
     {"chkModuleCategories", CategoriesModule},
-    {"chkModuleEntitlements", &Profile::AccessToEntitlementsModule},
-    {"chkModuleEmployees", &Profile::AccessToEmployeesModule},
+    {"chkModuleEntitlements", &P::AccessToEntitlementsModule},
+    {"chkModuleEmployees", &P::AccessToEmployeesModule},
 }};
 
 std::vector<ProfileBox> ProfileBoxes()

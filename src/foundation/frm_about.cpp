@@ -8,14 +8,14 @@
 
 namespace
 {
-constexpr int kLogoSize = 72;
-constexpr int kTextWidth = 400;
+constexpr int kAboutLogoSize = 72;
+constexpr int kAboutTextWidth = 400;
 
 QLabel* Paragraph(const QString& name, const QString& text)
 {
     auto* label = Named<QLabel>(name, text);
     label->setWordWrap(true);
-    label->setMinimumWidth(kTextWidth);
+    label->setMinimumWidth(kAboutTextWidth);
     return label;
 }
 } // namespace
@@ -30,7 +30,7 @@ void frmAbout::BuildControls()
     setObjectName("frmAbout");
     setWindowTitle(T("About Tarvell", "À propos de Tarvell"));
     auto* imgLogo = Named<QLabel>("imgLogo");
-    imgLogo->setPixmap(Picture("app", kLogoSize));
+    imgLogo->setPixmap(Picture("app", kAboutLogoSize));
     auto* cmdSysInfo = Named<QPushButton>("cmdSysInfo", T("&System information...", "&Information système..."));
     auto* cmdOK = AsMainButton(Named<QPushButton>("cmdOK", T("&OK", "&OK")));
     connect(cmdSysInfo, &QPushButton::clicked, this, &frmAbout::cmdSysInfo_Click);

@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr int kPasswordLimit = 15;
+constexpr int kNewPasswordLimit = 15;
 constexpr int kFieldWidth = 260;
 } // namespace
 
@@ -56,7 +56,7 @@ void frmChangePassword::BuildControls()
 void frmChangePassword::ConnectControls()
 {
     for (QLineEdit* field : {txtOldPassword, txtNewPassword, txtRepeatedPassword}) {
-        field->setMaxLength(kPasswordLimit);
+        field->setMaxLength(kNewPasswordLimit);
         field->setEchoMode(QLineEdit::Password);
         field->ensurePolished(); // the character is asked for once, when a polished field changes its style
         field->setStyleSheet("lineedit-password-character: 42");

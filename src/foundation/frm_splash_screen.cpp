@@ -17,7 +17,7 @@
 namespace
 {
 constexpr int kReadableSeconds = 2;
-constexpr int kLogoSize = 96;
+constexpr int kSplashLogoSize = 96;
 
 void EndWithoutFiscalYear()
 {
@@ -43,7 +43,7 @@ void frmSplashScreen::BuildControls()
     setObjectName("frmSplashScreen");
     setWindowTitle("Tarvell");
     auto* imgLogo = Named<QLabel>("imgLogo");
-    imgLogo->setPixmap(Picture("app", kLogoSize));
+    imgLogo->setPixmap(Picture("app", kSplashLogoSize));
     imgLogo->setAlignment(Qt::AlignCenter);
     auto* lblTitle = Named<QLabel>("lblTitle", QStringLiteral("Tarvell"));
     AsFigure(lblTitle)->setAlignment(Qt::AlignCenter);

@@ -9,7 +9,7 @@
 
 namespace
 {
-constexpr int kFieldWidth = 300;
+constexpr int kAdminFieldWidth = 300;
 }
 
 frmUpdateAdminInfo::frmUpdateAdminInfo(QWidget* parent) : QDialog(parent)
@@ -44,7 +44,7 @@ void frmUpdateAdminInfo::BuildControls()
         *label = Named<QLabel>(QLatin1String("lbl") + name);
         *text = Named<QLineEdit>(QLatin1String("txt") + name);
         (*text)->setMaxLength(limit);
-        (*text)->setMinimumWidth(kFieldWidth);
+        (*text)->setMinimumWidth(kAdminFieldWidth);
         FilterKeys(*text, filter);
         AddFieldRow(fields, *label, *text);
     }

@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr int kListWidth = 480;
+constexpr int kApproverListWidth = 480;
 constexpr int kListHeight = 300;
 } // namespace
 
@@ -27,7 +27,7 @@ void frmGetApproverFromList::BuildControls()
     lblInstructions->setTextFormat(Qt::PlainText);
     lblInstructions->setWordWrap(true);
     lstApprovers = Named<QListWidget>("lstApprovers");
-    lstApprovers->setMinimumSize(kListWidth, kListHeight);
+    lstApprovers->setMinimumSize(kApproverListWidth, kListHeight);
     cmdSelect = AsMainButton(Named<QPushButton>("cmdSelect"));
     cmdCancel = Named<QPushButton>("cmdCancel");
 

@@ -10,7 +10,7 @@
 namespace
 {
 constexpr QSize kSize(480, 250);
-constexpr int kListHeight = 90;
+constexpr int kRecordListHeight = 90;
 } // namespace
 
 frmSelectAttendanceRecord::frmSelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines, QWidget* parent)
@@ -31,7 +31,7 @@ void frmSelectAttendanceRecord::BuildControls(const std::vector<std::pair<QStrin
                         "suivantes vous souhaitez modifier ou supprimer."));
     lblInstructions->setWordWrap(true);
     lstRecords = Named<QListWidget>("lstRecords");
-    lstRecords->setMinimumHeight(kListHeight);
+    lstRecords->setMinimumHeight(kRecordListHeight);
     lstRecords->setAccessibleName(lblInstructions->text());
     for (const auto& [text, recordID] : lines) {
         auto* line = new QListWidgetItem(text, lstRecords);

@@ -11,7 +11,7 @@
 
 namespace
 {
-constexpr int kDateWidth = 190;
+constexpr int kPeriodDateWidth = 190;
 constexpr int kMonthColumns = 4;
 } // namespace
 
@@ -35,7 +35,7 @@ void frmSelectPeriod::BuildControls()
     cboFrom = Named<QComboBox>("cboFrom");
     cboTo = Named<QComboBox>("cboTo");
     for (QComboBox* box : {cboFrom, cboTo})
-        box->setMinimumWidth(kDateWidth);
+        box->setMinimumWidth(kPeriodDateWidth);
     cmdOK = AsMainButton(Named<QPushButton>("cmdOK"));
     cmdCancel = Named<QPushButton>("cmdCancel");
 }

@@ -9,10 +9,10 @@
 
 namespace
 {
-constexpr int kNameLimit = 35;
+constexpr int kPersonNameLimit = 35;
 constexpr int kPhoneLimit = 20;
 constexpr int kPasswordLimit = 15;
-constexpr int kFieldWidth = 280;
+constexpr int kAdministratorFieldWidth = 280;
 } // namespace
 
 AdministratorStep::AdministratorStep(SetUpChoices& choices) : WizardStep("fraStep6", choices)
@@ -30,8 +30,8 @@ void AdministratorStep::BuildControls()
         int Limit;
         KeyFilter Filter;
     };
-    const Field fields[] = {{&txtAdminFamilyName, "txtAdminFamilyName", kNameLimit, KeyFilter::FreeText},
-                            {&txtAdminFirstName, "txtAdminFirstName", kNameLimit, KeyFilter::FreeText},
+    const Field fields[] = {{&txtAdminFamilyName, "txtAdminFamilyName", kPersonNameLimit, KeyFilter::FreeText},
+                            {&txtAdminFirstName, "txtAdminFirstName", kPersonNameLimit, KeyFilter::FreeText},
                             {&txtAdminPhoneNumber, "txtAdminPhoneNumber", kPhoneLimit, KeyFilter::Phone},
                             {&txtAdminUsername, "txtAdminUsername", kPasswordLimit, KeyFilter::LogIn},
                             {&txtAdminPassword, "txtAdminPassword", kPasswordLimit, KeyFilter::SetUpPassword}};
@@ -45,7 +45,7 @@ void AdministratorStep::BuildControls()
     for (const Field& field : fields) {
         *field.Control = Named<QLineEdit>(field.Name);
         (*field.Control)->setMaxLength(field.Limit);
-        (*field.Control)->setFixedWidth(kFieldWidth);
+        (*field.Control)->setFixedWidth(kAdministratorFieldWidth);
         FilterKeys(*field.Control, field.Filter);
         labels_[row] = new QLabel(this);
         AddFieldRow(content, labels_[row++], *field.Control);

@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr int kNameLimit = 75;
+constexpr int kCategoryNameLimit = 75;
 constexpr int kHourDigits = 4;
 constexpr int kMinuteDigits = 2;
 constexpr int kLastMinute = 59;
@@ -73,7 +73,7 @@ void CategoriesStep::BuildColumn(int index, QGridLayout* grid)
     const QString suffix = kCategories[index].Suffix;
     Column& column = columns_[index];
     column.Name = Named<QLineEdit>("txt" + suffix);
-    column.Name->setMaxLength(kNameLimit);
+    column.Name->setMaxLength(kCategoryNameLimit);
     column.Name->setFixedWidth(kNameWidth);
     FilterKeys(column.Name, KeyFilter::CategoryName);
     column.Hours = DigitsField("txtHours_" + suffix, kHourDigits);

@@ -13,7 +13,7 @@
 
 namespace
 {
-constexpr int kFieldWidth = 320;
+constexpr int kDatabaseFieldWidth = 320;
 constexpr int kServerFieldLimit = 50;
 
 void TellRelocationFailure(const RuntimeError& error)
@@ -105,7 +105,7 @@ QWidget* DatabaseStep::MakeServerPage()
     for (const auto& [field, name] : fields) {
         *field = Named<QLineEdit>(name);
         (*field)->setMaxLength(kServerFieldLimit);
-        (*field)->setFixedWidth(kFieldWidth);
+        (*field)->setFixedWidth(kDatabaseFieldWidth);
         FilterKeys(*field, KeyFilter::FreeText);
         labels_[row] = new QLabel;
         labels_[row]->setBuddy(*field);

@@ -5,8 +5,8 @@
 
 namespace
 {
-const QDate kMonday(2026, 3, 2);
-const QDate kTuesday(2026, 3, 3);
+const QDate kGuardMonday(2026, 3, 2);
+const QDate kGuardTuesday(2026, 3, 3);
 
 class AttendanceGuards : public AttendanceTest
 {
@@ -44,7 +44,7 @@ TEST_F(AttendanceGuards, WhatIsMissingIsToldInOrderAndTheControlNamed)
         EXPECT_FALSE(entry.Validated);
         EXPECT_EQ(entry.FieldInError, field);
     };
-    Begin({kMonday}, 0, "");
+    Begin({kGuardMonday}, 0, "");
     refused("lstWho", "You must select an employee from the list!",
             "Vous devez sélectionner un(e) employé(e) dans la liste!");
     SessionState.EmployeeID = chris;
@@ -67,12 +67,12 @@ TEST_F(AttendanceGuards, WhatIsMissingIsToldInOrderAndTheControlNamed)
 TEST_F(AttendanceGuards, TheEntitlementCountsWhatIsApprovedAndWhatIsAskedFor)
 {
     Entitle(chris, "Vacation", 3, 17);
-    house.Record(chris, "Vacation", kTuesday, 8);
-    house.Record(chris, "Vacation", kTuesday.addDays(1), 6, true);
-    house.Record(chris, "Sick", kTuesday, 8);
+    house.Record(chris, "Vacation", kGuardTuesday, 8);
+    house.Record(chris, "Vacation", kGuardTuesday.addDays(1), 6, true);
+    house.Record(chris, "Sick", kGuardTuesday, 8);
     house.Sql("UPDATE Attendance SET CancelledDate = 1 WHERE RecordID = ?",
-              {house.Record(chris, "Vacation", kTuesday.addDays(2), 8)});
-    Begin({kMonday}, chris, "Vacation");
+              {house.Record(chris, "Vacation", kGuardTuesday.addDays(2), 8)});
+    Begin({kGuardMonday}, chris, "Vacation");
     AttendanceEntry exact = EntryOf(6);
     EXPECT_TRUE(Passes(exact));
 
@@ -100,7 +100,7 @@ TEST_F(AttendanceGuards, TheEntitlementCountsWhatIsApprovedAndWhatIsAskedFor)
 TEST_F(AttendanceGuards, AnEntitlementOfNothingSetsNoLimit)
 {
     Entitle(chris, "Vacation", 0, 0);
-    Begin({kMonday}, chris, "Vacation");
+    Begin({kGuardMonday}, chris, "Vacation");
     AttendanceEntry entry = EntryOf(500);
     EXPECT_TRUE(LacksEntitlement(entry));
     EXPECT_TRUE(Passes(entry));
@@ -108,10 +108,10 @@ TEST_F(AttendanceGuards, AnEntitlementOfNothingSetsNoLimit)
 
 TEST_F(AttendanceGuards, TimeTakenOffTheBankMustBeThereButTimeBorrowedNeedNot)
 {
-    house.Record(chris, "Time accumulated", kTuesday, 9);
-    house.Record(chris, "Time claimed", kTuesday, -1, true);
+    house.Record(chris, "Time accumulated", kGuardTuesday, 9);
+    house.Record(chris, "Time claimed", kGuardTuesday, -1, true);
     for (const char* name : {"Time claimed", "Time paid"}) {
-        Begin({kMonday, kTuesday}, chris, name);
+        Begin({kGuardMonday, kGuardTuesday}, chris, name);
         AttendanceEntry enough = EntryOf(4);
         EXPECT_EQ(enough.TimeBanked, 8) << "a pending request weighs on the bank";
         IsTimeBankedEnough(enough);
@@ -124,7 +124,7 @@ TEST_F(AttendanceGuards, TimeTakenOffTheBankMustBeThereButTimeBorrowedNeedNot)
         IsTimeBankedEnough(tooMuch);
         EXPECT_FALSE(tooMuch.Validated);
     }
-    Begin({kMonday}, chris, "Time borrowed");
+    Begin({kGuardMonday}, chris, "Time borrowed");
     AttendanceEntry beyond = EntryOf(8.5F);
     IsTimeBankedEnough(beyond);
     EXPECT_TRUE(beyond.Validated);
@@ -132,8 +132,8 @@ TEST_F(AttendanceGuards, TimeTakenOffTheBankMustBeThereButTimeBorrowedNeedNot)
 
 TEST_F(AttendanceGuards, BorrowingWhatTheBankCoversMayBecomeAClaim)
 {
-    house.Record(chris, "Time accumulated", kTuesday, 8);
-    Begin({kMonday, kTuesday}, chris, "Time borrowed");
+    house.Record(chris, "Time accumulated", kGuardTuesday, 8);
+    Begin({kGuardMonday, kGuardTuesday}, chris, "Time borrowed");
     AttendanceEntry entry = EntryOf(4);
     SessionState.English = false;
     user.WillAnswer("VEUILLEZ CONFIRMER:", "Non",
@@ -162,12 +162,12 @@ TEST_F(AttendanceGuards, OtherRecordsAreListedOncePerDateInTheOrderOfSelection)
 {
     house.Sql(
         "UPDATE Categories SET CategoryEnglishName = 'Personal time of many words' WHERE SystemName = 'Personal time'");
-    house.Record(chris, "Personal time", kTuesday, 2.5F);
-    house.Record(chris, "Sick", kTuesday, 1);
-    const int modified = house.Record(chris, "Sick", kMonday, 7, true);
-    house.Record(marc, "Sick", kMonday.addDays(2), 7);
-    house.Record(chris, "Sick", kMonday.addDays(4), 7);
-    Begin({kTuesday, kMonday, kMonday.addDays(2), kMonday.addDays(7)}, chris, "Vacation");
+    house.Record(chris, "Personal time", kGuardTuesday, 2.5F);
+    house.Record(chris, "Sick", kGuardTuesday, 1);
+    const int modified = house.Record(chris, "Sick", kGuardMonday, 7, true);
+    house.Record(marc, "Sick", kGuardMonday.addDays(2), 7);
+    house.Record(chris, "Sick", kGuardMonday.addDays(4), 7);
+    Begin({kGuardTuesday, kGuardMonday, kGuardMonday.addDays(2), kGuardMonday.addDays(7)}, chris, "Vacation");
     AttendanceEntry entry;
 
     user.WillAnswer(
@@ -193,8 +193,8 @@ TEST_F(AttendanceGuards, OtherRecordsAreListedOncePerDateInTheOrderOfSelection)
 
 TEST_F(AttendanceGuards, ALineOfAConflictSaysWhenAndWhetherItWaits)
 {
-    house.Record(chris, "Sick", kMonday, 7, true);
-    const int timed = house.Record(chris, "Vacation", kMonday, 2);
+    house.Record(chris, "Sick", kGuardMonday, 7, true);
+    const int timed = house.Record(chris, "Vacation", kGuardMonday, 2);
     house.Sql("UPDATE Attendance SET StartTime = 1e-7, EndTime = 2 WHERE RecordID = ?", {timed});
     const auto lines = [this] {
         const Connection connection(datAbsence);

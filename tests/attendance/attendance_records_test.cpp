@@ -3,7 +3,7 @@
 
 namespace
 {
-const QDate kMonday(2026, 3, 2);
+const QDate kRecordMonday(2026, 3, 2);
 
 class AttendanceRecords : public AttendanceTest
 {
@@ -98,7 +98,7 @@ TEST_F(AttendanceRecords, TheServerGetsStatementsWithoutCosts)
     QStringList sent;
     SetServerSink([&sent](const QString& statement) { sent << statement; });
     house.Today(2026, 3, 2, 18);
-    Begin({kMonday}, chris, "Sick");
+    Begin({kRecordMonday}, chris, "Sick");
     SessionState.SubmittingRequest = true;
     entry.FirstApprover = marc;
     entry.Comment = "flu ";

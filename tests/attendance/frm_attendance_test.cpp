@@ -8,8 +8,8 @@
 
 namespace
 {
-const QDate kMonday(2026, 3, 2);
-const QDate kTuesday(2026, 3, 3);
+const QDate kFormMonday(2026, 3, 2);
+const QDate kFormTuesday(2026, 3, 3);
 
 /// All columns of a record but its id, dates as serial days.
 const char* const kWholeRow =
@@ -51,7 +51,7 @@ protected:
 
 TEST_F(FrmAttendance, ANewRecordIsAddedOnEverySelectedDate)
 {
-    Begin({kMonday, kTuesday}, chris, "Vacation");
+    Begin({kFormMonday, kFormTuesday}, chris, "Vacation");
     user.Opens<frmAttendance>();
     EXPECT_EQ(user.Reads("txtWhen"), "Mon   02-Mar-2026\nTue   03-Mar-2026");
     EXPECT_EQ(user.Reads("lstWho"), "Davis, Chris /       Northern Works");
@@ -88,7 +88,7 @@ TEST_F(FrmAttendance, ARequestGoesToBothApproversAndBearsTheRoundedMoment)
     house.Sql("UPDATE Employees SET EMailAddress = LOWER(LoginID) || '@example.org' WHERE RecordID IN (?, ?)",
               {eve, marc});
     house.Today(2026, 3, 2, 15).LogIn("CHRIS");
-    Begin({kTuesday}, chris, "Personal time");
+    Begin({kFormTuesday}, chris, "Personal time");
     SessionState.SubmittingRequest = true;
     SessionState.English = false;
     QStringList notice;
@@ -121,7 +121,7 @@ TEST_F(FrmAttendance, ARequestWithoutAnApproverAsksForOneAndEndsWithoutHim)
 {
     house.Sql("UPDATE Employees SET AttendanceApprovedBy_Main = 0 WHERE RecordID = ?", {chris});
     house.LogIn("CHRIS");
-    Begin({kTuesday}, chris, "Sick");
+    Begin({kFormTuesday}, chris, "Sick");
     SessionState.SubmittingRequest = true;
     user.Opens<frmAttendance>().Types("txtDurationInHours", "3");
     user.WillAnswer("NOT AVAILABLE YET:", "OK").Clicks("cmdAddOrUpdate");
@@ -136,15 +136,15 @@ TEST_F(FrmAttendance, ARequestWithoutAnApproverAsksForOneAndEndsWithoutHim)
 
 TEST_F(FrmAttendance, AModifiedRecordIsAuditedAsItWas)
 {
-    const int record = house.Record(chris, "Time claimed", kMonday, -2);
-    house.Record(chris, "Time accumulated", kTuesday, 20);
+    const int record = house.Record(chris, "Time claimed", kFormMonday, -2);
+    house.Record(chris, "Time accumulated", kFormTuesday, 20);
     house.Sql(
         "UPDATE Attendance SET StartTime = 8.55, EndTime = 10.55, TimeMultiplicator = 1.33, TotalDuration = -2.66, "
         "Comment = ' before ', Justified = 1, HourlyRate = '18.00' WHERE RecordID = ?",
         {record});
     house.Today(2026, 3, 9);
     frmAttendance form;
-    Modify(form, record, chris, "Time claimed", kMonday);
+    Modify(form, record, chris, "Time claimed", kFormMonday);
     EXPECT_FALSE(user.CanUse("lstWho"));
     EXPECT_EQ(user.Reads("cboStartTime") + user.Reads("cboEndTime"), "08:3310:33") << "times off the five minutes";
     EXPECT_EQ(user.Reads("txtDurationInHours") + user.Reads("txtDurationInMinutes"), "0200");
@@ -176,7 +176,7 @@ TEST_F(FrmAttendance, AFailureInTheMiddleLeavesTheEarlierRowsAndTheFormAsTyped)
 {
     house.Sql("CREATE TRIGGER Failing BEFORE INSERT ON Attendance WHEN NEW.RecordDate = 46085 "
               "BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
-    Begin(DatesFrom(kMonday, 5), chris, "Sick");
+    Begin(DatesFrom(kFormMonday, 5), chris, "Sick");
     user.Opens<frmAttendance>().Types("txtDurationInHours", "2").Types("txtComment", "flu");
     user.WillAnswer("CONFIRM:", "Yes")
         .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk trouble")
@@ -206,7 +206,7 @@ TEST_F(FrmAttendance, AboveNineDatesTheQuestionScrolls)
 
 TEST_F(FrmAttendance, DurationBoxesRefuseWhatNoDayHolds)
 {
-    Begin({kMonday}, chris, "Sick");
+    Begin({kFormMonday}, chris, "Sick");
     user.Opens<frmAttendance>().Checks("chkFirstHalf").Types("txtDurationInHours", "2a4");
     EXPECT_EQ(user.Reads("chkFirstHalf") + user.Reads("cboStartTime") + user.Reads("txtTotalTime"), "0");
     user.LeavesField("txtDurationInHours");
@@ -233,7 +233,7 @@ TEST_F(FrmAttendance, AnotherEmployeeStartsAfresh)
               {house.CategoryID("Sick")});
     house.Sql("UPDATE Employees SET FirstName = 'Dennis', FamilyName = 'Marks' WHERE RecordID = ?", {marc});
     house.Hire({"ZOE", "Zoe", "Abel", "Stores", "", {}, 0, 33, false});
-    Begin({kMonday}, chris, "Vacation");
+    Begin({kFormMonday}, chris, "Vacation");
     user.WillAnswer("WARNING:", "Yes",
                     "The category «Vacation» involves an annual entitlement! You did not scecify Chris Davis' annual "
                     "entitlement for this category.\r\n\r\nProceed anyway?");
@@ -257,8 +257,8 @@ TEST_F(FrmAttendance, AnotherEmployeeStartsAfresh)
 
 TEST_F(FrmAttendance, BorrowedTimeIsStoredAsClaimedWhileTheListShowsNothing)
 {
-    house.Record(chris, "Time accumulated", kTuesday, 8);
-    Begin({kMonday}, chris, "Time borrowed");
+    house.Record(chris, "Time accumulated", kFormTuesday, 8);
+    Begin({kFormMonday}, chris, "Time borrowed");
     user.Opens<frmAttendance>().Types("txtDurationInHours", "5");
     user.WillAnswer("CONFIRM:", "Yes", "instead of Time borrowed?").WillAnswer("CONFIRM:", "No", "Duration: -(05:00)");
     user.Clicks("cmdAddOrUpdate");
@@ -273,7 +273,7 @@ TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
     house.Sql("UPDATE Employees SET GlobalLevelRead = 1, SelfLevelCreate = 1, SelfLevelModify = 1 WHERE RecordID = ?",
               {chris});
     house.LogIn("CHRIS");
-    Begin({kMonday}, marc, "Sick");
+    Begin({kFormMonday}, marc, "Sick");
     user.Opens<frmAttendance>().Types("txtDurationInHours", "2");
     user.WillAnswer("ERROR:", "OK", "You must select an employee from the list!").Clicks("cmdAddOrUpdate");
     user.Picks("lstWho", "Davis").ClicksWithCtrl("lstWho");
@@ -283,7 +283,7 @@ TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
     EXPECT_EQ(house.Number("SELECT EmployeeID FROM Attendance"), chris);
 
     frmAttendance form;
-    Modify(form, house.Record(marc, "Sick", kTuesday, 2), marc, "Sick", kTuesday);
+    Modify(form, house.Record(marc, "Sick", kFormTuesday, 2), marc, "Sick", kFormTuesday);
     EXPECT_FALSE(user.CanUse("cmdAddOrUpdate"));
     EXPECT_EQ(SessionState.EmployeeID, marc);
 }
@@ -291,7 +291,7 @@ TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
 TEST_F(FrmAttendance, WhoMayAddForNobodyCanOnlyClose)
 {
     house.LogIn("CHRIS");
-    Begin({kMonday}, 0, "Sick");
+    Begin({kFormMonday}, 0, "Sick");
     SessionState.EmployeeLocked = true;
     user.Opens<frmAttendance>();
     EXPECT_TRUE(user.Entries("lstWho").isEmpty());

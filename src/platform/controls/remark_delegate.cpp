@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr int kGap = 9;
+constexpr int kRemarkGap = 9;
 }
 
 RemarkDelegate::RemarkDelegate(Part textOf, Part remarkOf, QObject* parent)
@@ -17,7 +17,7 @@ void RemarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     painter->save();
     painter->setPen(selected ? option.palette.highlightedText().color() : option.palette.placeholderText().color());
-    painter->drawText(option.rect.adjusted(0, 0, -kGap, 0), Qt::AlignRight | Qt::AlignVCenter, remarkOf_(index));
+    painter->drawText(option.rect.adjusted(0, 0, -kRemarkGap, 0), Qt::AlignRight | Qt::AlignVCenter, remarkOf_(index));
     painter->restore();
 }
 
@@ -25,7 +25,7 @@ void RemarkDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
 {
     QStyledItemDelegate::initStyleOption(option, index);
     const int remark = option->fontMetrics.horizontalAdvance(remarkOf_(index));
-    const int room = option->rect.width() - remark - 3 * kGap;
+    const int room = option->rect.width() - remark - 3 * kRemarkGap;
     const QString text = textOf_(index);
     option->text = room > 0 ? option->fontMetrics.elidedText(text, Qt::ElideRight, room) : text;
 }
