@@ -11,14 +11,8 @@ namespace
 {
 constexpr int kDaysPerLine = 3;
 
-struct DayPrefix
-{
-    const char* English;
-    const char* French;
-};
-constexpr DayPrefix kDayPrefixes[] = {{"Sun - ", "Dim - "}, {"Mon - ", "Lun - "}, {"Tue - ", "Mar - "},
-                                      {"Wed - ", "Mer - "}, {"Thu - ", "Jeu - "}, {"Fri - ", "Ven - "},
-                                      {"Sat - ", "Sam - "}};
+constexpr Text kDayPrefixes[] = {{"Sun - ", "Dim - "}, {"Mon - ", "Lun - "}, {"Tue - ", "Mar - "}, {"Wed - ", "Mer - "},
+                                 {"Thu - ", "Jeu - "}, {"Fri - ", "Ven - "}, {"Sat - ", "Sam - "}};
 
 QString UnitLine(const QString& label, const QString& name)
 {
@@ -30,7 +24,7 @@ QStringList WorkingDays(const EmployeeRecord& record)
     QStringList days;
     for (int day = 0; day < 7; ++day)
         if (record.HoursWorked[day] > 0)
-            days << T(kDayPrefixes[day].English, kDayPrefixes[day].French) + TwoDigits(record.TotalHours[day]) + ":" +
+            days << T(kDayPrefixes[day]) + TwoDigits(record.TotalHours[day]) + ":" +
                         TwoDigits(record.TotalMinutes[day]);
     return days;
 }

@@ -16,25 +16,14 @@ constexpr int kPasswordLimit = 15;
 constexpr int kNameCharacters = 18;
 constexpr int kRightsGap = 7;
 
-struct Bilingual
-{
-    const char* English;
-    const char* French;
-};
-
-QString Caption(const Bilingual& text)
-{
-    return T(text.English, text.French);
-}
-
-constexpr Bilingual kLevelCaptions[] = {
+constexpr Text kLevelCaptions[] = {
     {"Security profile  -  Global level", "Profil de sécurité  -  Niveau global"},
     {"Security profile  -  Organization level", "Profil de sécurité  -  Niveau de l'organization"},
     {"Security profile  -  Departmental level", "Profil de sécurité  -  Niveau départemental"},
     {"Security profile  -  Group level", "Profil de sécurité  -  Niveau du groupe"},
     {"Security profile  -  Employee level", "Profil de sécurité  -  Niveau personnel"},
 };
-constexpr Bilingual kKindCaptions[] = {
+constexpr Text kKindCaptions[] = {
     {"Access limited to viewing records and printing certain reports",
      "Ne peut que voir les absences et imprimer certains rapports"},
     {"Creation of attendance records allowed. No modifications or cancellations",
@@ -42,7 +31,7 @@ constexpr Bilingual kKindCaptions[] = {
     {"Creation, modification and cancellation of attendance records",
      "Création, modification et annulation d'absences"},
 };
-constexpr Bilingual kSingleCaptions[] = {
+constexpr Text kSingleCaptions[] = {
     {"Authorized to approve requests for leave", "Autorisé(e) à approuver les demandes de congé"},
     {"This employee has access to «HIDDEN CATEGORIES OF ATTENDANCE»",
      "Cet(te) employé(e) a accès aux «CATÉGORIES D'ABSENCES CACHÉES»"},
@@ -179,16 +168,16 @@ void EmployeeProfilePage::LoadCaptions()
                              "Sélectionner parmi tous ceux qui sont autorisés à approuver"));
     }
     for (std::size_t i = 0; i < singles_.size(); ++i)
-        singles_[i]->setText(Caption(kSingleCaptions[i]));
+        singles_[i]->setText(T(kSingleCaptions[i]));
     LoadMatrixCaptions();
 }
 
 void EmployeeProfilePage::LoadMatrixCaptions()
 {
     for (int kind = 0; kind < kKinds; ++kind)
-        lblKind[kind]->setText(Caption(kKindCaptions[kind]));
+        lblKind[kind]->setText(T(kKindCaptions[kind]));
     for (int level = 0; level < kLevels; ++level) {
-        lblLevel[level]->setText(Caption(kLevelCaptions[level]));
+        lblLevel[level]->setText(T(kLevelCaptions[level]));
         for (int kind = 0; kind < kKinds; ++kind) {
             levels_[level][kind]->setAccessibleName(lblLevel[level]->text() + ": " + lblKind[kind]->text());
             levels_[level][kind]->setToolTip(lblKind[kind]->text());

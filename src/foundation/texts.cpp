@@ -4,7 +4,7 @@
 
 #include <QLocale>
 
-QString Fill(QString text, std::initializer_list<std::pair<const char*, QString>> values)
+QString Fill(QString text, Filling values)
 {
     for (const auto& [name, value] : values)
         text.replace(QStringLiteral("{%1}").arg(QLatin1String(name)), value);

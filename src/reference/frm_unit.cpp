@@ -33,7 +33,7 @@ QString RemarkOn(const UnitItem& item, const UnitKind& kind)
 {
     QStringList remarks{item.ParentName};
     if (!item.Active)
-        remarks << Say(kind.Texts.InactiveRemark);
+        remarks << T(kind.Texts.InactiveRemark);
     remarks.removeAll(QString());
     return remarks.join(", ");
 }
@@ -130,11 +130,11 @@ void frmUnit::ConnectControls()
 void frmUnit::LoadCaptions()
 {
     const UnitTexts& texts = kind_.Texts;
-    setWindowTitle(Say(texts.Caption));
-    lblRecords->setText(Say(texts.ListLabel, {{"FiscalYearName", SessionState.FiscalYearName}}));
-    cboRecords->setPlaceholderText(Say(texts.ListPrompt));
-    lblEnglishName->setText(Say(texts.EnglishNameLabel));
-    lblFrenchName->setText(Say(texts.FrenchNameLabel));
+    setWindowTitle(T(texts.Caption));
+    lblRecords->setText(T(texts.ListLabel, {{"FiscalYearName", SessionState.FiscalYearName}}));
+    cboRecords->setPlaceholderText(T(texts.ListPrompt));
+    lblEnglishName->setText(T(texts.EnglishNameLabel));
+    lblFrenchName->setText(T(texts.FrenchNameLabel));
     cmdDeactivate->setText(T("&Deactivate", "&Désactiver"));
     cmdCancelOperation->setText(T("&Cancel operation", "A&nnuler l'opération"));
     cmdQuit->setText(T("C&lose", "&Sortir"));
@@ -152,7 +152,7 @@ void frmUnit::Form_Activate()
 {
     if (HasUnitsAbove(datAbsence, kind_))
         return;
-    Tell(T("ERROR:", "ERREUR:"), Say(kind_.Texts.NoParent, {{"FiscalYearName", SessionState.FiscalYearName}}),
+    Tell(T("ERROR:", "ERREUR:"), T(kind_.Texts.NoParent, {{"FiscalYearName", SessionState.FiscalYearName}}),
          Face::Warning);
     reject();
 }
@@ -249,7 +249,7 @@ void frmUnit::cboRecords_Click(int index)
 bool frmUnit::Reactivate(const UnitEntry& unit)
 {
     const UnitTexts& texts = kind_.Texts;
-    if (!Ask(Say(texts.InactiveTitle), Say(texts.ReactivateQuestion, {{"name", ShownName(unit)}}), Face::Warning))
+    if (!Ask(T(texts.InactiveTitle), T(texts.ReactivateQuestion, {{"name", ShownName(unit)}}), Face::Warning))
         return false;
     if (!Attempt([&] { ReactivateUnit(datAbsence, kind_, unit.RecordID); }))
         return false;
@@ -267,7 +267,7 @@ void frmUnit::cmdAdd_Click()
     if (!Validate(unit) || !ConfirmAddition(unit))
         return;
     if (Attempt([&] { AddUnit(datAbsence, kind_, unit); }))
-        Complete(Say(kind_.Texts.Added));
+        Complete(T(kind_.Texts.Added));
 }
 
 void frmUnit::cmdModify_Click()
@@ -290,7 +290,7 @@ void frmUnit::cmdDeactivate_Click()
     if (RefuseWhileEmployed() || !ConfirmDeactivation())
         return;
     if (Attempt([&] { DeactivateUnit(datAbsence, kind_, unit_.RecordID); }))
-        Complete(Say(kind_.Texts.Deactivated));
+        Complete(T(kind_.Texts.Deactivated));
 }
 
 /// Shows the names that were filled in, also when something else is wrong.
@@ -308,26 +308,26 @@ bool frmUnit::Validate(UnitEntry& unit)
 
 bool frmUnit::ConfirmAddition(const UnitEntry& unit) const
 {
-    const QString names = Say(kind_.Texts.Names, {{"english", unit.EnglishName}, {"french", unit.FrenchName}});
-    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), Say(kind_.Texts.AddQuestion) + "\r\n\r\n" + names);
+    const QString names = T(kind_.Texts.Names, {{"english", unit.EnglishName}, {"french", unit.FrenchName}});
+    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T(kind_.Texts.AddQuestion) + "\r\n\r\n" + names);
 }
 
 bool frmUnit::ConfirmModification(const UnitEntry& unit) const
 {
-    const QString names = Say(kind_.Texts.Names, {{"english", unit.EnglishName}, {"french", unit.FrenchName}});
+    const QString names = T(kind_.Texts.Names, {{"english", unit.EnglishName}, {"french", unit.FrenchName}});
     const QString question =
         T("Record the following modifications?", "Souhaitez-vous sauvegarder les modifications suivantes:");
     if (!Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), question + "\r\n\r\n" + names))
         return false;
     return !unit.IsMoved() ||
            Ask(T("WARNING:", "AVERTISSEMENT:"),
-               Say(kind_.Texts.MoveQuestion, {{"name", ShownName(unit)}, {"parent", page_->ChosenParent()}}),
+               T(kind_.Texts.MoveQuestion, {{"name", ShownName(unit)}, {"parent", page_->ChosenParent()}}),
                Face::Warning);
 }
 
 bool frmUnit::ConfirmDeactivation() const
 {
-    return Ask(T("WARNING:", "MISE EN GARDE:"), Say(kind_.Texts.DeactivateQuestion, {{"name", ShownName(unit_)}}),
+    return Ask(T("WARNING:", "MISE EN GARDE:"), T(kind_.Texts.DeactivateQuestion, {{"name", ShownName(unit_)}}),
                Face::Warning);
 }
 
@@ -339,8 +339,8 @@ bool frmUnit::RefuseWhileEmployed()
         return true;
     if (employees == 0)
         return false;
-    Tell(T("OPERATION NOT ALLOWED:", "OPÉRATION REFUSÉE:"),
-         Say(kind_.Texts.StillEmployed, {{"name", ShownName(unit_)}}), Face::Warning);
+    Tell(T("OPERATION NOT ALLOWED:", "OPÉRATION REFUSÉE:"), T(kind_.Texts.StillEmployed, {{"name", ShownName(unit_)}}),
+         Face::Warning);
     return true;
 }
 

@@ -48,7 +48,7 @@ UnitAddressPage::UnitAddressPage()
 void UnitAddressPage::LoadCaptions()
 {
     for (int line = 0; line < kAddressLines; ++line)
-        labels_[line]->setText(Say(kAddressFields[line].Label));
+        labels_[line]->setText(T(kAddressFields[line].Label));
 }
 
 void UnitAddressPage::Show(DataControl& /*datAbsence*/, const UnitEntry& unit)
@@ -77,7 +77,7 @@ UnitParentPage::UnitParentPage(const UnitKind& kind) : kind_(kind)
 
 void UnitParentPage::LoadCaptions()
 {
-    lblParent->setText(Say(kind_.Texts.ParentLabel));
+    lblParent->setText(T(kind_.Texts.ParentLabel));
     lstParents->setAccessibleName(lblParent->text());
 }
 

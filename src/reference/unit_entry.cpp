@@ -19,8 +19,8 @@ void Tidy(UnitEntry& unit)
 
 std::optional<UnitFault> FaultOfNames(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit)
 {
-    const auto fault = [](const UnitText& text, const char* field) {
-        return UnitFault{Say(text, {{"FiscalYearName", SessionState.FiscalYearName}}), field};
+    const auto fault = [](const Text& text, const char* field) {
+        return UnitFault{T(text, {{"FiscalYearName", SessionState.FiscalYearName}}), field};
     };
     if (unit.EnglishName.isEmpty())
         return fault(kind.Texts.NameMissing, SessionState.English ? "txtEnglishName" : "txtFrenchName");
@@ -36,8 +36,8 @@ std::optional<UnitFault> FaultOfNames(DataControl& datAbsence, const UnitKind& k
 std::optional<UnitFault> FaultOfAddress(const UnitEntry& unit)
 {
     for (int line = 0; line < kAddressLines; ++line)
-        if (kAddressFields[line].Missing.English && unit.Address[line].isEmpty())
-            return UnitFault{Say(kAddressFields[line].Missing), kAddressFields[line].Control};
+        if (!kAddressFields[line].Missing.IsEmpty() && unit.Address[line].isEmpty())
+            return UnitFault{T(kAddressFields[line].Missing), kAddressFields[line].Control};
     return {};
 }
 } // namespace
@@ -53,6 +53,6 @@ std::optional<UnitFault> ValidateRecord(DataControl& datAbsence, const UnitKind&
     if (const auto fault = FaultOfNames(datAbsence, kind, unit))
         return fault;
     if (kind.Parent && unit.ParentID == 0)
-        return UnitFault{Say(kind.Texts.ParentMissing), kind.ParentList};
+        return UnitFault{T(kind.Texts.ParentMissing), kind.ParentList};
     return kind.HasAddress ? FaultOfAddress(unit) : std::nullopt;
 }

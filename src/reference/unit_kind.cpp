@@ -1,10 +1,5 @@
 #include "reference/unit_kind.h"
 
-QString Say(const UnitText& text, std::initializer_list<std::pair<const char*, QString>> values)
-{
-    return Fill(T(text.English, text.French), values);
-}
-
 const UnitKind kOrganizations = {
     "frmOrganizations",
     "Organizations",

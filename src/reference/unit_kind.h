@@ -5,43 +5,33 @@
 #include <array>
 #include <vector>
 
-/// A text in both languages; {names} in it are filled in by Say.
-struct UnitText
-{
-    const char* English;
-    const char* French;
-};
-
-/// The text in the language of the session.
-QString Say(const UnitText& text, std::initializer_list<std::pair<const char*, QString>> values = {});
-
 /// What is said of one level of units. {name}: the unit's shown name; {english} and {french}: both its names;
 /// {parent}: the shown name of the unit above; {FiscalYearName}.
 struct UnitTexts
 {
-    UnitText Caption;
-    UnitText ListLabel;
-    UnitText ListPrompt;
-    UnitText EnglishNameLabel;
-    UnitText FrenchNameLabel;
-    UnitText ParentLabel;
+    Text Caption;
+    Text ListLabel;
+    Text ListPrompt;
+    Text EnglishNameLabel;
+    Text FrenchNameLabel;
+    Text ParentLabel;
 
-    UnitText NoParent; ///< the form does not open
-    UnitText NameMissing;
-    UnitText EnglishNameTaken;
-    UnitText FrenchNameTaken;
-    UnitText ParentMissing;
+    Text NoParent; ///< the form does not open
+    Text NameMissing;
+    Text EnglishNameTaken;
+    Text FrenchNameTaken;
+    Text ParentMissing;
 
-    UnitText AddQuestion;
-    UnitText Names; ///< the lines below the questions of adding and modifying
-    UnitText Added;
-    UnitText InactiveRemark; ///< in the list, beside the name
-    UnitText InactiveTitle;
-    UnitText ReactivateQuestion;
-    UnitText MoveQuestion;
-    UnitText StillEmployed;
-    UnitText DeactivateQuestion;
-    UnitText Deactivated;
+    Text AddQuestion;
+    Text Names; ///< the lines below the questions of adding and modifying
+    Text Added;
+    Text InactiveRemark; ///< in the list, beside the name
+    Text InactiveTitle;
+    Text ReactivateQuestion;
+    Text MoveQuestion;
+    Text StillEmployed;
+    Text DeactivateQuestion;
+    Text Deactivated;
 };
 
 /// One level of the tree of units: organizations, departments or groups.
@@ -70,8 +60,8 @@ struct AddressField
     const char* Control;
     const char* Column;
     int Limit;
-    UnitText Label;
-    UnitText Missing;
+    Text Label;
+    Text Missing;
 };
 
 inline constexpr int kAddressLines = 7;
