@@ -1,14 +1,6 @@
 #include "reference/frm_unit.h"
 
-#include "foundation/common_services.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
 #include "platform/controls/remark_delegate.h"
-#include "reference/frm_unit_pages.h"
-
-#include <QComboBox>
-#include <QStyle>
-#include <QTimer>
 
 namespace
 {
@@ -16,7 +8,18 @@ constexpr int kNameLimit = 75;
 constexpr int kFieldsWidth = 660;
 constexpr int kCardGap = 14;
 constexpr int kEntriesShown = 16;
+constexpr int kListHeight = 130;
 constexpr int kRemark = Qt::UserRole + 1;
+
+/// Where an address field stands in a grid of six columns.
+struct Place
+{
+    int Row;
+    int Column;
+    int Span;
+};
+constexpr std::array<Place, kAddressLines> kPlaces = {
+    {{0, 0, 3}, {0, 3, 3}, {1, 0, 1}, {1, 1, 2}, {1, 3, 3}, {2, 0, 3}, {2, 3, 3}}};
 
 QString NameOf(const QModelIndex& entry)
 {
@@ -37,115 +40,73 @@ QString RemarkOn(const UnitItem& item, const UnitKind& kind)
     remarks.removeAll(QString());
     return remarks.join(", ");
 }
-
-QLineEdit* NameField(const QString& name)
-{
-    auto* field = Named<QLineEdit>(name);
-    field->setMaxLength(kNameLimit);
-    FilterKeys(field, KeyFilter::FreeText);
-    return field;
-}
-
-void SetMain(QPushButton* button, bool main)
-{
-    button->setDefault(main);
-    button->setProperty("look", main ? "main" : "");
-    button->style()->unpolish(button);
-    button->style()->polish(button);
-}
 } // namespace
 
-frmUnit::frmUnit(const UnitKind& kind, UnitPage* page, QWidget* parent)
-    : QDialog(parent), kind_(kind), page_(page), datAbsence(kind.FormName)
+frmUnit::frmUnit(const UnitKind& kind, QWidget* parent) : EditingForm(kind.FormName, parent), kind_(kind)
 {
-    setObjectName(kind.FormName);
-    BuildControls();
-    BuildPage();
-    ConnectControls();
-    LoadCaptions();
-    cmdCancelOperation_Click();
-}
-
-void frmUnit::BuildControls()
-{
-    lblRecords = Named<QLabel>("lblRecords");
-    cboRecords = Named<QComboBox>("cboRecords");
-    cboRecords->setItemDelegate(new RemarkDelegate(NameOf, RemarkOf, cboRecords));
-    cboRecords->setMaxVisibleItems(kEntriesShown);
-    lblEnglishName = Named<QLabel>("lblEnglishName");
-    txtEnglishName = NameField("txtEnglishName");
-    lblFrenchName = Named<QLabel>("lblFrenchName");
-    txtFrenchName = NameField("txtFrenchName");
-    cmdAdd = Named<QPushButton>("cmdAdd");
-    cmdModify = Named<QPushButton>("cmdModify");
-    cmdDeactivate = Named<QPushButton>("cmdDeactivate");
-    cmdCancelOperation = Named<QPushButton>("cmdCancelOperation");
-    cmdQuit = Named<QPushButton>("cmdQuit");
-}
-
-void frmUnit::BuildPage()
-{
+    SetTitle(this, kind.Texts.Caption);
+    BuildList();
     auto* column = new QVBoxLayout;
     column->setSpacing(kCardGap);
     column->addLayout(Names());
-    column->addWidget(page_, 1);
+    column->addLayout(kind.HasAddress ? Address() : Parents(), 1);
     fields_ = MakeCard(column);
     fields_->setMinimumWidth(kFieldsWidth);
-    auto* page = PageLayout(this);
-    page->addWidget(MakeCard(Captioned(lblRecords, cboRecords)));
-    page->addWidget(fields_, 1);
-    page->addLayout(Buttons());
+    Page()->addWidget(fields_, 1);
+    LayFoot({cmdAdd, cmdModify, cmdDeactivate}, {cmdCancelOperation, cmdQuit});
+    cmdCancelOperation_Click();
+}
+
+void frmUnit::BuildList()
+{
+    cboRecords = Named<QComboBox>("cboRecords");
+    cboRecords->setItemDelegate(new RemarkDelegate(NameOf, RemarkOf, cboRecords));
+    cboRecords->setMaxVisibleItems(kEntriesShown);
+    cboRecords->setPlaceholderText(T(kind_.Texts.ListPrompt));
+    connect(cboRecords, &QComboBox::activated, this, &frmUnit::cboRecords_Click);
+    auto* lblRecords = MakeLabel("lblRecords");
+    lblRecords->setText(T(kind_.Texts.ListLabel, {{"FiscalYearName", SessionState.FiscalYearName}}));
+    Page()->addWidget(MakeCard(Captioned(lblRecords, cboRecords)));
 }
 
 /// The name that the user's language requires comes first.
 QHBoxLayout* frmUnit::Names()
 {
+    txtEnglishName = MakeField("txtEnglishName", KeyFilter::FreeText, kNameLimit);
+    txtFrenchName = MakeField("txtFrenchName", KeyFilter::FreeText, kNameLimit);
     auto* names = new QHBoxLayout;
     names->setSpacing(kCardGap);
-    names->addLayout(Captioned(lblEnglishName, txtEnglishName), 1);
-    names->insertLayout(SessionState.English ? 1 : 0, Captioned(lblFrenchName, txtFrenchName), 1);
+    names->addLayout(Captioned(kind_.Texts.EnglishNameLabel, txtEnglishName), 1);
+    names->insertLayout(SessionState.English ? 1 : 0, Captioned(kind_.Texts.FrenchNameLabel, txtFrenchName), 1);
+    if (!SessionState.English)
+        setTabOrder(txtFrenchName, txtEnglishName);
     return names;
 }
 
-QHBoxLayout* frmUnit::Buttons()
+QLayout* frmUnit::Address()
 {
-    auto* row = Row({cmdAdd, cmdModify, cmdDeactivate});
-    row->addWidget(cmdCancelOperation);
-    row->addWidget(cmdQuit);
-    return row;
+    auto* grid = new QGridLayout;
+    grid->setSpacing(kCardGap);
+    for (int column = 0; column < 6; ++column)
+        grid->setColumnStretch(column, 1);
+    for (int line = 0; line < kAddressLines; ++line) {
+        const AddressField& field = kAddressFields[line];
+        address_ << MakeField(field.Control, KeyFilter::FreeText, field.Limit);
+        const auto& [row, column, span] = kPlaces[line];
+        grid->addLayout(Captioned(field.Label, address_.last()), row, column, 1, span);
+    }
+    grid->setRowStretch(3, 1);
+    QLineEdit* txtZipCode = address_.last();
+    connect(txtZipCode, &QLineEdit::editingFinished, this,
+            [txtZipCode] { txtZipCode->setText(txtZipCode->text().toUpper()); });
+    return grid;
 }
 
-void frmUnit::ConnectControls()
+QLayout* frmUnit::Parents()
 {
-    if (!SessionState.English)
-        setTabOrder(txtFrenchName, txtEnglishName);
-    connect(cboRecords, &QComboBox::activated, this, &frmUnit::cboRecords_Click);
-    connect(cmdAdd, &QPushButton::clicked, this, &frmUnit::cmdAdd_Click);
-    connect(cmdModify, &QPushButton::clicked, this, &frmUnit::cmdModify_Click);
-    connect(cmdDeactivate, &QPushButton::clicked, this, &frmUnit::cmdDeactivate_Click);
-    connect(cmdCancelOperation, &QPushButton::clicked, this, &frmUnit::cmdCancelOperation_Click);
-    connect(cmdQuit, &QPushButton::clicked, this, &frmUnit::reject);
-}
-
-void frmUnit::LoadCaptions()
-{
-    const UnitTexts& texts = kind_.Texts;
-    setWindowTitle(T(texts.Caption));
-    lblRecords->setText(T(texts.ListLabel, {{"FiscalYearName", SessionState.FiscalYearName}}));
-    cboRecords->setPlaceholderText(T(texts.ListPrompt));
-    lblEnglishName->setText(T(texts.EnglishNameLabel));
-    lblFrenchName->setText(T(texts.FrenchNameLabel));
-    cmdDeactivate->setText(T("&Deactivate", "&Désactiver"));
-    cmdCancelOperation->setText(T("&Cancel operation", "A&nnuler l'opération"));
-    cmdQuit->setText(T("C&lose", "&Sortir"));
-    page_->LoadCaptions();
-}
-
-void frmUnit::showEvent(QShowEvent* event)
-{
-    QDialog::showEvent(event);
-    if (!event->spontaneous())
-        QTimer::singleShot(0, this, &frmUnit::Form_Activate);
+    lstParents = Named<QListWidget>(kind_.ParentList);
+    lstParents->setFixedHeight(kListHeight);
+    return Captioned(kind_.Texts.ParentLabel, lstParents);
 }
 
 void frmUnit::Form_Activate()
@@ -174,55 +135,64 @@ void frmUnit::ShowRecords(const QVector<UnitItem>& items)
         cboRecords->addItem(item.Name, item.RecordID);
         cboRecords->setItemData(cboRecords->count() - 1, RemarkOn(item, kind_), kRemark);
     }
-    cboRecords->setCurrentIndex(cboRecords->findData(unit_.RecordID));
+    cboRecords->setCurrentIndex(cboRecords->findData(record_.RecordID));
 }
 
-void frmUnit::ShowUnit(const UnitEntry& unit)
+void frmUnit::Show(const UnitEntry& unit)
 {
-    unit_ = unit;
-    cboRecords->setCurrentIndex(cboRecords->findData(unit.RecordID));
     txtEnglishName->setText(unit.EnglishName);
     txtFrenchName->setText(unit.FrenchName);
-    page_->Show(datAbsence, unit);
-    ShowButtons();
+    for (int line = 0; line < address_.size(); ++line)
+        address_[line]->setText(unit.Address[line]);
 }
 
-UnitEntry frmUnit::ReadForm() const
+/// The units above are read when a unit is chosen; while it is edited their list keeps its mark.
+void frmUnit::ChooseUnit(const UnitEntry& unit)
 {
-    UnitEntry unit = unit_;
+    record_ = unit;
+    cboRecords->setCurrentIndex(cboRecords->findData(unit.RecordID));
+    Show(unit);
+    if (!lstParents)
+        return;
+    lstParents->clear();
+    for (const UnitItem& parent : LoadParentItems(datAbsence, kind_, unit.ParentID))
+        AddEntry(lstParents, parent.Name, parent.RecordID);
+    Choose(lstParents, unit.ParentID);
+}
+
+/// The zip code may not have been left yet: a mnemonic presses a button without moving the focus.
+UnitEntry frmUnit::Read() const
+{
+    UnitEntry unit = record_;
     unit.EnglishName = txtEnglishName->text();
     unit.FrenchName = txtFrenchName->text();
-    page_->Read(unit);
+    for (int line = 0; line < address_.size(); ++line)
+        unit.Address[line] = address_[line]->text();
+    unit.Address.back() = unit.Address.back().toUpper();
+    if (lstParents)
+        unit.ParentID = ChosenID(lstParents);
     return unit;
 }
 
-void frmUnit::EnterMode(Mode mode)
+void frmUnit::EnableControls()
 {
-    mode_ = mode;
-    ShowButtons();
-    if (fields_->isEnabled())
-        FocusFirstField();
-    else if (mode != Mode::Idle)
-        cboRecords->setFocus();
+    const EditingMode mode = Mode();
+    const bool modifying = mode == EditingMode::Modifying;
+    fields_->setEnabled(mode == EditingMode::Adding || (modifying && HasRecord()));
+    cboRecords->setEnabled(IsIdle() || mode == EditingMode::Deactivating || (modifying && !HasRecord()));
 }
 
-/// In a mode only its own button and the way out of it can be pressed; what needs a record waits until one is chosen.
-void frmUnit::ShowButtons()
+bool frmUnit::Begin(EditingMode mode)
 {
-    const bool idle = mode_ == Mode::Idle;
-    const bool chosen = unit_.RecordID != 0;
-    fields_->setEnabled(mode_ == Mode::Adding || (mode_ == Mode::Modifying && chosen));
-    cboRecords->setEnabled(idle || mode_ == Mode::Deactivating || (mode_ == Mode::Modifying && !chosen));
-    cmdAdd->setEnabled(idle || mode_ == Mode::Adding);
-    cmdModify->setEnabled(idle || (mode_ == Mode::Modifying && chosen));
-    cmdDeactivate->setEnabled(idle || (mode_ == Mode::Deactivating && chosen));
-    cmdCancelOperation->setEnabled(!idle);
-    cmdQuit->setEnabled(idle);
-    cmdAdd->setText(mode_ == Mode::Adding ? T("&Save", "&Enregistrer") : T("&Add", "&Ajouter"));
-    cmdModify->setText(mode_ == Mode::Modifying ? T("&Save", "&Enregistrer") : T("&Modify", "&Modifier"));
-    SetMain(cmdAdd, idle || mode_ == Mode::Adding);
-    SetMain(cmdModify, mode_ == Mode::Modifying);
-    SetMain(cmdDeactivate, mode_ == Mode::Deactivating);
+    if (mode == EditingMode::Adding)
+        ChooseUnit({});
+    if (mode == EditingMode::Deactivating)
+        LoadActiveRecords();
+    if (fields_->isEnabled())
+        FocusFirstField();
+    else
+        cboRecords->setFocus();
+    return true;
 }
 
 void frmUnit::FocusFirstField()
@@ -232,7 +202,8 @@ void frmUnit::FocusFirstField()
 
 void frmUnit::ResetVariables()
 {
-    ShowUnit({});
+    ChooseUnit({});
+    LoadRecords();
 }
 
 void frmUnit::cboRecords_Click(int index)
@@ -240,7 +211,8 @@ void frmUnit::cboRecords_Click(int index)
     UnitEntry unit = LoadUnit(datAbsence, kind_, cboRecords->itemData(index).toInt());
     if (!unit.Active && !Reactivate(unit))
         unit = {};
-    ShowUnit(unit);
+    ChooseUnit(unit);
+    ShowMode();
     if (fields_->isEnabled())
         FocusFirstField();
 }
@@ -257,122 +229,66 @@ bool frmUnit::Reactivate(const UnitEntry& unit)
     return true;
 }
 
-void frmUnit::cmdAdd_Click()
+std::optional<Fault> frmUnit::Validate(UnitEntry& unit)
 {
-    if (mode_ == Mode::Idle) {
-        ResetVariables();
-        return EnterMode(Mode::Adding);
-    }
-    UnitEntry unit = ReadForm();
-    if (!Validate(unit) || !ConfirmAddition(unit))
-        return;
-    if (Attempt([&] { AddUnit(datAbsence, kind_, unit); }))
-        Complete(T(kind_.Texts.Added));
+    return ValidateRecord(datAbsence, kind_, unit);
 }
 
-void frmUnit::cmdModify_Click()
+void frmUnit::Finish(EditingMode mode)
 {
-    if (mode_ == Mode::Idle)
-        return EnterMode(Mode::Modifying);
-    UnitEntry unit = ReadForm();
-    if (!Validate(unit) || !ConfirmModification(unit))
-        return;
-    if (Attempt([&] { ModifyUnit(datAbsence, kind_, unit); }))
-        Complete(T("All modifications have been recorded.", "Toutes les modifications ont été enregistrées."));
+    if (mode == EditingMode::Deactivating && CountActiveEmployees(datAbsence, kind_, record_.RecordID) != 0)
+        return Tell(T("OPERATION NOT ALLOWED:", "OPÉRATION REFUSÉE:"),
+                    T(kind_.Texts.StillEmployed, {{"name", ShownName(record_)}}), Face::Warning);
+    EditingForm::Finish(mode);
 }
 
-void frmUnit::cmdDeactivate_Click()
+bool frmUnit::Confirm(EditingMode mode, const UnitEntry& unit)
 {
-    if (mode_ == Mode::Idle) {
-        LoadActiveRecords();
-        return EnterMode(Mode::Deactivating);
-    }
-    if (RefuseWhileEmployed() || !ConfirmDeactivation())
-        return;
-    if (Attempt([&] { DeactivateUnit(datAbsence, kind_, unit_.RecordID); }))
-        Complete(T(kind_.Texts.Deactivated));
+    if (mode == EditingMode::Deactivating)
+        return ConfirmDeactivation();
+    if (mode == EditingMode::Adding)
+        return ConfirmEntry(kind_.Texts.AddQuestion, unit);
+    return ConfirmEntry(
+               {"Record the following modifications?", "Souhaitez-vous sauvegarder les modifications suivantes:"},
+               unit) &&
+           ConfirmMove(unit);
 }
 
-/// Shows the names that were filled in, also when something else is wrong.
-bool frmUnit::Validate(UnitEntry& unit)
-{
-    const auto fault = ValidateRecord(datAbsence, kind_, unit);
-    txtEnglishName->setText(unit.EnglishName);
-    txtFrenchName->setText(unit.FrenchName);
-    if (!fault)
-        return true;
-    Tell(T("ERROR:", "ERREUR:"), fault->Text, Face::Warning);
-    findChild<QWidget*>(fault->Field)->setFocus();
-    return false;
-}
-
-bool frmUnit::ConfirmAddition(const UnitEntry& unit) const
+bool frmUnit::ConfirmEntry(const Text& question, const UnitEntry& unit) const
 {
     const QString names = T(kind_.Texts.Names, {{"english", unit.EnglishName}, {"french", unit.FrenchName}});
-    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T(kind_.Texts.AddQuestion) + "\r\n\r\n" + names);
+    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T(question) + "\r\n\r\n" + names);
 }
 
-bool frmUnit::ConfirmModification(const UnitEntry& unit) const
+bool frmUnit::ConfirmMove(const UnitEntry& unit) const
 {
-    const QString names = T(kind_.Texts.Names, {{"english", unit.EnglishName}, {"french", unit.FrenchName}});
-    const QString question =
-        T("Record the following modifications?", "Souhaitez-vous sauvegarder les modifications suivantes:");
-    if (!Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), question + "\r\n\r\n" + names))
-        return false;
     return !unit.IsMoved() ||
            Ask(T("WARNING:", "AVERTISSEMENT:"),
-               T(kind_.Texts.MoveQuestion, {{"name", ShownName(unit)}, {"parent", page_->ChosenParent()}}),
+               T(kind_.Texts.MoveQuestion, {{"name", ShownName(unit)}, {"parent", ChosenText(lstParents)}}),
                Face::Warning);
 }
 
 bool frmUnit::ConfirmDeactivation() const
 {
-    return Ask(T("WARNING:", "MISE EN GARDE:"), T(kind_.Texts.DeactivateQuestion, {{"name", ShownName(unit_)}}),
+    return Ask(T("WARNING:", "MISE EN GARDE:"), T(kind_.Texts.DeactivateQuestion, {{"name", ShownName(record_)}}),
                Face::Warning);
 }
 
-/// True, with the reason told, while the unit has active employees or they cannot be counted.
-bool frmUnit::RefuseWhileEmployed()
+void frmUnit::Write(EditingMode mode, const UnitEntry& unit)
 {
-    int employees = 0;
-    if (!Attempt([&] { employees = CountActiveEmployees(datAbsence, kind_, unit_.RecordID); }))
-        return true;
-    if (employees == 0)
-        return false;
-    Tell(T("OPERATION NOT ALLOWED:", "OPÉRATION REFUSÉE:"), T(kind_.Texts.StillEmployed, {{"name", ShownName(unit_)}}),
-         Face::Warning);
-    return true;
+    if (mode == EditingMode::Adding)
+        AddUnit(datAbsence, kind_, unit);
+    else if (mode == EditingMode::Modifying)
+        ModifyUnit(datAbsence, kind_, unit);
+    else
+        DeactivateUnit(datAbsence, kind_, unit.RecordID);
 }
 
-/// True when the work is done. A failure is told, and leaves the form as it is.
-bool frmUnit::Attempt(const std::function<void()>& write)
+void frmUnit::TellDone(EditingMode mode, const UnitEntry& /*unit*/)
 {
-    try {
-        write();
-        return true;
-    } catch (const RuntimeError& error) {
-        TellError(error);
-        return false;
-    }
-}
-
-void frmUnit::Complete(const QString& text)
-{
-    Tell(T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:"), text, Face::Congratulating);
-    cmdCancelOperation_Click();
-}
-
-void frmUnit::cmdCancelOperation_Click()
-{
-    ResetVariables();
-    LoadRecords();
-    EnterMode(Mode::Idle);
-}
-
-void frmUnit::reject()
-{
-    if (mode_ != Mode::Idle)
-        return cmdCancelOperation_Click();
-    ResetVariables();
-    QDialog::reject();
+    const Text done[] = {{},
+                         kind_.Texts.Added,
+                         {"All modifications have been recorded.", "Toutes les modifications ont été enregistrées."},
+                         kind_.Texts.Deactivated};
+    Tell(T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:"), T(done[static_cast<int>(mode)]), Face::Congratulating);
 }

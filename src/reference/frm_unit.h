@@ -1,89 +1,73 @@
 #pragma once
 
-#include "platform/dao/dao.h"
+#include "foundation/frm_editing.h"
 #include "reference/unit_records.h"
 
-#include <QDialog>
-
-#include <functional>
-
-class QComboBox;
-class QHBoxLayout;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class UnitPage;
-
-/// Adds, modifies, deactivates and reactivates the units of one level: a button's first press opens its mode, the
-/// second does the work. A form whose units would have no unit above them says so when it is shown, and closes.
-class frmUnit : public QDialog
+/// Adds, modifies, deactivates and reactivates the units of one level. A form whose units would have no unit above them
+/// says so when it is shown, and closes.
+class frmUnit : public EditingForm<UnitEntry>
 {
 public:
     void LoadRecords();
     void LoadActiveRecords();
-    /// In a mode it only leaves the mode.
-    void reject() override;
 
 protected:
-    /// `page`: what this level has besides its names; the form takes it over.
-    frmUnit(const UnitKind& kind, UnitPage* page, QWidget* parent);
-    void showEvent(QShowEvent* event) override;
+    frmUnit(const UnitKind& kind, QWidget* parent);
+
+    void Form_Activate() override;
+    bool Begin(EditingMode mode) override;
+    void Finish(EditingMode mode) override;
+    void ResetVariables() override;
+    bool HasRecord() const override { return record_.RecordID != 0; }
+    void EnableControls() override;
+    void Show(const UnitEntry& unit) override;
+    UnitEntry Read() const override;
+    std::optional<Fault> Validate(UnitEntry& unit) override;
+    bool Confirm(EditingMode mode, const UnitEntry& unit) override;
+    void Write(EditingMode mode, const UnitEntry& unit) override;
+    void TellDone(EditingMode mode, const UnitEntry& unit) override;
 
 private:
-    enum class Mode
-    {
-        Idle,
-        Adding,
-        Modifying,
-        Deactivating
-    };
-
-    void BuildControls();
-    void BuildPage();
+    void BuildList();
     QHBoxLayout* Names();
-    QHBoxLayout* Buttons();
-    void ConnectControls();
-    void LoadCaptions();
-    void Form_Activate();
-
+    QLayout* Address();
+    QLayout* Parents();
     void ShowRecords(const QVector<UnitItem>& items);
-    void ShowUnit(const UnitEntry& unit);
-    UnitEntry ReadForm() const;
-    void EnterMode(Mode mode);
-    void ShowButtons();
+    void ChooseUnit(const UnitEntry& unit);
     void FocusFirstField();
-    void ResetVariables();
 
     void cboRecords_Click(int index);
-    void cmdAdd_Click();
-    void cmdModify_Click();
-    void cmdDeactivate_Click();
-    void cmdCancelOperation_Click();
     bool Reactivate(const UnitEntry& unit);
-    bool Validate(UnitEntry& unit);
-    bool ConfirmAddition(const UnitEntry& unit) const;
-    bool ConfirmModification(const UnitEntry& unit) const;
+    bool ConfirmEntry(const Text& question, const UnitEntry& unit) const;
+    bool ConfirmMove(const UnitEntry& unit) const;
     bool ConfirmDeactivation() const;
-    bool RefuseWhileEmployed();
-    bool Attempt(const std::function<void()>& write);
-    void Complete(const QString& text);
 
     const UnitKind& kind_;
-    UnitPage* page_;
-    DataControl datAbsence;
-    Mode mode_ = Mode::Idle;
-    UnitEntry unit_; ///< the record chosen, as it is stored
+    QComboBox* cboRecords;
+    QWidget* fields_;
+    QLineEdit* txtEnglishName;
+    QLineEdit* txtFrenchName;
+    QVector<QLineEdit*> address_;      ///< in the order of kAddressFields; empty for a level without address
+    QListWidget* lstParents = nullptr; ///< the units above; nullptr at the top
+};
 
-    QLabel* lblRecords = nullptr;
-    QComboBox* cboRecords = nullptr;
-    QWidget* fields_ = nullptr;
-    QLabel* lblEnglishName = nullptr;
-    QLineEdit* txtEnglishName = nullptr;
-    QLabel* lblFrenchName = nullptr;
-    QLineEdit* txtFrenchName = nullptr;
-    QPushButton* cmdAdd = nullptr;
-    QPushButton* cmdModify = nullptr;
-    QPushButton* cmdDeactivate = nullptr;
-    QPushButton* cmdCancelOperation = nullptr;
-    QPushButton* cmdQuit = nullptr;
+/// The organizations, with their addresses, of the fiscal year.
+class frmOrganizations : public frmUnit
+{
+public:
+    explicit frmOrganizations(QWidget* parent = nullptr) : frmUnit(kOrganizations, parent) {}
+};
+
+/// The departments, each under its organization, of the fiscal year.
+class frmDepartments : public frmUnit
+{
+public:
+    explicit frmDepartments(QWidget* parent = nullptr) : frmUnit(kDepartments, parent) {}
+};
+
+/// The groups, each under its department, of the fiscal year.
+class frmGroups : public frmUnit
+{
+public:
+    explicit frmGroups(QWidget* parent = nullptr) : frmUnit(kGroups, parent) {}
 };

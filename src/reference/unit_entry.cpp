@@ -17,10 +17,10 @@ void Tidy(UnitEntry& unit)
         line = line.trimmed();
 }
 
-std::optional<UnitFault> FaultOfNames(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit)
+std::optional<Fault> FaultOfNames(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit)
 {
     const auto fault = [](const Text& text, const char* field) {
-        return UnitFault{T(text, {{"FiscalYearName", SessionState.FiscalYearName}}), field};
+        return Fault{field, T(text, {{"FiscalYearName", SessionState.FiscalYearName}})};
     };
     if (unit.EnglishName.isEmpty())
         return fault(kind.Texts.NameMissing, SessionState.English ? "txtEnglishName" : "txtFrenchName");
@@ -33,11 +33,11 @@ std::optional<UnitFault> FaultOfNames(DataControl& datAbsence, const UnitKind& k
     return {};
 }
 
-std::optional<UnitFault> FaultOfAddress(const UnitEntry& unit)
+std::optional<Fault> FaultOfAddress(const UnitEntry& unit)
 {
     for (int line = 0; line < kAddressLines; ++line)
         if (!kAddressFields[line].Missing.IsEmpty() && unit.Address[line].isEmpty())
-            return UnitFault{T(kAddressFields[line].Missing), kAddressFields[line].Control};
+            return Fault{kAddressFields[line].Control, T(kAddressFields[line].Missing)};
     return {};
 }
 } // namespace
@@ -47,12 +47,12 @@ QString ShownName(const UnitEntry& unit)
     return SessionState.English ? unit.EnglishName : unit.FrenchName;
 }
 
-std::optional<UnitFault> ValidateRecord(DataControl& datAbsence, const UnitKind& kind, UnitEntry& unit)
+std::optional<Fault> ValidateRecord(DataControl& datAbsence, const UnitKind& kind, UnitEntry& unit)
 {
     Tidy(unit);
     if (const auto fault = FaultOfNames(datAbsence, kind, unit))
         return fault;
     if (kind.Parent && unit.ParentID == 0)
-        return UnitFault{T(kind.Texts.ParentMissing), kind.ParentList};
+        return Fault{kind.ParentList, T(kind.Texts.ParentMissing)};
     return kind.HasAddress ? FaultOfAddress(unit) : std::nullopt;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/fault.h"
 #include "reference/unit_kind.h"
 
 #include <QString>
@@ -26,13 +27,6 @@ struct UnitEntry
 /// The name in the language of the session.
 QString ShownName(const UnitEntry& unit);
 
-/// Why an entry cannot be recorded, and the field to go to.
-struct UnitFault
-{
-    QString Text;
-    QString Field;
-};
-
 /// Trims the entry, gives a name left empty the one of the other language, and checks the rest. Nothing when all is
 /// well.
-std::optional<UnitFault> ValidateRecord(DataControl& datAbsence, const UnitKind& kind, UnitEntry& unit);
+std::optional<Fault> ValidateRecord(DataControl& datAbsence, const UnitKind& kind, UnitEntry& unit);

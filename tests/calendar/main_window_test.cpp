@@ -4,7 +4,7 @@
 #include "foundation/frm_login.h"
 #include "platform/clock.h"
 #include "platform/controls/flex_grid.h"
-#include "reference/frm_organizations.h"
+#include "reference/frm_unit.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
 #include "selection/frm_select_employee.h"

@@ -1,6 +1,4 @@
-#include "reference/frm_departments.h"
-#include "reference/frm_groups.h"
-#include "reference/frm_organizations.h"
+#include "reference/frm_unit.h"
 #include "support/user.h"
 
 #include <gtest/gtest.h>

@@ -24,7 +24,7 @@ protected:
     QString Fault(const UnitKind& kind, UnitEntry unit)
     {
         const auto fault = ValidateRecord(datAbsence, kind, unit);
-        return fault ? fault->Field + ": " + fault->Text : QString();
+        return fault ? fault->Control + ": " + fault->Text : QString();
     }
     QStringList Shown(const QVector<UnitItem>& items)
     {

@@ -107,16 +107,6 @@ QFont ProgramFont()
     return font;
 }
 
-void ShowTabOf(QWidget* field)
-{
-    QWidget* page = field;
-    for (QWidget* above = field->parentWidget(); above; above = above->parentWidget()) {
-        if (auto* tabs = qobject_cast<QTabWidget*>(above))
-            return tabs->setCurrentWidget(page);
-        if (!qobject_cast<QStackedWidget*>(above))
-            page = above;
-    }
-}
 } // namespace
 
 QVBoxLayout* PageLayout(QWidget* form)
@@ -187,8 +177,16 @@ QVBoxLayout* Captioned(QLabel* caption, QWidget* control)
 
 QPushButton* AsMainButton(QPushButton* button)
 {
-    button->setDefault(true);
-    return WithLook(button, "main");
+    SetMainButton(button, true);
+    return button;
+}
+
+void SetMainButton(QPushButton* button, bool main)
+{
+    button->setDefault(main);
+    button->setProperty("look", main ? "main" : "");
+    button->style()->unpolish(button);
+    button->style()->polish(button);
 }
 
 QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons)
@@ -219,6 +217,17 @@ BusyPointer::BusyPointer()
 BusyPointer::~BusyPointer()
 {
     QApplication::restoreOverrideCursor();
+}
+
+void ShowTabOf(QWidget* control)
+{
+    QWidget* page = control;
+    for (QWidget* above = control->parentWidget(); above; above = above->parentWidget()) {
+        if (auto* tabs = qobject_cast<QTabWidget*>(above))
+            return tabs->setCurrentWidget(page);
+        if (!qobject_cast<QStackedWidget*>(above))
+            page = above;
+    }
 }
 
 void KeepFocus(QWidget* field)

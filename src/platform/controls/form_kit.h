@@ -42,6 +42,8 @@ void AddFieldRow(QGridLayout* fields, QLabel* label, QWidget* field);
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control);
 /// The one blue main button of a form, pressed by Enter.
 QPushButton* AsMainButton(QPushButton* button);
+/// The same for a button that is the main one at times.
+void SetMainButton(QPushButton* button, bool main);
 /// The row of buttons at a form's foot, pushed to the right: the main button last.
 QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons);
 
@@ -74,6 +76,8 @@ public:
     BusyPointer& operator=(const BusyPointer&) = delete;
 };
 
+/// Brings the tab to the front on which a control stands.
+void ShowTabOf(QWidget* control);
 /// Gives a field the focus back that is just being left. If it was left for another tab, its own tab returns.
 void KeepFocus(QWidget* field);
 

@@ -1,0 +1,108 @@
+#include "foundation/frm_base.h"
+
+#include "foundation/common_services.h"
+
+#include <QScreen>
+#include <QScrollArea>
+#include <QShowEvent>
+#include <QTimer>
+
+#include <utility>
+
+namespace
+{
+/// Room for the window's frame and the desktop's bars.
+constexpr QSize kFrame(16, 48);
+
+/// As large as its page, where the screen has room for it.
+class PageArea : public QScrollArea
+{
+public:
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
+QScrollArea* MakePageArea()
+{
+    auto* area = new PageArea;
+    auto* page = new QWidget;
+    page->setProperty("look", "page");
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    return area;
+}
+} // namespace
+
+FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbsence(name), scroll_(MakePageArea())
+{
+    setObjectName(name);
+    auto* layout = PageLayout(this);
+    page_ = new QVBoxLayout(scroll_->widget());
+    page_->setContentsMargins(0, 0, 0, 0);
+    page_->setSpacing(layout->spacing());
+    foot_ = ButtonRow({});
+    layout->addWidget(scroll_, 1);
+    layout->addLayout(foot_);
+}
+
+QSize FormBase::sizeHint() const
+{
+    return QDialog::sizeHint().boundedTo(screen()->availableSize() - kFrame);
+}
+
+QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)
+{
+    auto* button = MakeButton(name, caption);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, clicked] { Attempt(clicked); });
+    return button;
+}
+
+void FormBase::LayFoot(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right)
+{
+    int place = 0;
+    for (QWidget* control : left)
+        foot_->insertWidget(place++, control);
+    for (QWidget* control : right)
+        foot_->addWidget(control);
+}
+
+bool FormBase::Attempt(const std::function<void()>& work)
+{
+    try {
+        work();
+        return true;
+    } catch (const RuntimeError& error) {
+        TellError(error);
+        return false;
+    }
+}
+
+void FormBase::ShowFault(const Fault& fault)
+{
+    if (!fault.Text.isEmpty())
+        Tell(T("ERROR:", "ERREUR:"), fault.Text, Face::Warning);
+    GoTo(fault.Control);
+}
+
+void FormBase::GoTo(const QString& control)
+{
+    auto* field = control.isEmpty() ? nullptr : findChild<QWidget*>(control);
+    if (!field)
+        return;
+    ShowTabOf(field);
+    field->setFocus();
+    scroll_->ensureWidgetVisible(field);
+}
+
+void FormBase::showEvent(QShowEvent* event)
+{
+    if (!std::exchange(activated_, true)) {
+        if (!testAttribute(Qt::WA_Resized))
+            resize(sizeHint());
+        QTimer::singleShot(0, this, [this] { Form_Activate(); });
+    }
+    QDialog::showEvent(event);
+}

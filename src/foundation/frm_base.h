@@ -1,0 +1,49 @@
+#pragma once
+
+#include "foundation/fault.h"
+#include "foundation/frm_captions.h"
+#include "platform/dao/dao.h"
+
+#include <QDialog>
+
+class QScrollArea;
+
+/// What every form knows: its name, a page that scrolls where the screen is too small for it, a foot of buttons that
+/// can always be reached, its data control, and the one catch that tells a failure and leaves the form as it is.
+class FormBase : public QDialog
+{
+public:
+    /// `name` is the form's class name; it is the form's object name and stands in the log of connections.
+    explicit FormBase(const char* name, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    /// Where cards go, from the top down.
+    QVBoxLayout* Page() const { return page_; }
+    /// A button whose click runs `clicked`; a failure is told.
+    QPushButton* AddButton(const char* name, const Text& caption, const std::function<void()>& clicked);
+    /// The form's foot: what stands at its left, and at its right, the main button last.
+    void LayFoot(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right);
+    void LayFoot(std::initializer_list<QWidget*> right) { LayFoot({}, right); }
+
+    /// Runs `work`. A failure is told, and the form stays as it is: false then.
+    bool Attempt(const std::function<void()>& work);
+    /// Tells a fault and takes the user to the control to be mended.
+    void ShowFault(const Fault& fault);
+    /// Puts the focus into a control, its tab in front and in sight.
+    void GoTo(const QString& control);
+
+    /// Called once, when the form has been shown.
+    virtual void Form_Activate() {}
+    void showEvent(QShowEvent* event) override;
+
+    DataControl datAbsence;
+    bool Loading = false; ///< code fills the controls: their handlers stay silent
+
+private:
+    QScrollArea* scroll_ = nullptr;
+    QVBoxLayout* page_ = nullptr;
+    QHBoxLayout* foot_ = nullptr;
+    bool activated_ = false;
+};

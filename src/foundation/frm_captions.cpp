@@ -1,0 +1,185 @@
+#include "foundation/frm_captions.h"
+
+#include <QTabWidget>
+
+namespace
+{
+constexpr int kHeadGap = 8;
+
+/// A text of its parent that follows the language.
+class LanguageFollower : public QObject
+{
+public:
+    LanguageFollower(QObject* owner, std::function<void()> show) : QObject(owner), Show(std::move(show)) {}
+
+    const std::function<void()> Show;
+};
+
+QString WithoutMnemonic(QString text)
+{
+    return text.remove('&');
+}
+
+QVBoxLayout* Above(QLabel* label, QWidget* control, int gap)
+{
+    auto* column = new QVBoxLayout;
+    column->setSpacing(gap);
+    column->addWidget(label);
+    column->addWidget(control, 1);
+    return column;
+}
+} // namespace
+
+void FollowLanguage(QObject* owner, const std::function<void()>& show)
+{
+    new LanguageFollower(owner, show);
+    show();
+}
+
+void Retranslate(QWidget* form)
+{
+    for (QObject* child : form->findChildren<QObject*>())
+        if (const auto* follower = dynamic_cast<LanguageFollower*>(child))
+            follower->Show();
+}
+
+void SetCaption(QLabel* label, const Text& text)
+{
+    FollowLanguage(label, [=] { label->setText(T(text)); });
+}
+
+void SetCaption(QAbstractButton* button, const Text& text)
+{
+    FollowLanguage(button, [=] { button->setText(T(text)); });
+}
+
+void SetTitle(QWidget* window, const Text& text)
+{
+    FollowLanguage(window, [=] { window->setWindowTitle(T(text)); });
+}
+
+void SetPlaceholder(QComboBox* list, const Text& text)
+{
+    FollowLanguage(list, [=] { list->setPlaceholderText(T(text)); });
+}
+
+void SetToolTip(QWidget* control, const Text& text)
+{
+    FollowLanguage(control, [=] { control->setToolTip(T(text)); });
+}
+
+void SetAccessibleName(QWidget* control, const Text& text)
+{
+    FollowLanguage(control, [=] { control->setAccessibleName(WithoutMnemonic(T(text))); });
+}
+
+void AddTab(QTabWidget* tabs, QWidget* page, const Text& caption)
+{
+    const int tab = tabs->addTab(page, QString());
+    FollowLanguage(page, [=] { tabs->setTabText(tab, T(caption)); });
+}
+
+QLabel* MakeLabel(const QString& name, const Text& text)
+{
+    auto* label = Named<QLabel>(name);
+    if (!text.IsEmpty())
+        SetCaption(label, text);
+    return label;
+}
+
+QLabel* WrappedLabel(const QString& name, const Text& text)
+{
+    auto* label = MakeLabel(name, text);
+    label->setWordWrap(true);
+    return label;
+}
+
+QPushButton* MakeButton(const QString& name, const Text& caption)
+{
+    auto* button = Named<QPushButton>(name);
+    SetCaption(button, caption);
+    return button;
+}
+
+QCheckBox* MakeCheckBox(const QString& name, const Text& caption)
+{
+    auto* box = Named<QCheckBox>(name);
+    SetCaption(box, caption);
+    return box;
+}
+
+QRadioButton* MakeOption(const QString& name, const Text& caption)
+{
+    auto* option = Named<QRadioButton>(name);
+    SetCaption(option, caption);
+    return option;
+}
+
+QLineEdit* MakeField(const QString& name, KeyFilter filter, int limit)
+{
+    auto* field = Named<QLineEdit>(name);
+    field->setMaxLength(limit);
+    FilterKeys(field, filter);
+    return field;
+}
+
+QLabel* LabelOf(QWidget* control, const Text& text)
+{
+    constexpr int kPrefix = 3; // "txt", "cbo", "lst"
+    auto* label = MakeLabel("lbl" + control->objectName().mid(kPrefix), text);
+    label->setBuddy(control);
+    SetAccessibleName(control, text);
+    return label;
+}
+
+QVBoxLayout* Captioned(const Text& caption, QWidget* control, QWidget* named)
+{
+    constexpr int kCaptionGap = 3;
+    return Above(AsCaption(LabelOf(named ? named : control, caption)), control, kCaptionGap);
+}
+
+QVBoxLayout* Headed(const Text& head, QWidget* control, QWidget* named)
+{
+    constexpr int kGapBelowHead = 5;
+    return Above(AsHead(LabelOf(named ? named : control, head)), control, kGapBelowHead);
+}
+
+void AddFieldRow(QGridLayout* fields, const Text& label, QWidget* field)
+{
+    AddFieldRow(fields, LabelOf(field, label), field);
+}
+
+QFrame* HeadedCard(const Text& head, QLayout* content)
+{
+    auto* layout = new QVBoxLayout;
+    layout->setSpacing(kHeadGap);
+    layout->addWidget(AsHead(MakeLabel({}, head)));
+    layout->addLayout(content, 1);
+    return MakeCard(layout);
+}
+
+void AddEntry(QListWidget* list, const QString& text, int recordID)
+{
+    auto* entry = new QListWidgetItem(text, list);
+    entry->setData(Qt::UserRole, recordID);
+}
+
+int ChosenID(const QListWidget* list)
+{
+    const QList<QListWidgetItem*> marked = list->selectedItems();
+    return marked.isEmpty() ? 0 : marked.first()->data(Qt::UserRole).toInt();
+}
+
+QString ChosenText(const QListWidget* list)
+{
+    const QList<QListWidgetItem*> marked = list->selectedItems();
+    return marked.isEmpty() ? QString() : marked.first()->text();
+}
+
+void Choose(QListWidget* list, int recordID)
+{
+    for (int row = 0; row < list->count(); ++row)
+        if (recordID != 0 && list->item(row)->data(Qt::UserRole).toInt() == recordID)
+            return list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+    list->setCurrentRow(-1, QItemSelectionModel::Clear);
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "foundation/texts.h"
+#include "platform/controls/entry_filters.h"
+#include "platform/controls/form_kit.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QListWidget>
+#include <QRadioButton>
+
+/// Controls made in one line with what they say. Their texts follow the language of the session: they are set at once,
+/// and anew by Retranslate. The letter after "&" is the control's mnemonic.
+
+/// Runs `show` now, and again at each retranslation while `owner` lives.
+void FollowLanguage(QObject* owner, const std::function<void()>& show);
+/// Sets all texts of a form or window anew.
+void Retranslate(QWidget* form);
+
+void SetCaption(QLabel* label, const Text& text);
+void SetCaption(QAbstractButton* button, const Text& text);
+void SetTitle(QWidget* window, const Text& text);
+void SetPlaceholder(QComboBox* list, const Text& text);
+void SetToolTip(QWidget* control, const Text& text);
+void SetAccessibleName(QWidget* control, const Text& text);
+/// A page of a tab widget; it comes last.
+void AddTab(QTabWidget* tabs, QWidget* page, const Text& caption);
+
+QLabel* MakeLabel(const QString& name, const Text& text = {});
+/// A label that explains, its lines wrapped.
+QLabel* WrappedLabel(const QString& name, const Text& text = {});
+QPushButton* MakeButton(const QString& name, const Text& caption);
+QCheckBox* MakeCheckBox(const QString& name, const Text& caption);
+QRadioButton* MakeOption(const QString& name, const Text& caption);
+
+inline constexpr int kUnlimited = 32767;
+/// A field of at most `limit` characters that takes what `filter` lets through.
+QLineEdit* MakeField(const QString& name, KeyFilter filter, int limit = kUnlimited);
+
+/// The label of a control, its buddy; a screen reader names the control by it. It is called like the control:
+/// "lblCity" for "txtCity".
+QLabel* LabelOf(QWidget* control, const Text& text);
+/// A small grey caption above a control. `named` is what the caption names, where `control` only holds it.
+QVBoxLayout* Captioned(const Text& caption, QWidget* control, QWidget* named = nullptr);
+/// A bold head above a control.
+QVBoxLayout* Headed(const Text& head, QWidget* control, QWidget* named = nullptr);
+/// A new row of `fields`: a bold label at the left names the field at its right.
+void AddFieldRow(QGridLayout* fields, const Text& label, QWidget* field);
+/// A white card whose first row is its bold head.
+QFrame* HeadedCard(const Text& head, QLayout* content);
+
+/// An entry of a list with the RecordID behind it.
+void AddEntry(QListWidget* list, const QString& text, int recordID);
+/// The RecordID behind the entry that is marked; 0 when none is. A list that takes the focus makes its first entry
+/// current without marking it.
+int ChosenID(const QListWidget* list);
+/// Its text; empty when none is marked.
+QString ChosenText(const QListWidget* list);
+/// Marks the entry of that RecordID, or none.
+void Choose(QListWidget* list, int recordID);
