@@ -18,8 +18,7 @@ public:
 
     void Prepare() override
     {
-        SessionState.AttendanceDates.fill(0);
-        SessionState.AttendanceDates[0] = Date();
+        SessionState.AttendanceDates = {Date()};
         SessionState.EmployeeID = BigCompany::kEmployee;
         SessionState.SelectedCategoryID = BigCompany::kVacation;
         form_ = std::make_unique<frmAttendance>();

@@ -12,7 +12,7 @@ public:
     explicit Opening(BigCompany& company) : Measured(company)
     {
         company.LogIn("U0001");
-        SessionState.AttendanceDates[0] = SerialOfDate({2026, 12, 31});
+        SessionState.AttendanceDates = {SerialOfDate({2026, 12, 31})};
     }
 
     void Work() override { user_.Opens<Form>(); }

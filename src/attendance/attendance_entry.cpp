@@ -153,8 +153,7 @@ int MultiplicatorIndex(float value)
 
 QVector<int> SelectedDates()
 {
-    const DateList& dates = SessionState.AttendanceDates;
-    return {dates.begin(), std::find(dates.begin(), dates.end(), 0)};
+    return SessionState.AttendanceDates;
 }
 
 bool DrawsOnTimeBank(const AttendanceEntry& entry)
@@ -169,7 +168,7 @@ void RecalculateTotalTime(AttendanceEntry& entry)
         entry.Duration = entry.EndTime - entry.StartTime - entry.UnpaidBreak;
     entry.TotalDuration = entry.TimeMultiplicator * entry.Duration;
     entry.TotalTime = static_cast<float>(SelectedDates().size()) * entry.TotalDuration;
-    entry.TotalTimeText = DurationAsText(entry.TotalTime);
+    entry.TotalTimeText = DurationText(entry.TotalTime);
     ApplySign(entry);
 }
 
@@ -189,8 +188,8 @@ void ChooseDayPart(AttendanceEntry& entry, DayPart part, bool checked)
     if (!checked)
         return;
     TakeScheduledTimes(entry, part);
-    entry.StartTimeText = DurationAsText(entry.StartTime);
-    entry.EndTimeText = DurationAsText(entry.EndTime);
+    entry.StartTimeText = DurationText(entry.StartTime);
+    entry.EndTimeText = DurationText(entry.EndTime);
     ShowDuration(entry, entry.EndTime - entry.StartTime - entry.UnpaidBreak);
     RecalculateTotalTime(entry);
 }
@@ -244,7 +243,7 @@ void TakeDuration(AttendanceEntry& entry)
 
 void ShowDuration(AttendanceEntry& entry, float hours)
 {
-    const QString text = DurationAsText(hours);
+    const QString text = DurationText(hours);
     entry.HoursText = text.chopped(3);
     entry.MinutesText = text.right(2);
 }

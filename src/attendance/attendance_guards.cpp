@@ -61,11 +61,11 @@ QString WithFigures(const QString& text, const AttendanceEntry& entry)
     const float required = entry.TimeUsed + entry.TimePending + entry.TotalTime;
     return Fill(text, {{"TAB", "\t"},
                        {"category", entry.CategoryName},
-                       {"Entitlement", DurationAsText(entry.Entitlement)},
-                       {"TimeUsed", DurationAsText(entry.TimeUsed)},
-                       {"TimePending", DurationAsText(entry.TimePending)},
-                       {"TotalTime", DurationAsText(entry.TotalTime)},
-                       {"balance", DurationAsText(entry.Entitlement - required)}});
+                       {"Entitlement", DurationText(entry.Entitlement)},
+                       {"TimeUsed", DurationText(entry.TimeUsed)},
+                       {"TimePending", DurationText(entry.TimePending)},
+                       {"TotalTime", DurationText(entry.TotalTime)},
+                       {"balance", DurationText(entry.Entitlement - required)}});
 }
 
 QString EntitlementRefusal()
@@ -103,8 +103,8 @@ bool IsBankExceeded(const AttendanceEntry& entry, float required)
 QString WithBank(const QString& text, const AttendanceEntry& entry, float required)
 {
     return Fill(text, {{"employee", entry.EmployeeName},
-                       {"TimeBanked", DurationAsText(entry.TimeBanked)},
-                       {"required", DurationAsText(required)},
+                       {"TimeBanked", DurationText(entry.TimeBanked)},
+                       {"required", DurationText(required)},
                        {"TimeClaimedName", SessionState.TimeClaimedName},
                        {"category", entry.CategoryName}});
 }
@@ -129,7 +129,7 @@ bool CouldClaimInstead(const AttendanceEntry& entry, float required)
 
 QString OfferToClaim()
 {
-    const bool several = SessionState.AttendanceDates[1] != 0;
+    const bool several = SessionState.AttendanceDates.size() > 1;
     return several ? T("{employee} has accumulated enough time ({TimeBanked}) to cover these attendance records "
                        "({required})!\r\n\r\nDo you wish to submit the new attendance records as «{TimeClaimedName}» "
                        "instead of {category}?",

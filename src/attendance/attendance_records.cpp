@@ -228,8 +228,8 @@ void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry)
     record.Take("TotalDuration", entry.TotalDuration);
     entry.HourlyRateText = VisibleRate(static_cast<float>(Val(record.Text("HourlyRate"))));
     if (entry.StartTime != 0) {
-        entry.StartTimeText = DurationAsText(entry.StartTime);
-        entry.EndTimeText = DurationAsText(entry.EndTime);
+        entry.StartTimeText = DurationText(entry.StartTime);
+        entry.EndTimeText = DurationText(entry.EndTime);
     }
     ShowDuration(entry, std::abs(entry.Duration));
     RecalculateTotalTime(entry);

@@ -79,9 +79,9 @@ QStringList DailyAttendance(DataControl& datAbsence, int date)
         QString line = row.Text("FirstName").trimmed() + " " + row.Text("FamilyName").trimmed() + "   " +
                        CategoryOfRow(row) + "   ";
         if (row.Single("StartTime") != 0)
-            line += T("From: ", "De: ") + DurationAsText(row.Single("StartTime")) + T(" To: ", " À: ") +
-                    DurationAsText(row.Single("EndTime")) + "   ";
-        lines << line + T("Duration: ", "Durée: ") + DurationAsText(row.Single("Duration"));
+            line += T("From: ", "De: ") + DurationText(row.Single("StartTime")) + T(" To: ", " À: ") +
+                    DurationText(row.Single("EndTime")) + "   ";
+        lines << line + T("Duration: ", "Durée: ") + DurationText(row.Single("Duration"));
     }
     return lines;
 }

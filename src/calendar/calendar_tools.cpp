@@ -19,18 +19,15 @@ void Refuse(const char* english, const char* french)
 
 QString NotOnWeekday(int weekday)
 {
-    static const char* const english[] = {"Sundays!",   "Mondays!", "Tuesdays!", "Wednesdays!",
-                                          "Thursdays!", "Fridays!", "Saturdays!"};
-    static const char* const french[] = {"dimanche!", "lundi!",    "mardi!", "mercredi!",
-                                         "jeudi!",    "vendredi!", "samedi!"};
-    return T(english[weekday], french[weekday]);
+    const QString name = WeekdayName(weekday);
+    return SessionState.English ? name + "s!" : name.toLower() + "!";
 }
 
 QString RecordLine(const Recordset& record)
 {
-    return T("From: ", "De: ") + DurationAsText(record.Single("StartTime")) + T("  To: ", "  À: ") +
-           DurationAsText(record.Single("EndTime")) + T("  Duration: ", "  Durée: ") +
-           DurationAsText(record.Single("Duration"));
+    return T("From: ", "De: ") + DurationText(record.Single("StartTime")) + T("  To: ", "  À: ") +
+           DurationText(record.Single("EndTime")) + T("  Duration: ", "  Durée: ") +
+           DurationText(record.Single("Duration"));
 }
 } // namespace
 
@@ -74,7 +71,7 @@ void CalendarTools::Begin(bool multiple, const QString& usableTool, const QStrin
 {
     SelectingMultiple = multiple;
     SelectingSingle = !multiple;
-    SessionState.MarkedDates.fill(0);
+    SessionState.MarkedDates.clear();
     MarkedRecords.clear();
     removals_.clear();
     conflictsAccepted_ = false;
@@ -161,9 +158,9 @@ void CalendarTools::StartCreateConsecutive()
 {
     if (!CanCreate())
         return;
-    SessionState.AttendanceDates.fill(0);
+    SessionState.AttendanceDates.clear();
     host_.BeginTool({});
-    if (host_.ShowSelectDates() && SessionState.AttendanceDates[0] != 0) {
+    if (host_.ShowSelectDates() && !SessionState.AttendanceDates.isEmpty()) {
         SessionState.CreatingMultiple = true;
         SessionState.CreatingConsecutive = true;
         SessionState.EmployeeLocked = true;
@@ -289,8 +286,7 @@ void CalendarTools::SelectSingleDate(int date)
     SelectingSingle = false;
     host_.ShowHint({});
     SessionState.CreatingMultiple = false;
-    SessionState.AttendanceDates.fill(0);
-    SessionState.AttendanceDates[0] = date;
+    SessionState.AttendanceDates = {date};
     host_.ShowAttendance(0, conflictsAccepted_);
     End();
 }
@@ -307,9 +303,8 @@ void CalendarTools::EndMultipleSelection()
 {
     Session& s = SessionState;
     s.AttendanceDates = s.MarkedDates;
-    const auto end = std::find(s.AttendanceDates.begin(), s.AttendanceDates.end(), 0);
-    std::sort(s.AttendanceDates.begin(), end);
-    if (s.AttendanceDates[0] == 0)
+    std::sort(s.AttendanceDates.begin(), s.AttendanceDates.end());
+    if (s.AttendanceDates.isEmpty())
         return Refuse("You must first select date(s) from the calendar!",
                       "Vous devez d'abord sélectionner une ou plusieurs dates à l'intérieur du calendrier!");
     s.CreatingMultiple = true;
@@ -351,8 +346,7 @@ void CalendarTools::SelectRecordToModify(int date)
     const int record = RecordOnDate(date, false);
     if (record == 0)
         return;
-    SessionState.AttendanceDates.fill(0);
-    SessionState.AttendanceDates[0] = date;
+    SessionState.AttendanceDates = {date};
     host_.ShowHint({});
     host_.ShowAttendance(record, false);
     End();
@@ -389,18 +383,14 @@ void CalendarTools::imgRemove_Click()
 
 void CalendarTools::Mark(int date, const QString& mark)
 {
-    DateList& marked = SessionState.MarkedDates;
-    const auto free = std::find(marked.begin(), marked.end() - 1, 0);
-    *free = date;
+    SessionState.MarkedDates << date;
     host_.Calendar().Mark(date, mark);
     host_.RefreshDate(date);
 }
 
 void CalendarTools::Unmark(int date)
 {
-    DateList& marked = SessionState.MarkedDates;
-    const auto kept = std::remove(marked.begin(), marked.end(), date);
-    std::fill(kept, marked.end(), 0);
+    SessionState.MarkedDates.removeAll(date);
     removals_.erase(
         std::remove_if(removals_.begin(), removals_.end(), [date](const auto& pair) { return pair.first == date; }),
         removals_.end());
@@ -410,6 +400,6 @@ void CalendarTools::Unmark(int date)
 
 void CalendarTools::ClearMarks()
 {
-    while (SessionState.MarkedDates[0] != 0)
-        Unmark(SessionState.MarkedDates[0]);
+    while (!SessionState.MarkedDates.isEmpty())
+        Unmark(SessionState.MarkedDates.first());
 }

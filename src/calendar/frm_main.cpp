@@ -13,6 +13,7 @@
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
 #include "ledger/time_banks.h"
+#include "platform/clock.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
 
@@ -90,7 +91,7 @@ void frmMain::Form_Load()
     Busy = false;
     ActivateAllowedControls();
     DisplayNames();
-    header_->ShowTotal(DurationAsText(0));
+    header_->ShowTotal(DurationText(0));
     pane_->Cover();
     timAbsence->start(1000);
     timTimeOut->start(1000);
@@ -144,8 +145,10 @@ void frmMain::LoadDates()
     const QVector<CalendarRecord> records = SessionState.SQL_Server ? LoadAttendance_SQL() : LoadAttendance_ACCESS();
     holidays_ = LoadHolidays(datAbsence);
     const bool inDays = SessionState.EmployeeID != 0 && total_ != 0;
-    header_->ShowTotal(DurationAsText(total_, inDays));
-    calendar_.LoadDates(records, holidays_, [this](int done, int all) { pane_->ShowProgress(done, all); });
+    header_->ShowTotal(DurationText(total_, inDays ? SessionState.HoursWorkedDaily : 0));
+    SessionState.SelectedDate = Today();
+    calendar_.LoadDates(SessionState, records, holidays_,
+                        [this](int done, int all) { pane_->ShowProgress(done, all); });
     pane_->Show(calendar_);
 }
 
@@ -154,7 +157,7 @@ void frmMain::RecalculateTimeBank()
     if (SessionState.EmployeeOrganizationID == 0)
         return header_->ShowTimeBank({});
     const Connection connection(datAbsence);
-    header_->ShowTimeBank(DurationAsText(TimeBankOfSelection(datAbsence)));
+    header_->ShowTimeBank(DurationText(TimeBankOfSelection(datAbsence)));
 }
 
 void frmMain::ReloadCalendar()

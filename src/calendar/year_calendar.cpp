@@ -17,13 +17,6 @@ QString MonthName(int month)
     return T(english[month - 1], french[month - 1]);
 }
 
-QString WeekdayName(int weekday)
-{
-    static const char* const english[] = {"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
-    static const char* const french[] = {"Di", "Lu", "Ma", "Me", "Je", "Ve", "Sa"};
-    return T(english[weekday], french[weekday]);
-}
-
 CalendarCell HeadCell(const QString& text)
 {
     return {text, CalendarColor::Head, CalendarColor::White, true};
@@ -32,7 +25,7 @@ CalendarCell HeadCell(const QString& text)
 
 QPoint YearCalendar::ComputedPlace(int date) const
 {
-    const QDate first = DateOfSerial(SessionState.CommencingDate);
+    const QDate first = DateOfSerial(commencingDate_);
     const QDate day = DateOfSerial(date);
     const int block = (day.year() - first.year()) * kMonths + day.month() - first.month();
     if (block < 0 || block >= kMonths)
@@ -55,12 +48,12 @@ CalendarCell* YearCalendar::At(int date)
     return place.x() < 0 ? nullptr : &cells_[place.y()][place.x()];
 }
 
-void YearCalendar::LoadDates(const QVector<CalendarRecord>& records, const QVector<Holiday>& holidays,
-                             const std::function<void(int, int)>& progress)
+void YearCalendar::LoadDates(const FiscalYear& year, const QVector<CalendarRecord>& records,
+                             const QVector<Holiday>& holidays, const std::function<void(int, int)>& progress)
 {
-    SessionState.SelectedDate = Today();
+    commencingDate_ = year.CommencingDate;
     PaintFrame();
-    for (int date = SessionState.CommencingDate; date <= SessionState.EndingDate; ++date)
+    for (int date = year.CommencingDate; date <= year.EndingDate; ++date)
         PaintDay(date);
     PaintRecords(records, progress);
     if (CalendarCell* today = At(Today()))
@@ -78,14 +71,14 @@ void YearCalendar::PaintFrame()
         row.fill(CalendarCell());
     for (auto& row : flxStoreDates)
         row.fill(0);
-    const QDate first = DateOfSerial(SessionState.CommencingDate);
+    const QDate first = DateOfSerial(commencingDate_);
     for (int block = 0; block < kMonths; ++block) {
         const QDate month = first.addMonths(block);
         const int row = block / kBlocksAcross * kBandRows;
         const int col = block % kBlocksAcross * kBlockCols;
         for (int weekday = 0; weekday < 7; ++weekday) {
             cells_[row][col + weekday] = HeadCell(MonthName(month.month()) + QString::number(month.year()));
-            cells_[row + 1][col + weekday] = HeadCell(WeekdayName(weekday));
+            cells_[row + 1][col + weekday] = HeadCell(WeekdayName(weekday).left(2));
         }
     }
 }

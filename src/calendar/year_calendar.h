@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calendar/calendar_records.h"
+#include "foundation/session_state.h"
 #include "reference/holidays.h"
 
 #include <QPoint>
@@ -45,9 +46,9 @@ public:
     static bool IsSpacerRow(int row) { return row % kBandRows == kBandRows - 1; }
     static bool IsSeparatorColumn(int col) { return col % kBlockCols == kBlockCols - 1; }
 
-    /// Titles, weekdays, days, records, holidays and today of the session's fiscal year. `progress` is told the number
+    /// Titles, weekdays, days, records, holidays and today of a fiscal year. `progress` is told the number
     /// of records painted so far and the number of all.
-    void LoadDates(const QVector<CalendarRecord>& records, const QVector<Holiday>& holidays,
+    void LoadDates(const FiscalYear& year, const QVector<CalendarRecord>& records, const QVector<Holiday>& holidays,
                    const std::function<void(int, int)>& progress = {});
 
     const CalendarCell& Cell(int row, int col) const { return cells_[row][col]; }
@@ -67,6 +68,7 @@ private:
     void PaintRecords(const QVector<CalendarRecord>& records, const std::function<void(int, int)>& progress);
     CalendarCell* At(int date);
 
+    int commencingDate_ = 0;
     std::array<std::array<CalendarCell, kCols>, kRows> cells_;
     std::array<std::array<int, kCols>, kRows> flxStoreDates{};
 };

@@ -215,14 +215,6 @@ constexpr Verdict (*kChecks[])(Validation&) = {
     CheckLoginID,      CheckThatLoginIDIsFree, CheckPassword,  CheckNamesake, CheckDepartment, CheckEMailOfApprover,
     CheckEMail,        CheckApprover,
 };
-
-QString Cased(const QString& name)
-{
-    if (name.isEmpty())
-        return name;
-    ProperCase(name);
-    return SessionState.ProperCased;
-}
 } // namespace
 
 std::optional<FieldInError> ValidateRecord(DataControl& datAbsence, EmployeeRecord& record,
@@ -237,8 +229,8 @@ std::optional<FieldInError> ValidateRecord(DataControl& datAbsence, EmployeeReco
 
 void NormaliseTexts(EmployeeRecord& record)
 {
-    record.FamilyName = Cased(record.FamilyName);
-    record.FirstName = Cased(record.FirstName);
+    record.FamilyName = ProperCase(record.FamilyName);
+    record.FirstName = ProperCase(record.FirstName);
     record.PostalCode = record.PostalCode.toUpper();
     record.LoginID = record.LoginID.toUpper();
     record.Password = record.Password.toUpper();

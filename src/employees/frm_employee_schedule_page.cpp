@@ -5,7 +5,6 @@
 #include "foundation/values.h"
 #include "platform/controls/entry_filters.h"
 #include "platform/controls/form_kit.h"
-#include "selection/consecutive_dates.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -4,7 +4,6 @@
 #include "foundation/session_state.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
-#include "selection/consecutive_dates.h"
 
 #include <cmath>
 
@@ -68,7 +67,7 @@ bool EndsBeforeItStarts(const EmployeeRecord& record, ClockTime time, int day)
 
 void ShowTotal(EmployeeRecord& record, int day, float hours)
 {
-    const QString text = DurationAsText(std::abs(hours));
+    const QString text = DurationText(std::abs(hours));
     record.TotalHours[day] = QString::number(text.section(':', 0, 0).toInt());
     record.TotalMinutes[day] = QString::number(text.section(':', 1, 1).toInt());
 }
@@ -166,7 +165,7 @@ QString MismatchLines(const EmployeeRecord& record)
                                  (record.SecondHalfEnd[day] - record.SecondHalfStart[day]);
         if (calculated != record.HoursWorked[day])
             lines += WeekdayName(day) + "\t\t" + TwoDigits(record.TotalHours[day]) + ":" +
-                     TwoDigits(record.TotalMinutes[day]) + "\t\t" + DurationAsText(calculated) + "\r\n";
+                     TwoDigits(record.TotalMinutes[day]) + "\t\t" + DurationText(calculated) + "\r\n";
     }
     return lines;
 }
@@ -183,10 +182,8 @@ bool AskAboutMismatch(const QString& lines)
         "calculée\r\n{lines}\r\nPour votre information, la durée d'une journée de travail que VOUS spécifiez est "
         "utilisée lors de l'enregistrement des absences plutôt que la «durée calculée» de cette même "
         "journée.\r\n\r\nSouhaitez-vous continuer?");
-    SessionState.MessageScrollBar = true;
-    const bool yes = Ask(T("WARNING:", "MISE EN GARDE:"), Fill(text, {{"lines", lines}}), Face::Warning);
-    SessionState.MessageScrollBar = false;
-    return yes;
+    constexpr qsizetype kLines = 10; // the text alone is long enough to be scrolled
+    return AskWithList(T("WARNING:", "MISE EN GARDE:"), Fill(text, {{"lines", lines}}), kLines, Face::Warning);
 }
 
 std::optional<FieldInError> CheckTotals(EmployeeRecord& record)
@@ -222,7 +219,7 @@ const std::array<ClockTimeInfo, 4> kDayTimes = {{
 
 QString ClockText(float time)
 {
-    return time > 0 ? DurationAsText(time) : QString();
+    return time > 0 ? DurationText(time) : QString();
 }
 
 QString ClockText(const EmployeeRecord& record, ClockTime time, int day)

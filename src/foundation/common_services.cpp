@@ -15,7 +15,7 @@
 
 namespace
 {
-constexpr int kLastFace = 10;
+constexpr auto kLastFace = static_cast<Face>(10);
 
 MessagePresenter& Presenter()
 {
@@ -36,13 +36,6 @@ const std::array<QStringList, 11> kCaptions = {
     {"Oui", "Non"},
     {"Réessayer", "Annuler"},
 };
-
-QStringList CaptionsOf(int buttons, const QStringList& custom)
-{
-    if (buttons < static_cast<int>(kCaptions.size()))
-        return kCaptions.at(std::max(buttons, 0));
-    return custom.mid(0, buttons - static_cast<int>(Buttons::Custom1) + 1);
-}
 
 QString BooleanText(bool value)
 {
@@ -68,42 +61,43 @@ float Rounded(float value, int decimals)
     return static_cast<float>(FormatNumber(value, decimals).toDouble());
 }
 
-float WithoutWholeDays(float value)
+/// The days are taken out of what is left.
+int TakeWholeDays(float& hours, float hoursPerDay)
 {
-    SessionState.DurationDays = 0;
-    for (; value >= SessionState.HoursWorkedDaily; ++SessionState.DurationDays)
-        value -= SessionState.HoursWorkedDaily;
-    return Rounded(value, 5);
+    int days = 0;
+    for (; hours >= hoursPerDay; ++days)
+        hours -= hoursPerDay;
+    hours = Rounded(hours, 5);
+    return days;
 }
 
-/// Decimal hours in DurationText to "hh:mm". A fraction just below the hour shows as 60 minutes; that is kept.
-void DecimalToText()
+/// The decimal hours in the text become "hh:mm". A fraction just below the hour shows as 60 minutes; that is kept.
+DurationFields WithText(DurationFields fields, float hoursPerDay)
 {
-    Session& s = SessionState;
-    const double given = Val(QString(s.DurationText).replace(',', '.'));
-    const bool negative = given < 0;
+    const double given = Val(fields.DurationText.replace(',', '.'));
     float value = Rounded(static_cast<float>(std::abs(given)), 5);
     QString days;
-    if (s.DurationInDays && s.HoursWorkedDaily > 0) {
-        value = WithoutWholeDays(value);
-        days = QString::number(s.DurationDays) + T(" days ", " jours ");
+    if (fields.DurationInDays && hoursPerDay > 0) {
+        fields.DurationDays = TakeWholeDays(value, hoursPerDay);
+        days = QString::number(fields.DurationDays) + T(" days ", " jours ");
     }
-    s.DurationHours = std::floor(value);
-    s.DurationMinutes = value - s.DurationHours;
-    if (s.DurationMinutes != 0)
-        s.DurationMinutes = Rounded(s.DurationMinutes * 6 / 10, 2) * 100;
-    const QString text = days + Padded(static_cast<int>(s.DurationHours)) + ":" +
-                         Padded(static_cast<int>(std::lround(s.DurationMinutes)));
-    s.DurationText = negative ? "-(" + text + ")" : text;
+    fields.DurationHours = std::floor(value);
+    fields.DurationMinutes = value - fields.DurationHours;
+    if (fields.DurationMinutes != 0)
+        fields.DurationMinutes = Rounded(fields.DurationMinutes * 6 / 10, 2) * 100;
+    const QString text = days + Padded(static_cast<int>(fields.DurationHours)) + ":" +
+                         Padded(static_cast<int>(std::lround(fields.DurationMinutes)));
+    fields.DurationText = given < 0 ? "-(" + text + ")" : text;
+    return fields;
 }
 
-void ResetDurationFields()
+/// Hours and minutes become decimal hours.
+DurationFields WithDecimal(DurationFields fields)
 {
-    SessionState.DurationHours = 0;
-    SessionState.DurationMinutes = 0;
-    SessionState.DurationDecimal = 0;
-    SessionState.DurationText.clear();
-    SessionState.DurationInDays = false;
+    fields.DurationMinutes = fields.DurationMinutes / 100;
+    fields.DurationMinutes = Rounded(fields.DurationMinutes * 10 / 6, 5);
+    fields.DurationDecimal = fields.DurationMinutes + fields.DurationHours;
+    return fields;
 }
 } // namespace
 
@@ -112,21 +106,16 @@ void SetMessagePresenter(MessagePresenter presenter)
     Presenter() = std::move(presenter);
 }
 
-void ShowMessage(const QString& text, const QString& title, int buttons, int face, int /*option1*/, int /*option2*/,
-                 int /*seconds*/, int /*option3*/, const QString& caption1, const QString& caption2,
-                 const QString& caption3, const QString& caption4, bool useInputBox)
+int ShowMessage(Message message)
 {
-    Message message;
-    message.Text = text;
-    message.Title = title;
-    message.Buttons = buttons;
-    message.Captions = CaptionsOf(buttons, {caption1, caption2, caption3, caption4});
-    message.Face = face < 0 || face > kLastFace ? 0 : face;
-    message.UseInputBox = useInputBox;
-    SessionState.MessageText = text;
-    SessionState.MessageTitle = title;
-    SessionState.MessageResult = 0;
-    SessionState.MessageResult = Presenter() ? Presenter()(message) : MessageCode::Cancel;
+    if (message.Captions.isEmpty())
+        message.Captions = kCaptions.at(static_cast<std::size_t>(message.Set));
+    if (message.Picture < Face::Warning || message.Picture > kLastFace)
+        message.Picture = Face::Warning;
+    LastMessage& last = SessionState;
+    last = {message.Text, message.Title, 0, last.MessageStopAsking};
+    last.MessageResult = Presenter() ? Presenter()(message) : MessageCode::Cancel;
+    return last.MessageResult;
 }
 
 int ResultOfButton(const QString& caption, int position)
@@ -143,23 +132,21 @@ int ResultOfButton(const QString& caption, int position)
 
 void Tell(const QString& title, const QString& text, Face face)
 {
-    ShowMessage(text, title, static_cast<int>(Buttons::Ok), static_cast<int>(face));
+    ShowMessage({.Text = text, .Title = title, .Picture = face});
 }
 
 bool Ask(const QString& title, const QString& text, Face face)
 {
-    const Buttons yesNo = SessionState.English ? Buttons::YesNo : Buttons::OuiNon;
-    ShowMessage(text, title, static_cast<int>(yesNo), static_cast<int>(face));
-    return SessionState.MessageResult == MessageCode::Yes;
+    return AskWithList(title, text, 0, face);
 }
 
-bool AskWithList(const QString& title, const QString& text, qsizetype lines)
+bool AskWithList(const QString& title, const QString& text, qsizetype lines, Face face)
 {
     constexpr qsizetype kMostLinesShown = 9;
-    SessionState.MessageScrollBar = lines > kMostLinesShown;
-    const bool yes = Ask(title, text);
-    SessionState.MessageScrollBar = false;
-    return yes;
+    const Buttons yesNo = SessionState.English ? Buttons::YesNo : Buttons::OuiNon;
+    return ShowMessage(
+               {.Text = text, .Title = title, .Set = yesNo, .Picture = face, .ScrollBar = lines > kMostLinesShown}) ==
+           MessageCode::Yes;
 }
 
 void TellError(const RuntimeError& error)
@@ -201,47 +188,32 @@ void LogError(int errorCode, const QString& errorDescription, const QString& for
 
 void FormatDuration()
 {
-    Session& s = SessionState;
-    if (s.DurationHours == 0 && s.DurationMinutes == 0)
-        return DecimalToText();
-    s.DurationMinutes = s.DurationMinutes / 100;
-    s.DurationMinutes = Rounded(s.DurationMinutes * 10 / 6, 5);
-    s.DurationDecimal = s.DurationMinutes + s.DurationHours;
+    DurationFields& fields = SessionState;
+    const bool toText = fields.DurationHours == 0 && fields.DurationMinutes == 0;
+    fields = toText ? WithText(fields, SessionState.HoursWorkedDaily) : WithDecimal(fields);
 }
 
-QString DurationAsText(float decimalHours, bool inDays)
+QString DurationText(float decimalHours, float hoursPerDay)
 {
-    ResetDurationFields();
-    SessionState.DurationText = QString::number(decimalHours, 'g', 7);
-    SessionState.DurationInDays = inDays;
-    FormatDuration();
-    const QString text = SessionState.DurationText;
-    ResetDurationFields();
-    return text;
+    const QString decimal = QString::number(decimalHours, 'g', 7);
+    return WithText({.DurationText = decimal, .DurationInDays = hoursPerDay > 0}, hoursPerDay).DurationText;
 }
 
 float DecimalHours(float hours, float minutes)
 {
-    ResetDurationFields();
-    SessionState.DurationHours = hours;
-    SessionState.DurationMinutes = minutes;
-    if (hours != 0 || minutes != 0)
-        FormatDuration();
-    const float decimal = SessionState.DurationDecimal;
-    ResetDurationFields();
-    return decimal;
+    return WithDecimal({.DurationHours = hours, .DurationMinutes = minutes}).DurationDecimal;
 }
 
-void ProperCase(const QString& text)
+QString ProperCase(const QString& text)
 {
     QString cased = text.left(1).toUpper() + text.mid(1).toLower();
     const qsizetype hyphen = cased.indexOf('-');
     if (hyphen >= 0 && hyphen + 1 < cased.size())
         cased[hyphen + 1] = cased[hyphen + 1].toUpper();
-    SessionState.ProperCased = cased;
+    return cased;
 }
 
-void HtmlEscape(const QString& text)
+QString HtmlEscape(QString text)
 {
     static const std::array<std::pair<QString, QString>, 12> entities = {{
         {"â", "&acirc;"},
@@ -257,7 +229,7 @@ void HtmlEscape(const QString& text)
         {"ô", "&ocirc;"},
         {"Ô", "&Ocirc;"},
     }};
-    SessionState.HtmlEscaped = text;
     for (const auto& [letter, entity] : entities)
-        SessionState.HtmlEscaped.replace(letter, entity);
+        text.replace(letter, entity);
+    return text;
 }

@@ -40,34 +40,34 @@ enum class Face
     Sad = 7
 };
 
-/// Codes in SessionState.MessageResult. Other captions give 7 + position: 8, 9, 10, 11.
+/// Codes of the buttons. Other captions give 7 + position: 8, 9, 10, 11.
 namespace MessageCode
 {
 constexpr int OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7;
 constexpr int First = 8, Second = 9, Third = 10, Fourth = 11;
 } // namespace MessageCode
 
-/// What the message box is asked to show, after the range checks.
+/// What a message box is asked to show. The custom sets take their captions from the caller, the others have their own.
 struct Message
 {
-    QString Text;
-    QString Title;
-    int Buttons = 0;
-    QStringList Captions; ///< one per button, left to right
-    int Face = 0;
-    bool UseInputBox = false;
+    QString Text = {};
+    QString Title = {};
+    Buttons Set = Buttons::Ok;
+    Face Picture = Face::Warning;
+    QStringList Captions = {};   ///< one per button, left to right
+    bool ScrollBar = false;      ///< a long text can be scrolled; it is cut off otherwise
+    int DefaultButton = 0;       ///< position of the button that Enter presses
+    bool ShowStopAsking = false; ///< a check box, whose state stays in SessionState.MessageStopAsking
+    bool UseInputBox = false;    ///< an input box, shown for the rest of the session
 };
 
-/// Shows a message and returns SessionState.MessageResult of the button that ended it.
+/// Shows a message and returns the code of the button that ended it.
 using MessagePresenter = std::function<int(const Message&)>;
 void SetMessagePresenter(MessagePresenter presenter);
 
-/// Shows the modal message box; SessionState.MessageResult then holds the code. `Option1`, `Option2`, `Seconds` and
-/// `Option3` are checked and have no effect: no message closes by itself. `UseInputBox` shows an input box for the
-/// rest of the session.
-void ShowMessage(const QString& text, const QString& title, int buttons, int face, int option1 = 0, int option2 = 0,
-                 int seconds = 0, int option3 = 0, const QString& caption1 = {}, const QString& caption2 = {},
-                 const QString& caption3 = {}, const QString& caption4 = {}, bool useInputBox = false);
+/// Shows the modal message box and returns the code of its button. The session remembers the message and the code. A
+/// picture beyond the last face becomes the first one.
+int ShowMessage(Message message);
 
 /// The result code that a button's caption and position (from 0) give.
 int ResultOfButton(const QString& caption, int position);
@@ -77,7 +77,7 @@ void Tell(const QString& title, const QString& text, Face face = Face::Informing
 /// A question with Yes and No in the user's language; true for Yes.
 bool Ask(const QString& title, const QString& text, Face face = Face::Presenting);
 /// The same question about a list of `lines` records: above nine the text scrolls.
-bool AskWithList(const QString& title, const QString& text, qsizetype lines);
+bool AskWithList(const QString& title, const QString& text, qsizetype lines, Face face = Face::Presenting);
 
 /// Tells the number and description of a failure.
 void TellError(const RuntimeError& error);
@@ -93,11 +93,12 @@ void LogError(int errorCode, const QString& errorDescription, const QString& for
 /// SessionState. With DurationHours and DurationMinutes both 0, DurationText (decimal hours) becomes "hh:mm", with
 /// days in front when DurationInDays is set; otherwise hours and minutes give DurationDecimal.
 void FormatDuration();
-/// The two directions with the fields set and reset around the call.
-QString DurationAsText(float decimalHours, bool inDays = false);
+/// Decimal hours as "hh:mm", behind whole days of `hoursPerDay` hours unless that is 0.
+QString DurationText(float decimalHours, float hoursPerDay = 0);
+/// Decimal hours of hours and minutes, the minutes rounded to five decimals.
 float DecimalHours(float hours, float minutes);
 
-/// First letter upper case, the rest lower, the letter after the first hyphen upper; into SessionState.ProperCased.
-void ProperCase(const QString& text);
-/// Replaces the twelve accented letters that the pages name; into SessionState.HtmlEscaped.
-void HtmlEscape(const QString& text);
+/// First letter upper case, the rest lower, the letter after the first hyphen upper.
+QString ProperCase(const QString& text);
+/// Replaces the twelve accented letters that the pages name.
+QString HtmlEscape(QString text);

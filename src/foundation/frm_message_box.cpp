@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 
 namespace
 {
@@ -29,8 +28,9 @@ constexpr int kLettersPerTab = 8;
 constexpr int kFaceDelay = 10; ///< milliseconds: the text appears at once, the face a moment later
 
 /// In the order of Face.
-constexpr const char* kFaces[] = {"face-warning",   "face-presenting", "face-informing",         "face-congratulating",
-                                  "face-paniquing", "face-ashamed",    "face-alternate-picture", "face-sad"};
+constexpr std::array<const char*, 8> kFaces = {"face-warning",           "face-presenting", "face-informing",
+                                               "face-congratulating",    "face-paniquing",  "face-ashamed",
+                                               "face-alternate-picture", "face-sad"};
 
 /// Once a message has asked for the input box, it stays for the rest of the session with what was typed in it.
 struct InputBox
@@ -91,7 +91,7 @@ void frmMessageBox::BuildControls()
     setObjectName("frmMessageBox");
     imgFace = Named<QLabel>("imgFace");
     imgFace->setFixedSize(kFaceSize, kFaceSize);
-    imgFace->setVisible(message_.Face < static_cast<int>(std::size(kFaces)));
+    imgFace->setVisible(FaceIndex() < kFaces.size());
     lblTitle = AsHead(Named<QLabel>("lblTitle"));
     lblTitle->setTextFormat(Qt::PlainText);
     lblTitle->setWordWrap(true);
@@ -101,14 +101,13 @@ void frmMessageBox::BuildControls()
     txtMessage->setTabChangesFocus(true);
     txtMessage->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // This is the part of txtHideScrollBar: without the flag a long text is cut off, with no bar to reach the rest.
-    txtMessage->setVerticalScrollBarPolicy(SessionState.MessageScrollBar ? Qt::ScrollBarAlwaysOn
-                                                                         : Qt::ScrollBarAlwaysOff);
+    txtMessage->setVerticalScrollBarPolicy(message_.ScrollBar ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     txtMsgBxInputBox = Named<QLineEdit>("txtMsgBxInputBox");
     txtMsgBxInputBox->setText(inputBox.Contents);
     txtMsgBxInputBox->setVisible(inputBox.Shown);
     FilterKeys(txtMsgBxInputBox, KeyFilter::MessageInput);
     chkStopAsking = Named<QCheckBox>("chkStopAsking");
-    chkStopAsking->setVisible(SessionState.MessageShowStopAsking);
+    chkStopAsking->setVisible(message_.ShowStopAsking);
 }
 
 void frmMessageBox::BuildButtons()
@@ -129,15 +128,15 @@ void frmMessageBox::BuildButtons()
 QPushButton* frmMessageBox::DefaultButton() const
 {
     const int last = std::max(static_cast<int>(message_.Captions.size()) - 1, 0);
-    return cmdButton[static_cast<std::size_t>(std::clamp(SessionState.MessageDefaultButton, 0, last))];
+    return cmdButton[static_cast<std::size_t>(std::clamp(message_.DefaultButton, 0, last))];
 }
 
 /// Captions given by the caller decide the width; it is only the least one, for no caption may be cut.
 int frmMessageBox::ButtonWidth(int position) const
 {
-    if (message_.Buttons < static_cast<int>(Buttons::Custom1))
+    if (message_.Set < Buttons::Custom1)
         return kButtonWidth;
-    const bool narrow = message_.Buttons >= static_cast<int>(Buttons::Custom3);
+    const bool narrow = message_.Set >= Buttons::Custom3;
     const int letters = static_cast<int>(message_.Captions.value(position).size());
     return letters * (narrow ? kTwipsPerLetterNarrow : kTwipsPerLetter) / kTwipsPerPixel;
 }
@@ -202,14 +201,14 @@ void frmMessageBox::FitText()
     measure.setPlainText(message_.Text);
     measure.setTextWidth(kTextWidth);
     const int most = kMostLines * QFontMetrics(font).lineSpacing();
-    const int bar = SessionState.MessageScrollBar ? txtMessage->verticalScrollBar()->sizeHint().width() : 0;
+    const int bar = message_.ScrollBar ? txtMessage->verticalScrollBar()->sizeHint().width() : 0;
     txtMessage->setFixedSize(kTextWidth + bar, std::min(static_cast<int>(std::ceil(measure.size().height())), most));
 }
 
 void frmMessageBox::ShowFace()
 {
-    if (message_.Face < static_cast<int>(std::size(kFaces)))
-        imgFace->setPixmap(Picture(kFaces[message_.Face], kFaceSize));
+    if (FaceIndex() < kFaces.size())
+        imgFace->setPixmap(Picture(kFaces[FaceIndex()], kFaceSize));
 }
 
 void frmMessageBox::chkStopAsking_Click()
@@ -230,7 +229,7 @@ void frmMessageBox::showEvent(QShowEvent* event)
 void frmMessageBox::done(int result)
 {
     inputBox.Contents = txtMsgBxInputBox->text();
-    if (SessionState.MessageShowStopAsking)
+    if (message_.ShowStopAsking)
         SessionState.MessageStopAsking = chkStopAsking->isChecked();
     QDialog::done(result);
 }

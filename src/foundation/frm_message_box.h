@@ -36,6 +36,7 @@ private:
     void ShowFace();
     QPushButton* DefaultButton() const;
     int ButtonWidth(int position) const;
+    std::size_t FaceIndex() const { return static_cast<std::size_t>(message_.Picture); }
     void chkStopAsking_Click();
 
     const Message message_;

@@ -8,24 +8,14 @@
 
 #include <array>
 
-/// A list of serial dates, ended by the first 0: a leap year and its end mark.
-using DateList = std::array<int, 367>;
+/// Serial days in the order of their selection; at most kMostDates.
+using DateList = QVector<int>;
+/// The days of a leap year.
+constexpr int kMostDates = 366;
 
-/// Whose attendance the calendar shows: an employee, or a whole unit where EmployeeID is 0.
-struct CalendarSelection
+/// The configuration of the workstation.
+struct Workstation
 {
-    int EmployeeID = 0;
-    int EmployeeOrganizationID = 0;
-    int EmployeeDepartmentID = 0;
-    int EmployeeGroupID = 0;
-    QString CurrentSelection; ///< the shown name: an employee's, a unit's, or the log-in name
-};
-
-/// The application-wide record that all forms read and write. It carries the rights of the user and the schedule of
-/// the employee shown. Dates are serial days (0 none), ids are RecordIDs (0 none), durations decimal hours.
-struct Session : SecurityProfile, WorkSchedule, CalendarSelection
-{
-    // The workstation's configuration.
     bool English = true; ///< false: French
     bool SQL_Server = false;
     QString IP_Address;
@@ -37,10 +27,12 @@ struct Session : SecurityProfile, WorkSchedule, CalendarSelection
     int LastUpgradeDate = 0; ///< stage of the mail component: 333 next step pending, 666 done
     QString AdminName;
     QString AdminEMail;
-    bool RestartNeeded = false;
     QString VersionText;
+};
 
-    // The user.
+/// Who is logged in, with the units of his record in the fiscal year.
+struct LoggedUser
+{
     QString UserName; ///< first and family name; empty for ADMIN
     QString LoginID;
     QString UserPassword;
@@ -51,8 +43,11 @@ struct Session : SecurityProfile, WorkSchedule, CalendarSelection
     int UserGroupID = 0;
     int TimeOutSeconds = 840;
     bool ShowSelectHint = true;
+};
 
-    // The fiscal year.
+/// The fiscal year in which the session works, and its neighbours.
+struct FiscalYear
+{
     int FiscalYearID = 0;
     QString FiscalYearName;
     int CommencingDate = 0;
@@ -62,48 +57,82 @@ struct Session : SecurityProfile, WorkSchedule, CalendarSelection
     QString PreviousFYName;
     int NextFYID = 0;
     QString NextFYName;
+};
 
-    // What the calendar shows.
+/// Whose attendance the calendar shows: an employee, or a whole unit where EmployeeID is 0.
+struct CalendarSelection
+{
+    int EmployeeID = 0;
+    int EmployeeOrganizationID = 0;
+    int EmployeeDepartmentID = 0;
+    int EmployeeGroupID = 0;
+    QString CurrentSelection; ///< the shown name: an employee's, a unit's, or the log-in name
+};
+
+/// What the calendar shows.
+struct CalendarView : CalendarSelection
+{
     bool ShowApproved = true; ///< false: pending requests
     int SelectedDate = 0;
     int SelectedCategoryID = 0; ///< 0 all categories
+    int TimeBankRelated = 0;    ///< of the category chosen in the entry form
     QString VacationName, SickName, PersonalName, DoctorName;
     int VacationID = 0, SickID = 0, PersonalID = 0, DoctorID = 0;
     bool ReloadCalendar = false; ///< set by the forms that change what the calendar shows
+    QString TimeClaimedName; ///< nothing fills it: the offer to convert borrowed time shows an empty name, as required
+};
 
-    // The tool in use.
-    bool CreatingMultiple = false;
-    bool CreatingConsecutive = false;
+/// What the calendar's tool in use is about.
+struct ToolFlags
+{
+    bool CreatingMultiple = false;    ///< the entry form opens for a list of dates
+    bool CreatingConsecutive = false; ///< the list is a period's
     bool ModifyingRecord = false;
     bool CancellingRecords = false;
     bool SubmittingRequest = false;
     bool EmployeeLocked = false; ///< the calendar has fixed the employee of the entry form
-    DateList AttendanceDates{};
-    DateList MarkedDates{};
+};
+
+/// The dates and weekdays that were chosen last.
+struct ChosenDays
+{
+    DateList AttendanceDates;              ///< those the entry form was last opened for
+    DateList MarkedDates;                  ///< those now marked on the calendar
     std::array<int, 7> SelectedWeekdays{}; ///< 1 for each chosen weekday, Sunday first
+};
 
-    // The category chosen in the entry form.
-    int TimeBankRelated = 0;
-    QString TimeClaimedName; ///< nothing fills it: the offer to convert borrowed time shows an empty name, as required
-
-    // Messages.
+/// What the last message was and how it ended.
+struct LastMessage
+{
     QString MessageText;
     QString MessageTitle;
     int MessageResult = 0;
-    bool MessageScrollBar = false;
-    int MessageDefaultButton = 0;
-    bool MessageShowStopAsking = false;
-    bool MessageStopAsking = false;
+    bool MessageStopAsking = false; ///< the check box of the last message that had one
+};
 
-    // Durations and text helpers.
+/// A duration on its way between decimal hours and hours and minutes.
+struct DurationFields
+{
     float DurationHours = 0;
     float DurationMinutes = 0;
     float DurationDecimal = 0;
-    QString DurationText;
+    QString DurationText = {};
     int DurationDays = 0;
     bool DurationInDays = false;
-    QString HtmlEscaped;
-    QString ProperCased;
 };
+
+/// The application-wide record that all forms read and write. It carries the rights of the user and the schedule of
+/// the employee shown. Dates are serial days (0 none), ids are RecordIDs (0 none), durations decimal hours.
+struct Session : Workstation,
+                 LoggedUser,
+                 SecurityProfile,
+                 FiscalYear,
+                 CalendarView,
+                 WorkSchedule,
+                 ToolFlags,
+                 ChosenDays,
+                 LastMessage,
+                 DurationFields
+{};
 
 extern Session SessionState;

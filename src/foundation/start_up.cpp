@@ -158,13 +158,17 @@ void LocateDatabase(DataControl& datAbsence, const std::function<void()>& showSe
     for (QString* field : {&s.IP_Address, &s.DatabaseName, &s.Username, &s.Password})
         field->clear();
     while (s.DatabaseName.isEmpty()) {
-        ShowMessage(T("Specify which type of database you wish to use.",
+        const int answer = ShowMessage({
+            .Text = T("Specify which type of database you wish to use.",
                       "Veuillez spécifier quel type de banque de données vous souhaitez exploiter."),
-                    T("SPECIFYING DATABASE TYPE:", "TYPE DE BANQUE DE DONNÉES:"), static_cast<int>(Buttons::Custom2),
-                    static_cast<int>(Face::Presenting), 0, 0, 0, 0, "Microsoft Access", T("SQL Server", "SQL Serveur"));
-        if (s.MessageResult == MessageCode::First)
+            .Title = T("SPECIFYING DATABASE TYPE:", "TYPE DE BANQUE DE DONNÉES:"),
+            .Set = Buttons::Custom2,
+            .Picture = Face::Presenting,
+            .Captions = {"Microsoft Access", T("SQL Server", "SQL Serveur")},
+        });
+        if (answer == MessageCode::First)
             ConnectToNewAccessDatabase(datAbsence);
-        else if (s.MessageResult == MessageCode::Second)
+        else if (answer == MessageCode::Second)
             showServerForm();
         else
             EndProgram(); // the box was closed: there is no database to go on with

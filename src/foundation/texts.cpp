@@ -19,3 +19,11 @@ QString FormatDate(int serial, const QString& pattern)
     qtPattern.replace("mmm", "MMM").replace("mm", "MM");
     return QLocale().toString(DateOfSerial(serial), qtPattern);
 }
+
+QString WeekdayName(int weekday)
+{
+    constexpr Text names[] = {{"Sunday", "Dimanche"},    {"Monday", "Lundi"},   {"Tuesday", "Mardi"},
+                              {"Wednesday", "Mercredi"}, {"Thursday", "Jeudi"}, {"Friday", "Vendredi"},
+                              {"Saturday", "Samedi"}};
+    return T(names[weekday]);
+}

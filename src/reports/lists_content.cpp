@@ -13,7 +13,7 @@ QString Entitlement(const Recordset& category)
     if (category.Long("RequiresMonitoring") != 1)
         return T("No annual entitlement", "Aucun temps alloué");
     const float standard = category.Single("StandardEntitlement");
-    return standard == 0 ? T("Varies between employees", "Varie entre employés") : DurationAsText(standard);
+    return standard == 0 ? T("Varies between employees", "Varie entre employés") : DurationText(standard);
 }
 
 QStringList CategoryRow(const Recordset& category)

@@ -1,6 +1,5 @@
 #include "selection/consecutive_dates.h"
 
-#include "foundation/texts.h"
 #include "platform/clock.h"
 
 #include <algorithm>
@@ -20,27 +19,13 @@ DateList ChosenDates(const ConsecutiveDates& choice, const WorkSchedule& schedul
         return std::any_of(holidays.begin(), holidays.end(),
                            [date](const Holiday& holiday) { return holiday.Date == date; });
     };
-    DateList dates{};
-    std::size_t count = 0;
-    for (int date = choice.From; date <= choice.To && count + 1 < dates.size(); ++date) {
+    DateList dates;
+    for (int date = choice.From; date <= choice.To && dates.size() < kMostDates; ++date) {
         const auto weekday = static_cast<std::size_t>(WeekdayIndex(date));
         const bool fallsOut = !choice.Weekdays[weekday] || (choice.IgnoreDaysOff && !works[weekday]) ||
                               (choice.IgnoreHolidays && isHoliday(date));
         if (!fallsOut)
-            dates[count++] = date;
+            dates << date;
     }
     return dates;
-}
-
-int CountDates(const DateList& dates)
-{
-    return static_cast<int>(std::find(dates.begin(), dates.end(), 0) - dates.begin());
-}
-
-QString WeekdayName(int weekday)
-{
-    constexpr const char* names[7][2] = {{"Sunday", "Dimanche"},    {"Monday", "Lundi"},   {"Tuesday", "Mardi"},
-                                         {"Wednesday", "Mercredi"}, {"Thursday", "Jeudi"}, {"Friday", "Vendredi"},
-                                         {"Saturday", "Samedi"}};
-    return T(names[weekday][0], names[weekday][1]);
 }

@@ -18,11 +18,5 @@ struct ConsecutiveDates
 /// The weekdays of the schedule that have hours; all seven without a schedule.
 std::array<bool, 7> WorkingDays(const WorkSchedule& schedule);
 
-/// The serial days that the choice comes to, in order; at most 366, ended by 0.
+/// The serial days that the choice comes to, in order; at most kMostDates.
 DateList ChosenDates(const ConsecutiveDates& choice, const WorkSchedule& schedule, const QVector<Holiday>& holidays);
-
-/// The number of days in a list ended by 0.
-int CountDates(const DateList& dates);
-
-/// The name of a weekday (0 Sunday) in the user's language.
-QString WeekdayName(int weekday);

@@ -28,7 +28,7 @@ void FillWithDates(QComboBox* box, int from, int to)
 
 frmSelectDates::frmSelectDates(QWidget* parent) : QDialog(parent)
 {
-    SessionState.AttendanceDates.fill(0);
+    SessionState.AttendanceDates.clear();
     BuildControls();
     ConnectControls();
     LoadCaptions();
@@ -142,7 +142,7 @@ void frmSelectDates::ShowCount()
 {
     if (Loading)
         return;
-    const int count = CountDates(ChosenDates(Choice(), SessionState, holidays_));
+    const auto count = ChosenDates(Choice(), SessionState, holidays_).size();
     lblCount->setText(QString::number(count) + (count == 1 ? " date" : " dates"));
 }
 

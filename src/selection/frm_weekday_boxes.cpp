@@ -3,7 +3,6 @@
 #include "foundation/common_services.h"
 #include "foundation/texts.h"
 #include "platform/controls/form_kit.h"
-#include "selection/consecutive_dates.h"
 
 #include <QCheckBox>
 

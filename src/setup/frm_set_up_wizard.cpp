@@ -210,10 +210,10 @@ bool frmSetUpWizard::ConfirmCancelling() const
         "démarrerez Tarvell.\r\n\r\nSouhaitez-vous vraiment interrompre la configuration initiale de Tarvell?";
     if (languageChosen_)
         return Ask(T("WARNING:", "ATTENTION:"), T(english, french), Face::Warning);
-    ShowMessage(Bilingual(english, french, "\r\n\r\n"), Bilingual("WARNING:", "ATTENTION:"),
-                static_cast<int>(Buttons::Custom2), static_cast<int>(Face::Warning), 0, 0, 0, 0, "Yes  -  Oui",
-                "No  -  Non");
-    return SessionState.MessageResult == MessageCode::First;
+    return ShowMessage({.Text = Bilingual(english, french, "\r\n\r\n"),
+                        .Title = Bilingual("WARNING:", "ATTENTION:"),
+                        .Set = Buttons::Custom2,
+                        .Captions = {"Yes  -  Oui", "No  -  Non"}}) == MessageCode::First;
 }
 
 /// An existing database must have a fiscal year, and a new one must not: its rows would mix with those of others.

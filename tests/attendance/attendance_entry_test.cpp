@@ -29,8 +29,8 @@ protected:
 
     static void Select(std::initializer_list<QDate> dates)
     {
-        SessionState.AttendanceDates.fill(0);
-        std::transform(dates.begin(), dates.end(), SessionState.AttendanceDates.begin(), SerialOfDate);
+        SessionState.AttendanceDates.clear();
+        std::transform(dates.begin(), dates.end(), std::back_inserter(SessionState.AttendanceDates), SerialOfDate);
     }
 
     void Category(const char* systemName, int bankRelated)

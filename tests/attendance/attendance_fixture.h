@@ -25,8 +25,8 @@ protected:
     /// Dates of 2026, and the operation for an employee in a category.
     void Begin(const QVector<QDate>& dates, int employee, const QString& systemName)
     {
-        SessionState.AttendanceDates.fill(0);
-        std::transform(dates.begin(), dates.end(), SessionState.AttendanceDates.begin(), SerialOfDate);
+        SessionState.AttendanceDates.clear();
+        std::transform(dates.begin(), dates.end(), std::back_inserter(SessionState.AttendanceDates), SerialOfDate);
         SessionState.CreatingMultiple = dates.size() > 1;
         SessionState.EmployeeID = employee;
         SessionState.SelectedCategoryID = systemName.isEmpty() ? 0 : house.CategoryID(systemName);

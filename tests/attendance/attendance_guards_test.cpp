@@ -145,7 +145,7 @@ TEST_F(AttendanceGuards, BorrowingWhatTheBankCoversMayBecomeAClaim)
     EXPECT_FALSE(SessionState.ReloadCalendar);
 
     SessionState.English = true;
-    SessionState.AttendanceDates[1] = 0;
+    SessionState.AttendanceDates.removeLast();
     RecalculateTotalTime(entry);
     user.WillAnswer("CONFIRM:", "Yes",
                     "Chris Davis has accumulated enough time (08:00) to cover this attendance record (04:00)!\r\n\r\n"

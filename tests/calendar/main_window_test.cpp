@@ -159,7 +159,7 @@ TEST_F(MainWindow, AYearThatBeginsInAprilOfALeapYearRunsToMarch)
     house.Today(2027, 5, 1);
     house.LogIn("ADMIN");
     YearCalendar calendar;
-    calendar.LoadDates({}, {});
+    calendar.LoadDates(SessionState, {}, {});
     EXPECT_EQ(calendar.Cell(0, 0).Text, "APRIL 2027");
     EXPECT_EQ(calendar.Cell(18, 24).Text, "MARCH 2028");
     EXPECT_EQ(calendar.PlaceOf(SerialOfDate({2028, 2, 29})), QPoint(18, 24));
@@ -170,7 +170,7 @@ TEST_F(MainWindow, AYearThatBeginsInAprilOfALeapYearRunsToMarch)
     EXPECT_EQ(days, 366);
     EXPECT_EQ(calendar.PlaceOf(SerialOfDate({2028, 4, 1})).x(), -1);
     SessionState.English = false;
-    calendar.LoadDates({}, {});
+    calendar.LoadDates(SessionState, {}, {});
     EXPECT_EQ(calendar.Cell(9, 8).Text, "SEPTEMBRE 2027");
     EXPECT_EQ(calendar.Cell(10, 8).Text, "Di");
 }
@@ -269,8 +269,7 @@ TEST_F(MainWindow, OneDateIsAskedAboutHolidaysDaysOffAndOtherRecords)
     ClicksDay(12, 7);
     EXPECT_TRUE(main->Busy);
     user.WillAnswer("WARNING:", "Yes").WhenOpens<frmAttendance>([](frmAttendance& form) {
-        EXPECT_EQ(SessionState.AttendanceDates[0], SerialOfDate({2026, 12, 7}));
-        EXPECT_EQ(SessionState.AttendanceDates[1], 0);
+        EXPECT_EQ(SessionState.AttendanceDates, DateList{SerialOfDate({2026, 12, 7})});
         EXPECT_TRUE(form.ConflictsAccepted);
         form.reject();
     });
@@ -290,8 +289,7 @@ TEST_F(MainWindow, MarkedDatesBecomeRecordsAndTheCalendarFollows)
     EXPECT_EQ(Day(12, 14), "14");
     EXPECT_EQ(Day(12, 15), " X");
     user.WhenOpens<frmAttendance>([this](frmAttendance&) {
-        EXPECT_EQ(SessionState.AttendanceDates[0], SerialOfDate({2026, 12, 15}));
-        EXPECT_EQ(SessionState.AttendanceDates[2], 0);
+        EXPECT_EQ(SessionState.AttendanceDates, (DateList{SerialOfDate({2026, 12, 15}), SerialOfDate({2026, 12, 16})}));
         user.Picks("cboCategories", "Vacation")
             .Checks("chkWholeDay")
             .WillAnswer("CONFIRM:", "Yes")
@@ -308,7 +306,7 @@ TEST_F(MainWindow, MarkedDatesBecomeRecordsAndTheCalendarFollows)
     ClicksDay(12, 17);
     PressesEscape();
     EXPECT_EQ(Day(12, 17), "17");
-    EXPECT_EQ(SessionState.MarkedDates[0], 0);
+    EXPECT_TRUE(SessionState.MarkedDates.isEmpty());
     EXPECT_FALSE(main->Busy);
     PressesEscape();
 }

@@ -167,9 +167,9 @@ TEST_F(WorkScheduleTest, TypedTotalsThatDifferAreListedAndAskedAboutOnce)
     EXPECT_FALSE(CheckSchedule(record)) << "not again in this operation";
     TypeHours(kTuesday, "6");
     SessionState.English = false;
+    user.SeesMessage = [](const Message& message) { EXPECT_TRUE(message.ScrollBar); };
     user.WillAnswer("MISE EN GARDE:", "Oui", "Mardi\t\t06:00\t\t00:00\r\n");
     EXPECT_FALSE(CheckSchedule(record));
-    EXPECT_FALSE(SessionState.MessageScrollBar);
 }
 
 TEST_F(WorkScheduleTest, AWeekWithoutHoursIsIrregularOrRefused)

@@ -45,7 +45,8 @@ TEST_F(CommonServices, DaysAreTakenOutInWholesOfTheEmployeesDay)
     SessionState.English = false;
     EXPECT_EQ(Shown("8", 7), "1 jours 01:00");
     SessionState.HoursWorkedDaily = 0;
-    EXPECT_EQ(DurationAsText(16.5F, true), "16:30");
+    EXPECT_EQ(DurationText(16.5F), "16:30");
+    EXPECT_EQ(DurationText(16.5F, 7.5F), "2 jours 01:30");
 }
 
 TEST_F(CommonServices, HoursAndMinutesGiveDecimalHoursAndLeaveTheText)
@@ -67,12 +68,9 @@ TEST_F(CommonServices, NamesAndPagesKeepTheirAccents)
 {
     const std::pair<QString, QString> names[] = {
         {"JEAN-PAUL", "Jean-Paul"}, {"élodie", "Élodie"}, {"marie-ève-anne", "Marie-Ève-anne"}, {"a-", "A-"}, {"", ""}};
-    for (const auto& [given, cased] : names) {
-        ProperCase(given);
-        EXPECT_EQ(SessionState.ProperCased, cased);
-    }
-    HtmlEscape("Été à l'Hôtel Ça & là");
-    EXPECT_EQ(SessionState.HtmlEscaped, "&Eacute;t&eacute; &agrave; l'H&ocirc;tel Ça & l&agrave;");
+    for (const auto& [given, cased] : names)
+        EXPECT_EQ(ProperCase(given), cased);
+    EXPECT_EQ(HtmlEscape("Été à l'Hôtel Ça & là"), "&Eacute;t&eacute; &agrave; l'H&ocirc;tel Ça & l&agrave;");
 }
 
 TEST_F(CommonServices, MessagesCheckTheirRangesAndAnswerByCaption)
@@ -82,23 +80,24 @@ TEST_F(CommonServices, MessagesCheckTheirRangesAndAnswerByCaption)
         seen = message;
         return ResultOfButton(message.Captions.last(), static_cast<int>(message.Captions.size()) - 1);
     });
-    ShowMessage("Text", "TITLE:", 12, 11, 0, 9, 1000, 0, "Microsoft Access", "SQL Server");
-    EXPECT_EQ(seen.Face, 0);
+    const auto answer = [](int set, int face, const QStringList& captions) {
+        return ShowMessage({.Set = Buttons(set), .Picture = Face(face), .Captions = captions});
+    };
+    EXPECT_EQ(answer(12, 11, {"Microsoft Access", "SQL Server"}), 9);
+    EXPECT_EQ(seen.Picture, Face::Warning);
     EXPECT_EQ(seen.Captions, (QStringList{"Microsoft Access", "SQL Server"}));
-    EXPECT_EQ(SessionState.MessageResult, 9);
-    ShowMessage("Text", "TITLE:", 13, 8, 0, 0, 0, 0, "A", "B", "Oui");
-    EXPECT_EQ(seen.Face, 8);
+    EXPECT_EQ(answer(13, 8, {"A", "B", "Oui"}), MessageCode::Yes);
+    EXPECT_EQ(seen.Picture, Face(8));
     EXPECT_EQ(SessionState.MessageResult, MessageCode::Yes);
     const std::pair<int, int> lastButtons[] = {{0, 1}, {2, 5}, {3, 2}, {4, 7}, {7, 5}, {8, 2}, {9, 7}, {10, 2}};
-    for (const auto& [set, result] : lastButtons) {
-        ShowMessage("Text", "TITLE:", set, 0);
-        EXPECT_EQ(SessionState.MessageResult, result) << set;
-    }
+    for (const auto& [set, result] : lastButtons)
+        EXPECT_EQ(answer(set, 0, {}), result) << set;
     SessionState.English = false;
     EXPECT_FALSE(Ask("TITRE:", "Texte"));
     EXPECT_EQ(seen.Captions, (QStringList{"Oui", "Non"}));
+    EXPECT_FALSE(seen.ScrollBar);
     AskWithList("TITRE:", "Texte", 10);
-    EXPECT_FALSE(SessionState.MessageScrollBar);
+    EXPECT_TRUE(seen.ScrollBar);
     SetMessagePresenter({});
 }
 

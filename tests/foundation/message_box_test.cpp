@@ -37,14 +37,12 @@ protected:
         SetMessagePresenter({});
     }
 
-    int Shows(int set, const QStringList& captions, Work how, const QString& text = "Text", int face = 0,
-              bool useInputBox = false)
+    int Shows(const Message& message, Work how)
     {
         work = std::move(how);
-        ShowMessage(text, "TITLE:", set, face, 0, 0, 0, 0, captions.value(0), captions.value(1), captions.value(2),
-                    captions.value(3), useInputBox);
-        return SessionState.MessageResult;
+        return ShowMessage(message);
     }
+    int Shows(int set, Work how) { return Shows({.Text = "Text", .Set = Buttons(set)}, std::move(how)); }
 
     static QPushButton* Button(frmMessageBox& box, int position)
     {
@@ -85,7 +83,7 @@ TEST_F(MessageBox, EachButtonOfEachSetEndsItWithItsCode)
                                      {Retry, Cancel}};
     for (int set = 0; set < codes.size(); ++set)
         for (int position = 0; position < codes[set].size(); ++position) {
-            const int code = Shows(set, {}, [&](frmMessageBox& box) {
+            const int code = Shows(set, [&](frmMessageBox& box) {
                 EXPECT_EQ(Visible(box).size(), codes[set].size()) << "set " << set;
                 Click(Button(box, position));
             });
@@ -99,38 +97,39 @@ TEST_F(MessageBox, CaptionsOfTheCallerDecideCodeWidthAndPlace)
     const QList<int> codes = {MessageCode::First, MessageCode::Second, MessageCode::Third, MessageCode::Cancel};
     for (int count = 1; count <= 4; ++count)
         for (int position = 0; position < count; ++position)
-            EXPECT_EQ(Shows(10 + count, captions, [&](frmMessageBox& box) { Click(Button(box, position)); }),
+            EXPECT_EQ(Shows({.Set = Buttons(10 + count), .Captions = captions.first(count)},
+                            [&](frmMessageBox& box) { Click(Button(box, position)); }),
                       codes[position]);
 
-    Shows(12, {"A caption rather longer than most", "Short"}, [](frmMessageBox& box) {
-        const QRect left = Button(box, 0)->geometry(), right = Button(box, 1)->geometry();
-        EXPECT_GE(left.width(), 33 * 125 / 15);
-        EXPECT_GE(right.width(), Button(box, 1)->sizeHint().width()) << "no caption is cut";
-        EXPECT_EQ(right.left() - left.right() - 1, 10) << "150 twips between them";
-        EXPECT_NEAR(left.left(), box.width() - 1 - right.right(), 1) << "in the middle";
-        EXPECT_EQ(box.frameGeometry().center(), box.screen()->geometry().center());
-    });
+    Shows({.Set = Buttons::Custom2, .Captions = {"A caption rather longer than most", "Short"}},
+          [](frmMessageBox& box) {
+              const QRect left = Button(box, 0)->geometry(), right = Button(box, 1)->geometry();
+              EXPECT_GE(left.width(), 33 * 125 / 15);
+              EXPECT_GE(right.width(), Button(box, 1)->sizeHint().width()) << "no caption is cut";
+              EXPECT_EQ(right.left() - left.right() - 1, 10) << "150 twips between them";
+              EXPECT_NEAR(left.left(), box.width() - 1 - right.right(), 1) << "in the middle";
+              EXPECT_EQ(box.frameGeometry().center(), box.screen()->geometry().center());
+          });
 }
 
 TEST_F(MessageBox, EscapeIsACancelWhateverTheButtons)
 {
-    EXPECT_EQ(Shows(4, {}, [](frmMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), MessageCode::Cancel);
-    EXPECT_EQ(Shows(0, {}, [](frmMessageBox& box) { box.close(); }), MessageCode::Cancel);
+    EXPECT_EQ(Shows(4, [](frmMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), MessageCode::Cancel);
+    EXPECT_EQ(Shows(0, [](frmMessageBox& box) { box.close(); }), MessageCode::Cancel);
 }
 
 TEST_F(MessageBox, EnterPressesTheDefaultButtonAndLettersTheOthers)
 {
     const auto enter = [](frmMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); };
-    EXPECT_EQ(Shows(4, {}, enter), MessageCode::Yes);
-    SessionState.MessageDefaultButton = 1;
-    EXPECT_EQ(Shows(4, {},
+    EXPECT_EQ(Shows(4, enter), MessageCode::Yes);
+    EXPECT_EQ(Shows({.Set = Buttons::YesNo, .DefaultButton = 1},
                     [&](frmMessageBox& box) {
                         EXPECT_TRUE(Button(box, 1)->hasFocus());
                         enter(box);
                     }),
               MessageCode::No);
-    EXPECT_EQ(Shows(0, {}, enter), MessageCode::OK) << "a default beyond the set is the last button";
-    EXPECT_EQ(Shows(7, {},
+    EXPECT_EQ(Shows({.DefaultButton = 1}, enter), MessageCode::OK) << "a default beyond the set is the last button";
+    EXPECT_EQ(Shows(7,
                     [](frmMessageBox& box) {
                         QTest::keyClick(&box, Qt::Key_G, Qt::AltModifier);
                         EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 1000));
@@ -141,14 +140,13 @@ TEST_F(MessageBox, EnterPressesTheDefaultButtonAndLettersTheOthers)
 
 TEST_F(MessageBox, TheCheckBoxIsShownWhereAskedForAndRemembered)
 {
-    Shows(4, {}, [](frmMessageBox& box) {
+    Shows(4, [](frmMessageBox& box) {
         EXPECT_FALSE(box.findChild<QCheckBox*>("chkStopAsking")->isVisible());
         box.close();
     });
-    SessionState.MessageShowStopAsking = true;
     for (const bool english : {true, false}) {
         SessionState.English = english;
-        Shows(english ? 4 : 9, {}, [&](frmMessageBox& box) {
+        Shows({.Set = english ? Buttons::YesNo : Buttons::OuiNon, .ShowStopAsking = true}, [&](frmMessageBox& box) {
             auto* check = box.findChild<QCheckBox*>("chkStopAsking");
             EXPECT_EQ(check->text(),
                       english ? "Do not show me this message any more" : "Ne plus afficher ce message à l'avenir");
@@ -160,7 +158,7 @@ TEST_F(MessageBox, TheCheckBoxIsShownWhereAskedForAndRemembered)
         });
         EXPECT_TRUE(SessionState.MessageStopAsking);
     }
-    Shows(4, {}, [](frmMessageBox& box) { box.close(); });
+    Shows({.ShowStopAsking = true}, [](frmMessageBox& box) { box.close(); });
     EXPECT_FALSE(SessionState.MessageStopAsking) << "the next message starts unticked";
 }
 
@@ -168,56 +166,43 @@ TEST_F(MessageBox, ALongTextIsCutUnlessTheCallerAsksForTheScrollBar)
 {
     const QString text = QString("One line\tof many\r\n").repeated(60);
     int height = 0;
-    Shows(
-        0, {},
-        [&](frmMessageBox& box) {
-            auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
-            height = shown->height();
-            EXPECT_EQ(shown->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-            EXPECT_LT(height, 60 * shown->fontMetrics().lineSpacing());
-            EXPECT_EQ(shown->toPlainText().count('\n'), 60);
-            box.close();
-        },
-        text);
-    SessionState.MessageScrollBar = true;
-    Shows(
-        0, {},
-        [&](frmMessageBox& box) {
-            auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
-            EXPECT_EQ(shown->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
-            EXPECT_EQ(shown->height(), height);
-            box.close();
-        },
-        text);
+    Shows({.Text = text}, [&](frmMessageBox& box) {
+        auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
+        height = shown->height();
+        EXPECT_EQ(shown->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+        EXPECT_LT(height, 60 * shown->fontMetrics().lineSpacing());
+        EXPECT_EQ(shown->toPlainText().count('\n'), 60);
+        box.close();
+    });
+    Shows({.Text = text, .ScrollBar = true}, [&](frmMessageBox& box) {
+        auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
+        EXPECT_EQ(shown->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+        EXPECT_EQ(shown->height(), height);
+        box.close();
+    });
 }
 
 TEST_F(MessageBox, TheFaceFollowsAMomentAfterTheText)
 {
     for (int face = 0; face <= 8; ++face)
-        Shows(
-            0, {},
-            [&](frmMessageBox& box) {
-                auto* image = box.findChild<QLabel*>("imgFace");
-                EXPECT_EQ(box.findChild<QPlainTextEdit*>("txtMessage")->toPlainText(), "Text");
-                QTest::qWait(30);
-                EXPECT_EQ(image->isVisible() && !image->pixmap().isNull(), face < 8) << "face " << face;
-                box.close();
-            },
-            "Text", face);
+        Shows({.Text = "Text", .Picture = Face(face)}, [&](frmMessageBox& box) {
+            auto* image = box.findChild<QLabel*>("imgFace");
+            EXPECT_EQ(box.findChild<QPlainTextEdit*>("txtMessage")->toPlainText(), "Text");
+            QTest::qWait(30);
+            EXPECT_EQ(image->isVisible() && !image->pixmap().isNull(), face < 8) << "face " << face;
+            box.close();
+        });
 }
 
 TEST_F(MessageBox, TheInputBoxStaysForTheSessionWithItsContents)
 {
-    Shows(
-        0, {},
-        [](frmMessageBox& box) {
-            auto* input = box.findChild<QLineEdit*>("txtMsgBxInputBox");
-            input->clear();
-            QTest::keyClicks(input, "l'an \"50%\" | A&B");
-            Click(Button(box, 0));
-        },
-        "Text", 0, true);
-    Shows(0, {}, [](frmMessageBox& box) {
+    Shows({.UseInputBox = true}, [](frmMessageBox& box) {
+        auto* input = box.findChild<QLineEdit*>("txtMsgBxInputBox");
+        input->clear();
+        QTest::keyClicks(input, "l'an \"50%\" | A&B");
+        Click(Button(box, 0));
+    });
+    Shows(0, [](frmMessageBox& box) {
         auto* input = box.findChild<QLineEdit*>("txtMsgBxInputBox");
         EXPECT_TRUE(input->isVisible()) << "no later message hides it again";
         EXPECT_EQ(input->text(), "l`an 50  AB");

@@ -17,11 +17,7 @@ protected:
     ChoosingDates() { house.Company().LogIn("ADMIN"); }
 
     static int Day(int month, int day) { return SerialOfDate({2026, month, day}); }
-    static QList<int> Dates()
-    {
-        const DateList& dates = SessionState.AttendanceDates;
-        return QList<int>(dates.begin(), dates.begin() + CountDates(dates));
-    }
+    static DateList Dates() { return SessionState.AttendanceDates; }
     void WorksMondayToThursday()
     {
         SessionState.HasSchedule = true;
@@ -63,7 +59,7 @@ TEST_F(ChoosingDates, ClearingABoxWarnsAndThenLetsThemIn)
 TEST_F(ChoosingDates, WithoutAScheduleEveryDayCountsAndAWeekdayIsNeeded)
 {
     SessionState.English = false;
-    SessionState.AttendanceDates[0] = 1;
+    SessionState.AttendanceDates = {1};
     user.Opens<frmSelectDates>();
     PicksPeriod(Day(3, 6), Day(3, 9));
     for (int day = 0; day < 7; ++day)
@@ -76,21 +72,20 @@ TEST_F(ChoosingDates, WithoutAScheduleEveryDayCountsAndAWeekdayIsNeeded)
 
 TEST_F(ChoosingDates, LeavingTheFormGivesNoDates)
 {
-    SessionState.AttendanceDates[0] = 1;
+    SessionState.AttendanceDates = {1};
     user.Opens<frmSelectDates>().Clicks("cmdCancel");
     EXPECT_THAT(Dates(), ElementsAre());
 }
 
-TEST(ConsecutiveDatesRule, ALeapYearFillsTheListToItsEndMark)
+TEST(ConsecutiveDatesRule, TheListEndsWithALeapYear)
 {
     ConsecutiveDates choice;
     choice.From = SerialOfDate({2028, 1, 1});
     choice.To = SerialOfDate({2029, 1, 31});
     choice.Weekdays.fill(true);
     const DateList dates = ChosenDates(choice, WorkSchedule(), {});
-    EXPECT_EQ(CountDates(dates), 366);
+    EXPECT_EQ(dates.size(), 366);
     EXPECT_EQ(dates[365], SerialOfDate({2028, 12, 31}));
-    EXPECT_EQ(dates[366], 0);
 }
 
 TEST_F(ChoosingDates, WeekdaysAreMondayToFridayUnlessChanged)
