@@ -18,11 +18,13 @@ public:
 
     void Prepare() override
     {
-        SessionState.AttendanceDates = {Date()};
-        SessionState.EmployeeID = BigCompany::kEmployee;
-        SessionState.SelectedCategoryID = BigCompany::kVacation;
-        form_ = std::make_unique<frmAttendance>();
-        FillIn(*form_);
+        AttendanceJob job = Job();
+        job.EmployeeID = BigCompany::kEmployee;
+        job.SelectedCategoryID = BigCompany::kVacation;
+        form_ = std::make_unique<frmAttendance>(job);
+        form_->show();
+        user_.Works(*form_);
+        FillIn();
     }
 
     void Work() override { user_.Clicks("cmdAddOrUpdate"); }
@@ -37,14 +39,8 @@ public:
     }
 
 protected:
-    virtual int Date() const = 0;
-    virtual void FillIn(frmAttendance& form) = 0;
-
-    void Show(frmAttendance& form)
-    {
-        form.show();
-        user_.Works(form);
-    }
+    virtual AttendanceJob Job() const = 0;
+    virtual void FillIn() = 0;
     User& TheUser() { return user_; }
 
 private:
@@ -58,13 +54,14 @@ public:
     using Entry::Entry;
 
 protected:
-    int Date() const override { return SerialOfDate({2026, 12, 31}); }
-
-    void FillIn(frmAttendance& form) override
+    AttendanceJob Job() const override
     {
-        Show(form);
-        TheUser().Checks("chkWholeDay").Types("txtComment", "Measured");
+        AttendanceJob job;
+        job.Dates = {SerialOfDate({2026, 12, 31})};
+        return job;
     }
+
+    void FillIn() override { TheUser().Checks("chkWholeDay").Types("txtComment", "Measured"); }
 };
 
 class RecordChanged : public Entry
@@ -79,13 +76,17 @@ public:
     {}
 
 protected:
-    int Date() const override { return date_; }
-
-    void FillIn(frmAttendance& form) override
+    AttendanceJob Job() const override
     {
-        SessionState.ModifyingRecord = true;
-        form.RecordToModify = record_;
-        Show(form);
+        AttendanceJob job;
+        job.Kind = AttendanceKind::Modify;
+        job.Dates = {date_};
+        job.RecordToModify = record_;
+        return job;
+    }
+
+    void FillIn() override
+    {
         hours_ = hours_ == 2 ? 3 : 2;
         TheUser().Types("txtDurationInHours", QString::number(hours_));
     }

@@ -1,7 +1,6 @@
 #include "attendance/attendance_entry.h"
 
 #include "foundation/common_services.h"
-#include "foundation/session_state.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
 
@@ -22,14 +21,14 @@ void Negate(AttendanceEntry& entry)
 
 void ApplySign(AttendanceEntry& entry)
 {
-    const bool bankRelated = SessionState.TimeBankRelated == 1;
+    const bool bankRelated = entry.TimeBankRelated == 1;
     if (DrawsOnTimeBank(entry)) {
         if (entry.Duration > 0)
             Negate(entry);
     } else if (bankRelated && entry.SystemName == "Time accumulated") {
         if (entry.Duration < 0)
             Negate(entry);
-    } else if (SessionState.TimeBankRelated == 0 && entry.Duration < 0) {
+    } else if (entry.TimeBankRelated == 0 && entry.Duration < 0) {
         // The totals keep their sign until the next run; that is intended.
         entry.Duration = -entry.Duration;
     }
@@ -84,42 +83,36 @@ void BeginTimeChoice(AttendanceEntry& entry)
     entry.Part = DayPart::None;
 }
 
-int WeekdayOfFirstDate()
+bool IsHalfTheSameOnAllDates(const AttendanceEntry& entry, WeekdayHours start, WeekdayHours end)
 {
-    return WeekdayIndex(SessionState.AttendanceDates.front());
-}
-
-bool IsHalfTheSameOnAllDates(WeekdayHours start, WeekdayHours end)
-{
-    const QVector<int> dates = SelectedDates();
-    if (dates.isEmpty())
+    if (entry.Dates.isEmpty())
         return false;
-    const auto& starts = SessionState.*start;
-    const auto& ends = SessionState.*end;
-    const int first = WeekdayIndex(dates.front());
-    return starts[first] != 0 && std::all_of(dates.begin(), dates.end(), [&](int date) {
+    const auto& starts = entry.*start;
+    const auto& ends = entry.*end;
+    const int first = WeekdayIndex(entry.Dates.first());
+    return starts[first] != 0 && std::all_of(entry.Dates.begin(), entry.Dates.end(), [&](int date) {
                const int weekday = WeekdayIndex(date);
                return starts[weekday] == starts[first] && ends[weekday] == ends[first];
            });
 }
 
-/// Start, end and break of a part of the first selected day.
+/// Start, end and break of a part of the first day.
 void TakeScheduledTimes(AttendanceEntry& entry, DayPart part)
 {
-    const int day = WeekdayOfFirstDate();
+    const int day = WeekdayIndex(entry.Dates.first());
     const bool first = part == DayPart::FirstHalf || (part == DayPart::WholeDay && entry.FirstHalfEnabled);
     const bool second = part == DayPart::SecondHalf || (part == DayPart::WholeDay && entry.SecondHalfEnabled);
     if (second) {
-        entry.StartTime = SessionState.SecondHalfStart[day];
-        entry.EndTime = SessionState.SecondHalfEnd[day];
+        entry.StartTime = entry.SecondHalfStart[day];
+        entry.EndTime = entry.SecondHalfEnd[day];
     }
     if (first) {
-        entry.StartTime = SessionState.FirstHalfStart[day];
+        entry.StartTime = entry.FirstHalfStart[day];
         if (!second)
-            entry.EndTime = SessionState.FirstHalfEnd[day];
+            entry.EndTime = entry.FirstHalfEnd[day];
     }
     if (first && second)
-        entry.UnpaidBreak = SessionState.SecondHalfStart[day] - SessionState.FirstHalfEnd[day];
+        entry.UnpaidBreak = entry.SecondHalfStart[day] - entry.FirstHalfEnd[day];
 }
 } // namespace
 
@@ -151,15 +144,10 @@ int MultiplicatorIndex(float value)
     return found == kMultiplicators.end() ? -1 : static_cast<int>(found - kMultiplicators.begin());
 }
 
-QVector<int> SelectedDates()
-{
-    return SessionState.AttendanceDates;
-}
-
 bool DrawsOnTimeBank(const AttendanceEntry& entry)
 {
     static const QStringList drawing = {"Time claimed", "Time borrowed", "Time paid"};
-    return SessionState.TimeBankRelated == 1 && drawing.contains(entry.SystemName);
+    return entry.TimeBankRelated == 1 && drawing.contains(entry.SystemName);
 }
 
 void RecalculateTotalTime(AttendanceEntry& entry)
@@ -167,15 +155,16 @@ void RecalculateTotalTime(AttendanceEntry& entry)
     if (entry.Duration == 0)
         entry.Duration = entry.EndTime - entry.StartTime - entry.UnpaidBreak;
     entry.TotalDuration = entry.TimeMultiplicator * entry.Duration;
-    entry.TotalTime = static_cast<float>(SelectedDates().size()) * entry.TotalDuration;
+    entry.TotalTime = static_cast<float>(entry.Dates.size()) * entry.TotalDuration;
     entry.TotalTimeText = DurationText(entry.TotalTime);
     ApplySign(entry);
 }
 
 void FindDayParts(AttendanceEntry& entry)
 {
-    entry.FirstHalfEnabled = IsHalfTheSameOnAllDates(&WorkSchedule::FirstHalfStart, &WorkSchedule::FirstHalfEnd);
-    entry.SecondHalfEnabled = IsHalfTheSameOnAllDates(&WorkSchedule::SecondHalfStart, &WorkSchedule::SecondHalfEnd);
+    entry.FirstHalfEnabled = IsHalfTheSameOnAllDates(entry, &WorkSchedule::FirstHalfStart, &WorkSchedule::FirstHalfEnd);
+    entry.SecondHalfEnabled =
+        IsHalfTheSameOnAllDates(entry, &WorkSchedule::SecondHalfStart, &WorkSchedule::SecondHalfEnd);
     entry.WholeDayEnabled = entry.FirstHalfEnabled && entry.SecondHalfEnabled;
 }
 

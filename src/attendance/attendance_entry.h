@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
-#include <QVector>
+#include "foundation/session_state.h"
 
 #include <array>
 
@@ -15,10 +13,31 @@ enum class DayPart
     SecondHalf
 };
 
-/// The working values of one operation: one record that is added on every selected date, submitted or modified.
-/// Times and durations are single-precision decimal hours; ids are RecordIDs, 0 none.
-struct AttendanceEntry
+enum class AttendanceKind
 {
+    Add,
+    Submit,
+    Modify
+};
+
+/// What the entry form is opened for: the employee and the category to begin with, and the dates of the records.
+struct AttendanceJob : CalendarSelection
+{
+    AttendanceKind Kind = AttendanceKind::Add;
+    DateList Dates;
+    int SelectedCategoryID = 0; ///< 0 none
+    int RecordToModify = 0;
+    bool EmployeeLocked = false;    ///< another employee cannot be chosen
+    bool ConflictsAccepted = false; ///< the user has been asked about other records of the date
+};
+
+/// The working values of a job: one record that is added on every date, submitted or modified, for an employee with his
+/// schedule. Times and durations are single-precision decimal hours; ids are RecordIDs, 0 none.
+struct AttendanceEntry : AttendanceJob, WorkSchedule
+{
+    AttendanceEntry() = default;
+    explicit AttendanceEntry(const AttendanceJob& job) : AttendanceJob(job) {}
+
     // What is entered. A clock time of 0 means none; midnight is 1e-7.
     float TimeMultiplicator = 1;
     float StartTime = 0;
@@ -52,9 +71,10 @@ struct AttendanceEntry
     QString SecondApproverName; ///< empty when there is no second approver
     QString SecondApproverEMail;
 
-    // The category, SessionState.SelectedCategoryID. SessionState.TimeBankRelated belongs to it.
+    // The category, SelectedCategoryID.
     QString CategoryName; ///< as shown
     QString SystemName;   ///< empty for a user category
+    int TimeBankRelated = 0;
     int RequiresMonitoring = 0;
     int ConstitutesAnAbsence = 0;
     int TimeClaimedCategoryID = 0; ///< of the list of categories, whatever is chosen
@@ -63,16 +83,11 @@ struct AttendanceEntry
     float TimePending = 0;         ///< of the entitlement, waiting for approval
     float TimeBanked = 0;          ///< balance of the bank when the category was chosen
 
-    // The operation.
-    int RecordToModify = 0;
-    bool ConflictsAccepted = false; ///< the user has been asked about other records of the date
-    bool Validated = false;         ///< verdict of the guard that ran last
-    QString FieldInError;           ///< name of the control that a refused entry should be mended in
-    QString RequestedDates;         ///< the list of a submitted request, one line per date
+    // What has been found out.
+    bool Validated = false; ///< verdict of the guard that ran last
+    QString FieldInError;   ///< name of the control that a refused entry should be mended in
+    QString RequestedDates; ///< the list of a submitted request, one line per date
 };
-
-/// The dates of the operation, in the order of their selection.
-QVector<int> SelectedDates();
 
 /// The factors on offer.
 struct Multiplicator
@@ -94,7 +109,7 @@ void RecalculateTotalTime(AttendanceEntry& entry);
 /// Enables the halves of the day whose hours are the same on all selected dates; the whole day needs both.
 void FindDayParts(AttendanceEntry& entry);
 
-/// A box was checked or cleared. Times come from the schedule of the first selected date.
+/// A box was checked or cleared. Times come from the schedule of the first date.
 void ChooseDayPart(AttendanceEntry& entry, DayPart part, bool checked);
 
 /// A clock time was chosen. A start without an end takes the start as end; an end before the start is on the next day.

@@ -30,10 +30,10 @@ struct Omission
 
 Omission FindOmission(const AttendanceEntry& entry)
 {
-    if (SessionState.EmployeeID == 0)
+    if (entry.EmployeeID == 0)
         return {"lstWho", T("You must select an employee from the list!",
                             "Vous devez sélectionner un(e) employé(e) dans la liste!")};
-    if (SessionState.SelectedCategoryID == 0)
+    if (entry.SelectedCategoryID == 0)
         return {"cboCategories", T("You must select a category of attendance from the list!",
                                    "Vous devez sélectionner une catégorie dans la liste!")};
     if (entry.Duration == 0)
@@ -51,7 +51,7 @@ void ReadTimeUsed(DataControl& datAbsence, AttendanceEntry& entry)
     for (Recordset sums = datAbsence.Select(
              "SELECT Submitted, SUM(TotalDuration) AS Used FROM Attendance WHERE CategoryID = ? AND EmployeeID = ? AND "
              "CancelledDate = 0 AND Submitted IN (0, 1) GROUP BY Submitted",
-             SessionState.SelectedCategoryID, SessionState.EmployeeID);
+             entry.SelectedCategoryID, entry.EmployeeID);
          !sums.AtEnd(); sums.MoveNext())
         sums.Take("Used", sums.Long("Submitted") == 1 ? entry.TimePending : entry.TimeUsed);
 }
@@ -127,9 +127,9 @@ bool CouldClaimInstead(const AttendanceEntry& entry, float required)
     return entry.SystemName == "Time borrowed" && required <= entry.TimeBanked && entry.TimeClaimedCategoryID != 0;
 }
 
-QString OfferToClaim()
+QString OfferToClaim(const AttendanceEntry& entry)
 {
-    const bool several = SessionState.AttendanceDates.size() > 1;
+    const bool several = entry.Dates.size() > 1;
     return several ? T("{employee} has accumulated enough time ({TimeBanked}) to cover these attendance records "
                        "({required})!\r\n\r\nDo you wish to submit the new attendance records as «{TimeClaimedName}» "
                        "instead of {category}?",
@@ -147,16 +147,18 @@ QString OfferToClaim()
 /// The name stays empty on the form, as nothing fills TimeClaimedName; that is required.
 void ClaimInstead(AttendanceEntry& entry)
 {
-    SessionState.SelectedCategoryID = entry.TimeClaimedCategoryID;
+    entry.SelectedCategoryID = entry.TimeClaimedCategoryID;
     entry.CategoryName = SessionState.TimeClaimedName;
     SessionState.ReloadCalendar = true;
 }
 
 /// The first other record of each date between the first and the last selected one, as a line.
-QMap<int, QString> OtherRecordLines(DataControl& datAbsence, const AttendanceEntry& entry, const QVector<int>& dates)
+QMap<int, QString> OtherRecordLines(DataControl& datAbsence, const AttendanceEntry& entry)
 {
+    if (entry.Dates.isEmpty())
+        return {};
     const Connection connection(datAbsence);
-    const auto [first, last] = std::minmax_element(dates.begin(), dates.end());
+    const auto [first, last] = std::minmax_element(entry.Dates.begin(), entry.Dates.end());
     QMap<int, QString> lines;
     for (Recordset rows = datAbsence.Select(
              "SELECT Attendance.RecordDate, Attendance.RecordID, Attendance.StartTime, Attendance.EndTime, "
@@ -164,7 +166,7 @@ QMap<int, QString> OtherRecordLines(DataControl& datAbsence, const AttendanceEnt
              "Categories WHERE Attendance.CategoryID = Categories.RecordID AND Attendance.EmployeeID = ? AND "
              "Attendance.RecordDate BETWEEN ? AND ? AND Attendance.CancelledDate = 0 AND Attendance.RecordID <> ? "
              "ORDER BY Attendance.RecordID",
-             SessionState.EmployeeID, *first, *last, entry.RecordToModify);
+             entry.EmployeeID, *first, *last, entry.RecordToModify);
          !rows.AtEnd(); rows.MoveNext())
         if (const int date = rows.Long("RecordDate"); !lines.contains(date))
             lines.insert(date, OtherRecordLine(rows));
@@ -189,7 +191,7 @@ void WillEntitlBeExceeded(DataControl& datAbsence, AttendanceEntry& entry)
     ReadTimeUsed(datAbsence, entry);
     if (entry.Entitlement == 0 || entry.TimeUsed + entry.TimePending + entry.TotalTime <= entry.Entitlement)
         entry.Validated = true;
-    else if (SessionState.SubmittingRequest)
+    else if (entry.Kind == AttendanceKind::Submit)
         Tell(Denied(), WithFigures(EntitlementRefusal(), entry), Face::Warning);
     else
         entry.Validated = Ask(Warning(), WithFigures(EntitlementWarning(), entry), Face::Warning);
@@ -202,18 +204,16 @@ void IsTimeBankedEnough(AttendanceEntry& entry)
     if (IsBankExceeded(entry, required))
         return RefuseBeyondBank(entry, required);
     if (CouldClaimInstead(entry, required) &&
-        Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), WithBank(OfferToClaim(), entry, required)))
+        Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), WithBank(OfferToClaim(entry), entry, required)))
         ClaimInstead(entry);
     entry.Validated = true;
 }
 
 void AreThereOtherAttendanceRecords(DataControl& datAbsence, AttendanceEntry& entry)
 {
-    const QVector<int> dates = SelectedDates();
-    const QMap<int, QString> others =
-        dates.isEmpty() ? QMap<int, QString>() : OtherRecordLines(datAbsence, entry, dates);
+    const QMap<int, QString> others = OtherRecordLines(datAbsence, entry);
     QStringList lines;
-    for (const int date : dates)
+    for (const int date : entry.Dates)
         if (others.contains(date))
             lines << others.value(date);
     entry.Validated =

@@ -13,7 +13,7 @@ void ValidateRecords(AttendanceEntry& entry);
 void WillEntitlBeExceeded(DataControl& datAbsence, AttendanceEntry& entry);
 
 /// Time claimed or paid beyond the bank is refused. Time borrowed that the bank covers may be turned into time claimed:
-/// that changes the category of the session and of the entry.
+/// that changes the category of the entry.
 void IsTimeBankedEnough(AttendanceEntry& entry);
 
 /// Warns of other live records of the employee on the selected dates, one line per date.

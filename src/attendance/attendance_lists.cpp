@@ -51,13 +51,13 @@ QString EmployeesWithin(const Reach& reach)
            reach.Filter + " ORDER BY " + reach.Order + "Employees.FamilyName, Employees.FirstName";
 }
 
-Recordset SelectWithin(DataControl& datAbsence, const Reach& reach)
+Recordset SelectWithin(DataControl& datAbsence, AttendanceEntry& entry, const Reach& reach)
 {
-    Session& s = SessionState;
+    const Session& s = SessionState;
     if (s.SelfLevelCreate == 1)
         return datAbsence.Select(EmployeesWithin(reach), s.FiscalYearID);
-    if (s.EmployeeID == s.UserID)
-        s.EmployeeID = 0;
+    if (entry.EmployeeID == s.UserID)
+        entry.EmployeeID = 0;
     return datAbsence.Select(EmployeesWithin(reach), s.FiscalYearID, s.UserID);
 }
 
@@ -74,12 +74,12 @@ QVector<ListEntry> EmployeeItems(Recordset people, bool located)
 }
 
 /// Departments use some of the categories; an employee without a department has the public ones.
-Recordset SelectCategories(DataControl& datAbsence)
+Recordset SelectCategories(DataControl& datAbsence, int department)
 {
     const Session& s = SessionState;
     const QString end = (s.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0 ") +
                         T(" ORDER BY Categories.CategoryEnglishName", " ORDER BY Categories.CategoryFrenchName");
-    if (s.EmployeeDepartmentID == 0)
+    if (department == 0)
         return datAbsence.Select("SELECT * FROM Categories WHERE FiscalYear = ? AND Active = 1 AND IsPublic = 1" + end,
                                  s.FiscalYearID);
     return datAbsence.Select(
@@ -89,17 +89,17 @@ Recordset SelectCategories(DataControl& datAbsence)
         "= "
         "? AND Categories.FiscalYear = ? AND Categories.Active = 1" +
             end,
-        s.EmployeeDepartmentID, s.FiscalYearID);
+        department, s.FiscalYearID);
 }
 } // namespace
 
-std::optional<QVector<ListEntry>> LoadRecords(DataControl& datAbsence)
+std::optional<QVector<ListEntry>> LoadRecords(DataControl& datAbsence, AttendanceEntry& entry)
 {
     const Connection connection(datAbsence);
-    if (!SessionState.SubmittingRequest) {
+    if (entry.Kind != AttendanceKind::Submit) {
         for (const Reach& reach : Reaches())
             if (reach.Holds)
-                return EmployeeItems(SelectWithin(datAbsence, reach), !reach.Location.isEmpty());
+                return EmployeeItems(SelectWithin(datAbsence, entry, reach), !reach.Location.isEmpty());
         if (SessionState.SelfLevelCreate != 1)
             return std::nullopt;
     }
@@ -113,7 +113,7 @@ QVector<ListEntry> LoadCategories(DataControl& datAbsence, AttendanceEntry& entr
     const Connection connection(datAbsence);
     QVector<ListEntry> items = {{T("(All categories)", "(Toutes les catégories)"), 0}};
     entry.TimeClaimedCategoryID = 0;
-    for (Recordset rows = SelectCategories(datAbsence); !rows.AtEnd(); rows.MoveNext()) {
+    for (Recordset rows = SelectCategories(datAbsence, entry.EmployeeDepartmentID); !rows.AtEnd(); rows.MoveNext()) {
         const int category = rows.Long("RecordID");
         items << ListEntry{rows.Text(SessionState.English ? "CategoryEnglishName" : "CategoryFrenchName").trimmed(),
                            category};

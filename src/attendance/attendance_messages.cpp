@@ -38,7 +38,7 @@ bool ConfirmNewAttendance(const AttendanceEntry& entry)
                        T("Add the following attendance record(s) to your database?\r\n\r\n",
                          "Souhaitez-vous ajouter les enregistrements suivants à votre banque de données?\r\n\r\n") +
                            EntryLines(entry),
-                       SelectedDates().size());
+                       entry.Dates.size());
 }
 
 bool ConfirmSubmission(AttendanceEntry& entry)
@@ -49,7 +49,7 @@ bool ConfirmSubmission(AttendanceEntry& entry)
                          "Souhaitez-vous soumettre les enregistrements suivants pour approbation par votre "
                          "supérieur?\r\n\r\n") +
                            entry.RequestedDates,
-                       SelectedDates().size());
+                       entry.Dates.size());
 }
 
 bool ConfirmModification(const AttendanceEntry& entry)

@@ -22,10 +22,10 @@ QString FullName(const Recordset& person)
 
 void TakeEmployee(const Recordset& employee, AttendanceEntry& entry)
 {
-    employee.Take("OrganizationID", SessionState.EmployeeOrganizationID);
-    employee.Take("DepartmentID", SessionState.EmployeeDepartmentID);
-    employee.Take("GroupID", SessionState.EmployeeGroupID);
-    ReadSchedule(employee, SessionState);
+    employee.Take("OrganizationID", entry.EmployeeOrganizationID);
+    employee.Take("DepartmentID", entry.EmployeeDepartmentID);
+    employee.Take("GroupID", entry.EmployeeGroupID);
+    ReadSchedule(employee, entry);
     employee.Take("AttendanceApprovedBy_Main", entry.FirstApprover);
     employee.Take("AttendanceApprovedBy_Backup", entry.SecondApprover);
     employee.Take("HourlyRate", entry.EmployeeRate);
@@ -37,10 +37,7 @@ void ForgetEmployee(AttendanceEntry& entry)
     entry.FirstApprover = 0;
     entry.SecondApprover = 0;
     entry.EmployeeRate = 0;
-    for (const auto& [column, member, weekday] : kClockTimes)
-        (SessionState.*member)[weekday] = 0;
-    SessionState.HoursWorked.fill(0);
-    SessionState.HasSchedule = false;
+    static_cast<WorkSchedule&>(entry) = WorkSchedule();
 }
 
 /// Rates show only to those who keep the employees' files.
@@ -66,7 +63,7 @@ Submission RequestBy(const AttendanceEntry& entry, const QVariant& moment)
 /// What the form can change of a record.
 RowValues EnteredValues(const AttendanceEntry& entry)
 {
-    return {{"CategoryID", SessionState.SelectedCategoryID},
+    return {{"CategoryID", entry.SelectedCategoryID},
             {"Duration", entry.Duration},
             {"StartTime", entry.StartTime},
             {"EndTime", entry.EndTime},
@@ -85,10 +82,10 @@ void Append(RowValues& values, const RowValues& more)
 RowValues NewRow(const AttendanceEntry& entry, int date, const Submission& submission)
 {
     RowValues row = {{"FiscalYear", SessionState.FiscalYearID},
-                     {"EmployeeID", SessionState.EmployeeID},
-                     {"GroupID", SessionState.EmployeeGroupID},
-                     {"DepartmentID", SessionState.EmployeeDepartmentID},
-                     {"OrganizationID", SessionState.EmployeeOrganizationID}};
+                     {"EmployeeID", entry.EmployeeID},
+                     {"GroupID", entry.EmployeeGroupID},
+                     {"DepartmentID", entry.EmployeeDepartmentID},
+                     {"OrganizationID", entry.EmployeeOrganizationID}};
     RowValues entered = EnteredValues(entry);
     entered.insert(entered.begin() + 1, {"RecordDate", date});
     Append(row, entered);
@@ -132,27 +129,27 @@ void AddRows(DataControl& datAbsence, const AttendanceEntry& entry, const Submis
 {
     const Connection connection(datAbsence);
     Batch batch(datAbsence.Engine());
-    for (const int date : SelectedDates())
+    for (const int date : entry.Dates)
         AddRow(datAbsence, "Attendance", WithCosts(NewRow(entry, date, submission), entry));
     batch.Commit();
 }
 
 void SendRows(const AttendanceEntry& entry, const Submission& submission)
 {
-    for (const int date : SelectedDates())
+    for (const int date : entry.Dates)
         SendToServer(InsertStatement("Attendance", NewRow(entry, date, submission)));
 }
 
 void ReadEntitlement(DataControl& datAbsence, AttendanceEntry& entry)
 {
-    if (datAbsence.Read("SELECT * FROM Entitlements WHERE CategoryID = ? AND EmployeeID = ?",
-                        SessionState.SelectedCategoryID, SessionState.EmployeeID))
+    if (datAbsence.Read("SELECT * FROM Entitlements WHERE CategoryID = ? AND EmployeeID = ?", entry.SelectedCategoryID,
+                        entry.EmployeeID))
         entry.Entitlement = datAbsence.Records.Single("CarriedOver") + datAbsence.Records.Single("AnnualEntitlement");
 }
 
 void ForgetCategory(AttendanceEntry& entry)
 {
-    SessionState.TimeBankRelated = 0;
+    entry.TimeBankRelated = 0;
     entry.SystemName.clear();
     entry.RequiresMonitoring = 0;
     entry.ConstitutesAnAbsence = 0;
@@ -175,7 +172,7 @@ void LoadEmployeeInfo(DataControl& datAbsence, AttendanceEntry& entry)
 void LoadEmployeeInfo_ACCESS(DataControl& datAbsence, AttendanceEntry& entry)
 {
     const Connection connection(datAbsence);
-    if (datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", SessionState.EmployeeID))
+    if (datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", entry.EmployeeID))
         TakeEmployee(datAbsence.Records, entry);
     entry.HourlyRateText = VisibleRate(entry.EmployeeRate);
     FindDayParts(entry);
@@ -183,33 +180,33 @@ void LoadEmployeeInfo_ACCESS(DataControl& datAbsence, AttendanceEntry& entry)
 
 void LoadEmployeeInfo_SQL(AttendanceEntry& entry)
 {
-    SendToServer(QStringLiteral("SELECT * FROM Employees WHERE RecordID = %1").arg(SessionState.EmployeeID));
+    SendToServer(QStringLiteral("SELECT * FROM Employees WHERE RecordID = %1").arg(entry.EmployeeID));
     FindDayParts(entry);
 }
 
 void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry)
 {
     ForgetCategory(entry);
-    if (SessionState.SelectedCategoryID == 0)
+    if (entry.SelectedCategoryID == 0)
         return;
     const Connection connection(datAbsence);
-    if (datAbsence.Read("SELECT * FROM Categories WHERE RecordID = ?", SessionState.SelectedCategoryID)) {
-        datAbsence.Take("TimeBankRelated", SessionState.TimeBankRelated);
+    if (datAbsence.Read("SELECT * FROM Categories WHERE RecordID = ?", entry.SelectedCategoryID)) {
+        datAbsence.Take("TimeBankRelated", entry.TimeBankRelated);
         datAbsence.Take("ConstitutesAnAbsence", entry.ConstitutesAnAbsence);
         datAbsence.Take("RequiresMonitoring", entry.RequiresMonitoring);
         entry.SystemName = datAbsence.Records.Text("SystemName").trimmed();
     }
-    if (SessionState.EmployeeID == 0)
+    if (entry.EmployeeID == 0)
         return;
     if (entry.RequiresMonitoring == 1)
         ReadEntitlement(datAbsence, entry);
-    else if (SessionState.TimeBankRelated == 1)
-        entry.TimeBanked = TimeBankOfEmployee(datAbsence, SessionState.EmployeeID);
+    else if (entry.TimeBankRelated == 1)
+        entry.TimeBanked = TimeBankOfEmployee(datAbsence, entry.EmployeeID);
 }
 
 bool LacksEntitlement(const AttendanceEntry& entry)
 {
-    return entry.RequiresMonitoring == 1 && SessionState.EmployeeID != 0 && entry.Entitlement == 0;
+    return entry.RequiresMonitoring == 1 && entry.EmployeeID != 0 && entry.Entitlement == 0;
 }
 
 void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry)

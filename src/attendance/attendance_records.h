@@ -13,14 +13,14 @@ struct ListEntry
 };
 
 /// The employees whom the user may enter records for, or the user alone for a request. Nothing at all: the user may add
-/// for nobody. The session's employee is cleared when he is the user, who may not enter his own records.
-std::optional<QVector<ListEntry>> LoadRecords(DataControl& datAbsence);
+/// for nobody. The entry's employee is cleared when he is the user, who may not enter his own records.
+std::optional<QVector<ListEntry>> LoadRecords(DataControl& datAbsence, AttendanceEntry& entry);
 
 /// The categories of the employee's department by name, "(All categories)" first. Notes TimeClaimedCategoryID.
 QVector<ListEntry> LoadCategories(DataControl& datAbsence, AttendanceEntry& entry);
 
-/// The session takes over units and schedule of its employee, the entry his name, rate, approvers and day parts. On the
-/// server back end the statement is composed and nothing is read.
+/// The entry takes over what the employee's file says: units, schedule, name, rate, approvers, day parts. On the server
+/// back end the statement is composed and nothing is read.
 void LoadEmployeeInfo(DataControl& datAbsence, AttendanceEntry& entry);
 void LoadEmployeeInfo_ACCESS(DataControl& datAbsence, AttendanceEntry& entry);
 void LoadEmployeeInfo_SQL(AttendanceEntry& entry);

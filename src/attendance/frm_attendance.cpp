@@ -19,20 +19,13 @@ namespace
 constexpr QSize kSize(760, 610);
 constexpr int kCommentLimit = 500;
 
-QString ActionCaption()
-{
-    if (SessionState.SubmittingRequest)
-        return T("&Submit new attendance record(s)", "S&oumettre nouveaux enregistrements");
-    if (SessionState.ModifyingRecord)
-        return T("&Record modifications", "En&registrer modifications");
-    return T("&Add new attendance record(s)", "&Ajouter nouveaux enregistrements");
-}
+constexpr Text kActions[] = {{"&Add new attendance record(s)", "&Ajouter nouveaux enregistrements"},
+                             {"&Submit new attendance record(s)", "S&oumettre nouveaux enregistrements"},
+                             {"&Record modifications", "En&registrer modifications"}}; // in the order of AttendanceKind
 } // namespace
 
-std::function<void(AttendanceEntry&)> frmAttendance::ShowGetApprovedBy;
-std::function<void(const AttendanceEntry&)> frmAttendance::SendRequestNotice;
-
-frmAttendance::frmAttendance(QWidget* parent) : QDialog(parent)
+frmAttendance::frmAttendance(const AttendanceJob& job, const AttendanceDoors& doors, QWidget* parent)
+    : QDialog(parent), entry_(job), doors_(doors)
 {
     BuildControls();
     ConnectControls();
@@ -110,7 +103,7 @@ void frmAttendance::Form_Load()
     LoadCaptions();
     LoadComboBoxes();
     QStringList dates;
-    for (const int date : SelectedDates())
+    for (const int date : entry_.Dates)
         dates << FormatDate(date, "ddd   dd-mmm-yyyy");
     general_->txtWhen->setPlainText(dates.join('\n'));
 }
@@ -122,7 +115,7 @@ void frmAttendance::LoadCaptions()
     sstAttendance->setTabText(1, T("Additional information", "Information additionnelle"));
     general_->LoadCaptions();
     additional_->LoadCaptions();
-    cmdAddOrUpdate->setText(ActionCaption());
+    cmdAddOrUpdate->setText(T(kActions[static_cast<int>(entry_.Kind)]));
     cmdQuit->setText(T("&Close", "So&rtir"));
 }
 
@@ -138,13 +131,13 @@ void frmAttendance::LoadComboBoxes()
 void frmAttendance::Form_Activate()
 {
     LoadEmployees();
-    if (SessionState.EmployeeID >= 1)
+    if (entry_.EmployeeID >= 1)
         LoadEmployeeInfo(datAbsence, entry_);
     LoadCategoryList();
-    if (SessionState.ModifyingRecord)
+    if (IsModifying())
         ReloadRecord(datAbsence, entry_);
     ShowEntry();
-    general_->lstWho->setEnabled(!SessionState.ModifyingRecord && !SessionState.EmployeeLocked);
+    general_->lstWho->setEnabled(!IsModifying() && !entry_.EmployeeLocked);
     (general_->lstWho->isEnabled() ? static_cast<QWidget*>(general_->lstWho) : general_->cboCategories)->setFocus();
     // The question comes once the form can be seen.
     if (LacksEntitlement(entry_))
@@ -154,7 +147,7 @@ void frmAttendance::Form_Activate()
 void frmAttendance::LoadEmployees()
 {
     const LoadingGuard loading(Loading);
-    const auto employees = LoadRecords(datAbsence);
+    const auto employees = LoadRecords(datAbsence, entry_);
     for (const ListEntry& employee : employees.value_or(QVector<ListEntry>())) {
         auto* item = new QListWidgetItem(employee.Text, general_->lstWho);
         item->setData(Qt::UserRole, employee.ItemData);
@@ -170,17 +163,17 @@ bool frmAttendance::MayEnterForEmployee()
 {
     if (general_->lstWho->currentItem())
         return true;
-    if (!SessionState.ModifyingRecord)
-        SessionState.EmployeeID = 0;
-    return !SessionState.ModifyingRecord;
+    if (!IsModifying())
+        entry_.EmployeeID = 0;
+    return !IsModifying();
 }
 
-/// Marks the session's employee, also after a click with Ctrl has taken the mark away.
+/// Marks the entry's employee, also after a click with Ctrl has taken the mark away.
 void frmAttendance::MarkEmployee()
 {
     const LoadingGuard loading(Loading);
-    for (int row = 0; SessionState.EmployeeID > 0 && row < general_->lstWho->count(); ++row)
-        if (general_->lstWho->item(row)->data(Qt::UserRole).toInt() == SessionState.EmployeeID)
+    for (int row = 0; entry_.EmployeeID > 0 && row < general_->lstWho->count(); ++row)
+        if (general_->lstWho->item(row)->data(Qt::UserRole).toInt() == entry_.EmployeeID)
             return general_->lstWho->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
 }
 
@@ -191,14 +184,14 @@ void frmAttendance::LoadCategoryList()
     list->clear();
     for (const ListEntry& category : LoadCategories(datAbsence, entry_))
         list->addItem(category.Text, category.ItemData);
-    list->setCurrentIndex(std::max(list->findData(SessionState.SelectedCategoryID), 0));
+    list->setCurrentIndex(std::max(list->findData(entry_.SelectedCategoryID), 0));
     EnterCategory();
 }
 
-/// The category shown becomes that of the session and of the entry.
+/// The category shown becomes that of the entry.
 void frmAttendance::EnterCategory()
 {
-    SessionState.SelectedCategoryID = general_->cboCategories->currentData().toInt();
+    entry_.SelectedCategoryID = general_->cboCategories->currentData().toInt();
     ReadCategory(datAbsence, entry_);
     entry_.CategoryName = general_->cboCategories->currentText();
 }
@@ -252,7 +245,7 @@ void frmAttendance::WarnOfMissingEntitlement()
 
 void frmAttendance::BlankCategory()
 {
-    SessionState.SelectedCategoryID = 0;
+    entry_.SelectedCategoryID = 0;
     ReadCategory(datAbsence, entry_);
     entry_.CategoryName.clear();
     ShowCategory();
@@ -268,13 +261,13 @@ void frmAttendance::lstWho_Click()
         return MarkEmployee();
     ReadForm();
     const int employee = marked.first()->data(Qt::UserRole).toInt();
-    const bool another = employee != SessionState.EmployeeID;
-    SessionState.EmployeeID = employee;
+    const bool another = employee != entry_.EmployeeID;
+    entry_.EmployeeID = employee;
     ClearEntryFields(entry_);
     LoadEmployeeInfo(datAbsence, entry_);
     if (another) {
-        ConflictsAccepted = false;
-        SessionState.SelectedCategoryID = 0;
+        entry_.ConflictsAccepted = false;
+        entry_.SelectedCategoryID = 0;
         LoadCategoryList();
     } else {
         ReadCategory(datAbsence, entry_);
@@ -284,56 +277,63 @@ void frmAttendance::lstWho_Click()
         WarnOfMissingEntitlement();
 }
 
-void frmAttendance::cboCategories_Click(int index)
+/// Something was entered by the user; what the form itself puts into its controls is not.
+void frmAttendance::Change(const std::function<void()>& change)
 {
-    if (Loading || index < 0)
+    if (Loading)
         return;
     ReadForm();
-    EnterCategory();
-    if (LacksEntitlement(entry_) && !AcceptMissingEntitlement(entry_))
-        return BlankCategory();
-    RecalculateTotalTime(entry_);
+    change();
     ShowEntry();
+}
+
+void frmAttendance::cboCategories_Click(int index)
+{
+    if (index < 0)
+        return;
+    Change([this] {
+        EnterCategory();
+        if (LacksEntitlement(entry_) && !AcceptMissingEntitlement(entry_))
+            BlankCategory();
+        else
+            RecalculateTotalTime(entry_);
+    });
 }
 
 void frmAttendance::DayPart_Click(DayPart part, bool checked)
 {
-    if (Loading)
-        return;
-    ReadForm();
-    ChooseDayPart(entry_, part, checked);
-    durationChanged_ = false;
-    ShowEntry();
+    Change([&] {
+        ChooseDayPart(entry_, part, checked);
+        durationChanged_ = false;
+    });
 }
 
 void frmAttendance::Time_Click(void (*choose)(AttendanceEntry&, const QString&), const QString& text)
 {
-    if (Loading || text.isEmpty())
+    if (text.isEmpty())
         return;
-    ReadForm();
-    choose(entry_, text);
-    durationChanged_ = false;
-    ShowEntry();
+    Change([&] {
+        choose(entry_, text);
+        durationChanged_ = false;
+    });
 }
 
 void frmAttendance::lstMultiplicator_Click(int index)
 {
-    if (Loading || index < 0)
+    if (index < 0)
         return;
-    ReadForm();
-    entry_.TimeMultiplicator = kMultiplicators[static_cast<size_t>(index)].Value;
-    RecalculateTotalTime(entry_);
-    ShowEntry();
+    Change([&] {
+        entry_.TimeMultiplicator = kMultiplicators[static_cast<size_t>(index)].Value;
+        RecalculateTotalTime(entry_);
+    });
 }
 
 void frmAttendance::Duration_Change()
 {
-    if (Loading)
-        return;
-    ReadForm();
-    TypeDuration(entry_, general_->txtDurationInHours->text(), general_->txtDurationInMinutes->text());
-    durationChanged_ = true;
-    ShowEntry();
+    Change([this] {
+        TypeDuration(entry_, general_->txtDurationInHours->text(), general_->txtDurationInMinutes->text());
+        durationChanged_ = true;
+    });
 }
 
 /// False when a box was refused, blanked and given the focus again.

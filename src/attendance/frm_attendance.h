@@ -1,39 +1,28 @@
 #pragma once
 
-#include "attendance/attendance_entry.h"
+#include "attendance/attendance_doors.h"
 #include "platform/dao/dao.h"
 
 #include <QDialog>
 
 #include <functional>
+#include <optional>
 
 class AttendanceAdditionalPage;
 class AttendanceGeneralPage;
 class QPushButton;
 class QTabWidget;
 
-/// Adds one record per selected date, submits a request for them, or modifies one record, as the operation flags of the
-/// session say. On success the session holds the employee's name as CurrentSelection and asks for a reload of the
-/// calendar, and the form is accepted.
+/// Adds one record per date, submits a request for them, or modifies one record, as its job says. It is accepted when
+/// the records are written; the session is then asked for a reload of the calendar.
 class frmAttendance : public QDialog
 {
 public:
-    explicit frmAttendance(QWidget* parent = nullptr);
+    explicit frmAttendance(const AttendanceJob& job, const AttendanceDoors& doors = {}, QWidget* parent = nullptr);
     ~frmAttendance() override;
 
-private:
-    AttendanceEntry entry_;
-
-public:
-    /// Set by the calendar before the form opens: the record of a modification, and whether the user has already
-    /// accepted that there are other records on the date.
-    int& RecordToModify = entry_.RecordToModify;
-    bool& ConflictsAccepted = entry_.ConflictsAccepted;
-
-    /// Finds a FirstApprover for a request; set once by the program.
-    static std::function<void(AttendanceEntry&)> ShowGetApprovedBy;
-    /// Tells the approvers of a request that has been written; set once by the program, nothing is sent without it.
-    static std::function<void(const AttendanceEntry&)> SendRequestNotice;
+    /// What has been entered so far, the employee with his name as CurrentSelection once records are written.
+    const AttendanceEntry& Entry() const { return entry_; }
 
     void reject() override { cmdQuit_Click(); }
 
@@ -51,9 +40,11 @@ private:
 
     void LoadEmployees();
     void MarkEmployee();
+    bool IsModifying() const { return entry_.Kind == AttendanceKind::Modify; }
     bool MayEnterForEmployee();
     void LoadCategoryList();
     void EnterCategory();
+    void Change(const std::function<void()>& change);
     void ReadForm();
     void ShowEntry();
     void ShowParts();
@@ -81,9 +72,10 @@ private:
     bool ModifyAttendance();
     void FocusFieldInError();
     void SetButtonsEnabled(bool enabled);
-    void ResetVariables();
     void cmdQuit_Click();
 
+    AttendanceEntry entry_;
+    const AttendanceDoors doors_;
     DataControl datAbsence{"frmAttendance"};
     bool Loading = false;
     bool activated_ = false;
@@ -97,3 +89,7 @@ private:
     QPushButton* cmdAddOrUpdate = nullptr;
     QPushButton* cmdQuit = nullptr;
 };
+
+/// Opens the entry form for a job. Returns the employee for whom records were written, nothing when none were.
+std::optional<CalendarSelection> EnterAttendance(const AttendanceJob& job, const AttendanceDoors& doors,
+                                                 QWidget* parent);

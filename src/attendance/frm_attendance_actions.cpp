@@ -5,7 +5,7 @@
 #include "attendance/frm_attendance_pages.h"
 #include "foundation/common_services.h"
 #include "foundation/not_yet.h"
-#include "foundation/session_state.h"
+#include "platform/controls/form_kit.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -28,7 +28,7 @@ void frmAttendance::cmdAddOrUpdate_Click()
     SetButtonsEnabled(true);
     if (!updated_)
         return FocusFieldInError();
-    SessionState.CurrentSelection = entry_.EmployeeName;
+    entry_.CurrentSelection = entry_.EmployeeName;
     SessionState.ReloadCalendar = true;
     cmdQuit_Click();
 }
@@ -44,18 +44,18 @@ bool frmAttendance::PassesGuards()
         IsTimeBankedEnough(entry_);
         ShowCategory();
     }
-    if (entry_.Validated && !ConflictsAccepted)
+    if (entry_.Validated && !entry_.ConflictsAccepted)
         AreThereOtherAttendanceRecords(datAbsence, entry_);
     return entry_.Validated;
 }
 
 bool frmAttendance::FindApprovers()
 {
-    if (!SessionState.SubmittingRequest)
+    if (entry_.Kind != AttendanceKind::Submit)
         return true;
     if (entry_.FirstApprover == 0) {
-        if (ShowGetApprovedBy)
-            ShowGetApprovedBy(entry_);
+        if (doors_.ShowGetApprovedBy)
+            doors_.ShowGetApprovedBy(entry_);
         else
             TellNotYet("frmGetApprovedBy");
     }
@@ -68,9 +68,9 @@ bool frmAttendance::FindApprovers()
 /// True when the records are written.
 bool frmAttendance::Dispatch()
 {
-    if (SessionState.ModifyingRecord)
+    if (IsModifying())
         return ModifyAttendance();
-    return SessionState.SubmittingRequest ? SubmitAttendance() : NewAttendance();
+    return entry_.Kind == AttendanceKind::Submit ? SubmitAttendance() : NewAttendance();
 }
 
 bool frmAttendance::NewAttendance()
@@ -92,8 +92,8 @@ bool frmAttendance::SubmitAttendance()
         SubmitAttendance_SQL(entry_);
     else
         SubmitAttendance_ACCESS(datAbsence, entry_);
-    if (SendRequestNotice)
-        SendRequestNotice(entry_);
+    if (doors_.SendRequestNotice)
+        doors_.SendRequestNotice(entry_);
     TellSubmitted(entry_);
     return true;
 }
@@ -126,19 +126,16 @@ void frmAttendance::SetButtonsEnabled(bool enabled)
     cmdQuit->setEnabled(enabled);
 }
 
-void frmAttendance::ResetVariables()
-{
-    entry_ = {};
-    SessionState.TimeBankRelated = 0;
-    SessionState.CreatingMultiple = false;
-    SessionState.ModifyingRecord = false;
-    SessionState.SubmittingRequest = false;
-}
-
 void frmAttendance::cmdQuit_Click()
 {
-    ResetVariables();
-    if (SessionState.EmployeeID == 0)
-        SessionState.EmployeeID = SessionState.UserID;
     done(updated_ ? Accepted : Rejected);
+}
+
+std::optional<CalendarSelection> EnterAttendance(const AttendanceJob& job, const AttendanceDoors& doors,
+                                                 QWidget* parent)
+{
+    frmAttendance form(job, doors, parent);
+    if (ShowModal(form) != QDialog::Accepted)
+        return std::nullopt;
+    return form.Entry();
 }

@@ -21,7 +21,7 @@ QString EntryLines(const AttendanceEntry& entry)
                      {{"start", entry.StartTimeText}, {"end", entry.EndTimeText}});
     times += T("\tDuration: ", "\tDurée: ") + DurationText(entry.Duration) + "\r\n";
     QString lines;
-    for (const int date : SelectedDates())
+    for (const int date : entry.Dates)
         lines += FormatDate(date, "ddd dd-mm-yyyy") + times;
     return lines;
 }

@@ -12,9 +12,15 @@ namespace
 const char* const kMark = " X";
 const char* const kRemovalMark = " X     ";
 
-void Refuse(const char* english, const char* french)
+constexpr Text kDatesHint = {
+    "Click on the dates where you want to create attendance records and then click on the active icon again. Press "
+    "«Escape» to abort the procedure.",
+    "Cliquez sur les dates où vous souhaitez enregistrer des absences et cliquez ensuite sur l'icône active. Appuyez "
+    "sur «Échap» pour annuler la procédure."};
+
+void Refuse(const Text& text)
 {
-    Tell(T("ERROR:", "ERREUR:"), T(english, french), Face::Warning);
+    Tell(T("ERROR:", "ERREUR:"), T(text), Face::Warning);
 }
 
 QString NotOnWeekday(int weekday)
@@ -31,66 +37,96 @@ QString RecordLine(const Recordset& record)
 }
 } // namespace
 
-void CalendarTools::imgZoom_Click()
+/// A tool that takes no dates of the calendar finishes at once.
+struct CalendarTools::Tool
 {
-    using Start = void (CalendarTools::*)();
-    static const std::pair<const char*, Start> tools[] = {
-        {"imgCreateSingle", &CalendarTools::StartCreateSingle},
-        {"imgCreateMultiple", &CalendarTools::StartCreateMultiple},
-        {"imgCreateConsecutive", &CalendarTools::StartCreateConsecutive},
-        {"imgSubmit", &CalendarTools::StartSubmit},
-        {"imgModify", &CalendarTools::StartModify},
-        {"imgRemove", &CalendarTools::StartRemove},
-    };
-    if (SelectingMultiple)
-        return SessionState.CancellingRecords ? imgRemove_Click() : EndMultipleSelection();
-    if (HoveredTool == "imgApprove")
-        return host_.ShowApproval();
-    for (const auto& [name, start] : tools)
-        if (HoveredTool == QLatin1String(name))
-            return (this->*start)();
+    const char* Name;
+    bool (CalendarTools::*MayBegin)(); ///< tells what is in the way
+    AttendanceKind Kind;
+    ToolFlags Flags;
+    Text Hint;
+    void (CalendarTools::*OnDate)(int date);
+    void (CalendarTools::*Finish)(); ///< on the second click; none where one date is enough
+};
+
+const CalendarTools::Tool CalendarTools::kTools[] = {
+    {"imgCreateSingle",
+     &CalendarTools::CanCreate,
+     AttendanceKind::Add,
+     {},
+     {"Click on the date where you want to create an attendance record. Press «Escape» to abort the procedure.",
+      "Cliquez sur la date où vous souhaitez enregistrer une absence. Appuyez sur «Échap» pour annuler la procédure."},
+     &CalendarTools::SelectSingleDate,
+     nullptr},
+    {"imgCreateMultiple",
+     &CalendarTools::CanCreate,
+     AttendanceKind::Add,
+     {},
+     kDatesHint,
+     &CalendarTools::SelectMultipleDates,
+     &CalendarTools::EnterMarkedDates},
+    {"imgCreateConsecutive",
+     &CalendarTools::CanCreate,
+     AttendanceKind::Add,
+     {.CreatingConsecutive = true, .EmployeeLocked = true},
+     {},
+     nullptr,
+     &CalendarTools::EnterPeriod},
+    {"imgSubmit",
+     &CalendarTools::CanSubmit,
+     AttendanceKind::Submit,
+     {.SubmittingRequest = true, .EmployeeLocked = true},
+     kDatesHint,
+     &CalendarTools::SelectMultipleDates,
+     &CalendarTools::EnterMarkedDates},
+    {"imgModify",
+     &CalendarTools::CanModify,
+     AttendanceKind::Modify,
+     {.ModifyingRecord = true},
+     {"Click on the attendance record you wish to modify. Press «Escape» to abort the procedure.",
+      "Cliquez sur l'enregistrement que vous souhaitez modifier. Appuyez sur «Échap» pour annuler la procédure."},
+     &CalendarTools::SelectRecordToModify,
+     nullptr},
+    {"imgRemove",
+     &CalendarTools::CanRemove,
+     {},
+     {.CancellingRecords = true},
+     {"Click on the attendance records you wish to remove and then click on the active icon again. Press «Escape» to "
+      "abort the procedure.",
+      "Cliquez sur les enregistrements que vous souhaitez supprimer et cliquez ensuite sur l'icône active. Appuyez sur "
+      "«Échap» pour annuler la procédure."},
+     &CalendarTools::SelectRecordsToCancel,
+     &CalendarTools::imgRemove_Click},
+};
+
+void CalendarTools::imgZoom_Click(const QString& hoveredTool)
+{
+    if (tool_ && tool_->Finish)
+        return (this->*tool_->Finish)();
+    for (const Tool& tool : kTools)
+        if (hoveredTool == QLatin1String(tool.Name) && (this->*tool.MayBegin)())
+            return Begin(tool);
 }
 
-bool CalendarTools::CanCreate() const
+void CalendarTools::Begin(const Tool& tool)
 {
-    if (SessionState.EmployeeID == 0) {
-        Refuse("You must first select an employee!", "Vous devez d'abord sélectionner un(e) employé(e)!");
-        return false;
-    }
-    if (SessionState.CurrentSelection == "ADMIN") {
-        Refuse("The system administrator is not considered as an employee! You can only enter / submit attendance "
-               "records for employees within your organization.",
-               "L'administrateur du système, n'est pas considéré comme un employé! Vous ne pouvez enregistrer ou "
-               "soumettre des absences que pour les employés de votre entreprise.");
-        return false;
-    }
-    return true;
-}
-
-void CalendarTools::Begin(bool multiple, const QString& usableTool, const QString& hint)
-{
-    SelectingMultiple = multiple;
-    SelectingSingle = !multiple;
+    tool_ = &tool;
+    static_cast<ToolFlags&>(SessionState) = tool.Flags;
     SessionState.MarkedDates.clear();
-    MarkedRecords.clear();
-    removals_.clear();
+    markedRecords_.clear();
     conflictsAccepted_ = false;
-    host_.BeginTool(usableTool);
-    host_.ShowHint(hint);
+    host_.BeginTool(tool.OnDate && tool.Finish ? tool.Name : QString());
+    host_.ShowHint(T(tool.Hint));
+    if (!tool.OnDate)
+        (this->*tool.Finish)();
 }
 
 void CalendarTools::End()
 {
-    ClearMarks();
-    SelectingSingle = false;
-    SelectingMultiple = false;
-    Session& s = SessionState;
-    s.ModifyingRecord = false;
-    s.CancellingRecords = false;
-    s.SubmittingRequest = false;
-    s.CreatingMultiple = false;
-    s.CreatingConsecutive = false;
-    s.EmployeeLocked = false;
+    while (!SessionState.MarkedDates.isEmpty())
+        Unmark(SessionState.MarkedDates.first());
+    tool_ = nullptr;
+    static_cast<ToolFlags&>(SessionState) = ToolFlags();
     host_.ShowHint({});
     host_.EndTool();
 }
@@ -101,144 +137,91 @@ void CalendarTools::Abort()
         End();
 }
 
-void CalendarTools::StartCreateSingle()
+bool CalendarTools::CanCreate()
 {
-    if (!CanCreate())
-        return;
-    Begin(false, {},
-          T("Click on the date where you want to create an attendance record. Press «Escape» to abort the procedure.",
-            "Cliquez sur la date où vous souhaitez enregistrer une absence. Appuyez sur «Échap» pour annuler la "
-            "procédure."));
-}
-
-void CalendarTools::StartCreateMultiple()
-{
-    if (!CanCreate())
-        return;
-    Begin(true, "imgCreateMultiple",
-          T("Click on the dates where you want to create attendance records and then click on the active icon again. "
-            "Press «Escape» to abort the procedure.",
-            "Cliquez sur les dates où vous souhaitez enregistrer des absences et cliquez ensuite sur l'icône active. "
-            "Appuyez sur «Échap» pour annuler la procédure."));
+    if (SessionState.EmployeeID == 0)
+        Refuse({"You must first select an employee!", "Vous devez d'abord sélectionner un(e) employé(e)!"});
+    else if (SessionState.CurrentSelection == "ADMIN")
+        Refuse({"The system administrator is not considered as an employee! You can only enter / submit attendance "
+                "records for employees within your organization.",
+                "L'administrateur du système, n'est pas considéré comme un employé! Vous ne pouvez enregistrer ou "
+                "soumettre des absences que pour les employés de votre entreprise."});
+    else
+        return true;
+    return false;
 }
 
 /// A request is always for oneself: the calendar first turns to the user's own records.
-void CalendarTools::StartSubmit()
+bool CalendarTools::CanSubmit()
 {
     if (!CanCreate())
-        return;
+        return false;
     Session& s = SessionState;
-    if (s.UserApprovedBy == 0)
-        return Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
-                    Fill(T("Before you can submit a request for leave, Tarvell needs to know who will be approving it! "
-                           "See your system administrator ({AdminName}) for more details.",
-                           "Avant que vous ne puissiez soumettre une demande de congé, Tarvell doit d'abord savoir qui "
-                           "la traitera. Veuillez consulter votre administrateur du système ({AdminName}) pour plus "
-                           "d'information.!"),
-                         {{"AdminName", s.AdminName}}),
-                    Face::Warning);
+    if (s.UserApprovedBy == 0) {
+        Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
+             Fill(T("Before you can submit a request for leave, Tarvell needs to know who will be approving it! See "
+                    "your system administrator ({AdminName}) for more details.",
+                    "Avant que vous ne puissiez soumettre une demande de congé, Tarvell doit d'abord savoir qui la "
+                    "traitera. Veuillez consulter votre administrateur du système ({AdminName}) pour plus "
+                    "d'information.!"),
+                  {{"AdminName", s.AdminName}}),
+             Face::Warning);
+        return false;
+    }
     if (s.EmployeeID != s.UserID) {
-        s.EmployeeID = s.UserID;
-        s.EmployeeOrganizationID = s.UserOrganizationID;
-        s.EmployeeDepartmentID = s.UserDepartmentID;
-        s.EmployeeGroupID = s.UserGroupID;
-        s.CurrentSelection = s.UserName;
+        static_cast<CalendarSelection&>(s) = {s.UserID, s.UserOrganizationID, s.UserDepartmentID, s.UserGroupID,
+                                              s.UserName};
         host_.ReloadSelection();
-    }
-    s.SubmittingRequest = true;
-    s.EmployeeLocked = true;
-    Begin(true, "imgSubmit",
-          T("Click on the dates where you want to create attendance records and then click on the active icon again. "
-            "Press «Escape» to abort the procedure.",
-            "Cliquez sur les dates où vous souhaitez enregistrer des absences et cliquez ensuite sur l'icône active. "
-            "Appuyez sur «Échap» pour annuler la procédure."));
-}
-
-void CalendarTools::StartCreateConsecutive()
-{
-    if (!CanCreate())
-        return;
-    SessionState.AttendanceDates.clear();
-    host_.BeginTool({});
-    if (host_.ShowSelectDates() && !SessionState.AttendanceDates.isEmpty()) {
-        SessionState.CreatingMultiple = true;
-        SessionState.CreatingConsecutive = true;
-        SessionState.EmployeeLocked = true;
-        host_.ShowAttendance(0, false);
-    }
-    End();
-}
-
-bool CalendarTools::CanChangeRecords(const QString& missing, const QString& nothing) const
-{
-    const QString title = T("UNABLE TO PROCEED:", "ERREUR:");
-    if (SessionState.EmployeeID == 0 || SessionState.SelectedCategoryID == 0) {
-        Tell(title, missing, Face::Warning);
-        return false;
-    }
-    if (host_.NothingRecorded()) {
-        Tell(title, nothing, Face::Warning);
-        return false;
     }
     return true;
 }
 
-void CalendarTools::StartModify()
+bool CalendarTools::CanModify()
 {
-    if (!CanChangeRecords(
-            T("Before you can modify attendance records, you must first select an employee and a category of "
-              "attendance!",
-              "Avant que vous ne puissiez modifier des enregistrements, vous devez d'abord sélectionner un employé et "
-              "une catégorie d'absentéisme!"),
-            T("There are no attendance records to be modified!", "Il n'y a aucun enregistrement à modifier!")))
-        return;
-    SessionState.ModifyingRecord = true;
-    Begin(
-        false, {},
-        T("Click on the attendance record you wish to modify. Press «Escape» to abort the procedure.",
-          "Cliquez sur l'enregistrement que vous souhaitez modifier. Appuyez sur «Échap» pour annuler la procédure."));
+    return CanChangeRecords(
+        {"Before you can modify attendance records, you must first select an employee and a category of attendance!",
+         "Avant que vous ne puissiez modifier des enregistrements, vous devez d'abord sélectionner un employé et une "
+         "catégorie d'absentéisme!"},
+        {"There are no attendance records to be modified!", "Il n'y a aucun enregistrement à modifier!"});
 }
 
-void CalendarTools::StartRemove()
+bool CalendarTools::CanRemove()
 {
-    if (!CanChangeRecords(
-            T("Before you can remove attendance records, you must first select an employee and a category of "
-              "attendance!",
-              "Avant que vous ne puissiez supprimer des enregistrements, vous devez d'abord sélectionner un employé et "
-              "une catégorie d'absentéisme!"),
-            T("There are no attendance records to be removed!", "Il n'y a aucun enregistrement à supprimer!")))
-        return;
-    SessionState.CancellingRecords = true;
-    Begin(
-        true, "imgRemove",
-        T("Click on the attendance records you wish to remove and then click on the active icon again. Press "
-          "«Escape» to abort the procedure.",
-          "Cliquez sur les enregistrements que vous souhaitez supprimer et cliquez ensuite sur l'icône active. Appuyez "
-          "sur «Échap» pour annuler la procédure."));
+    return CanChangeRecords(
+        {"Before you can remove attendance records, you must first select an employee and a category of attendance!",
+         "Avant que vous ne puissiez supprimer des enregistrements, vous devez d'abord sélectionner un employé et une "
+         "catégorie d'absentéisme!"},
+        {"There are no attendance records to be removed!", "Il n'y a aucun enregistrement à supprimer!"});
+}
+
+bool CalendarTools::CanChangeRecords(const Text& missing, const Text& nothing) const
+{
+    const bool chosen = SessionState.EmployeeID != 0 && SessionState.SelectedCategoryID != 0;
+    if (chosen && !host_.NothingRecorded())
+        return true;
+    Tell(T("UNABLE TO PROCEED:", "ERREUR:"), T(chosen ? nothing : missing), Face::Warning);
+    return false;
 }
 
 void CalendarTools::DateClicked(int date)
 {
-    const Session& s = SessionState;
-    YearCalendar& calendar = host_.Calendar();
-    if (!IsSelecting()) {
-        SessionState.SelectedDate = date;
-        return host_.DisplayDailyAttendance(date);
-    }
-    if (!calendar.IsMarked(date) && calendar.IsHoliday(date) &&
-        !Ask(T("WARNING!", "ATTENTION!"),
-             T("This is a statutory holiday! Select this date anyway?",
-               "Cette date est un congé férié! Souhaitez-vous tout-de-même la sélectionner?"),
-             Face::Warning))
+    if (tool_) {
+        if (AcceptsHoliday(date))
+            (this->*tool_->OnDate)(date);
         return;
-    if (s.CancellingRecords)
-        SelectRecordsToCancel(date);
-    else if (s.ModifyingRecord)
-        SelectRecordToModify(date);
-    else if (SelectingMultiple)
-        SelectMultipleDates(date);
-    else
-        SelectSingleDate(date);
+    }
+    SessionState.SelectedDate = date;
+    host_.DisplayDailyAttendance(date);
+}
+
+bool CalendarTools::AcceptsHoliday(int date) const
+{
+    const YearCalendar& calendar = host_.Calendar();
+    return calendar.IsMarked(date) || !calendar.IsHoliday(date) ||
+           Ask(T("WARNING!", "ATTENTION!"),
+               T("This is a statutory holiday! Select this date anyway?",
+                 "Cette date est un congé férié! Souhaitez-vous tout-de-même la sélectionner?"),
+               Face::Warning);
 }
 
 bool CalendarTools::AcceptsDayOff(int date) const
@@ -281,14 +264,8 @@ bool CalendarTools::AcceptsDate(int date)
 
 void CalendarTools::SelectSingleDate(int date)
 {
-    if (!AcceptsDate(date))
-        return;
-    SelectingSingle = false;
-    host_.ShowHint({});
-    SessionState.CreatingMultiple = false;
-    SessionState.AttendanceDates = {date};
-    host_.ShowAttendance(0, conflictsAccepted_);
-    End();
+    if (AcceptsDate(date))
+        Enter({date});
 }
 
 void CalendarTools::SelectMultipleDates(int date)
@@ -299,25 +276,41 @@ void CalendarTools::SelectMultipleDates(int date)
         Mark(date, kMark);
 }
 
-void CalendarTools::EndMultipleSelection()
+void CalendarTools::EnterMarkedDates()
+{
+    DateList dates = SessionState.MarkedDates;
+    std::sort(dates.begin(), dates.end());
+    if (dates.isEmpty())
+        return Refuse({"You must first select date(s) from the calendar!",
+                       "Vous devez d'abord sélectionner une ou plusieurs dates à l'intérieur du calendrier!"});
+    Enter(dates);
+}
+
+void CalendarTools::EnterPeriod()
+{
+    const DateList dates = host_.ShowSelectDates();
+    if (dates.isEmpty())
+        return End();
+    Enter(dates);
+}
+
+/// Opens the entry form for what was picked, and ends the tool.
+void CalendarTools::Enter(const DateList& dates, int recordToModify)
 {
     Session& s = SessionState;
-    s.AttendanceDates = s.MarkedDates;
-    std::sort(s.AttendanceDates.begin(), s.AttendanceDates.end());
-    if (s.AttendanceDates.isEmpty())
-        return Refuse("You must first select date(s) from the calendar!",
-                      "Vous devez d'abord sélectionner une ou plusieurs dates à l'intérieur du calendrier!");
-    s.CreatingMultiple = true;
+    s.AttendanceDates = dates;
+    s.CreatingMultiple = tool_->Finish != nullptr;
     host_.ShowHint({});
-    host_.ShowAttendance(0, conflictsAccepted_);
+    host_.ShowAttendance(
+        {s, tool_->Kind, dates, s.SelectedCategoryID, recordToModify, s.EmployeeLocked, conflictsAccepted_});
     End();
 }
 
-bool CalendarTools::MayChangeOwnRecords(const char* english, const char* french) const
+bool CalendarTools::MayChangeOwnRecords(const Text& refusal) const
 {
     if (SessionState.SelfLevelModify == 1 || SessionState.EmployeeID != SessionState.UserID)
         return true;
-    Tell(T("ERROR!", "ERREUR!"), T(english, french), Face::Warning);
+    Tell(T("ERROR!", "ERREUR!"), T(refusal), Face::Warning);
     return false;
 }
 
@@ -340,44 +333,39 @@ int CalendarTools::RecordOnDate(int date, bool pending)
 
 void CalendarTools::SelectRecordToModify(int date)
 {
-    if (!MayChangeOwnRecords("You are not authorized to modify your own attendance records!",
-                             "Votre profil de sécurité ne vous autorise pas à modifier vos propres absences!"))
+    if (!MayChangeOwnRecords({"You are not authorized to modify your own attendance records!",
+                              "Votre profil de sécurité ne vous autorise pas à modifier vos propres absences!"}))
         return;
-    const int record = RecordOnDate(date, false);
-    if (record == 0)
-        return;
-    SessionState.AttendanceDates = {date};
-    host_.ShowHint({});
-    host_.ShowAttendance(record, false);
-    End();
+    if (const int record = RecordOnDate(date, false); record != 0)
+        Enter({date}, record);
 }
 
 void CalendarTools::SelectRecordsToCancel(int date)
 {
     const bool pending = !SessionState.ShowApproved;
-    if (!pending && !MayChangeOwnRecords("You are not authorized to remove your own attendance records!",
-                                         "Votre profil de sécurité ne vous autorise pas à supprimer vos propres "
-                                         "absences!"))
+    if (!pending && !MayChangeOwnRecords({"You are not authorized to remove your own attendance records!",
+                                          "Votre profil de sécurité ne vous autorise pas à supprimer vos propres "
+                                          "absences!"}))
         return;
     if (host_.Calendar().IsMarked(date))
         return Unmark(date);
-    const int record = RecordOnDate(date, pending);
-    if (record == 0)
-        return;
-    removals_.emplace_back(date, record);
-    Mark(date, kRemovalMark);
+    if (const int record = RecordOnDate(date, pending); record != 0) {
+        markedRecords_.emplace_back(date, record);
+        Mark(date, kRemovalMark);
+    }
 }
 
 void CalendarTools::imgRemove_Click()
 {
-    for (const auto& [date, record] : removals_)
-        MarkedRecords.push_back(record);
-    if (MarkedRecords.empty())
-        return Refuse("You must first select record(s) to be cancelled from the calendar!",
-                      "Vous devez d'abord sélectionner les enregistrements à être supprimés à l'intérieur du "
-                      "calendrier!");
+    if (markedRecords_.empty())
+        return Refuse({"You must first select record(s) to be cancelled from the calendar!",
+                       "Vous devez d'abord sélectionner les enregistrements à être supprimés à l'intérieur du "
+                       "calendrier!"});
+    QVector<int> records;
+    for (const auto& [date, record] : markedRecords_)
+        records << record;
     host_.ShowHint({});
-    host_.RemoveMarkedRecords();
+    host_.RemoveMarkedRecords(records);
     End();
 }
 
@@ -391,15 +379,7 @@ void CalendarTools::Mark(int date, const QString& mark)
 void CalendarTools::Unmark(int date)
 {
     SessionState.MarkedDates.removeAll(date);
-    removals_.erase(
-        std::remove_if(removals_.begin(), removals_.end(), [date](const auto& pair) { return pair.first == date; }),
-        removals_.end());
+    std::erase_if(markedRecords_, [date](const auto& marked) { return marked.first == date; });
     host_.Calendar().Mark(date, {});
     host_.RefreshDate(date);
-}
-
-void CalendarTools::ClearMarks()
-{
-    while (!SessionState.MarkedDates.isEmpty())
-        Unmark(SessionState.MarkedDates.first());
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "attendance/attendance_entry.h"
 #include "calendar/year_calendar.h"
-
-#include <QString>
+#include "foundation/texts.h"
 
 #include <utility>
 #include <vector>
@@ -24,69 +24,68 @@ public:
     virtual void EndTool() = 0;
     /// The mark of a date has changed.
     virtual void RefreshDate(int date) = 0;
-    /// Opens the entry form and, when it changed something, reloads the calendar afterwards.
-    virtual void ShowAttendance(int recordToModify, bool conflictsAccepted) = 0;
-    /// True when dates came back in SessionState.AttendanceDates.
-    virtual bool ShowSelectDates() = 0;
+    /// Opens the entry form; the calendar follows what it wrote.
+    virtual void ShowAttendance(const AttendanceJob& job) = 0;
+    /// Lets the user choose dates of a period; none when he leaves.
+    virtual DateList ShowSelectDates() = 0;
     /// The chosen record among several, 0 none.
     virtual int SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines) = 0;
-    virtual void ShowApproval() = 0;
-    virtual void RemoveMarkedRecords() = 0;
+    virtual void RemoveMarkedRecords(const QVector<int>& records) = 0;
     /// Shows the records of the session's selection anew.
     virtual void ReloadSelection() = 0;
     /// Lists the records of a date; no tool is in use.
     virtual void DisplayDailyAttendance(int date) = 0;
 };
 
-/// The two-step dialogue of the tools: pick a tool, then dates or records on the calendar. The flags of the session
-/// tell the entry form what is going on.
+/// The two-step dialogue of the tools: pick a tool, then dates or records on the calendar. At most one is in use. What
+/// it is about stands in the session's flags meanwhile.
 class CalendarTools
 {
 public:
     explicit CalendarTools(ToolHost& host) : host_(host) {}
 
-    bool SelectingSingle = false;
-    bool SelectingMultiple = false;
-    QString HoveredTool;            ///< the image under the mouse, empty none
-    std::vector<int> MarkedRecords; ///< RecordIDs marked for removal
-
-    bool IsSelecting() const { return SelectingSingle || SelectingMultiple; }
+    /// A tool is in use.
+    bool IsSelecting() const { return tool_ != nullptr; }
 
     /// The tool under the mouse was clicked. A tool whose multiple selection is running ends that selection.
-    void imgZoom_Click();
+    void imgZoom_Click(const QString& hoveredTool);
     /// A day cell of the calendar was clicked.
     void DateClicked(int date);
     /// Escape: clears marks, flags and hint of a running selection. Nothing happens without one.
     void Abort();
 
 private:
-    bool CanCreate() const;
-    bool CanChangeRecords(const QString& missing, const QString& nothing) const;
-    void Begin(bool multiple, const QString& usableTool, const QString& hint);
-    void End();
-    void StartCreateSingle();
-    void StartCreateMultiple();
-    void StartCreateConsecutive();
-    void StartSubmit();
-    void StartModify();
-    void StartRemove();
-    void EndMultipleSelection();
-    void imgRemove_Click();
+    struct Tool;
+    static const Tool kTools[];
 
-    bool AcceptsDate(int date);
-    bool AcceptsDayOff(int date) const;
-    bool AreThereConflictingRecords(int date);
+    bool CanCreate();
+    bool CanSubmit();
+    bool CanModify();
+    bool CanRemove();
+    bool CanChangeRecords(const Text& missing, const Text& nothing) const;
+    void Begin(const Tool& tool);
+    void End();
+
     void SelectSingleDate(int date);
     void SelectMultipleDates(int date);
     void SelectRecordToModify(int date);
     void SelectRecordsToCancel(int date);
+    void EnterMarkedDates();
+    void EnterPeriod();
+    void imgRemove_Click();
+    void Enter(const DateList& dates, int recordToModify = 0);
+
+    bool AcceptsHoliday(int date) const;
+    bool AcceptsDate(int date);
+    bool AcceptsDayOff(int date) const;
+    bool AreThereConflictingRecords(int date);
     int RecordOnDate(int date, bool pending);
-    bool MayChangeOwnRecords(const char* english, const char* french) const;
+    bool MayChangeOwnRecords(const Text& refusal) const;
     void Mark(int date, const QString& mark);
     void Unmark(int date);
-    void ClearMarks();
 
     ToolHost& host_;
+    const Tool* tool_ = nullptr; ///< the one in use
     bool conflictsAccepted_ = false;
-    std::vector<std::pair<int, int>> removals_; // date and RecordID
+    std::vector<std::pair<int, int>> markedRecords_; ///< dates and RecordIDs marked for removal
 };

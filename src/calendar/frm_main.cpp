@@ -62,7 +62,7 @@ void frmMain::BuildControls()
 
 void frmMain::ConnectControls()
 {
-    toolBar_->Hovered = [this](const QString& tool) { tools_.HoveredTool = tool; };
+    toolBar_->Hovered = [this](const QString& tool) { hoveredTool_ = tool; };
     toolBar_->Clicked = [this] { ToolClicked(); };
     header_->YearChanged = [this](Neighbour direction) { ChangeToYear(direction); };
     header_->CategoryChosen = [this](int category) { SelectCategory(category); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "attendance/attendance_doors.h"
 #include "calendar/calendar_tools.h"
 #include "calendar/frm_main_menus.h"
 #include "calendar/minute_work.h"
@@ -84,11 +85,10 @@ private:
     void BeginTool(const QString& usableTool) override;
     void EndTool() override;
     void RefreshDate(int date) override;
-    void ShowAttendance(int recordToModify, bool conflictsAccepted) override;
-    bool ShowSelectDates() override;
+    void ShowAttendance(const AttendanceJob& job) override;
+    DateList ShowSelectDates() override;
     int SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines) override;
-    void ShowApproval() override;
-    void RemoveMarkedRecords() override;
+    void RemoveMarkedRecords(const QVector<int>& records) override;
     void ReloadSelection() override;
     void DisplayDailyAttendance(int date) override;
 
@@ -96,6 +96,8 @@ private:
     YearCalendar calendar_;
     QVector<Holiday> holidays_;
     CalendarTools tools_{*this};
+    QString hoveredTool_; ///< the image under the mouse, empty none
+    AttendanceDoors attendanceDoors_;
     MinuteWork minuteWork_;
     float total_ = 0;
     bool CalendarLoaded = false;

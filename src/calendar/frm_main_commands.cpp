@@ -120,10 +120,12 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
 
 void frmMain::ToolClicked()
 {
-    if (tools_.HoveredTool == "imgUpdateSelection")
+    if (hoveredTool_ == "imgUpdateSelection")
         imgUpdateSelection_Click();
+    else if (hoveredTool_ == "imgApprove")
+        TellNotYet("frmApproval");
     else
-        tools_.imgZoom_Click();
+        tools_.imgZoom_Click(hoveredTool_);
 }
 
 void frmMain::imgUpdateSelection_Click()
@@ -160,29 +162,23 @@ void frmMain::RefreshDate(int date)
     pane_->RefreshDate(calendar_, date);
 }
 
-/// The entry form chooses employees and categories for its own records; the calendar keeps the category that it shows,
-/// and follows to another employee only when records were written for him.
-void frmMain::ShowAttendance(int recordToModify, bool conflictsAccepted)
+/// The calendar keeps what it shows, and follows to another employee only when records were written for him.
+void frmMain::ShowAttendance(const AttendanceJob& job)
 {
-    const CalendarSelection shown = SessionState;
-    const int shownCategory = SessionState.SelectedCategoryID;
-    frmAttendance form(this);
-    form.RecordToModify = recordToModify;
-    form.ConflictsAccepted = conflictsAccepted;
-    if (ShowModal(form) != QDialog::Accepted)
-        static_cast<CalendarSelection&>(SessionState) = shown;
-    SessionState.SelectedCategoryID = shownCategory;
-    if (SessionState.EmployeeID != shown.EmployeeID)
-        ReloadSelection();
-    else
-        LoadEmployeeInfo();
+    if (const auto written = EnterAttendance(job, attendanceDoors_, this)) {
+        const bool another = written->EmployeeID != SessionState.EmployeeID;
+        static_cast<CalendarSelection&>(SessionState) = *written;
+        if (another)
+            ReloadSelection();
+    }
     ReloadIfAsked();
 }
 
-bool frmMain::ShowSelectDates()
+DateList frmMain::ShowSelectDates()
 {
     frmSelectDates form(this);
-    return ShowModal(form) == QDialog::Accepted;
+    ShowModal(form);
+    return SessionState.AttendanceDates;
 }
 
 int frmMain::SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines)
@@ -191,12 +187,7 @@ int frmMain::SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& 
     return ShowModal(form) == QDialog::Accepted ? form.SelectedRecordID() : 0;
 }
 
-void frmMain::ShowApproval()
-{
-    TellNotYet("frmApproval");
-}
-
-void frmMain::RemoveMarkedRecords()
+void frmMain::RemoveMarkedRecords(const QVector<int>& /*records*/)
 {
     TellNotYet("imgRemove_Click");
 }

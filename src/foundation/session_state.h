@@ -75,7 +75,6 @@ struct CalendarView : CalendarSelection
     bool ShowApproved = true; ///< false: pending requests
     int SelectedDate = 0;
     int SelectedCategoryID = 0; ///< 0 all categories
-    int TimeBankRelated = 0;    ///< of the category chosen in the entry form
     QString VacationName, SickName, PersonalName, DoctorName;
     int VacationID = 0, SickID = 0, PersonalID = 0, DoctorID = 0;
     bool ReloadCalendar = false; ///< set by the forms that change what the calendar shows

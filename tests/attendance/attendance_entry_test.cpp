@@ -1,5 +1,4 @@
 #include "attendance/attendance_entry.h"
-#include "foundation/session_state.h"
 #include "platform/clock.h"
 
 #include <algorithm>
@@ -17,26 +16,25 @@ class AttendanceEntryRules : public testing::Test
 protected:
     AttendanceEntryRules()
     {
-        SessionState = Session();
         for (int day = 1; day <= 5; ++day) {
-            SessionState.FirstHalfStart[day] = 8.5F;
-            SessionState.FirstHalfEnd[day] = 12;
-            SessionState.SecondHalfStart[day] = 13;
-            SessionState.SecondHalfEnd[day] = 16.5F;
+            entry.FirstHalfStart[day] = 8.5F;
+            entry.FirstHalfEnd[day] = 12;
+            entry.SecondHalfStart[day] = 13;
+            entry.SecondHalfEnd[day] = 16.5F;
         }
         Select({kMonday});
     }
 
-    static void Select(std::initializer_list<QDate> dates)
+    void Select(std::initializer_list<QDate> dates)
     {
-        SessionState.AttendanceDates.clear();
-        std::transform(dates.begin(), dates.end(), std::back_inserter(SessionState.AttendanceDates), SerialOfDate);
+        entry.Dates.clear();
+        std::transform(dates.begin(), dates.end(), std::back_inserter(entry.Dates), SerialOfDate);
     }
 
     void Category(const char* systemName, int bankRelated)
     {
         entry.SystemName = systemName;
-        SessionState.TimeBankRelated = bankRelated;
+        entry.TimeBankRelated = bankRelated;
     }
 
     void Enter(const char* hours, const char* minutes)
@@ -156,13 +154,13 @@ TEST_F(AttendanceEntryRules, AHalfIsOfferedWhenItsHoursAreTheSameOnAllDates)
     };
     Select({kMonday, kTuesday});
     EXPECT_EQ(offered(), "111");
-    SessionState.FirstHalfEnd[2] = 11.5F;
+    entry.FirstHalfEnd[2] = 11.5F;
     EXPECT_EQ(offered(), "001");
-    SessionState.SecondHalfStart[2] = 13.5F;
+    entry.SecondHalfStart[2] = 13.5F;
     EXPECT_EQ(offered(), "000");
     Select({kMonday});
     EXPECT_EQ(offered(), "111") << "only the dates selected count";
-    SessionState.FirstHalfStart[1] = 0;
+    entry.FirstHalfStart[1] = 0;
     EXPECT_EQ(offered(), "001");
     Select({kMonday, kSaturday});
     EXPECT_EQ(offered(), "000") << "a day off has no halves";
@@ -172,7 +170,7 @@ TEST_F(AttendanceEntryRules, AHalfIsOfferedWhenItsHoursAreTheSameOnAllDates)
 
 TEST_F(AttendanceEntryRules, DayPartsTakeTheirTimesFromTheFirstDateAndTheBreakOff)
 {
-    SessionState.FirstHalfStart[2] = 9;
+    entry.FirstHalfStart[2] = 9;
     Select({kMonday, kTuesday});
     entry.FirstHalfEnabled = true;
     entry.SecondHalfEnabled = true;

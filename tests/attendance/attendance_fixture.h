@@ -25,11 +25,10 @@ protected:
     /// Dates of 2026, and the operation for an employee in a category.
     void Begin(const QVector<QDate>& dates, int employee, const QString& systemName)
     {
-        SessionState.AttendanceDates.clear();
-        std::transform(dates.begin(), dates.end(), std::back_inserter(SessionState.AttendanceDates), SerialOfDate);
-        SessionState.CreatingMultiple = dates.size() > 1;
-        SessionState.EmployeeID = employee;
-        SessionState.SelectedCategoryID = systemName.isEmpty() ? 0 : house.CategoryID(systemName);
+        entry = AttendanceEntry();
+        std::transform(dates.begin(), dates.end(), std::back_inserter(entry.Dates), SerialOfDate);
+        entry.EmployeeID = employee;
+        entry.SelectedCategoryID = systemName.isEmpty() ? 0 : house.CategoryID(systemName);
     }
 
     void Entitle(int employee, const QString& systemName, float carriedOver, float annual)
@@ -52,6 +51,7 @@ protected:
     House house;
     User user;
     DataControl datAbsence{"AttendanceTest"};
+    AttendanceEntry entry; ///< the job of the form, or what the rules work on
     int marc = 0;
     int chris = 0;
 };

@@ -14,26 +14,25 @@ protected:
     /// The entry as the form would have it when the guards run.
     AttendanceEntry EntryOf(float hours)
     {
-        AttendanceEntry entry;
-        LoadEmployeeInfo(datAbsence, entry);
-        LoadCategories(datAbsence, entry);
-        ReadCategory(datAbsence, entry);
-        entry.CategoryName = entry.SystemName;
-        entry.Duration = hours;
-        RecalculateTotalTime(entry);
-        return entry;
+        AttendanceEntry filled = entry;
+        LoadEmployeeInfo(datAbsence, filled);
+        LoadCategories(datAbsence, filled);
+        ReadCategory(datAbsence, filled);
+        filled.CategoryName = filled.SystemName;
+        filled.Duration = hours;
+        RecalculateTotalTime(filled);
+        return filled;
     }
 
-    bool Passes(AttendanceEntry& entry)
+    bool Passes(AttendanceEntry& filled)
     {
-        WillEntitlBeExceeded(datAbsence, entry);
-        return entry.Validated;
+        WillEntitlBeExceeded(datAbsence, filled);
+        return filled.Validated;
     }
 };
 
 TEST_F(AttendanceGuards, WhatIsMissingIsToldInOrderAndTheControlNamed)
 {
-    AttendanceEntry entry;
     const auto refused = [&](const char* field, const char* english, const char* french) {
         SessionState.English = true;
         user.WillAnswer("ERROR:", "OK", english);
@@ -47,10 +46,10 @@ TEST_F(AttendanceGuards, WhatIsMissingIsToldInOrderAndTheControlNamed)
     Begin({kGuardMonday}, 0, "");
     refused("lstWho", "You must select an employee from the list!",
             "Vous devez sélectionner un(e) employé(e) dans la liste!");
-    SessionState.EmployeeID = chris;
+    entry.EmployeeID = chris;
     refused("cboCategories", "You must select a category of attendance from the list!",
             "Vous devez sélectionner une catégorie dans la liste!");
-    SessionState.SelectedCategoryID = house.CategoryID("Sick");
+    entry.SelectedCategoryID = house.CategoryID("Sick");
     refused("txtDurationInHours", "You must specify a duration for the attendance record(s)!",
             "Vous devez spécifier la durée des absences!");
     ChooseStartTime(entry, "00:00");
@@ -76,7 +75,7 @@ TEST_F(AttendanceGuards, TheEntitlementCountsWhatIsApprovedAndWhatIsAskedFor)
     AttendanceEntry exact = EntryOf(6);
     EXPECT_TRUE(Passes(exact));
 
-    AttendanceEntry entry = EntryOf(11.5F);
+    entry = EntryOf(11.5F);
     user.WillAnswer(
         "WARNING:", "No",
         "exceed this employee's annual entitlement for the category «Vacation»!\r\n\r\n"
@@ -86,7 +85,7 @@ TEST_F(AttendanceGuards, TheEntitlementCountsWhatIsApprovedAndWhatIsAskedFor)
     user.WillAnswer("WARNING:", "Yes");
     EXPECT_TRUE(Passes(entry));
 
-    SessionState.SubmittingRequest = true;
+    entry.Kind = AttendanceKind::Submit;
     user.WillAnswer("OPERATION DENIED!", "OK", "Ask your supervisor to process your request for leave.");
     EXPECT_FALSE(Passes(entry));
     SessionState.English = false;
@@ -101,7 +100,7 @@ TEST_F(AttendanceGuards, AnEntitlementOfNothingSetsNoLimit)
 {
     Entitle(chris, "Vacation", 0, 0);
     Begin({kGuardMonday}, chris, "Vacation");
-    AttendanceEntry entry = EntryOf(500);
+    entry = EntryOf(500);
     EXPECT_TRUE(LacksEntitlement(entry));
     EXPECT_TRUE(Passes(entry));
 }
@@ -134,25 +133,25 @@ TEST_F(AttendanceGuards, BorrowingWhatTheBankCoversMayBecomeAClaim)
 {
     house.Record(chris, "Time accumulated", kGuardTuesday, 8);
     Begin({kGuardMonday, kGuardTuesday}, chris, "Time borrowed");
-    AttendanceEntry entry = EntryOf(4);
+    entry = EntryOf(4);
     SessionState.English = false;
     user.WillAnswer("VEUILLEZ CONFIRMER:", "Non",
                     "Chris Davis a accumulé suffisamment de temps (08:00) pour couvrir ces absences (08:00)!\r\n\r\n"
                     "Souhaitez-vous convertir ces absences en «» plutôt que Time borrowed?");
     IsTimeBankedEnough(entry);
     EXPECT_TRUE(entry.Validated);
-    EXPECT_EQ(SessionState.SelectedCategoryID, house.CategoryID("Time borrowed"));
+    EXPECT_EQ(entry.SelectedCategoryID, house.CategoryID("Time borrowed"));
     EXPECT_FALSE(SessionState.ReloadCalendar);
 
     SessionState.English = true;
-    SessionState.AttendanceDates.removeLast();
+    entry.Dates.removeLast();
     RecalculateTotalTime(entry);
     user.WillAnswer("CONFIRM:", "Yes",
                     "Chris Davis has accumulated enough time (08:00) to cover this attendance record (04:00)!\r\n\r\n"
                     "Do you wish to submit the new attendance record as «» instead of Time borrowed?");
     IsTimeBankedEnough(entry);
     EXPECT_TRUE(entry.Validated);
-    EXPECT_EQ(SessionState.SelectedCategoryID, house.CategoryID("Time claimed"));
+    EXPECT_EQ(entry.SelectedCategoryID, house.CategoryID("Time claimed"));
     EXPECT_EQ(entry.CategoryName, "") << "nothing fills the name of the category";
     EXPECT_EQ(entry.SystemName, "Time borrowed");
     EXPECT_TRUE(SessionState.ReloadCalendar);
@@ -168,7 +167,6 @@ TEST_F(AttendanceGuards, OtherRecordsAreListedOncePerDateInTheOrderOfSelection)
     house.Record(marc, "Sick", kGuardMonday.addDays(2), 7);
     house.Record(chris, "Sick", kGuardMonday.addDays(4), 7);
     Begin({kGuardTuesday, kGuardMonday, kGuardMonday.addDays(2), kGuardMonday.addDays(7)}, chris, "Vacation");
-    AttendanceEntry entry;
 
     user.WillAnswer(
         "WARNING:", "No",

@@ -11,7 +11,7 @@ protected:
     QString Listed()
     {
         QStringList texts;
-        const auto items = LoadRecords(datAbsence);
+        const auto items = LoadRecords(datAbsence, entry);
         if (!items)
             return "nobody";
         for (const ListEntry& item : *items)
@@ -32,10 +32,8 @@ protected:
         const int id = house.Hire({"USER", "Ulla", "Unger", department, group, rights});
         house.LogIn("USER");
         EXPECT_EQ(SessionState.UserID, id);
-        SessionState.EmployeeID = id;
+        entry.EmployeeID = id;
     }
-
-    AttendanceEntry entry;
 };
 
 TEST_F(AttendanceRecords, TheHighestRightDecidesWhomTheUserMayEnterRecordsFor)
@@ -50,7 +48,7 @@ TEST_F(AttendanceRecords, TheHighestRightDecidesWhomTheUserMayEnterRecordsFor)
     EXPECT_EQ(Listed(), "Davis, Chris /       Northern Works\nÉmond, Ève /       Northern Works\n"
                         "Roy, Marc /       Northern Works\nAbel, Zoe /       Southern Trade\n"
                         "Own, Olga /       Southern Trade");
-    EXPECT_EQ(SessionState.EmployeeID, 0) << "the user may not enter his own records";
+    EXPECT_EQ(entry.EmployeeID, 0) << "the user may not enter his own records";
 
     SessionState.GlobalLevelCreate = 0;
     SessionState.English = false;
@@ -62,16 +60,16 @@ TEST_F(AttendanceRecords, TheHighestRightDecidesWhomTheUserMayEnterRecordsFor)
     SessionState.DepartmentLevelCreate = 0;
     SessionState.GroupLevelCreate = 1;
     SessionState.SelfLevelCreate = 1;
-    SessionState.EmployeeID = SessionState.UserID;
+    entry.EmployeeID = SessionState.UserID;
     EXPECT_EQ(Listed(), "Davis, Chris\nOwn, Olga\nUnger, Ulla");
     SessionState.UserGroupID = 0;
     EXPECT_EQ(Listed(), "Unger, Ulla");
     SessionState.SelfLevelCreate = 0;
     EXPECT_EQ(Listed(), "nobody");
     SessionState.GlobalLevelCreate = 1;
-    SessionState.SubmittingRequest = true;
+    entry.Kind = AttendanceKind::Submit;
     EXPECT_EQ(Listed(), "Unger, Ulla") << "a request is always for oneself";
-    EXPECT_EQ(SessionState.EmployeeID, SessionState.UserID);
+    EXPECT_EQ(entry.EmployeeID, SessionState.UserID);
 }
 
 TEST_F(AttendanceRecords, CategoriesAreThoseOfTheDepartmentOrThePublicOnes)
@@ -81,12 +79,12 @@ TEST_F(AttendanceRecords, CategoriesAreThoseOfTheDepartmentOrThePublicOnes)
     house.Sql("UPDATE Categories SET Active = 0 WHERE SystemName = 'Time paid'");
     house.Sql("UPDATE Categories SET Restricted = 1 WHERE SystemName = 'Doctor appointments'");
     house.FiscalYear("2027", 2027);
-    SessionState.EmployeeID = chris;
+    entry.EmployeeID = chris;
     LoadEmployeeInfo(datAbsence, entry);
     EXPECT_EQ(Categories(), (QStringList{"(All categories)", "Doctor appointments", "Personal time", "Time accumulated",
                                          "Time borrowed", "Time claimed", "Vacation"}));
     EXPECT_EQ(entry.TimeClaimedCategoryID, house.CategoryID("Time claimed"));
-    SessionState.EmployeeDepartmentID = 0;
+    entry.EmployeeDepartmentID = 0;
     SessionState.AccessToRestrictedCategory = 0;
     SessionState.English = false;
     EXPECT_EQ(Categories(), (QStringList{"(Toutes les catégories)", "Maladie", "Temps accumulé", "Temps emprunté",
@@ -99,12 +97,12 @@ TEST_F(AttendanceRecords, TheServerGetsStatementsWithoutCosts)
     SetServerSink([&sent](const QString& statement) { sent << statement; });
     house.Today(2026, 3, 2, 18);
     Begin({kRecordMonday}, chris, "Sick");
-    SessionState.SubmittingRequest = true;
+    entry.Kind = AttendanceKind::Submit;
     entry.FirstApprover = marc;
     entry.Comment = "flu ";
     ChooseStartTime(entry, "08:00");
     ChooseEndTime(entry, "10:30");
-    SessionState.EmployeeDepartmentID = 1;
+    entry.EmployeeDepartmentID = 1;
     SessionState.SQL_Server = true;
     SubmitAttendance_SQL(entry);
     entry.RecordToModify = 7;

@@ -24,21 +24,20 @@ const char* const kWholeRow =
 class FrmAttendance : public AttendanceTest
 {
 protected:
-    ~FrmAttendance() override
-    {
-        frmAttendance::ShowGetApprovedBy = {};
-        frmAttendance::SendRequestNotice = {};
-    }
+    User& Opens() { return user.Opens<frmAttendance>(entry, doors); }
 
     /// Opens the form on a record that is to be modified.
-    void Modify(frmAttendance& form, int record, int employee, const QString& systemName, const QDate& date)
+    void Modify(int record, int employee, const QString& systemName, const QDate& date)
     {
         Begin({date}, employee, systemName);
-        SessionState.ModifyingRecord = true;
-        form.RecordToModify = record;
-        form.show();
-        user.Works(form);
+        entry.Kind = AttendanceKind::Modify;
+        entry.RecordToModify = record;
+        Opens();
     }
+
+    const AttendanceEntry& Entered() { return user.The<frmAttendance>().Entry(); }
+
+    AttendanceDoors doors;
 
     QString Numbers(std::initializer_list<int> values)
     {
@@ -52,7 +51,7 @@ protected:
 TEST_F(FrmAttendance, ANewRecordIsAddedOnEverySelectedDate)
 {
     Begin({kFormMonday, kFormTuesday}, chris, "Vacation");
-    user.Opens<frmAttendance>();
+    Opens();
     EXPECT_EQ(user.Reads("txtWhen"), "Mon   02-Mar-2026\nTue   03-Mar-2026");
     EXPECT_EQ(user.Reads("lstWho"), "Davis, Chris /       Northern Works");
     EXPECT_EQ(user.Reads("cboCategories"), "Vacation");
@@ -74,7 +73,7 @@ TEST_F(FrmAttendance, ANewRecordIsAddedOnEverySelectedDate)
     const QString row = "1|" + Numbers({chris, 1, 1, 1, house.CategoryID("Vacation")}) +
                         "|%1|7|8.5|16.5|1.5|10.5|1|Don`t call|1|0|0|0|0|0|0|0||0|||ADMIN|46083||0||0|30.50|3050|32025";
     EXPECT_EQ(house.Rows(kWholeRow), row.arg(46083) + "\n" + row.arg(46084));
-    EXPECT_EQ(SessionState.CurrentSelection, "Chris Davis");
+    EXPECT_EQ(Entered().CurrentSelection, "Chris Davis");
     EXPECT_TRUE(SessionState.ReloadCalendar);
     EXPECT_EQ(user.The<frmAttendance>().result(), QDialog::Accepted);
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance_Modifications"), 0);
@@ -89,16 +88,16 @@ TEST_F(FrmAttendance, ARequestGoesToBothApproversAndBearsTheRoundedMoment)
               {eve, marc});
     house.Today(2026, 3, 2, 15).LogIn("CHRIS");
     Begin({kFormTuesday}, chris, "Personal time");
-    SessionState.SubmittingRequest = true;
+    entry.Kind = AttendanceKind::Submit;
     SessionState.English = false;
     QStringList notice;
-    frmAttendance::SendRequestNotice = [&](const AttendanceEntry& entry) {
-        notice = {entry.FirstApproverName,   entry.FirstApproverEMail, entry.SecondApproverName,
-                  entry.SecondApproverEMail, entry.CategoryName,       entry.RequestedDates};
+    doors.SendRequestNotice = [&](const AttendanceEntry& sent) {
+        notice = {sent.FirstApproverName,   sent.FirstApproverEMail, sent.SecondApproverName,
+                  sent.SecondApproverEMail, sent.CategoryName,       sent.RequestedDates};
         EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 1) << "the notice follows the writing";
     };
 
-    user.Opens<frmAttendance>();
+    Opens();
     EXPECT_EQ(user.Entries("lstWho"), QStringList{"Davis, Chris"});
     EXPECT_EQ(user.Reads("txtHourlyRate"), "") << "no access to the employees' files";
     user.Picks("cboStartTime", "23:00").Picks("cboEndTime", "01:00");
@@ -122,12 +121,13 @@ TEST_F(FrmAttendance, ARequestWithoutAnApproverAsksForOneAndEndsWithoutHim)
     house.Sql("UPDATE Employees SET AttendanceApprovedBy_Main = 0 WHERE RecordID = ?", {chris});
     house.LogIn("CHRIS");
     Begin({kFormTuesday}, chris, "Sick");
-    SessionState.SubmittingRequest = true;
-    user.Opens<frmAttendance>().Types("txtDurationInHours", "3");
+    entry.Kind = AttendanceKind::Submit;
+    Opens().Types("txtDurationInHours", "3");
     user.WillAnswer("NOT AVAILABLE YET:", "OK").Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 0);
 
-    frmAttendance::ShowGetApprovedBy = [this](AttendanceEntry& entry) { entry.FirstApprover = marc; };
+    doors.ShowGetApprovedBy = [this](AttendanceEntry& request) { request.FirstApprover = marc; };
+    Opens().Types("txtDurationInHours", "3");
     user.WillAnswer("REQUEST FOR APPROVAL:", "Yes", "Tue 03-03-2026\tDuration: 03:00\r\n")
         .WillAnswer("REQUEST SUBMITTED SUCCESSFULLY:", "OK", "has been sent to Marc Roy. If you do not receive")
         .Clicks("cmdAddOrUpdate");
@@ -143,8 +143,7 @@ TEST_F(FrmAttendance, AModifiedRecordIsAuditedAsItWas)
         "Comment = ' before ', Justified = 1, HourlyRate = '18.00' WHERE RecordID = ?",
         {record});
     house.Today(2026, 3, 9);
-    frmAttendance form;
-    Modify(form, record, chris, "Time claimed", kFormMonday);
+    Modify(record, chris, "Time claimed", kFormMonday);
     EXPECT_FALSE(user.CanUse("lstWho"));
     EXPECT_EQ(user.Reads("cboStartTime") + user.Reads("cboEndTime"), "08:3310:33") << "times off the five minutes";
     EXPECT_EQ(user.Reads("txtDurationInHours") + user.Reads("txtDurationInMinutes"), "0200");
@@ -169,7 +168,6 @@ TEST_F(FrmAttendance, AModifiedRecordIsAuditedAsItWas)
                    "HourlyRate, UnitCost, ExtendedCost FROM Attendance WHERE CategoryID = ?",
                    {house.CategoryID("Time claimed")}),
         QString::number(record) + "|-2.45|11|before|46083|ADMIN|46090|20.55|2055|-6696");
-    EXPECT_FALSE(SessionState.ModifyingRecord);
 }
 
 TEST_F(FrmAttendance, AFailureInTheMiddleLeavesTheEarlierRowsAndTheFormAsTyped)
@@ -177,7 +175,7 @@ TEST_F(FrmAttendance, AFailureInTheMiddleLeavesTheEarlierRowsAndTheFormAsTyped)
     house.Sql("CREATE TRIGGER Failing BEFORE INSERT ON Attendance WHEN NEW.RecordDate = 46085 "
               "BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
     Begin(DatesFrom(kFormMonday, 5), chris, "Sick");
-    user.Opens<frmAttendance>().Types("txtDurationInHours", "2").Types("txtComment", "flu");
+    Opens().Types("txtDurationInHours", "2").Types("txtComment", "flu");
     user.WillAnswer("CONFIRM:", "Yes")
         .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk trouble")
         .Clicks("cmdAddOrUpdate");
@@ -196,7 +194,7 @@ TEST_F(FrmAttendance, AboveNineDatesTheQuestionScrolls)
     });
     for (const int count : {9, 10}) {
         Begin(DatesFrom(QDate(2026, count, 1), count), chris, "Sick");
-        user.Opens<frmAttendance>().Types("txtDurationInHours", "1").Clicks("cmdAddOrUpdate");
+        Opens().Types("txtDurationInHours", "1").Clicks("cmdAddOrUpdate");
         EXPECT_EQ(scrolls, count > 9);
         EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance WHERE CategoryID = ?", {house.CategoryID("Sick")}),
                   count == 9 ? 9 : 19);
@@ -206,7 +204,7 @@ TEST_F(FrmAttendance, AboveNineDatesTheQuestionScrolls)
 TEST_F(FrmAttendance, DurationBoxesRefuseWhatNoDayHolds)
 {
     Begin({kFormMonday}, chris, "Sick");
-    user.Opens<frmAttendance>().Checks("chkFirstHalf").Types("txtDurationInHours", "2a4");
+    Opens().Checks("chkFirstHalf").Types("txtDurationInHours", "2a4");
     EXPECT_EQ(user.Reads("chkFirstHalf") + user.Reads("cboStartTime") + user.Reads("txtTotalTime"), "0");
     user.LeavesField("txtDurationInHours");
     EXPECT_EQ(user.Reads("txtDurationInHours"), "");
@@ -233,13 +231,13 @@ TEST_F(FrmAttendance, AnotherEmployeeStartsAfresh)
     house.Sql("UPDATE Employees SET FirstName = 'Dennis', FamilyName = 'Marks' WHERE RecordID = ?", {marc});
     house.Hire({"ZOE", "Zoe", "Abel", "Stores", "", {}, 0, 33, false});
     Begin({kFormMonday}, chris, "Vacation");
+    entry.ConflictsAccepted = true;
     user.WillAnswer("WARNING:", "Yes",
                     "The category «Vacation» involves an annual entitlement! You did not scecify Chris Davis' annual "
                     "entitlement for this category.\r\n\r\nProceed anyway?");
-    user.Opens<frmAttendance>();
-    user.The<frmAttendance>().ConflictsAccepted = true;
+    Opens();
     user.Checks("chkWholeDay").Picks("lstWho", "Abel");
-    EXPECT_FALSE(user.The<frmAttendance>().ConflictsAccepted);
+    EXPECT_FALSE(Entered().ConflictsAccepted);
     EXPECT_EQ(user.Reads("cboCategories"), "(All categories)");
     EXPECT_FALSE(user.Entries("cboCategories").contains("Sick"));
     EXPECT_EQ(user.Reads("chkWholeDay") + user.Reads("txtTotalTime") + user.Reads("txtHourlyRate"), "033.00");
@@ -247,7 +245,7 @@ TEST_F(FrmAttendance, AnotherEmployeeStartsAfresh)
 
     user.WillAnswer("WARNING:", "No", "You did not scecify Zoe Abel's annual").Picks("cboCategories", "Vacation");
     EXPECT_EQ(user.Reads("cboCategories"), "");
-    EXPECT_EQ(SessionState.SelectedCategoryID, 0);
+    EXPECT_EQ(Entered().SelectedCategoryID, 0);
     user.WillAnswer("ERROR:", "OK", "select a category").Clicks("cmdAddOrUpdate");
     EXPECT_TRUE(user.HasFocus("cboCategories"));
     user.Leaves();
@@ -258,7 +256,7 @@ TEST_F(FrmAttendance, BorrowedTimeIsStoredAsClaimedWhileTheListShowsNothing)
 {
     house.Record(chris, "Time accumulated", kFormTuesday, 8);
     Begin({kFormMonday}, chris, "Time borrowed");
-    user.Opens<frmAttendance>().Types("txtDurationInHours", "5");
+    Opens().Types("txtDurationInHours", "5");
     user.WillAnswer("CONFIRM:", "Yes", "instead of Time borrowed?").WillAnswer("CONFIRM:", "No", "Duration: -(05:00)");
     user.Clicks("cmdAddOrUpdate");
     EXPECT_EQ(user.Reads("cboCategories"), "");
@@ -273,7 +271,7 @@ TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
               {chris});
     house.LogIn("CHRIS");
     Begin({kFormMonday}, marc, "Sick");
-    user.Opens<frmAttendance>().Types("txtDurationInHours", "2");
+    Opens().Types("txtDurationInHours", "2");
     user.WillAnswer("ERROR:", "OK", "You must select an employee from the list!").Clicks("cmdAddOrUpdate");
     user.Picks("lstWho", "Davis").ClicksWithCtrl("lstWho");
     EXPECT_EQ(user.The<frmAttendance>().findChild<QListWidget*>("lstWho")->selectedItems().size(), 1);
@@ -281,23 +279,21 @@ TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
     user.WillAnswer("CONFIRM:", "Yes").Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Number("SELECT EmployeeID FROM Attendance"), chris);
 
-    frmAttendance form;
-    Modify(form, house.Record(marc, "Sick", kFormTuesday, 2), marc, "Sick", kFormTuesday);
+    Modify(house.Record(marc, "Sick", kFormTuesday, 2), marc, "Sick", kFormTuesday);
     EXPECT_FALSE(user.CanUse("cmdAddOrUpdate"));
-    EXPECT_EQ(SessionState.EmployeeID, marc);
+    EXPECT_EQ(Entered().EmployeeID, marc);
 }
 
 TEST_F(FrmAttendance, WhoMayAddForNobodyCanOnlyClose)
 {
     house.LogIn("CHRIS");
     Begin({kFormMonday}, 0, "Sick");
-    SessionState.EmployeeLocked = true;
-    user.Opens<frmAttendance>();
+    entry.EmployeeLocked = true;
+    Opens();
     EXPECT_TRUE(user.Entries("lstWho").isEmpty());
     EXPECT_FALSE(user.CanUse("cmdAddOrUpdate") || user.CanUse("lstWho"));
     user.Clicks("cmdQuit");
     EXPECT_EQ(user.The<frmAttendance>().result(), QDialog::Rejected);
-    EXPECT_EQ(SessionState.EmployeeID, chris);
     EXPECT_FALSE(SessionState.ReloadCalendar);
 }
 } // namespace

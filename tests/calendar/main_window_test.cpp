@@ -270,7 +270,7 @@ TEST_F(MainWindow, OneDateIsAskedAboutHolidaysDaysOffAndOtherRecords)
     EXPECT_TRUE(main->Busy);
     user.WillAnswer("WARNING:", "Yes").WhenOpens<frmAttendance>([](frmAttendance& form) {
         EXPECT_EQ(SessionState.AttendanceDates, DateList{SerialOfDate({2026, 12, 7})});
-        EXPECT_TRUE(form.ConflictsAccepted);
+        EXPECT_TRUE(form.Entry().ConflictsAccepted);
         form.reject();
     });
     ClicksDay(12, 7);
@@ -385,7 +385,7 @@ TEST_F(MainWindow, OneOfSeveralRecordsOfADayIsModified)
         user.Picks("lstRecords", "From: 00:00  To: 00:00  Duration: 03:30").Clicks("cmdSelect");
     });
     user.WhenOpens<frmAttendance>([this, second](frmAttendance& form) {
-        EXPECT_EQ(form.RecordToModify, second);
+        EXPECT_EQ(form.Entry().RecordToModify, second);
         EXPECT_EQ(user.Reads("txtDurationInMinutes"), "30");
         user.Types("txtDurationInHours", "4").LeavesField("txtDurationInHours");
         user.WillAnswer("WARNING:", "Yes").WillAnswer("CONFIRM:", "Yes").WillAnswer("OPERATION COMPLETED:", "OK");
