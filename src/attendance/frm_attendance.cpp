@@ -3,16 +3,9 @@
 #include "attendance/attendance_messages.h"
 #include "attendance/attendance_records.h"
 #include "attendance/frm_attendance_pages.h"
-#include "foundation/texts.h"
 #include "foundation/values.h"
-#include "platform/controls/form_kit.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QListWidget>
-#include <QShowEvent>
 #include <QTabWidget>
-#include <QTimer>
 
 namespace
 {
@@ -25,10 +18,12 @@ constexpr Text kActions[] = {{"&Add new attendance record(s)", "&Ajouter nouveau
 } // namespace
 
 frmAttendance::frmAttendance(const AttendanceJob& job, const AttendanceDoors& doors, QWidget* parent)
-    : QDialog(parent), entry_(job), doors_(doors)
+    : FormBase("frmAttendance", parent), entry_(job), doors_(doors)
 {
     BuildControls();
     ConnectControls();
+    LoadComboBoxes();
+    LoadJob();
 }
 
 /// Hiding takes the focus from its field, whose handler needs the form whole.
@@ -39,19 +34,17 @@ frmAttendance::~frmAttendance()
 
 void frmAttendance::BuildControls()
 {
-    setObjectName("frmAttendance");
+    SetTitle(this, {"Attendance records", "Mise à jour des absences"});
     general_ = new AttendanceGeneralPage;
     additional_ = new AttendanceAdditionalPage;
     sstAttendance = Named<QTabWidget>("sstAttendance");
-    sstAttendance->addTab(general_, QString());
-    sstAttendance->addTab(additional_, QString());
-    cmdAddOrUpdate = AsMainButton(Named<QPushButton>("cmdAddOrUpdate"));
-    cmdQuit = Named<QPushButton>("cmdQuit");
-    cmdQuit->setAutoDefault(false);
-
-    auto* page = PageLayout(this);
-    page->addWidget(sstAttendance, 1);
-    page->addLayout(ButtonRow({cmdQuit, cmdAddOrUpdate}));
+    AddTab(sstAttendance, general_, {"General information", "Information générale"});
+    AddTab(sstAttendance, additional_, {"Additional information", "Information additionnelle"});
+    cmdAddOrUpdate = AsMainButton(
+        AddButton("cmdAddOrUpdate", kActions[static_cast<int>(entry_.Kind)], [this] { cmdAddOrUpdate_Click(); }));
+    cmdQuit = AddButton("cmdQuit", {"&Close", "So&rtir"}, [this] { cmdQuit_Click(); });
+    Page()->addWidget(sstAttendance, 1);
+    LayFoot({cmdQuit, cmdAddOrUpdate});
     resize(kSize);
 }
 
@@ -67,8 +60,6 @@ void frmAttendance::ConnectControls()
     ConnectTimesAndDurations();
     connect(additional_->txtHourlyRate, &QLineEdit::editingFinished, this, &frmAttendance::txtHourlyRate_LostFocus);
     connect(additional_->txtComment, &QPlainTextEdit::textChanged, this, &frmAttendance::LimitComment);
-    connect(cmdAddOrUpdate, &QPushButton::clicked, this, &frmAttendance::cmdAddOrUpdate_Click);
-    connect(cmdQuit, &QPushButton::clicked, this, &frmAttendance::cmdQuit_Click);
 }
 
 void frmAttendance::ConnectTimesAndDurations()
@@ -88,37 +79,6 @@ void frmAttendance::ConnectTimesAndDurations()
     }
 }
 
-void frmAttendance::showEvent(QShowEvent* event)
-{
-    if (!activated_) {
-        activated_ = true;
-        Form_Load();
-        Form_Activate();
-    }
-    QDialog::showEvent(event);
-}
-
-void frmAttendance::Form_Load()
-{
-    LoadCaptions();
-    LoadComboBoxes();
-    QStringList dates;
-    for (const int date : entry_.Dates)
-        dates << FormatDate(date, "ddd   dd-mmm-yyyy");
-    general_->txtWhen->setPlainText(dates.join('\n'));
-}
-
-void frmAttendance::LoadCaptions()
-{
-    setWindowTitle(T("Attendance records", "Mise à jour des absences"));
-    sstAttendance->setTabText(0, T("General information", "Information générale"));
-    sstAttendance->setTabText(1, T("Additional information", "Information additionnelle"));
-    general_->LoadCaptions();
-    additional_->LoadCaptions();
-    cmdAddOrUpdate->setText(T(kActions[static_cast<int>(entry_.Kind)]));
-    cmdQuit->setText(T("&Close", "So&rtir"));
-}
-
 void frmAttendance::LoadComboBoxes()
 {
     const LoadingGuard loading(Loading);
@@ -126,9 +86,13 @@ void frmAttendance::LoadComboBoxes()
     general_->cboEndTime->addItems(ClockTexts());
     for (const Multiplicator& factor : kMultiplicators)
         general_->lstMultiplicator->addItem(factor.Text);
+    QStringList dates;
+    for (const int date : entry_.Dates)
+        dates << FormatDate(date, "ddd   dd-mmm-yyyy");
+    general_->txtWhen->setPlainText(dates.join('\n'));
 }
 
-void frmAttendance::Form_Activate()
+void frmAttendance::LoadJob()
 {
     LoadEmployees();
     if (entry_.EmployeeID >= 1)
@@ -139,19 +103,20 @@ void frmAttendance::Form_Activate()
     ShowEntry();
     general_->lstWho->setEnabled(!IsModifying() && !entry_.EmployeeLocked);
     (general_->lstWho->isEnabled() ? static_cast<QWidget*>(general_->lstWho) : general_->cboCategories)->setFocus();
-    // The question comes once the form can be seen.
-    if (LacksEntitlement(entry_))
-        QTimer::singleShot(0, this, &frmAttendance::WarnOfMissingEntitlement);
+}
+
+/// The question comes once the form can be seen.
+void frmAttendance::Form_Activate()
+{
+    WarnOfMissingEntitlement();
 }
 
 void frmAttendance::LoadEmployees()
 {
     const LoadingGuard loading(Loading);
     const auto employees = LoadRecords(datAbsence, entry_);
-    for (const ListEntry& employee : employees.value_or(QVector<ListEntry>())) {
-        auto* item = new QListWidgetItem(employee.Text, general_->lstWho);
-        item->setData(Qt::UserRole, employee.ItemData);
-    }
+    for (const ListEntry& employee : employees.value_or(QVector<ListEntry>()))
+        AddEntry(general_->lstWho, employee.Text, employee.ItemData);
     MarkEmployee();
     mayAdd_ = employees.has_value() && MayEnterForEmployee();
     SetButtonsEnabled(true);
@@ -161,7 +126,7 @@ void frmAttendance::LoadEmployees()
 /// record can still be for somebody else.
 bool frmAttendance::MayEnterForEmployee()
 {
-    if (general_->lstWho->currentItem())
+    if (ChosenID(general_->lstWho) != 0)
         return true;
     if (!IsModifying())
         entry_.EmployeeID = 0;
@@ -172,9 +137,7 @@ bool frmAttendance::MayEnterForEmployee()
 void frmAttendance::MarkEmployee()
 {
     const LoadingGuard loading(Loading);
-    for (int row = 0; entry_.EmployeeID > 0 && row < general_->lstWho->count(); ++row)
-        if (general_->lstWho->item(row)->data(Qt::UserRole).toInt() == entry_.EmployeeID)
-            return general_->lstWho->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+    Choose(general_->lstWho, entry_.EmployeeID);
 }
 
 void frmAttendance::LoadCategoryList()
@@ -237,10 +200,13 @@ void frmAttendance::ShowCategory()
     general_->cboCategories->setCurrentIndex(general_->cboCategories->findText(entry_.CategoryName));
 }
 
-void frmAttendance::WarnOfMissingEntitlement()
+/// False when the user will not go on without an entitlement: no category is chosen any more.
+bool frmAttendance::WarnOfMissingEntitlement()
 {
-    if (!AcceptMissingEntitlement(entry_))
-        BlankCategory();
+    if (!LacksEntitlement(entry_) || AcceptMissingEntitlement(entry_))
+        return true;
+    BlankCategory();
+    return false;
 }
 
 void frmAttendance::BlankCategory()
@@ -251,16 +217,14 @@ void frmAttendance::BlankCategory()
     ShowCategory();
 }
 
-/// The marked entry counts: a list that takes the focus makes its first entry current unmarked.
 void frmAttendance::lstWho_Click()
 {
-    const QList<QListWidgetItem*> marked = general_->lstWho->selectedItems();
     if (Loading)
         return;
-    if (marked.isEmpty())
+    const int employee = ChosenID(general_->lstWho);
+    if (employee == 0)
         return MarkEmployee();
     ReadForm();
-    const int employee = marked.first()->data(Qt::UserRole).toInt();
     const bool another = employee != entry_.EmployeeID;
     entry_.EmployeeID = employee;
     ClearEntryFields(entry_);
@@ -273,8 +237,7 @@ void frmAttendance::lstWho_Click()
         ReadCategory(datAbsence, entry_);
     }
     ShowEntry();
-    if (LacksEntitlement(entry_))
-        WarnOfMissingEntitlement();
+    WarnOfMissingEntitlement();
 }
 
 /// Something was entered by the user; what the form itself puts into its controls is not.
@@ -293,9 +256,7 @@ void frmAttendance::cboCategories_Click(int index)
         return;
     Change([this] {
         EnterCategory();
-        if (LacksEntitlement(entry_) && !AcceptMissingEntitlement(entry_))
-            BlankCategory();
-        else
+        if (WarnOfMissingEntitlement())
             RecalculateTotalTime(entry_);
     });
 }

@@ -1,21 +1,18 @@
 #pragma once
 
 #include "attendance/attendance_doors.h"
-#include "platform/dao/dao.h"
-
-#include <QDialog>
+#include "foundation/frm_base.h"
 
 #include <functional>
 #include <optional>
 
 class AttendanceAdditionalPage;
 class AttendanceGeneralPage;
-class QPushButton;
 class QTabWidget;
 
 /// Adds one record per date, submits a request for them, or modifies one record, as its job says. It is accepted when
 /// the records are written; the session is then asked for a reload of the calendar.
-class frmAttendance : public QDialog
+class frmAttendance : public FormBase
 {
 public:
     explicit frmAttendance(const AttendanceJob& job, const AttendanceDoors& doors = {}, QWidget* parent = nullptr);
@@ -26,17 +23,13 @@ public:
 
     void reject() override { cmdQuit_Click(); }
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
     void BuildControls();
     void ConnectControls();
     void ConnectTimesAndDurations();
-    void LoadCaptions();
     void LoadComboBoxes();
-    void Form_Load();
-    void Form_Activate();
+    void LoadJob();
+    void Form_Activate() override;
 
     void LoadEmployees();
     void MarkEmployee();
@@ -49,7 +42,7 @@ private:
     void ShowEntry();
     void ShowParts();
     void ShowCategory();
-    void WarnOfMissingEntitlement();
+    bool WarnOfMissingEntitlement();
     void BlankCategory();
 
     void lstWho_Click();
@@ -76,9 +69,6 @@ private:
 
     AttendanceEntry entry_;
     const AttendanceDoors doors_;
-    DataControl datAbsence{"frmAttendance"};
-    bool Loading = false;
-    bool activated_ = false;
     bool durationChanged_ = false; ///< since a duration box was last left
     bool updated_ = false;
     bool mayAdd_ = true;

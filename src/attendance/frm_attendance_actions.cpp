@@ -5,7 +5,6 @@
 #include "attendance/frm_attendance_pages.h"
 #include "foundation/common_services.h"
 #include "foundation/not_yet.h"
-#include "platform/controls/form_kit.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -17,13 +16,9 @@ void frmAttendance::cmdAddOrUpdate_Click()
         return;
     ReadForm();
     RecalculateTotalTime(entry_);
-    try {
-        SetButtonsEnabled(false);
-        updated_ = PassesGuards() && FindApprovers() && Dispatch();
-    } catch (const RuntimeError& error) {
-        TellError(error);
+    SetButtonsEnabled(false);
+    if (!Attempt([this] { updated_ = PassesGuards() && FindApprovers() && Dispatch(); }))
         SessionState.ReloadCalendar = true; // the records written before the failure stay
-    }
     sstAttendance->setEnabled(true);
     SetButtonsEnabled(true);
     if (!updated_)
@@ -113,11 +108,10 @@ bool frmAttendance::ModifyAttendance()
 
 void frmAttendance::FocusFieldInError()
 {
-    auto* field = entry_.FieldInError.isEmpty() ? nullptr : findChild<QWidget*>(entry_.FieldInError);
-    if (!field)
-        return cmdAddOrUpdate->setFocus();
-    sstAttendance->setCurrentWidget(general_);
-    field->setFocus();
+    if (entry_.FieldInError.isEmpty())
+        cmdAddOrUpdate->setFocus();
+    else
+        GoTo(entry_.FieldInError);
 }
 
 void frmAttendance::SetButtonsEnabled(bool enabled)

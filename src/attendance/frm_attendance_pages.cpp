@@ -1,23 +1,12 @@
 #include "attendance/frm_attendance_pages.h"
 
-#include "attendance/attendance_entry.h"
-#include "foundation/texts.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
+#include "foundation/frm_captions.h"
 #include "platform/controls/remark_delegate.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGridLayout>
-#include <QListWidget>
-
-#include <algorithm>
 
 namespace
 {
 constexpr int kMargin = 16;
 constexpr int kGap = 12;
-constexpr int kHeadGap = 5;
 constexpr int kListHeight = 150;
 constexpr int kShortField = 110;
 constexpr int kEntriesShown = 16;
@@ -34,159 +23,96 @@ QString UnitOf(const QModelIndex& entry)
     return entry.data().toString().section(" / ", 1).trimmed();
 }
 
-QComboBox* TimeList(const QString& name)
+QComboBox* MakeList(const QString& name)
 {
-    auto* times = Named<QComboBox>(name);
-    times->setMaxVisibleItems(kEntriesShown);
-    return times;
+    auto* list = Named<QComboBox>(name);
+    list->setMaxVisibleItems(kEntriesShown);
+    return list;
 }
 
-QLineEdit* DurationBox(const QString& name)
+QVBoxLayout* TabPage(QWidget* page)
 {
-    auto* box = Named<QLineEdit>(name);
-    box->setMaxLength(2);
-    FilterKeys(box, KeyFilter::WholeNumber);
-    return box;
-}
-
-/// A bold head close above the control that it names.
-QVBoxLayout* Headed(QLabel* head, QWidget* control)
-{
-    auto* column = new QVBoxLayout;
-    column->setSpacing(kHeadGap);
-    column->addWidget(AsHead(head));
-    column->addWidget(control, 1);
-    head->setBuddy(control);
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kGap);
     return column;
 }
 } // namespace
 
-AttendanceGeneralPage::AttendanceGeneralPage(QWidget* parent) : QWidget(parent)
+AttendanceGeneralPage::AttendanceGeneralPage()
 {
-    BuildControls();
-    auto* page = new QVBoxLayout(this);
-    page->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    page->setSpacing(kGap);
+    cboCategories = MakeList("cboCategories");
+    chkWholeDay = MakeCheckBox("chkWholeDay", {"&Whole day", "&Toute la journée"});
+    chkFirstHalf = MakeCheckBox("chkFirstHalf", {"&First half of the day", "&Première moitié de la journée"});
+    chkSecondHalf = MakeCheckBox("chkSecondHalf", {"&Second half of the day", "S&econde moitié de la journée"});
+    auto* parts = Row({chkWholeDay, chkFirstHalf, chkSecondHalf});
+    parts->setSpacing(2 * kGap);
+    auto* page = TabPage(this);
     page->addLayout(PeopleAndDates(), 1);
-    page->addLayout(Headed(lblWhy, cboCategories));
-    page->addLayout(DayParts());
+    page->addLayout(Headed({"Why?", "Pourquoi?"}, cboCategories));
+    page->addLayout(parts);
     page->addLayout(TimesAndDurations());
-}
-
-void AttendanceGeneralPage::BuildControls()
-{
-    lblWho = Named<QLabel>("lblWho");
-    lblWhen = Named<QLabel>("lblWhen");
-    lblWhy = Named<QLabel>("lblWhy");
-    lblEmployeeName = Named<QLabel>("lblEmployeeName");
-    lstWho = Named<QListWidget>("lstWho");
-    lstWho->setItemDelegate(new RemarkDelegate(NameOf, UnitOf, lstWho));
-    lstWho->setUniformItemSizes(true); // one line is measured, not one for each employee
-    txtWhen = Named<QPlainTextEdit>("txtWhen");
-    txtWhen->setReadOnly(true);
-    txtWhen->setTabChangesFocus(true);
-    cboCategories = Named<QComboBox>("cboCategories");
-    cboCategories->setMaxVisibleItems(kEntriesShown);
-    chkWholeDay = Named<QCheckBox>("chkWholeDay");
-    chkFirstHalf = Named<QCheckBox>("chkFirstHalf");
-    chkSecondHalf = Named<QCheckBox>("chkSecondHalf");
-    lblStartTime = Named<QLabel>("lblStartTime");
-    lblEndTime = Named<QLabel>("lblEndTime");
-    lblMultiplicator = Named<QLabel>("lblMultiplicator");
-    lblDurationInHours = Named<QLabel>("lblDurationInHours");
-    lblDurationInMinutes = Named<QLabel>("lblDurationInMinutes");
-    lblTotalTime = Named<QLabel>("lblTotalTime");
-    cboStartTime = TimeList("cboStartTime");
-    cboEndTime = TimeList("cboEndTime");
-    lstMultiplicator = TimeList("lstMultiplicator");
-    txtDurationInHours = DurationBox("txtDurationInHours");
-    txtDurationInMinutes = DurationBox("txtDurationInMinutes");
-    txtTotalTime = AsFigure(Named<QLabel>("txtTotalTime"));
 }
 
 QGridLayout* AttendanceGeneralPage::PeopleAndDates()
 {
+    lstWho = Named<QListWidget>("lstWho");
+    lstWho->setItemDelegate(new RemarkDelegate(NameOf, UnitOf, lstWho));
+    lstWho->setUniformItemSizes(true); // one line is measured, not one for each employee
+    lstWho->setMinimumHeight(kListHeight);
+    txtWhen = Named<QPlainTextEdit>("txtWhen");
+    txtWhen->setReadOnly(true);
+    txtWhen->setTabChangesFocus(true);
+    txtWhen->setMinimumHeight(kListHeight);
+    lblEmployeeName = AsCaption(MakeLabel("lblEmployeeName"));
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(kMargin);
-    grid->addLayout(Headed(lblWho, lstWho), 0, 0);
-    grid->addLayout(Headed(lblWhen, txtWhen), 0, 1);
-    grid->addWidget(AsCaption(lblEmployeeName), 0, 0, Qt::AlignTop | Qt::AlignRight);
+    grid->addLayout(Headed({"Who?", "Qui?"}, lstWho), 0, 0);
+    grid->addLayout(Headed({"When?", "Quand?"}, txtWhen), 0, 1);
+    grid->addWidget(lblEmployeeName, 0, 0, Qt::AlignTop | Qt::AlignRight);
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 2);
-    lstWho->setMinimumHeight(kListHeight);
-    txtWhen->setMinimumHeight(kListHeight);
     return grid;
-}
-
-QHBoxLayout* AttendanceGeneralPage::DayParts()
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2 * kGap);
-    row->addWidget(chkWholeDay);
-    row->addWidget(chkFirstHalf);
-    row->addWidget(chkSecondHalf);
-    row->addStretch();
-    return row;
 }
 
 QGridLayout* AttendanceGeneralPage::TimesAndDurations()
 {
+    constexpr int kDigits = 2;
+    cboStartTime = MakeList("cboStartTime");
+    cboEndTime = MakeList("cboEndTime");
+    lstMultiplicator = MakeList("lstMultiplicator");
+    txtDurationInHours = MakeField("txtDurationInHours", KeyFilter::WholeNumber, kDigits);
+    txtDurationInMinutes = MakeField("txtDurationInMinutes", KeyFilter::WholeNumber, kDigits);
+    txtTotalTime = AsFigure(MakeLabel("txtTotalTime"));
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(kMargin);
     grid->setVerticalSpacing(kGap);
-    grid->addLayout(Captioned(lblStartTime, cboStartTime), 0, 0);
-    grid->addLayout(Captioned(lblEndTime, cboEndTime), 0, 1);
-    grid->addLayout(Captioned(lblMultiplicator, lstMultiplicator), 0, 2);
-    grid->addLayout(Captioned(lblDurationInHours, txtDurationInHours), 1, 0);
-    grid->addLayout(Captioned(lblDurationInMinutes, txtDurationInMinutes), 1, 1);
-    grid->addLayout(Captioned(lblTotalTime, txtTotalTime), 1, 2, Qt::AlignTop);
-    for (int column = 0; column < 3; ++column)
+    const auto add = [grid](int row, int column, const Text& caption, QWidget* control, Qt::Alignment alignment = {}) {
+        grid->addLayout(Captioned(caption, control), row, column, alignment);
         grid->setColumnStretch(column, 1);
+    };
+    add(0, 0, {"Start time:", "Heure de début:"}, cboStartTime);
+    add(0, 1, {"End time:", "Heure de fin:"}, cboEndTime);
+    add(0, 2, {"Multiplicator", "Multiplicateur"}, lstMultiplicator);
+    add(1, 0, {"Attendance record duration (hours)", "Durée de l'enregistrement (heures)"}, txtDurationInHours);
+    add(1, 1, {"Attendance record duration (minutes)", "Durée de l'enregistrement (minutes)"}, txtDurationInMinutes);
+    add(1, 2, {"Total duration of the attendance record:", "Durée totale des enregistrements:"}, txtTotalTime,
+        Qt::AlignTop);
     return grid;
 }
 
-void AttendanceGeneralPage::LoadCaptions()
+AttendanceAdditionalPage::AttendanceAdditionalPage()
 {
-    lblWho->setText(T("Who?", "Qui?"));
-    lblWhen->setText(T("When?", "Quand?"));
-    lblWhy->setText(T("Why?", "Pourquoi?"));
-    chkWholeDay->setText(T("&Whole day", "&Toute la journée"));
-    chkFirstHalf->setText(T("&First half of the day", "&Première moitié de la journée"));
-    chkSecondHalf->setText(T("&Second half of the day", "S&econde moitié de la journée"));
-    lblStartTime->setText(T("Start time:", "Heure de début:"));
-    lblEndTime->setText(T("End time:", "Heure de fin:"));
-    lblMultiplicator->setText(T("Multiplicator", "Multiplicateur"));
-    lblDurationInHours->setText(T("Attendance record duration (hours)", "Durée de l'enregistrement (heures)"));
-    lblDurationInMinutes->setText(T("Attendance record duration (minutes)", "Durée de l'enregistrement (minutes)"));
-    lblTotalTime->setText(T("Total duration of the attendance record:", "Durée totale des enregistrements:"));
-    txtTotalTime->setAccessibleName(lblTotalTime->text());
-}
-
-AttendanceAdditionalPage::AttendanceAdditionalPage(QWidget* parent) : QWidget(parent)
-{
-    lblHourlyRate = Named<QLabel>("lblHourlyRate");
-    lblComment = Named<QLabel>("lblComment");
-    txtHourlyRate = Named<QLineEdit>("txtHourlyRate");
+    txtHourlyRate = MakeField("txtHourlyRate", KeyFilter::DecimalNumber);
     txtHourlyRate->setFixedWidth(kShortField);
-    FilterKeys(txtHourlyRate, KeyFilter::DecimalNumber);
-    chkJustified = Named<QCheckBox>("chkJustified");
+    chkJustified = MakeCheckBox("chkJustified", {"This absence is &justified", "Cette absence est &justifiée"});
     txtComment = Named<QPlainTextEdit>("txtComment");
     txtComment->setTabChangesFocus(true);
     FilterKeys(txtComment, KeyFilter::Comment);
-
-    auto* page = new QVBoxLayout(this);
-    page->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    page->setSpacing(kGap);
-    page->addLayout(Captioned(lblHourlyRate, txtHourlyRate));
+    auto* page = TabPage(this);
+    page->addLayout(Captioned({"Hourly rate:", "Taux horaire:"}, txtHourlyRate));
     page->addWidget(chkJustified);
-    page->addLayout(Headed(lblComment, txtComment), 1);
-}
-
-void AttendanceAdditionalPage::LoadCaptions()
-{
-    lblHourlyRate->setText(T("Hourly rate:", "Taux horaire:"));
-    chkJustified->setText(T("This absence is &justified", "Cette absence est &justifiée"));
-    lblComment->setText(T("Comment:", "Commentaire:"));
+    page->addLayout(Headed({"Comment:", "Commentaire:"}, txtComment), 1);
 }
 
 void ShowClockTime(QComboBox* times, const QString& text)

@@ -2,12 +2,9 @@
 
 #include <QWidget>
 
-#include <array>
-
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
-class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -17,8 +14,7 @@ class QPlainTextEdit;
 class AttendanceGeneralPage : public QWidget
 {
 public:
-    explicit AttendanceGeneralPage(QWidget* parent = nullptr);
-    void LoadCaptions();
+    AttendanceGeneralPage();
 
     QLabel* lblEmployeeName; ///< "FirstName FamilyName" of the employee chosen
     QListWidget* lstWho;
@@ -35,36 +31,19 @@ public:
     QLabel* txtTotalTime;
 
 private:
-    void BuildControls();
     QGridLayout* PeopleAndDates();
-    QHBoxLayout* DayParts();
     QGridLayout* TimesAndDurations();
-
-    QLabel* lblWho;
-    QLabel* lblWhen;
-    QLabel* lblWhy;
-    QLabel* lblStartTime;
-    QLabel* lblEndTime;
-    QLabel* lblMultiplicator;
-    QLabel* lblDurationInHours;
-    QLabel* lblDurationInMinutes;
-    QLabel* lblTotalTime;
 };
 
 /// The second tab: rate, justification and comment.
 class AttendanceAdditionalPage : public QWidget
 {
 public:
-    explicit AttendanceAdditionalPage(QWidget* parent = nullptr);
-    void LoadCaptions();
+    AttendanceAdditionalPage();
 
     QLineEdit* txtHourlyRate;
     QCheckBox* chkJustified;
     QPlainTextEdit* txtComment;
-
-private:
-    QLabel* lblHourlyRate;
-    QLabel* lblComment;
 };
 
 /// Shows a clock time in a list of times, of which it need not be an entry: a time off the five minutes gets an entry
