@@ -56,43 +56,39 @@ void ReadTimeUsed(DataControl& datAbsence, AttendanceEntry& entry)
         sums.Take("Used", sums.Long("Submitted") == 1 ? entry.TimePending : entry.TimeUsed);
 }
 
-QString WithFigures(const QString& text, const AttendanceEntry& entry)
+QString WithFigures(const Text& text, const AttendanceEntry& entry)
 {
     const float required = entry.TimeUsed + entry.TimePending + entry.TotalTime;
-    return Fill(text, {{"TAB", "\t"},
-                       {"category", entry.CategoryName},
-                       {"Entitlement", DurationText(entry.Entitlement)},
-                       {"TimeUsed", DurationText(entry.TimeUsed)},
-                       {"TimePending", DurationText(entry.TimePending)},
-                       {"TotalTime", DurationText(entry.TotalTime)},
-                       {"balance", DurationText(entry.Entitlement - required)}});
+    return T(text, {{"TAB", "\t"},
+                    {"category", entry.CategoryName},
+                    {"Entitlement", DurationText(entry.Entitlement)},
+                    {"TimeUsed", DurationText(entry.TimeUsed)},
+                    {"TimePending", DurationText(entry.TimePending)},
+                    {"TotalTime", DurationText(entry.TotalTime)},
+                    {"balance", DurationText(entry.Entitlement - required)}});
 }
 
-QString EntitlementRefusal()
-{
-    return T("You are about to exceed your annual entitlement for the category «{category}»!\r\n\r\n"
-             "Annual entitlement:    {TAB}{Entitlement}\r\nTime used to date:     {TAB}{TimeUsed}\r\n"
-             "Records to be approved:{TAB}{TimePending}\r\nTotal time required:   {TAB}{TotalTime}\r\n"
-             "New balance:  {TAB}{TAB}{balance}\r\n\r\nAsk your supervisor to process your request for leave.",
-             "Vous êtes sur le point d'excéder le temps qui vous est alloué annuellement pour la catégorie "
-             "«{category}»!\r\n\r\nTemps alloué annuellement:{TAB}{TAB}{Entitlement}\r\n"
-             "Temps utilisé à ce jour:{TAB}{TAB}{TimeUsed}\r\nDemandes de congé non traitées:{TAB}{TimePending}\r\n"
-             "Total du temps requis:{TAB}{TAB}{TotalTime}\r\nNouveau solde:{TAB}{TAB}{TAB}{balance}\r\n\r\n"
-             "Veuillez vous tourner vers votre supérieur(e) afin qu'il(elle) traite votre demande de congé.");
-}
+constexpr Text kEntitlementRefusal = {
+    "You are about to exceed your annual entitlement for the category «{category}»!\r\n\r\n"
+    "Annual entitlement:    {TAB}{Entitlement}\r\nTime used to date:     {TAB}{TimeUsed}\r\n"
+    "Records to be approved:{TAB}{TimePending}\r\nTotal time required:   {TAB}{TotalTime}\r\n"
+    "New balance:  {TAB}{TAB}{balance}\r\n\r\nAsk your supervisor to process your request for leave.",
+    "Vous êtes sur le point d'excéder le temps qui vous est alloué annuellement pour la catégorie "
+    "«{category}»!\r\n\r\nTemps alloué annuellement:{TAB}{TAB}{Entitlement}\r\n"
+    "Temps utilisé à ce jour:{TAB}{TAB}{TimeUsed}\r\nDemandes de congé non traitées:{TAB}{TimePending}\r\n"
+    "Total du temps requis:{TAB}{TAB}{TotalTime}\r\nNouveau solde:{TAB}{TAB}{TAB}{balance}\r\n\r\n"
+    "Veuillez vous tourner vers votre supérieur(e) afin qu'il(elle) traite votre demande de congé."};
 
-QString EntitlementWarning()
-{
-    return T("You are about to exceed this employee's annual entitlement for the category «{category}»!\r\n\r\n"
-             "Annual entitlement:    {TAB}{Entitlement}\r\nTime used to date:     {TAB}{TimeUsed}\r\n"
-             "Records to be approved:{TAB}{TimePending}\r\nTotal time required:   {TAB}{TotalTime}\r\n"
-             "New balance:  {TAB}{TAB}{balance}\r\n\r\nProceed anyway?",
-             "Vous êtes sur le point d'excéder le temps alloué annuellement à cet employé pour la catégorie "
-             "«{category}»!\r\n\r\nTemps alloué annuellement: {TAB}{Entitlement}\r\n"
-             "Temps utilisé à ce jour:   {TAB}{TimeUsed}\r\nAbsences non approuvées:   {TAB}{TimePending}\r\n"
-             "Total du temps requis:     {TAB}{TotalTime}\r\nNouveau solde: {TAB}{TAB}{balance}\r\n\r\n"
-             "Souhaitez-vous tout-de-même continuer?");
-}
+constexpr Text kEntitlementWarning = {
+    "You are about to exceed this employee's annual entitlement for the category «{category}»!\r\n\r\n"
+    "Annual entitlement:    {TAB}{Entitlement}\r\nTime used to date:     {TAB}{TimeUsed}\r\n"
+    "Records to be approved:{TAB}{TimePending}\r\nTotal time required:   {TAB}{TotalTime}\r\n"
+    "New balance:  {TAB}{TAB}{balance}\r\n\r\nProceed anyway?",
+    "Vous êtes sur le point d'excéder le temps alloué annuellement à cet employé pour la catégorie "
+    "«{category}»!\r\n\r\nTemps alloué annuellement: {TAB}{Entitlement}\r\n"
+    "Temps utilisé à ce jour:   {TAB}{TimeUsed}\r\nAbsences non approuvées:   {TAB}{TimePending}\r\n"
+    "Total du temps requis:     {TAB}{TotalTime}\r\nNouveau solde: {TAB}{TAB}{balance}\r\n\r\n"
+    "Souhaitez-vous tout-de-même continuer?"};
 
 bool IsBankExceeded(const AttendanceEntry& entry, float required)
 {
@@ -100,23 +96,23 @@ bool IsBankExceeded(const AttendanceEntry& entry, float required)
     return bounded && required > entry.TimeBanked;
 }
 
-QString WithBank(const QString& text, const AttendanceEntry& entry, float required)
+QString WithBank(const Text& text, const AttendanceEntry& entry, float required)
 {
-    return Fill(text, {{"employee", entry.EmployeeName},
-                       {"TimeBanked", DurationText(entry.TimeBanked)},
-                       {"required", DurationText(required)},
-                       {"TimeClaimedName", SessionState.TimeClaimedName},
-                       {"category", entry.CategoryName}});
+    return T(text, {{"employee", entry.EmployeeName},
+                    {"TimeBanked", DurationText(entry.TimeBanked)},
+                    {"required", DurationText(required)},
+                    {"TimeClaimedName", SessionState.TimeClaimedName},
+                    {"category", entry.CategoryName}});
 }
 
 void RefuseBeyondBank(const AttendanceEntry& entry, float required)
 {
     Tell(Denied(),
          WithBank(
-             T("The total time required for these attendance records ({required}) exceeds the employee's time banked "
-               "({TimeBanked})!",
-               "Le temps total requis pour ces enregistrements ({required}) excède le solde du temps en banque de "
-               "l'employé(e) ({TimeBanked})!"),
+             {"The total time required for these attendance records ({required}) exceeds the employee's time banked "
+              "({TimeBanked})!",
+              "Le temps total requis pour ces enregistrements ({required}) excède le solde du temps en banque de "
+              "l'employé(e) ({TimeBanked})!"},
              entry, required),
          Face::Warning);
 }
@@ -127,22 +123,21 @@ bool CouldClaimInstead(const AttendanceEntry& entry, float required)
     return entry.SystemName == "Time borrowed" && required <= entry.TimeBanked && entry.TimeClaimedCategoryID != 0;
 }
 
-QString OfferToClaim(const AttendanceEntry& entry)
-{
-    const bool several = entry.Dates.size() > 1;
-    return several ? T("{employee} has accumulated enough time ({TimeBanked}) to cover these attendance records "
-                       "({required})!\r\n\r\nDo you wish to submit the new attendance records as «{TimeClaimedName}» "
-                       "instead of {category}?",
-                       "{employee} a accumulé suffisamment de temps ({TimeBanked}) pour couvrir ces absences "
-                       "({required})!\r\n\r\nSouhaitez-vous convertir ces absences en «{TimeClaimedName}» plutôt que "
-                       "{category}?")
-                   : T("{employee} has accumulated enough time ({TimeBanked}) to cover this attendance record "
-                       "({required})!\r\n\r\nDo you wish to submit the new attendance record as «{TimeClaimedName}» "
-                       "instead of {category}?",
-                       "{employee} a accumulé suffisamment de temps ({TimeBanked}) pour couvrir cette absence "
-                       "({required})!\r\n\r\nSouhaitez-vous convertir cette absence en «{TimeClaimedName}» plutôt que "
-                       "{category}?");
-}
+constexpr Text kOfferToClaimOne = {
+    "{employee} has accumulated enough time ({TimeBanked}) to cover this attendance record "
+    "({required})!\r\n\r\nDo you wish to submit the new attendance record as «{TimeClaimedName}» "
+    "instead of {category}?",
+    "{employee} a accumulé suffisamment de temps ({TimeBanked}) pour couvrir cette absence "
+    "({required})!\r\n\r\nSouhaitez-vous convertir cette absence en «{TimeClaimedName}» plutôt que "
+    "{category}?"};
+
+constexpr Text kOfferToClaimSeveral = {
+    "{employee} has accumulated enough time ({TimeBanked}) to cover these attendance records "
+    "({required})!\r\n\r\nDo you wish to submit the new attendance records as «{TimeClaimedName}» "
+    "instead of {category}?",
+    "{employee} a accumulé suffisamment de temps ({TimeBanked}) pour couvrir ces absences "
+    "({required})!\r\n\r\nSouhaitez-vous convertir ces absences en «{TimeClaimedName}» plutôt que "
+    "{category}?"};
 
 /// The name stays empty on the form, as nothing fills TimeClaimedName; that is required.
 void ClaimInstead(AttendanceEntry& entry)
@@ -192,9 +187,9 @@ void WillEntitlBeExceeded(DataControl& datAbsence, AttendanceEntry& entry)
     if (entry.Entitlement == 0 || entry.TimeUsed + entry.TimePending + entry.TotalTime <= entry.Entitlement)
         entry.Validated = true;
     else if (entry.Kind == AttendanceKind::Submit)
-        Tell(Denied(), WithFigures(EntitlementRefusal(), entry), Face::Warning);
+        Tell(Denied(), WithFigures(kEntitlementRefusal, entry), Face::Warning);
     else
-        entry.Validated = Ask(Warning(), WithFigures(EntitlementWarning(), entry), Face::Warning);
+        entry.Validated = Ask(Warning(), WithFigures(kEntitlementWarning, entry), Face::Warning);
 }
 
 void IsTimeBankedEnough(AttendanceEntry& entry)
@@ -204,7 +199,8 @@ void IsTimeBankedEnough(AttendanceEntry& entry)
     if (IsBankExceeded(entry, required))
         return RefuseBeyondBank(entry, required);
     if (CouldClaimInstead(entry, required) &&
-        Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), WithBank(OfferToClaim(entry), entry, required)))
+        Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
+            WithBank(entry.Dates.size() > 1 ? kOfferToClaimSeveral : kOfferToClaimOne, entry, required)))
         ClaimInstead(entry);
     entry.Validated = true;
 }
