@@ -55,9 +55,18 @@ QSize FormBase::sizeHint() const
 QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)
 {
     auto* button = MakeButton(name, caption);
-    button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, [this, clicked] { Attempt(clicked); });
     return button;
+}
+
+QPushButton* FormBase::AddMainButton(const char* name, const Text& caption, const std::function<void()>& clicked)
+{
+    return AsMainButton(AddButton(name, caption, clicked));
+}
+
+QPushButton* FormBase::AddWayOut(const Text& caption, const char* name)
+{
+    return AddButton(name, caption, [this] { reject(); });
 }
 
 void FormBase::LayFoot(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right)
@@ -80,10 +89,10 @@ bool FormBase::Attempt(const std::function<void()>& work)
     }
 }
 
-void FormBase::ShowFault(const Fault& fault)
+void FormBase::ShowFault(const Fault& fault, const Text& title)
 {
     if (!fault.Text.isEmpty())
-        Tell(T("ERROR:", "ERREUR:"), fault.Text, Face::Warning);
+        Tell(T(title), fault.Text, Face::Warning);
     GoTo(fault.Control);
 }
 

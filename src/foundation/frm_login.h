@@ -1,17 +1,11 @@
 #pragma once
 
-#include "platform/dao/dao.h"
-
-#include <QDialog>
+#include "foundation/frm_base.h"
 
 #include <functional>
 
-class QLabel;
-class QLineEdit;
-class QPushButton;
-
 /// The log-in, at the start and when the user moves to a year that has no record of him.
-class frmLogin : public QDialog
+class frmLogin : public FormBase
 {
 public:
     explicit frmLogin(QWidget* parent = nullptr);
@@ -23,27 +17,19 @@ public:
     /// Looks for an older database at each log-in; set once by the program.
     static std::function<void(DataControl&)> UpgradeProbes;
 
-    void Form_Load();
     void reject() override { cmdCancel_Click(); }
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void BuildControls();
-    void ConnectControls();
-    void LoadCaptions();
+    void Form_Load();
     void cmdOK_Click();
     void cmdCancel_Click();
     bool LogIn();
     bool TakesUser();
 
-    DataControl datAbsence{"frmLogin"};
-    QLabel* lblInstructions = nullptr;
-    QLabel* lblUserName = nullptr;
-    QLabel* lblPassword = nullptr;
-    QLineEdit* txtUserName = nullptr;
-    QLineEdit* txtPassword = nullptr;
-    QPushButton* cmdOK = nullptr;
-    QPushButton* cmdCancel = nullptr;
+    QLabel* lblInstructions;
+    QLineEdit* txtUserName;
+    QLineEdit* txtPassword;
 };
