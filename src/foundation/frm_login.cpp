@@ -17,16 +17,17 @@ constexpr int kFieldsWidth = 240;
 
 std::function<void(DataControl&)> frmLogin::UpgradeProbes;
 
-frmLogin::frmLogin(QWidget* parent) : FormBase("frmLogin", parent)
+frmLogin::frmLogin(int year, const QString& changingTo, QWidget* parent)
+    : FormBase("frmLogin", parent), FiscalYearID(year), FiscalYearName(changingTo)
 {
     SetTitle(this, {"Log-in", "Identification"});
-    lblInstructions = WrappedLabel("lblInstructions");
     txtUserName = MakeField("txtUserName", KeyFilter::LogIn, kNameLimit);
     txtPassword = MakeField("txtPassword", KeyFilter::LogIn, kPasswordLimit);
     txtPassword->setEchoMode(QLineEdit::Password);
     auto* fields = new QGridLayout;
     fields->setColumnMinimumWidth(2, kFieldsWidth);
-    fields->addWidget(lblInstructions, 0, 0, 1, 3);
+    if (!FiscalYearName.isEmpty())
+        fields->addWidget(Instructions(), 0, 0, 1, 3);
     fields->addWidget(MakeLogo(kLogoSize), 1, 0, 2, 1, Qt::AlignCenter);
     fields->addWidget(AsHead(LabelOf(txtUserName, {"&User name:", "&Nom d'usager:"})), 1, 1);
     fields->addWidget(txtUserName, 1, 2);
@@ -34,24 +35,19 @@ frmLogin::frmLogin(QWidget* parent) : FormBase("frmLogin", parent)
     fields->addWidget(txtPassword, 2, 2);
     Page()->addWidget(MakeCard(fields));
     LayFoot({AddWayOut(), AddMainButton("cmdOK", {"OK", "OK"}, [this] { cmdOK_Click(); })});
+    txtUserName->setFocus();
 }
 
-void frmLogin::showEvent(QShowEvent* event)
+QLabel* frmLogin::Instructions() const
 {
-    Form_Load();
-    FormBase::showEvent(event);
-}
-
-void frmLogin::Form_Load()
-{
-    lblInstructions->setVisible(ChangingYear);
+    QLabel* lblInstructions = WrappedLabel("lblInstructions");
     lblInstructions->setText(
         T({"Your current user identification ({LoginID}) does not give you access to fiscal year {FiscalYearName}. "
            "Please login under a different user identification.",
            "Votre nom d'usager ({LoginID}) ne vous donne pas accès à l'année fiscale {FiscalYearName}. Veuillez vous "
            "enregistrer sous un autre nom d'usager."},
           {{"LoginID", SessionState.LoginID}, {"FiscalYearName", FiscalYearName}}));
-    txtUserName->setFocus();
+    return lblInstructions;
 }
 
 void frmLogin::cmdOK_Click()
@@ -95,7 +91,7 @@ bool frmLogin::TakesUser()
 
 void frmLogin::cmdCancel_Click()
 {
-    if (!ChangingYear)
+    if (FiscalYearName.isEmpty())
         EndProgram();
     QDialog::reject();
 }

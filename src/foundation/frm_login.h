@@ -8,28 +8,24 @@
 class frmLogin : public FormBase
 {
 public:
-    explicit frmLogin(QWidget* parent = nullptr);
-
-    int FiscalYearID = 0; ///< the year whose users may enter
-    QString FiscalYearName;
-    bool ChangingYear = false; ///< Cancel then goes back instead of ending the program
+    /// The users of `year` (FiscalYears.RecordID) may enter. `changingTo` is its name when the user moves to it: Cancel
+    /// then goes back; otherwise it ends the program.
+    explicit frmLogin(int year, const QString& changingTo = {}, QWidget* parent = nullptr);
 
     /// Looks for an older database at each log-in; set once by the program.
     static std::function<void(DataControl&)> UpgradeProbes;
 
     void reject() override { cmdCancel_Click(); }
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
-    void Form_Load();
+    QLabel* Instructions() const;
     void cmdOK_Click();
     void cmdCancel_Click();
     bool LogIn();
     bool TakesUser();
 
-    QLabel* lblInstructions;
+    const int FiscalYearID;
+    const QString FiscalYearName; ///< empty at the start of the program
     QLineEdit* txtUserName;
     QLineEdit* txtPassword;
 };

@@ -58,9 +58,7 @@ void frmSplashScreen::Form_Activate()
     QFile::remove(NativePath(JoinPath(ProgramFolder(), "Restart.bat")));
     DisconnectFromDatabase(datAbsence);
 
-    frmLogin login(this);
-    login.FiscalYearID = SessionState.FiscalYearID;
-    login.FiscalYearName = SessionState.FiscalYearName;
+    frmLogin login(SessionState.FiscalYearID, {}, this);
     ShowModal(login);
     const BusyPointer hourglass;
     steps_.ShowMain();

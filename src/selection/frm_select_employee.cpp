@@ -2,6 +2,7 @@
 
 namespace
 {
+constexpr QSize kOpeningSize(722, 533);
 constexpr int kUnitListHeight = 104;
 constexpr int kListWidth = 320;
 constexpr int kListsGap = 20;
@@ -60,6 +61,7 @@ frmSelectEmployee::frmSelectEmployee(QWidget* parent, Purpose purpose)
     lblChoice = AsFigure(MakeLabel("lblChoice"));
     cmdSelect = AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); });
     LayFoot({lblChoice}, {AddWayOut({"&Quit", "&Quitter"}, "cmdQuit"), cmdSelect});
+    resize(kOpeningSize);
     LoadListBoxes();
 }
 

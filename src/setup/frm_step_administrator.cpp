@@ -7,7 +7,7 @@ constexpr int kPhoneLimit = 20;
 constexpr int kPasswordLimit = 15;
 constexpr int kAdministratorFieldWidth = 280;
 constexpr int kFieldsGap = 12;
-constexpr int kHelpGap = 10;
+constexpr int kHelpGap = 16;
 constexpr Text kHelp = {
     "The system administrator has access to everything in Tarvell: he or she creates the units, the employees and the "
     "fiscal years. Keep this user name and password in a safe place.",
