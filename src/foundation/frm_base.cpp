@@ -14,6 +14,13 @@ namespace
 /// Room for the window's frame and the desktop's bars.
 constexpr QSize kFrame(16, 48);
 
+/// A page whose lists give way before it has to be scrolled, also beside lines that are wrapped.
+class PageWidget : public QWidget
+{
+public:
+    int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
+};
+
 /// As large as its page, where the screen has room for it.
 class PageArea : public QScrollArea
 {
@@ -24,7 +31,7 @@ public:
 QScrollArea* MakePageArea()
 {
     auto* area = new PageArea;
-    auto* page = new QWidget;
+    auto* page = new PageWidget;
     page->setProperty("look", "page");
     area->setWidget(page);
     area->setWidgetResizable(true);
