@@ -231,10 +231,7 @@ void frmMain::ChangeToYear(Neighbour direction)
 bool frmMain::LogIn(int year, const QString& name)
 {
     const int user = SessionState.UserID;
-    frmLogin login(this);
-    login.FiscalYearID = year;
-    login.FiscalYearName = name;
-    login.ChangingYear = true;
+    frmLogin login(year, name, this);
     ShowModal(login);
     const bool LogInCancelled = SessionState.UserID == user;
     return !LogInCancelled;

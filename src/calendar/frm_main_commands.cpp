@@ -176,9 +176,9 @@ void frmMain::ShowAttendance(const AttendanceJob& job)
 
 DateList frmMain::ShowSelectDates()
 {
-    frmSelectDates form(this);
+    frmSelectDates form(EntireYear(), SessionState, this);
     ShowModal(form);
-    return SessionState.AttendanceDates;
+    return form.Dates();
 }
 
 int frmMain::SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines)

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QDialog>
+#include "foundation/frm_base.h"
 
 /// The program's name, version and purpose, and the way to the desktop's system information.
-class frmAbout : public QDialog
+class frmAbout : public FormBase
 {
 public:
     explicit frmAbout(QWidget* parent = nullptr);
 
 private:
-    void BuildControls();
-    void cmdSysInfo_Click();
+    static void cmdSysInfo_Click();
 };

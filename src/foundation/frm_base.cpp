@@ -14,6 +14,13 @@ namespace
 /// Room for the window's frame and the desktop's bars.
 constexpr QSize kFrame(16, 48);
 
+/// A page whose lists give way before it has to be scrolled, also beside lines that are wrapped.
+class PageWidget : public QWidget
+{
+public:
+    int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
+};
+
 /// As large as its page, where the screen has room for it.
 class PageArea : public QScrollArea
 {
@@ -24,7 +31,7 @@ public:
 QScrollArea* MakePageArea()
 {
     auto* area = new PageArea;
-    auto* page = new QWidget;
+    auto* page = new PageWidget;
     page->setProperty("look", "page");
     area->setWidget(page);
     area->setWidgetResizable(true);
@@ -55,9 +62,18 @@ QSize FormBase::sizeHint() const
 QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)
 {
     auto* button = MakeButton(name, caption);
-    button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, [this, clicked] { Attempt(clicked); });
     return button;
+}
+
+QPushButton* FormBase::AddMainButton(const char* name, const Text& caption, const std::function<void()>& clicked)
+{
+    return AsMainButton(AddButton(name, caption, clicked));
+}
+
+QPushButton* FormBase::AddWayOut(const Text& caption, const char* name)
+{
+    return AddButton(name, caption, [this] { reject(); });
 }
 
 void FormBase::LayFoot(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right)
@@ -80,10 +96,10 @@ bool FormBase::Attempt(const std::function<void()>& work)
     }
 }
 
-void FormBase::ShowFault(const Fault& fault)
+void FormBase::ShowFault(const Fault& fault, const Text& title)
 {
     if (!fault.Text.isEmpty())
-        Tell(T("ERROR:", "ERREUR:"), fault.Text, Face::Warning);
+        Tell(T(title), fault.Text, Face::Warning);
     GoTo(fault.Control);
 }
 

@@ -23,6 +23,10 @@ protected:
     QVBoxLayout* Page() const { return page_; }
     /// A button whose click runs `clicked`; a failure is told.
     QPushButton* AddButton(const char* name, const Text& caption, const std::function<void()>& clicked);
+    /// The same for the one main button, which Enter presses.
+    QPushButton* AddMainButton(const char* name, const Text& caption, const std::function<void()>& clicked);
+    /// The button that leaves the form as Escape does.
+    QPushButton* AddWayOut(const Text& caption = {"&Cancel", "&Annuler"}, const char* name = "cmdCancel");
     /// The form's foot: what stands at its left, and at its right, the main button last.
     void LayFoot(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right);
     void LayFoot(std::initializer_list<QWidget*> right) { LayFoot({}, right); }
@@ -30,7 +34,7 @@ protected:
     /// Runs `work`. A failure is told, and the form stays as it is: false then.
     bool Attempt(const std::function<void()>& work);
     /// Tells a fault and takes the user to the control to be mended.
-    void ShowFault(const Fault& fault);
+    void ShowFault(const Fault& fault, const Text& title = {"ERROR:", "ERREUR:"});
     /// Puts the focus into a control, its tab in front and in sight.
     void GoTo(const QString& control);
 

@@ -149,6 +149,22 @@ void AddFieldRow(QGridLayout* fields, const Text& label, QWidget* field)
     AddFieldRow(fields, LabelOf(field, label), field);
 }
 
+QGridLayout* FieldGrid(int gap)
+{
+    constexpr int kLabelGap = 16;
+    auto* fields = new QGridLayout;
+    fields->setHorizontalSpacing(kLabelGap);
+    fields->setVerticalSpacing(gap);
+    return fields;
+}
+
+QLineEdit* AddField(QGridLayout* fields, const QString& name, const Text& label, KeyFilter filter, int limit)
+{
+    QLineEdit* field = MakeField(name, filter, limit);
+    AddFieldRow(fields, label, field);
+    return field;
+}
+
 QFrame* HeadedCard(const Text& head, QLayout* content)
 {
     auto* layout = new QVBoxLayout;

@@ -47,6 +47,11 @@ QVBoxLayout* Captioned(const Text& caption, QWidget* control, QWidget* named = n
 QVBoxLayout* Headed(const Text& head, QWidget* control, QWidget* named = nullptr);
 /// A new row of `fields`: a bold label at the left names the field at its right.
 void AddFieldRow(QGridLayout* fields, const Text& label, QWidget* field);
+/// A grid for AddField, its rows `gap` pixels apart.
+QGridLayout* FieldGrid(int gap = 10);
+/// A field as MakeField makes it, in a new row of `fields`.
+QLineEdit* AddField(QGridLayout* fields, const QString& name, const Text& label, KeyFilter filter,
+                    int limit = kUnlimited);
 /// A white card whose first row is its bold head.
 QFrame* HeadedCard(const Text& head, QLayout* content);
 

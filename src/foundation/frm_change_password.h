@@ -1,35 +1,20 @@
 #pragma once
 
-#include "platform/dao/dao.h"
+#include "foundation/frm_base.h"
 
-#include <QDialog>
-
-class QLabel;
-class QLineEdit;
-class QPushButton;
+#include <optional>
 
 /// Lets the user change his own password.
-class frmChangePassword : public QDialog
+class frmChangePassword : public FormBase
 {
 public:
     explicit frmChangePassword(QWidget* parent = nullptr);
 
 private:
-    void BuildControls();
-    void ConnectControls();
-    void LoadCaptions();
     void cmdAccept_Click();
-    bool ArePasswordsValid();
+    std::optional<Fault> FaultInPasswords();
 
-    DataControl datAbsence{"frmChangePassword"};
-    QLabel* lblUserID = nullptr;
-    QLabel* lblOldPassword = nullptr;
-    QLabel* lblNewPassword = nullptr;
-    QLabel* lblRepeatedPassword = nullptr;
-    QLineEdit* txtUserID = nullptr;
-    QLineEdit* txtOldPassword = nullptr;
-    QLineEdit* txtNewPassword = nullptr;
-    QLineEdit* txtRepeatedPassword = nullptr;
-    QPushButton* cmdAccept = nullptr;
-    QPushButton* cmdCancel = nullptr;
+    QLineEdit* txtOldPassword;
+    QLineEdit* txtNewPassword;
+    QLineEdit* txtRepeatedPassword;
 };

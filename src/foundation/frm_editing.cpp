@@ -15,6 +15,8 @@ TwoPressForm::TwoPressForm(const char* name, QWidget* parent, const EditingTexts
     cmdDeactivate = AddButton("cmdDeactivate", kDeactivate, [this] { Press(EditingMode::Deactivating); });
     cmdCancelOperation = AddButton("cmdCancelOperation", texts.Cancel, [this] { cmdCancelOperation_Click(); });
     cmdQuit = AddButton("cmdQuit", texts.Quit, [this] { reject(); });
+    for (QPushButton* button : {cmdAdd, cmdModify, cmdDeactivate, cmdCancelOperation, cmdQuit})
+        button->setAutoDefault(false);
     idleOnly_ = {cmdQuit};
 }
 

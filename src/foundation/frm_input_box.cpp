@@ -1,41 +1,22 @@
 #include "foundation/frm_input_box.h"
 
-#include "foundation/texts.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
-
 namespace
 {
 constexpr int kPromptWidth = 440;
-}
+constexpr int kInputGap = 6;
+} // namespace
 
-frmInputBox::frmInputBox(const QString& title, const QString& prompt, QWidget* parent) : QDialog(parent)
+frmInputBox::frmInputBox(const QString& title, const QString& prompt, QWidget* parent)
+    : FormBase("frmInputBox", parent), txtInput(MakeField("txtInput", KeyFilter::MessageInput))
 {
-    BuildControls(title, prompt);
-}
-
-void frmInputBox::BuildControls(const QString& title, const QString& prompt)
-{
-    setObjectName("frmInputBox");
     setWindowTitle(title);
-    auto* lblPrompt = Named<QLabel>("lblPrompt", prompt);
+    auto* lblPrompt = WrappedLabel("lblPrompt");
     lblPrompt->setTextFormat(Qt::PlainText);
-    lblPrompt->setWordWrap(true);
+    lblPrompt->setText(prompt);
     lblPrompt->setFixedWidth(kPromptWidth);
-    txtInput = Named<QLineEdit>("txtInput");
     txtInput->setAccessibleName(prompt);
-    FilterKeys(txtInput, KeyFilter::MessageInput);
-    auto* cmdOK = AsMainButton(Named<QPushButton>("cmdOK", T("&OK", "&OK")));
-    auto* cmdCancel = Named<QPushButton>("cmdCancel", T("&Cancel", "&Annuler"));
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-
-    auto* content = new QVBoxLayout;
-    content->addWidget(lblPrompt);
-    content->addWidget(txtInput);
-    QVBoxLayout* page = PageLayout(this);
-    page->addWidget(MakeCard(content));
-    page->addLayout(ButtonRow({cmdCancel, cmdOK}));
+    Page()->addWidget(MakeCard(Column(kInputGap, {lblPrompt, txtInput})));
+    LayFoot({AddWayOut(), AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { accept(); })});
     txtInput->setFocus();
 }
 

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QDialog>
-
-class QLineEdit;
+#include "foundation/frm_base.h"
 
 /// Asks for one line of text. What would break a statement is filtered as in the message box.
-class frmInputBox : public QDialog
+class frmInputBox : public FormBase
 {
 public:
     frmInputBox(const QString& title, const QString& prompt, QWidget* parent = nullptr);
@@ -14,9 +12,7 @@ public:
     QString Answer() const;
 
 private:
-    void BuildControls(const QString& title, const QString& prompt);
-
-    QLineEdit* txtInput = nullptr;
+    QLineEdit* txtInput;
 };
 
 /// Shows the input box modally and returns what was typed; empty when it was cancelled or left empty.

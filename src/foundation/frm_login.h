@@ -1,49 +1,31 @@
 #pragma once
 
-#include "platform/dao/dao.h"
-
-#include <QDialog>
+#include "foundation/frm_base.h"
 
 #include <functional>
 
-class QLabel;
-class QLineEdit;
-class QPushButton;
-
 /// The log-in, at the start and when the user moves to a year that has no record of him.
-class frmLogin : public QDialog
+class frmLogin : public FormBase
 {
 public:
-    explicit frmLogin(QWidget* parent = nullptr);
-
-    int FiscalYearID = 0; ///< the year whose users may enter
-    QString FiscalYearName;
-    bool ChangingYear = false; ///< Cancel then goes back instead of ending the program
+    /// The users of `year` (FiscalYears.RecordID) may enter. `changingTo` is its name when the user moves to it: Cancel
+    /// then goes back; otherwise it ends the program.
+    explicit frmLogin(int year, const QString& changingTo = {}, QWidget* parent = nullptr);
 
     /// Looks for an older database at each log-in; set once by the program.
     static std::function<void(DataControl&)> UpgradeProbes;
 
-    void Form_Load();
     void reject() override { cmdCancel_Click(); }
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
-    void BuildControls();
-    void ConnectControls();
-    void LoadCaptions();
+    QLabel* Instructions() const;
     void cmdOK_Click();
     void cmdCancel_Click();
     bool LogIn();
     bool TakesUser();
 
-    DataControl datAbsence{"frmLogin"};
-    QLabel* lblInstructions = nullptr;
-    QLabel* lblUserName = nullptr;
-    QLabel* lblPassword = nullptr;
-    QLineEdit* txtUserName = nullptr;
-    QLineEdit* txtPassword = nullptr;
-    QPushButton* cmdOK = nullptr;
-    QPushButton* cmdCancel = nullptr;
+    const int FiscalYearID;
+    const QString FiscalYearName; ///< empty at the start of the program
+    QLineEdit* txtUserName;
+    QLineEdit* txtPassword;
 };

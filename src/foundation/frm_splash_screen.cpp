@@ -11,8 +11,6 @@
 #include "platform/program.h"
 
 #include <QFile>
-#include <QLabel>
-#include <QVBoxLayout>
 
 namespace
 {
@@ -22,11 +20,11 @@ constexpr int kSplashLogoSize = 96;
 void EndWithoutFiscalYear()
 {
     Tell(T("A FATAL ERROR HAS OCCURRED:", "UNE ERREUR FATALE EST SURVENUE:"),
-         Fill(T("No fiscal year could be found in your database! Please contact the software distributor at the "
-                "following e-mail address: {SupportAddress}",
-                "Aucune année fiscale n'a pu être trouvée dans votre banque de données! Veuillez contacter le "
-                "distributeur du logiciel au courriel suivant: {SupportAddress}"),
-              {{"SupportAddress", Deployment::SupportAddress}}),
+         T({"No fiscal year could be found in your database! Please contact the software distributor at the "
+            "following e-mail address: {SupportAddress}",
+            "Aucune année fiscale n'a pu être trouvée dans votre banque de données! Veuillez contacter le "
+            "distributeur du logiciel au courriel suivant: {SupportAddress}"},
+           {{"SupportAddress", Deployment::SupportAddress}}),
          Face::Paniquing);
     EndProgram();
 }
@@ -35,26 +33,15 @@ void EndWithoutFiscalYear()
 frmSplashScreen::frmSplashScreen(StartUpSteps steps, QWidget* parent)
     : QDialog(parent, Qt::SplashScreen), steps_(std::move(steps))
 {
-    BuildControls();
-}
-
-void frmSplashScreen::BuildControls()
-{
     setObjectName("frmSplashScreen");
     setWindowTitle("Tarvell");
-    auto* imgLogo = Named<QLabel>("imgLogo");
-    imgLogo->setPixmap(Picture("app", kSplashLogoSize));
-    imgLogo->setAlignment(Qt::AlignCenter);
     auto* lblTitle = Named<QLabel>("lblTitle", QStringLiteral("Tarvell"));
-    AsFigure(lblTitle)->setAlignment(Qt::AlignCenter);
-    lblVersion = Named<QLabel>("lblVersion", "Version " + Deployment::Version());
-    AsCaption(lblVersion)->setAlignment(Qt::AlignCenter);
-
+    auto* lblVersion = Named<QLabel>("lblVersion", "Version " + Deployment::Version());
+    const auto labels = {MakeLogo(kSplashLogoSize), AsFigure(lblTitle), AsCaption(lblVersion)};
     auto* content = new QVBoxLayout;
-    content->setContentsMargins(72, 40, 72, 40);
     content->setSpacing(12);
-    for (QLabel* label : {imgLogo, lblTitle, lblVersion})
-        content->addWidget(label);
+    for (QLabel* label : labels)
+        content->addWidget(label, 0, Qt::AlignCenter);
     auto* page = new QVBoxLayout(this);
     page->addWidget(MakeCard(content));
 }
@@ -71,9 +58,7 @@ void frmSplashScreen::Form_Activate()
     QFile::remove(NativePath(JoinPath(ProgramFolder(), "Restart.bat")));
     DisconnectFromDatabase(datAbsence);
 
-    frmLogin login(this);
-    login.FiscalYearID = SessionState.FiscalYearID;
-    login.FiscalYearName = SessionState.FiscalYearName;
+    frmLogin login(SessionState.FiscalYearID, {}, this);
     ShowModal(login);
     const BusyPointer hourglass;
     steps_.ShowMain();
@@ -91,7 +76,7 @@ bool frmSplashScreen::LoadConfiguration()
 
 void frmSplashScreen::ConnectAndChooseYear()
 {
-    LocateNewDatabase = ConnectOrAskForAnotherDatabase(datAbsence);
+    const bool LocateNewDatabase = ConnectOrAskForAnotherDatabase(datAbsence);
     if (LocateNewDatabase)
         LocateDatabase(datAbsence, steps_.ShowServerConnection);
     if (!ChooseCurrentFiscalYear(datAbsence))

@@ -6,8 +6,6 @@
 
 #include <functional>
 
-class QLabel;
-
 /// What the start needs of the floors above.
 struct StartUpSteps
 {
@@ -27,12 +25,9 @@ public:
     void Form_Activate();
 
 private:
-    void BuildControls();
     bool LoadConfiguration();
     void ConnectAndChooseYear();
 
     StartUpSteps steps_;
     DataControl datAbsence{"frmSplashScreen"};
-    bool LocateNewDatabase = false;
-    QLabel* lblVersion = nullptr;
 };

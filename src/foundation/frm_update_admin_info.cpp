@@ -1,73 +1,42 @@
 #include "foundation/frm_update_admin_info.h"
 
 #include "foundation/common_services.h"
-#include "foundation/texts.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
 
 #include <QGridLayout>
+
+#include <optional>
 
 namespace
 {
 constexpr int kAdminFieldWidth = 300;
-}
 
-frmUpdateAdminInfo::frmUpdateAdminInfo(QWidget* parent) : QDialog(parent)
+std::optional<Fault> FaultIn(const AdministratorInfo& info)
 {
-    BuildControls();
-    ConnectControls();
-    LoadCaptions();
+    if (info.FirstName.isEmpty())
+        return Fault{"txtFirstName", T("First name missing!", "Prénom manquant!")};
+    if (info.FamilyName.isEmpty())
+        return Fault{"txtFamilyName", T("Last name missing!", "Nom de famille manquant!")};
+    if (info.EMailAddress.isEmpty())
+        return Fault{"txtEMailAddress",
+                     T("You must specify your e-mail address!", "Vous devez spécifier votre courriel!")};
+    return std::nullopt;
+}
+} // namespace
+
+frmUpdateAdminInfo::frmUpdateAdminInfo(QWidget* parent) : FormBase("frmUpdateAdminInfo", parent)
+{
+    SetTitle(this, {"System administrator", "Administrateur du système"});
+    QGridLayout* fields = FieldGrid();
+    fields->setColumnMinimumWidth(1, kAdminFieldWidth);
+    txtFirstName = AddField(fields, "txtFirstName", {"&First name", "&Prénom"}, KeyFilter::FreeText, 35);
+    txtFamilyName = AddField(fields, "txtFamilyName", {"&Last name", "Nom de &famille"}, KeyFilter::FreeText, 35);
+    txtPhoneOffice =
+        AddField(fields, "txtPhoneOffice", {"&Phone number", "Numéro de &téléphone"}, KeyFilter::Phone, 20);
+    txtEMailAddress =
+        AddField(fields, "txtEMailAddress", {"&E-mail address", "&Courriel"}, KeyFilter::EMailAddress, 75);
+    Page()->addWidget(MakeCard(fields));
+    LayFoot({AddWayOut(), AddMainButton("cmdSave", {"&Save", "&Enregistrer"}, [this] { cmdSave_Click(); })});
     LoadRecords();
-}
-
-void frmUpdateAdminInfo::BuildControls()
-{
-    setObjectName("frmUpdateAdminInfo");
-    cmdSave = AsMainButton(Named<QPushButton>("cmdSave"));
-    cmdCancel = Named<QPushButton>("cmdCancel");
-    auto* fields = new QGridLayout;
-    fields->setHorizontalSpacing(16);
-    fields->setVerticalSpacing(10);
-    struct Field
-    {
-        QLabel** Label;
-        QLineEdit** Text;
-        const char* Name;
-        int Limit;
-        KeyFilter Filter;
-    };
-    const Field rows[] = {{&lblFirstName, &txtFirstName, "FirstName", 35, KeyFilter::FreeText},
-                          {&lblFamilyName, &txtFamilyName, "FamilyName", 35, KeyFilter::FreeText},
-                          {&lblPhoneOffice, &txtPhoneOffice, "PhoneOffice", 20, KeyFilter::Phone},
-                          {&lblEMailAddress, &txtEMailAddress, "EMailAddress", 75, KeyFilter::EMailAddress}};
-    for (const auto& [label, text, name, limit, filter] : rows) {
-        *label = Named<QLabel>(QLatin1String("lbl") + name);
-        *text = Named<QLineEdit>(QLatin1String("txt") + name);
-        (*text)->setMaxLength(limit);
-        (*text)->setMinimumWidth(kAdminFieldWidth);
-        FilterKeys(*text, filter);
-        AddFieldRow(fields, *label, *text);
-    }
-    QVBoxLayout* page = PageLayout(this);
-    page->addWidget(MakeCard(fields));
-    page->addLayout(ButtonRow({cmdCancel, cmdSave}));
-}
-
-void frmUpdateAdminInfo::ConnectControls()
-{
-    connect(cmdSave, &QPushButton::clicked, this, &frmUpdateAdminInfo::cmdSave_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-}
-
-void frmUpdateAdminInfo::LoadCaptions()
-{
-    setWindowTitle(T("System administrator", "Administrateur du système"));
-    lblFirstName->setText(T("&First name", "&Prénom"));
-    lblFamilyName->setText(T("&Last name", "Nom de &famille"));
-    lblPhoneOffice->setText(T("&Phone number", "Numéro de &téléphone"));
-    lblEMailAddress->setText(T("&E-mail address", "&Courriel"));
-    cmdSave->setText(T("&Save", "&Enregistrer"));
-    cmdCancel->setText(T("&Cancel", "&Annuler"));
 }
 
 void frmUpdateAdminInfo::LoadRecords()
@@ -86,40 +55,15 @@ AdministratorInfo frmUpdateAdminInfo::Info() const
             txtEMailAddress->text().trimmed()};
 }
 
-bool frmUpdateAdminInfo::ValidateRecord(const AdministratorInfo& info)
-{
-    struct Check
-    {
-        const QString& Value;
-        QLineEdit* Field;
-        QString Complaint;
-    };
-    const Check checks[] = {{info.FirstName, txtFirstName, T("First name missing!", "Prénom manquant!")},
-                            {info.FamilyName, txtFamilyName, T("Last name missing!", "Nom de famille manquant!")},
-                            {info.EMailAddress, txtEMailAddress,
-                             T("You must specify your e-mail address!", "Vous devez spécifier votre courriel!")}};
-    for (const auto& [value, field, complaint] : checks) {
-        if (!value.isEmpty())
-            continue;
-        Tell(T("ERROR!", "ERREUR!"), complaint, Face::Warning);
-        field->setFocus();
-        return false;
-    }
-    return true;
-}
-
 void frmUpdateAdminInfo::cmdSave_Click()
 {
     const AdministratorInfo info = Info();
-    if (!ValidateRecord(info) ||
-        !Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Record changes to administrator profile?",
+    if (const auto fault = FaultIn(info))
+        return ShowFault(*fault, {"ERROR!", "ERREUR!"});
+    if (!Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Record changes to administrator profile?",
                                                      "Enregistrer les modifications au profil de l'administrateur?")))
         return;
-    try {
-        WriteAdministratorInfo(datAbsence, info);
-    } catch (const RuntimeError& error) {
-        return TellError(error);
-    }
+    WriteAdministratorInfo(datAbsence, info);
     Tell(T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:"),
          T("All modifications to the administrator profile have been saved!",
            "Toutes les modifications au profil de l'administrateur ont été enregistrées!"));

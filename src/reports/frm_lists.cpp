@@ -1,9 +1,6 @@
 #include "reports/frm_lists.h"
 
-#include "foundation/common_services.h"
-#include "foundation/texts.h"
 #include "platform/controls/flex_grid.h"
-#include "platform/controls/form_kit.h"
 
 #include <algorithm>
 
@@ -15,56 +12,19 @@ constexpr int kRowHeight = 26;
 constexpr int kLowestGrid = 7 * kRowHeight;
 constexpr int kHighestGrid = 17 * kRowHeight;
 constexpr int kScrollBar = 20;
+constexpr int kHeadingGap = 6;
 } // namespace
 
-frmLists::frmLists(ListKind kind, QWidget* parent) : QDialog(parent), kind_(kind)
+frmLists::frmLists(ListKind kind, QWidget* parent)
+    : FormBase("frmLists", parent), lblHeading(AsHead(MakeLabel("lblHeading"))), flxList(Named<FlexGrid>("flxList"))
 {
-    BuildControls();
-    LoadCaptions();
-    LoadRecords();
-}
-
-void frmLists::BuildControls()
-{
-    setObjectName("frmLists");
-    lblHeading = AsHead(Named<QLabel>("lblHeading"));
-    flxList = Named<FlexGrid>("flxList");
+    const bool employees = kind == ListKind::Employees;
+    SetTitle(this, employees ? Text{"Employees", "Employés"} : Text{"Categories", "Catégories"});
     flxList->SetRowSelection(true);
-    cmdOK = AsMainButton(Named<QPushButton>("cmdOK"));
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-
-    auto* content = new QVBoxLayout;
-    content->addWidget(lblHeading);
-    content->addWidget(flxList, 1);
-    QVBoxLayout* page = PageLayout(this);
-    page->addWidget(MakeCard(content), 1);
-    page->addLayout(ButtonRow({cmdOK}));
-}
-
-void frmLists::LoadCaptions()
-{
-    setWindowTitle(kind_ == ListKind::Employees ? T("Employees", "Employés") : T("Categories", "Catégories"));
-    cmdOK->setText(T("&OK", "&OK"));
-}
-
-void frmLists::LoadRecords()
-{
+    Page()->addWidget(MakeCard(Column(kHeadingGap, {lblHeading, flxList})), 1);
+    LayFoot({AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { accept(); })});
     const BusyPointer busy;
-    try {
-        kind_ == ListKind::Employees ? LoadEmployees() : LoadCategories();
-    } catch (const RuntimeError& error) {
-        TellError(error);
-    }
-}
-
-void frmLists::LoadEmployees()
-{
-    ShowList(ListOfEmployees(datAbsence));
-}
-
-void frmLists::LoadCategories()
-{
-    ShowList(ListOfCategories(datAbsence));
+    Attempt([&] { ShowList(employees ? ListOfEmployees(datAbsence) : ListOfCategories(datAbsence)); });
 }
 
 void frmLists::ShowList(const ReferenceList& list)

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <QDialog>
-#include <QString>
+#include "foundation/frm_base.h"
 
 #include <utility>
 #include <vector>
 
-class QListWidget;
-
 /// Lets the user choose one of several attendance records of a day, given as lines with their RecordIDs.
-class frmSelectAttendanceRecord : public QDialog
+class frmSelectAttendanceRecord : public FormBase
 {
 public:
     explicit frmSelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines, QWidget* parent = nullptr);
@@ -18,9 +15,8 @@ public:
     int SelectedRecordID() const { return selectedRecordID_; }
 
 private:
-    void BuildControls(const std::vector<std::pair<QString, int>>& lines);
     void cmdSelect_Click();
 
-    QListWidget* lstRecords = nullptr;
+    QListWidget* lstRecords;
     int selectedRecordID_ = 0;
 };

@@ -1,49 +1,43 @@
 #pragma once
 
-#include "platform/dao/dao.h"
+#include "foundation/frm_base.h"
 #include "selection/consecutive_dates.h"
+#include "selection/date_range_model.h"
+#include "selection/period_choice.h"
 
-#include <QDialog>
-
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QPushButton;
 class WeekdayBoxes;
 
-/// Lets the user choose a range of dates of the fiscal year for the employee shown in the calendar. OK fills
-/// SessionState.AttendanceDates; leaving the form otherwise leaves it empty.
-class frmSelectDates : public QDialog
+/// Lets the user choose dates of a period for an employee: a range, its weekdays, without his days off and without the
+/// holidays of the fiscal year. The choice is in SessionState.AttendanceDates too.
+class frmSelectDates : public FormBase
 {
 public:
-    explicit frmSelectDates(QWidget* parent = nullptr);
+    frmSelectDates(const Period& period, const WorkSchedule& schedule, QWidget* parent = nullptr);
+
+    /// The dates chosen; none when the form was left without OK.
+    const DateList& Dates() const { return dates_; }
 
 private:
-    void BuildControls();
-    void ConnectControls();
-    void LoadCaptions();
+    QComboBox* AddDates(QGridLayout* range, int column, const char* name, const Text& label, DateRangeModel* days);
+    QCheckBox* AddExclusion(QVBoxLayout* content, const char* name, const Text& caption, const Text& warning);
     void LoadRecords();
     void LoadDatesTo();
-    ConsecutiveDates Choice() const;
+    DateList Chosen() const;
     void ShowCount();
     void cboFrom_Click();
-    void chkIgnoreDaysOff_Click();
-    void chkIgnoreHolidays_Click();
-    void ConfirmClearing(QCheckBox* box, const QString& question);
+    void Exclusion_Click(QCheckBox* box, const Text& warning);
     void cmdOK_Click();
 
-    DataControl datAbsence{"frmSelectDates"};
+    const Period period_;
+    const WorkSchedule schedule_;
     QVector<Holiday> holidays_;
-    bool Loading = false;
-    QLabel* lblFrom = nullptr;
-    QLabel* lblTo = nullptr;
-    QLabel* lblWeekdays = nullptr;
-    QLabel* lblCount = nullptr; ///< "5 dates"
-    QComboBox* cboFrom = nullptr;
-    QComboBox* cboTo = nullptr;
-    WeekdayBoxes* boxes_ = nullptr;
-    QCheckBox* chkIgnoreDaysOff = nullptr;
-    QCheckBox* chkIgnoreHolidays = nullptr;
-    QPushButton* cmdOK = nullptr;
-    QPushButton* cmdCancel = nullptr;
+    DateList dates_{};
+    DateRangeModel* daysFrom_;
+    DateRangeModel* daysTo_;
+    QComboBox* cboFrom;
+    QComboBox* cboTo;
+    WeekdayBoxes* boxes_;
+    QCheckBox* chkIgnoreDaysOff;
+    QCheckBox* chkIgnoreHolidays;
+    QLabel* lblCount; ///< "5 dates"
 };

@@ -1,19 +1,43 @@
 #include "selection/frm_select_employee.h"
 
-#include "foundation/texts.h"
-#include "platform/controls/form_kit.h"
-
-#include <QGridLayout>
-#include <QLabel>
-#include <QListWidget>
-#include <QPushButton>
-
 namespace
 {
+constexpr QSize kOpeningSize(722, 533);
 constexpr int kUnitListHeight = 104;
 constexpr int kListWidth = 320;
+constexpr int kListsGap = 20;
+constexpr int kGapBelowInstructions = 8;
 constexpr ReachList kLists[] = {ReachList::Organizations, ReachList::Departments, ReachList::Groups,
                                 ReachList::Employees};
+
+struct ListTexts
+{
+    const char* Control;
+    Text Head;
+};
+
+/// In the order of kLists.
+constexpr ListTexts kListTexts[] = {{"lstOrganizations", {"&Organizations", "&Organisations"}},
+                                    {"lstDepartments", {"&Departments", "&Départements"}},
+                                    {"lstGroups", {"&Groups", "&Groupes"}},
+                                    {"lstEmployees", {"&Employees", "&Employés"}}};
+
+struct PurposeTexts
+{
+    Text Title;
+    Text Instructions;
+};
+
+/// In the order of Purpose.
+constexpr PurposeTexts kPurposes[] = {
+    {{"Selection to display", "Sélection à afficher"},
+     {"Select the organization, department, group or employee whose attendance you wish to display on the calendar",
+      "Sélectionnez l'organisation, le département, le groupe ou l'employé(e) dont vous souhaitez afficher les "
+      "absences sur le calendrier"}},
+    {{"Employee selection", "Sélection d'un(e) employé(e)"},
+     {"Select the employee record to be modified or deactivated from the following list",
+      "Sélectionnez l'employé(e) à être modifié(e) ou désactivé(e)"}},
+};
 
 std::size_t Index(ReachList list)
 {
@@ -21,80 +45,41 @@ std::size_t Index(ReachList list)
 }
 } // namespace
 
-frmSelectEmployee::frmSelectEmployee(QWidget* parent, Purpose purpose) : QDialog(parent), purpose_(purpose)
+frmSelectEmployee::frmSelectEmployee(QWidget* parent, Purpose purpose)
+    : FormBase("frmSelectEmployee", parent), purpose_(purpose)
 {
-    BuildControls();
-    ConnectControls();
-    LoadCaptions();
+    const PurposeTexts& texts = kPurposes[static_cast<int>(purpose)];
+    SetTitle(this, texts.Title);
+    QLabel* lblInstructions = WrappedLabel("lblInstructions", texts.Instructions);
+    lblInstructions->setContentsMargins(0, 0, 0, kGapBelowInstructions);
+    auto* content = new QGridLayout;
+    content->setHorizontalSpacing(kListsGap);
+    content->addWidget(lblInstructions, 0, 0, 1, 2);
+    for (const ReachList list : kLists)
+        AddList(content, list);
+    Page()->addWidget(MakeCard(content));
+    lblChoice = AsFigure(MakeLabel("lblChoice"));
+    cmdSelect = AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); });
+    LayFoot({lblChoice}, {AddWayOut({"&Quit", "&Quitter"}, "cmdQuit"), cmdSelect});
+    resize(kOpeningSize);
     LoadListBoxes();
 }
 
-void frmSelectEmployee::BuildControls()
+/// The units stand one below the other at the left, the employees beside them at the right.
+void frmSelectEmployee::AddList(QGridLayout* content, ReachList list)
 {
-    setObjectName("frmSelectEmployee");
-    lblInstructions = Named<QLabel>("lblInstructions");
-    lblInstructions->setWordWrap(true);
-    lblInstructions->setContentsMargins(0, 0, 0, 8);
-    const std::array<QString, kReachLists> names = {"Organizations", "Departments", "Groups", "Employees"};
-    auto* content = new QGridLayout;
-    content->addWidget(lblInstructions, 0, 0, 1, 2);
-    for (const ReachList list : kLists) {
-        const std::size_t i = Index(list);
-        heads_[i] = AsHead(Named<QLabel>("lbl" + names[i]));
-        lists_[i] = Named<QListWidget>("lst" + names[i]);
-        lists_[i]->setMinimumWidth(kListWidth);
-        heads_[i]->setBuddy(lists_[i]);
-        if (list == ReachList::Employees) {
-            content->addWidget(heads_[i], 1, 1);
-            content->addWidget(lists_[i], 2, 1, 5, 1);
-        } else {
-            lists_[i]->setMinimumHeight(kUnitListHeight);
-            content->addWidget(heads_[i], 1 + 2 * static_cast<int>(i), 0);
-            content->addWidget(lists_[i], 2 + 2 * static_cast<int>(i), 0);
-        }
-    }
-    content->setHorizontalSpacing(20);
-    lblChoice = AsFigure(Named<QLabel>("lblChoice"));
-    cmdSelect = AsMainButton(Named<QPushButton>("cmdSelect"));
-    cmdQuit = Named<QPushButton>("cmdQuit");
-
-    QVBoxLayout* page = PageLayout(this);
-    page->addWidget(MakeCard(content));
-    auto* foot = ButtonRow({cmdQuit, cmdSelect});
-    foot->insertWidget(0, lblChoice);
-    page->addLayout(foot);
-}
-
-void frmSelectEmployee::ConnectControls()
-{
-    for (const ReachList list : kLists) {
-        QListWidget* box = lists_[Index(list)];
-        connect(box, &QListWidget::itemSelectionChanged, this, [this, list] { Choose(list); });
-        connect(box, &QListWidget::itemClicked, this, [this, list] { Choose(list); });
-        connect(box, &QListWidget::itemDoubleClicked, this, &frmSelectEmployee::cmdSelect_Click);
-    }
-    connect(cmdSelect, &QPushButton::clicked, this, &frmSelectEmployee::cmdSelect_Click);
-    connect(cmdQuit, &QPushButton::clicked, this, &QDialog::reject);
-}
-
-void frmSelectEmployee::LoadCaptions()
-{
-    setWindowTitle(purpose_ == Purpose::Calendar ? T("Selection to display", "Sélection à afficher")
-                                                 : T("Employee selection", "Sélection d'un(e) employé(e)"));
-    lblInstructions->setText(
-        purpose_ == Purpose::Calendar
-            ? T("Select the organization, department, group or employee whose attendance you wish to display on the "
-                "calendar",
-                "Sélectionnez l'organisation, le département, le groupe ou l'employé(e) dont vous souhaitez afficher "
-                "les absences sur le calendrier")
-            : T("Select the employee record to be modified or deactivated from the following list",
-                "Sélectionnez l'employé(e) à être modifié(e) ou désactivé(e)"));
-    heads_[Index(ReachList::Organizations)]->setText(T("&Organizations", "&Organisations"));
-    heads_[Index(ReachList::Departments)]->setText(T("&Departments", "&Départements"));
-    heads_[Index(ReachList::Groups)]->setText(T("&Groups", "&Groupes"));
-    heads_[Index(ReachList::Employees)]->setText(T("&Employees", "&Employés"));
-    cmdSelect->setText(T("&Select", "&Sélectionner"));
-    cmdQuit->setText(T("&Quit", "&Quitter"));
+    const auto& [control, head] = kListTexts[Index(list)];
+    auto* box = lists_[Index(list)] = Named<QListWidget>(control);
+    box->setMinimumWidth(kListWidth);
+    const bool isUnit = list != ReachList::Employees;
+    if (isUnit)
+        box->setMinimumHeight(kUnitListHeight);
+    const int row = isUnit ? 1 + 2 * static_cast<int>(list) : 1;
+    content->addWidget(AsHead(LabelOf(box, head)), row, isUnit ? 0 : 1);
+    content->addWidget(box, row + 1, isUnit ? 0 : 1, isUnit ? 1 : 5, 1);
+    connect(box, &QListWidget::itemSelectionChanged, this, [this, list] { Choose(list); });
+    connect(box, &QListWidget::itemClicked, this, [this, list] { Choose(list); });
+    connect(box, &QListWidget::itemDoubleClicked, this, &frmSelectEmployee::cmdSelect_Click);
 }
 
 void frmSelectEmployee::LoadListBoxes()

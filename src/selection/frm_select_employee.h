@@ -1,17 +1,12 @@
 #pragma once
 
+#include "foundation/frm_base.h"
 #include "selection/employee_reach.h"
-
-#include <QDialog>
-
-class QLabel;
-class QListWidget;
-class QPushButton;
 
 /// Lets the user choose a unit or an employee among those that his rights reach. Choosing an entry narrows the lists
 /// below it. For the calendar the choice goes to the session when it is selected; for an employee's record an employee
 /// must be chosen, and the caller reads him from ChosenEmployeeID. Leaving the form changes nothing.
-class frmSelectEmployee : public QDialog
+class frmSelectEmployee : public FormBase
 {
 public:
     enum class Purpose
@@ -27,9 +22,7 @@ public:
     QString ChosenName() const { return chosen_.Name; }
 
 private:
-    void BuildControls();
-    void ConnectControls();
-    void LoadCaptions();
+    void AddList(QGridLayout* content, ReachList list);
     void LoadListBoxes();
     void LoadList(ReachList list);
     void Choose(ReachList list);
@@ -39,16 +32,11 @@ private:
     bool CanBeSelected() const;
     void cmdSelect_Click();
 
-    DataControl datAbsence{"frmSelectEmployee"};
     const Purpose purpose_;
     EmployeeSelection choice_;
     EmployeeSelection chosen_;
     std::array<QVector<ReachEntry>, kReachLists> entries_;
-    bool Loading = false;
-    QLabel* lblInstructions = nullptr;
-    std::array<QLabel*, kReachLists> heads_{};
-    std::array<QListWidget*, kReachLists> lists_{}; ///< lstOrganizations, lstDepartments, lstGroups, lstEmployees
-    QLabel* lblChoice = nullptr;
-    QPushButton* cmdSelect = nullptr;
-    QPushButton* cmdQuit = nullptr;
+    std::array<QListWidget*, kReachLists> lists_; ///< lstOrganizations, lstDepartments, lstGroups, lstEmployees
+    QLabel* lblChoice;
+    QPushButton* cmdSelect;
 };

@@ -1,131 +1,116 @@
 #include "selection/frm_select_period.h"
 
 #include "foundation/common_services.h"
-#include "foundation/texts.h"
-#include "platform/controls/form_kit.h"
+#include "selection/date_range_model.h"
 
 #include <QButtonGroup>
-#include <QComboBox>
-#include <QGridLayout>
-#include <QRadioButton>
 
 namespace
 {
 constexpr int kPeriodDateWidth = 190;
+constexpr int kPeriodDatesGap = 20;
+constexpr int kPeriodPartsGap = 10;
+constexpr int kOptionsGap = 4;
 constexpr int kMonthColumns = 4;
+
+struct ModeTexts
+{
+    Text Title;
+    Text Instructions;
+    Text From;
+};
+
+/// In the order of PeriodMode.
+constexpr ModeTexts kModes[] = {
+    {{"Specifying a period for the report", "Période du rapport"},
+     {"Specify the period covered by the report", "Spécifiez la période couverte par le rapport"},
+     {"&Start date", "&Date de début:"}},
+    {{"Specifying an effective date", "Date d'entrée en vigueur"},
+     {"Specify the date when the change becomes effective", "Spécifiez la date d'entrée en vigueur du changement"},
+     {"Effective &date", "&Date d'entrée en vigueur:"}},
+    {{"Specifying a period for the schedule", "Période de l'horaire"},
+     {"Specify the period covered by the schedule", "Spécifiez la période couverte par l'horaire"},
+     {"&Start date", "&Date de début:"}},
+};
+
+constexpr Text kMonths[] = {{"January", "Janvier"}, {"February", "Février"},  {"March", "Mars"},
+                            {"April", "Avril"},     {"May", "Mai"},           {"June", "Juin"},
+                            {"July", "Juillet"},    {"August", "Août"},       {"September", "Septembre"},
+                            {"October", "Octobre"}, {"November", "Novembre"}, {"December", "Décembre"}};
 } // namespace
 
-frmSelectPeriod::frmSelectPeriod(PeriodMode mode, QWidget* parent) : QDialog(parent), mode_(mode)
+frmSelectPeriod::frmSelectPeriod(PeriodMode mode, QWidget* parent)
+    : FormBase("frmSelectPeriod", parent), mode_(mode), cboFrom(Named<QComboBox>("cboFrom")),
+      cboTo(Named<QComboBox>("cboTo")), options_(new QButtonGroup(this))
 {
-    BuildControls();
-    BuildOptions();
-    LayControls();
-    ConnectControls();
-    LoadCaptions();
-    LoadRecords();
-}
-
-void frmSelectPeriod::BuildControls()
-{
-    setObjectName("frmSelectPeriod");
-    lblInstructions = AsHead(Named<QLabel>("lblInstructions"));
-    lblFrom = Named<QLabel>("lblFrom");
-    lblTo = Named<QLabel>("lblTo");
-    lblMonths = AsCaption(Named<QLabel>("lblMonths"));
-    cboFrom = Named<QComboBox>("cboFrom");
-    cboTo = Named<QComboBox>("cboTo");
-    for (QComboBox* box : {cboFrom, cboTo})
-        box->setMinimumWidth(kPeriodDateWidth);
-    cmdOK = AsMainButton(Named<QPushButton>("cmdOK"));
-    cmdCancel = Named<QPushButton>("cmdCancel");
-}
-
-void frmSelectPeriod::BuildOptions()
-{
-    options_ = new QButtonGroup(this);
-    optEntireYear = Named<QRadioButton>("optEntireYear");
-    options_->addButton(optEntireYear);
-    for (int month = 0; month < 12; ++month) {
-        optMonth[month] = Named<QRadioButton>(ArrayName("optMonth", month));
-        options_->addButton(optMonth[month]);
-    }
-}
-
-void frmSelectPeriod::LayControls()
-{
-    auto* dates = new QHBoxLayout;
-    dates->setSpacing(20);
-    dates->addLayout(Captioned(lblFrom, cboFrom));
-    dates->addLayout(Captioned(lblTo, cboTo));
-    dates->addStretch();
-    auto* months = Raster();
-    for (int month = 0; month < 12; ++month)
-        months->addWidget(optMonth[month], month / kMonthColumns, month % kMonthColumns);
+    const ModeTexts& texts = kModes[static_cast<int>(mode)];
+    SetTitle(this, texts.Title);
     auto* content = new QVBoxLayout;
-    content->setSpacing(10);
-    content->addWidget(lblInstructions);
-    content->addLayout(dates);
-    content->addSpacing(4);
-    content->addWidget(optEntireYear);
-    content->addWidget(lblMonths);
-    content->addLayout(months);
-    QVBoxLayout* page = PageLayout(this);
-    page->addWidget(MakeCard(content));
-    page->addLayout(ButtonRow({cmdCancel, cmdOK}));
-    page->setSizeConstraint(QLayout::SetFixedSize);
-    const bool single = mode_ == PeriodMode::SingleDate;
-    optEntireYear->setVisible(mode_ == PeriodMode::Range);
-    for (QWidget* control : std::initializer_list<QWidget*>{lblTo, cboTo, lblMonths})
-        control->setVisible(!single);
-    for (QRadioButton* option : optMonth)
-        option->setVisible(!single);
+    content->setSpacing(kPeriodPartsGap);
+    content->addWidget(AsHead(MakeLabel("lblInstructions", texts.Instructions)));
+    content->addLayout(Dates());
+    content->addSpacing(kOptionsGap);
+    content->addWidget(
+        AddOption("optEntireYear", {"ENTIRE FISCAL &YEAR", "Du début à la fin de &l'année fiscale"}, EntireYear()));
+    content->addWidget(
+        AsCaption(MakeLabel("lblMonths", {"One month of the fiscal year", "Un mois de l'année fiscale"})));
+    content->addLayout(Months());
+    Page()->addWidget(MakeCard(content));
+    LayFoot({AddWayOut(), AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { cmdOK_Click(); })});
+    HideUnasked();
 }
 
-void frmSelectPeriod::ConnectControls()
+QLayout* frmSelectPeriod::Dates()
 {
+    auto* days = new DateRangeModel(this);
+    days->SetRange(EntireYear().Start, EntireYear().End);
+    for (QComboBox* dates : {cboFrom, cboTo}) {
+        dates->setMinimumWidth(kPeriodDateWidth);
+        dates->setModel(days);
+    }
+    Show(FirstPeriod(mode_));
     connect(cboFrom, &QComboBox::currentIndexChanged, this, &frmSelectPeriod::cboFrom_Click);
     connect(cboTo, &QComboBox::currentIndexChanged, this, &frmSelectPeriod::cboTo_Click);
-    connect(optEntireYear, &QRadioButton::clicked, this, [this] { Show(EntireYear()); });
-    for (int month = 0; month < 12; ++month)
-        connect(optMonth[month], &QRadioButton::clicked, this, [this, month] { Show(MonthOfYear(month)); });
-    connect(cmdOK, &QPushButton::clicked, this, &frmSelectPeriod::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kPeriodDatesGap);
+    row->addLayout(Captioned(kModes[static_cast<int>(mode_)].From, cboFrom));
+    row->addLayout(Captioned({"&End date", "Date de &fin:"}, cboTo));
+    row->addStretch();
+    return row;
 }
 
-void frmSelectPeriod::LoadCaptions()
+QLayout* frmSelectPeriod::Months()
 {
-    const bool single = mode_ == PeriodMode::SingleDate;
-    const bool schedule = mode_ == PeriodMode::Schedule;
-    setWindowTitle(single     ? T("Specifying an effective date", "Date d'entrée en vigueur")
-                   : schedule ? T("Specifying a period for the schedule", "Période de l'horaire")
-                              : T("Specifying a period for the report", "Période du rapport"));
-    lblInstructions->setText(
-        single     ? T("Specify the date when the change becomes effective",
-                       "Spécifiez la date d'entrée en vigueur du changement")
-        : schedule ? T("Specify the period covered by the schedule", "Spécifiez la période couverte par l'horaire")
-                   : T("Specify the period covered by the report", "Spécifiez la période couverte par le rapport"));
-    lblFrom->setText(single ? T("Effective &date", "&Date d'entrée en vigueur:") : T("&Start date", "&Date de début:"));
-    lblTo->setText(T("&End date", "Date de &fin:"));
-    lblMonths->setText(T("One month of the fiscal year", "Un mois de l'année fiscale"));
-    optEntireYear->setText(T("ENTIRE FISCAL &YEAR", "Du début à la fin de &l'année fiscale"));
+    auto* months = Raster();
     for (int month = 0; month < 12; ++month)
-        optMonth[month]->setText(MonthNames()[month]);
-    cmdOK->setText(T("&OK", "&OK"));
-    cmdCancel->setText(T("&Cancel", "&Annuler"));
+        months->addWidget(AddOption(ArrayName("optMonth", month), kMonths[month], MonthOfYear(month)),
+                          month / kMonthColumns, month % kMonthColumns);
+    return months;
 }
 
-void frmSelectPeriod::LoadRecords()
+/// The option of a period that the fiscal year does not have cannot be chosen.
+QRadioButton* frmSelectPeriod::AddOption(const QString& name, const Text& caption, const Period& period)
 {
-    const LoadingGuard loading(Loading);
-    for (int date = EntireYear().Start; date <= EntireYear().End; ++date)
-        for (QComboBox* box : {cboFrom, cboTo})
-            box->addItem(FormatDate(date, "ddd dd-mmm-yyyy"), date);
-    Show(FirstPeriod(mode_));
-    for (int month = 0; month < 12; ++month) {
-        optMonth[month]->setEnabled(MonthOfYear(month) != Period());
-        optMonth[month]->setChecked(MonthOfYear(month) == Shown());
-    }
-    optEntireYear->setChecked(EntireYear() == Shown());
+    QRadioButton* option = MakeOption(name, caption);
+    options_->addButton(option);
+    option->setEnabled(period != Period());
+    option->setChecked(period == Shown());
+    connect(option, &QRadioButton::clicked, this, [this, period] { Show(period); });
+    return option;
+}
+
+/// Only a report may cover the entire year; a single date has no end and no months.
+void frmSelectPeriod::HideUnasked()
+{
+    if (mode_ == PeriodMode::Range)
+        return;
+    findChild<QWidget*>("optEntireYear")->hide();
+    if (mode_ == PeriodMode::Schedule)
+        return;
+    for (const char* name : {"lblTo", "cboTo", "lblMonths"})
+        findChild<QWidget*>(name)->hide();
+    for (QAbstractButton* option : options_->buttons())
+        option->hide();
 }
 
 Period frmSelectPeriod::Shown() const

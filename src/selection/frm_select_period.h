@@ -1,19 +1,12 @@
 #pragma once
 
+#include "foundation/frm_base.h"
 #include "selection/period_choice.h"
 
-#include <QDialog>
-
-#include <array>
-
 class QButtonGroup;
-class QComboBox;
-class QLabel;
-class QPushButton;
-class QRadioButton;
 
 /// Lets the user choose a period of the fiscal year, or the one day from which a change counts.
-class frmSelectPeriod : public QDialog
+class frmSelectPeriod : public FormBase
 {
 public:
     explicit frmSelectPeriod(PeriodMode mode = PeriodMode::Range, QWidget* parent = nullptr);
@@ -22,13 +15,14 @@ public:
     int PeriodStart() const { return chosen_.Start; }
     int PeriodEnd() const { return chosen_.End; }
 
+protected:
+    void Form_Activate() override { setFixedSize(size()); }
+
 private:
-    void BuildControls();
-    void BuildOptions();
-    void LayControls();
-    void ConnectControls();
-    void LoadCaptions();
-    void LoadRecords();
+    QLayout* Dates();
+    QLayout* Months();
+    QRadioButton* AddOption(const QString& name, const Text& caption, const Period& period);
+    void HideUnasked();
     Period Shown() const;
     void Show(const Period& period);
     void ClearOptions();
@@ -38,16 +32,7 @@ private:
 
     const PeriodMode mode_;
     Period chosen_;
-    bool Loading = false;
-    QLabel* lblInstructions = nullptr;
-    QLabel* lblFrom = nullptr;
-    QLabel* lblTo = nullptr;
-    QLabel* lblMonths = nullptr;
-    QComboBox* cboFrom = nullptr;
-    QComboBox* cboTo = nullptr;
-    QButtonGroup* options_ = nullptr;
-    QRadioButton* optEntireYear = nullptr;
-    std::array<QRadioButton*, 12> optMonth{}; ///< 0 January
-    QPushButton* cmdOK = nullptr;
-    QPushButton* cmdCancel = nullptr;
+    QComboBox* cboFrom;
+    QComboBox* cboTo;
+    QButtonGroup* options_; ///< the entire year, and its months
 };

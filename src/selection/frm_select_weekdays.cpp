@@ -1,47 +1,35 @@
 #include "selection/frm_select_weekdays.h"
 
-#include "foundation/session_state.h"
-#include "foundation/texts.h"
-#include "platform/controls/form_kit.h"
 #include "selection/frm_weekday_boxes.h"
-
-#include <QLabel>
-#include <QPushButton>
 
 #include <algorithm>
 
-frmSelectWeekdays::frmSelectWeekdays(QWidget* parent) : QDialog(parent), boxes_(new WeekdayBoxes)
+namespace
 {
-    setObjectName("frmSelectWeekdays");
-    setWindowTitle(T("Selection of weekdays", "Sélection des jours de la semaine"));
-    boxes_->SetChecked({false, true, true, true, true, true, false});
-    auto* lblInstructions = AsHead(
-        Named<QLabel>("lblInstructions", T("Days of the week to be included:", "Jours de la semaine à inclure:")));
-    auto* cmdOK = AsMainButton(Named<QPushButton>("cmdOK", T("&OK", "&OK")));
-    auto* cmdCancel = Named<QPushButton>("cmdCancel", T("&Cancel", "&Annuler"));
-    connect(cmdOK, &QPushButton::clicked, this, &frmSelectWeekdays::cmdOK_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmSelectWeekdays::reject);
+constexpr int kBoxesGap = 12;
+}
 
-    auto* content = new QVBoxLayout;
-    content->setSpacing(12);
-    content->addWidget(lblInstructions);
-    content->addWidget(boxes_);
-    QVBoxLayout* page = PageLayout(this);
-    page->addWidget(MakeCard(content));
-    page->addLayout(ButtonRow({cmdCancel, cmdOK}));
+frmSelectWeekdays::frmSelectWeekdays(QWidget* parent) : FormBase("frmSelectWeekdays", parent), boxes_(new WeekdayBoxes)
+{
+    SetTitle(this, {"Selection of weekdays", "Sélection des jours de la semaine"});
+    boxes_->SetChecked({false, true, true, true, true, true, false});
+    QLabel* lblInstructions =
+        MakeLabel("lblInstructions", {"Days of the week to be included:", "Jours de la semaine à inclure:"});
+    Page()->addWidget(MakeCard(Column(kBoxesGap, {AsHead(lblInstructions), boxes_})));
+    LayFoot({AddWayOut(), AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { cmdOK_Click(); })});
 }
 
 void frmSelectWeekdays::cmdOK_Click()
 {
     if (!boxes_->SomeDayIsChecked())
         return;
-    const std::array<bool, 7> checked = boxes_->Checked();
-    std::copy(checked.begin(), checked.end(), SessionState.SelectedWeekdays.begin());
+    std::ranges::copy(boxes_->Checked(), weekdays_.begin());
+    SessionState.SelectedWeekdays = weekdays_;
     accept();
 }
 
 void frmSelectWeekdays::reject()
 {
     SessionState.SelectedWeekdays.fill(0);
-    QDialog::reject();
+    FormBase::reject();
 }

@@ -43,11 +43,3 @@ bool FitsSchedule(const Period& period)
 {
     return period.End - period.Start < kScheduleDays;
 }
-
-QStringList MonthNames()
-{
-    return SessionState.English ? QStringList{"January", "February", "March",     "April",   "May",      "June",
-                                              "July",    "August",   "September", "October", "November", "December"}
-                                : QStringList{"Janvier", "Février", "Mars",      "Avril",   "Mai",      "Juin",
-                                              "Juillet", "Août",    "Septembre", "Octobre", "Novembre", "Décembre"};
-}

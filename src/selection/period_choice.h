@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QStringList>
-
 /// What a period is chosen for.
 enum class PeriodMode
 {
@@ -28,5 +26,3 @@ Period MonthOfYear(int month);
 Period FirstPeriod(PeriodMode mode);
 /// A schedule has a column for each day.
 bool FitsSchedule(const Period& period);
-/// January to December in the session's language.
-QStringList MonthNames();

@@ -1,10 +1,7 @@
 #include "setup/frm_set_up_wizard.h"
 
 #include "foundation/common_services.h"
-#include "foundation/texts.h"
-#include "platform/controls/form_kit.h"
 #include "platform/program.h"
-#include "setup/database_relocation.h"
 #include "setup/frm_step_administrator.h"
 #include "setup/frm_step_categories.h"
 #include "setup/frm_step_database.h"
@@ -13,7 +10,6 @@
 #include "setup/frm_step_language.h"
 #include "setup/installation.h"
 
-#include <QRadioButton>
 #include <QStackedWidget>
 
 namespace
@@ -23,11 +19,19 @@ constexpr int kLastStep = 6;
 constexpr int kNameInSummary = 20; // characters of the fiscal year's name
 constexpr QSize kSize(940, 480);
 
+constexpr Text kTitle = {"Initial configuration", "Configuration initiale"};
+constexpr Text kStep = {"Step {n} of {last}", "Étape {n} de {last}"};
+constexpr Text kCancel = {"&Cancel", "&Annuler"};
+constexpr Text kPrevious = {"&Previous", "&Précédent"};
+constexpr Text kNext = {"&Next", "&Suivant"};
+constexpr Text kFinish = {"FINISH", "TERMINER"};
+
 /// Until a language is chosen the wizard speaks both.
-QString Bilingual(const char* english, const char* french, const char* between = "  -  ")
+QString Bilingual(const Text& text, const char* between = "  -  ")
 {
-    return QString::fromUtf8(english) + between + QString::fromUtf8(french);
+    return QString::fromUtf8(text.English) + between + QString::fromUtf8(text.French);
 }
+
 /// The first field of a step, if it has one.
 QWidget* FirstField(const QWidget* step)
 {
@@ -36,54 +40,49 @@ QWidget* FirstField(const QWidget* step)
             return field;
     return nullptr;
 }
+
+/// A form that cannot be used while it lives.
+class DisabledForm
+{
+public:
+    explicit DisabledForm(QWidget* form) : form_(form) { form->setEnabled(false); }
+    ~DisabledForm() { form_->setEnabled(true); }
+    DisabledForm(const DisabledForm&) = delete;
+    DisabledForm& operator=(const DisabledForm&) = delete;
+
+private:
+    QWidget* form_;
+};
 } // namespace
 
 frmSetUpWizard::frmSetUpWizard(std::function<void()> startNormally, QWidget* parent)
-    : QDialog(parent), startNormally_(std::move(startNormally))
+    : FormBase("frmSetUpWizard", parent), startNormally_(std::move(startNormally)),
+      lblTitle(AsFigure(WrappedLabel("lblTitle"))), lblStep(AsCaption(MakeLabel("lblStep"))), steps_(new QStackedWidget)
 {
-    BuildControls();
-    ConnectControls();
-    LoadCaptions();
-    GoToStep(1);
-}
-
-void frmSetUpWizard::BuildControls()
-{
-    setObjectName("frmSetUpWizard");
-    lblTitle = AsFigure(WrappedLabel("lblTitle"));
-    lblStep = AsCaption(Named<QLabel>("lblStep"));
-    steps_ = new QStackedWidget;
-    databaseStep_ = new DatabaseStep(choices_);
-    for (WizardStep* step : std::initializer_list<WizardStep*>{
-             new LanguageStep(choices_), new KindStep(choices_), databaseStep_, new FiscalYearStep(choices_),
-             new CategoriesStep(choices_), new AdministratorStep(choices_)})
-        steps_->addWidget(step);
-    cmdCancel = Named<QPushButton>("cmdCancel");
-    cmdPrevious = Named<QPushButton>("cmdPrevious");
-    cmdNext = AsMainButton(Named<QPushButton>("cmdNext"));
-
     auto* head = new QHBoxLayout;
     head->addWidget(lblTitle, 1);
     head->addWidget(lblStep, 0, Qt::AlignBottom);
-    auto* card = new QVBoxLayout;
-    card->addWidget(steps_);
-    auto* foot = ButtonRow({cmdPrevious, cmdNext});
-    foot->insertWidget(0, cmdCancel);
-    QVBoxLayout* page = PageLayout(this);
-    page->addLayout(head);
-    page->addWidget(MakeCard(card), 1);
-    page->addLayout(foot);
+    Page()->addLayout(head);
+    AddSteps();
+    Page()->addWidget(MakeCard(Column(0, {steps_})), 1);
+    cmdCancel = AddButton("cmdCancel", kCancel, [this] { cmdCancel_Click(); });
+    cmdPrevious = AddButton("cmdPrevious", kPrevious, [this] { cmdPrevious_Click(); });
+    cmdNext = AddMainButton("cmdNext", kNext, [this] { cmdNext_Click(); });
+    LayFoot({cmdCancel}, {cmdPrevious, cmdNext});
     resize(kSize);
+    GoToStep(1);
 }
 
-void frmSetUpWizard::ConnectControls()
+void frmSetUpWizard::AddSteps()
 {
-    connect(cmdNext, &QPushButton::clicked, this, &frmSetUpWizard::cmdNext_Click);
-    connect(cmdPrevious, &QPushButton::clicked, this, &frmSetUpWizard::cmdPrevious_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmSetUpWizard::cmdCancel_Click);
-    for (WizardStep* step : steps_->findChildren<WizardStep*>())
+    auto* language = new LanguageStep(choices_);
+    connect(language, &LanguageStep::LanguageChosen, this, &frmSetUpWizard::ChooseLanguage);
+    for (WizardStep* step : std::initializer_list<WizardStep*>{
+             language, new KindStep(choices_), new DatabaseStep(choices_), new FiscalYearStep(choices_),
+             new CategoriesStep(choices_), new AdministratorStep(choices_)}) {
+        steps_->addWidget(step);
         connect(step, &WizardStep::Changed, this, &frmSetUpWizard::UpdateButtons);
-    connect(steps_->findChild<LanguageStep*>(), &LanguageStep::LanguageChosen, this, &frmSetUpWizard::ChooseLanguage);
+    }
 }
 
 void frmSetUpWizard::ChooseLanguage()
@@ -95,67 +94,30 @@ void frmSetUpWizard::ChooseLanguage()
 
 void frmSetUpWizard::LoadCaptions()
 {
-    const auto text = [this](const char* english, const char* french) {
-        return languageChosen_ ? T(english, french) : Bilingual(english, french);
-    };
-    setWindowTitle(text("Initial configuration", "Configuration initiale"));
-    cmdCancel->setText(text("&Cancel", "&Annuler"));
-    cmdPrevious->setText(text("&Previous", "&Précédent"));
-    lblStep->setText(Fill(text("Step {n} of {last}", "Étape {n} de {last}"),
-                          {{"n", QString::number(CurrentStep)}, {"last", QString::number(LastStep())}}));
-    cmdNext->setText(IsLastStep() ? text("FINISH", "TERMINER") : text("&Next", "&Suivant"));
-    for (WizardStep* step : steps_->findChildren<WizardStep*>())
-        step->LoadCaptions();
+    const auto text = [this](const Text& caption) { return languageChosen_ ? T(caption) : Bilingual(caption); };
+    Retranslate(this);
+    setWindowTitle(text(kTitle));
+    cmdCancel->setText(text(kCancel));
+    cmdPrevious->setText(text(kPrevious));
+    cmdNext->setText(text(IsLastStep() ? kFinish : kNext));
+    lblStep->setText(Fill(text(kStep), {{"n", QString::number(CurrentStep)}, {"last", QString::number(LastStep())}}));
 }
 
-void frmSetUpWizard::ShowStep_01()
+WizardStep* frmSetUpWizard::Step() const
 {
-    ShowStep(1, Bilingual("WELCOME TO Tarvell", "BIENVENUE À Tarvell"));
-}
-
-void frmSetUpWizard::ShowStep_02()
-{
-    ShowStep(2, T("KIND OF INSTALLATION", "TYPE D'INSTALLATION"));
-}
-
-void frmSetUpWizard::ShowStep_03()
-{
-    ShowStep(kDatabaseStep, databaseStep_->Title());
-}
-
-void frmSetUpWizard::ShowStep_04()
-{
-    ShowStep(4, T("CREATING YOUR FIRST FISCAL YEAR", "CRÉATION DE VOTRE PREMIÈRE ANNÉE FISCALE"));
-}
-
-void frmSetUpWizard::ShowStep_05()
-{
-    ShowStep(5, T("BASIC CATEGORIES OF ATTENDANCE", "CATÉGORIES D'ABSENTÉISME DE BASE"));
-}
-
-void frmSetUpWizard::ShowStep_06()
-{
-    ShowStep(kLastStep, T("SYSTEM ADMINISTRATOR IDENTIFICATION", "IDENTIFICATION DE L'ADMINISTRATEUR DU SYSTÈME"));
-}
-
-void frmSetUpWizard::ShowStep(int step, const QString& title)
-{
-    CurrentStep = step;
-    lblTitle->setText(title);
-    steps_->setCurrentIndex(step - 1);
-    LoadCaptions();
-    static_cast<WizardStep*>(steps_->currentWidget())->ShowChoices();
-    UpdateButtons();
-    QWidget* field = FirstField(steps_->currentWidget());
-    (field ? field : cmdNext)->setFocus();
+    return static_cast<WizardStep*>(steps_->currentWidget());
 }
 
 void frmSetUpWizard::GoToStep(int step)
 {
-    constexpr void (frmSetUpWizard::*show[kLastStep])() = {&frmSetUpWizard::ShowStep_01, &frmSetUpWizard::ShowStep_02,
-                                                           &frmSetUpWizard::ShowStep_03, &frmSetUpWizard::ShowStep_04,
-                                                           &frmSetUpWizard::ShowStep_05, &frmSetUpWizard::ShowStep_06};
-    (this->*show[step - 1])();
+    CurrentStep = step;
+    steps_->setCurrentIndex(step - 1);
+    lblTitle->setText(Step()->Title());
+    LoadCaptions();
+    Step()->ShowChoices();
+    UpdateButtons();
+    QWidget* field = FirstField(Step());
+    (field ? field : cmdNext)->setFocus();
 }
 
 /// An existing database needs no rows of the wizard's.
@@ -172,16 +134,14 @@ bool frmSetUpWizard::IsLastStep() const
 void frmSetUpWizard::UpdateButtons()
 {
     cmdPrevious->setVisible(CurrentStep > 1);
-    cmdNext->setEnabled(static_cast<WizardStep*>(steps_->currentWidget())->IsComplete());
+    cmdNext->setEnabled(Step()->IsComplete());
 }
 
 void frmSetUpWizard::cmdNext_Click()
 {
     // The button's letter leaves the focus in the field: it must have its say before the step is left.
     cmdNext->setFocus();
-    if (!cmdNext->isEnabled())
-        return;
-    if (CurrentStep == kDatabaseStep && !IsDatabaseAccepted())
+    if (!cmdNext->isEnabled() || !Step()->IsAccepted())
         return;
     if (IsLastStep())
         Finish();
@@ -202,49 +162,18 @@ void frmSetUpWizard::cmdCancel_Click()
 
 bool frmSetUpWizard::ConfirmCancelling() const
 {
-    const char* english =
+    constexpr Text kQuestion = {
         "If you interrupt the configuration now, it will start from the beginning the next time you start "
-        "Tarvell.\r\n\r\nDo you really want to interrupt the initial configuration of Tarvell?";
-    const char* french =
+        "Tarvell.\r\n\r\nDo you really want to interrupt the initial configuration of Tarvell?",
         "Si vous interrompez la configuration maintenant, elle reprendra du début la prochaine fois que vous "
-        "démarrerez Tarvell.\r\n\r\nSouhaitez-vous vraiment interrompre la configuration initiale de Tarvell?";
+        "démarrerez Tarvell.\r\n\r\nSouhaitez-vous vraiment interrompre la configuration initiale de Tarvell?"};
+    constexpr Text kWarning = {"WARNING:", "ATTENTION:"};
     if (languageChosen_)
-        return Ask(T("WARNING:", "ATTENTION:"), T(english, french), Face::Warning);
-    return ShowMessage({.Text = Bilingual(english, french, "\r\n\r\n"),
-                        .Title = Bilingual("WARNING:", "ATTENTION:"),
+        return Ask(T(kWarning), T(kQuestion), Face::Warning);
+    return ShowMessage({.Text = Bilingual(kQuestion, "\r\n\r\n"),
+                        .Title = Bilingual(kWarning),
                         .Set = Buttons::Custom2,
                         .Captions = {"Yes  -  Oui", "No  -  Non"}}) == MessageCode::First;
-}
-
-/// An existing database must have a fiscal year, and a new one must not: its rows would mix with those of others.
-bool frmSetUpWizard::IsDatabaseAccepted()
-{
-    if (IsServer(choices_.Kind))
-        return true;
-    try {
-        const bool isEmpty = IsDatabaseEmpty(choices_.NewDatabasePath);
-        if (isEmpty == IsNew(choices_.Kind))
-            return true;
-        if (isEmpty)
-            Tell(T("ERROR:", "ERREUR:"),
-                 Fill(T("The database you intend to use ({path}) is currently empty! If you are not certain where your "
-                        "actual database resides, please ask your network administrator.",
-                        "La banque de données que vous souhaitez exploiter ({path}) est présentement vide! Si vous "
-                        "n'êtes pas certain de l'endroit où se trouve votre banque de données, veuillez consulter "
-                        "votre administrateur de réseau."),
-                      {{"path", ShownPath(choices_.NewDatabasePath)}}),
-                 Face::Warning);
-        else
-            Tell(T("DATABASE NOT EMPTY:", "BANQUE DE DONNÉES NON VIDE:"),
-                 T("If you are trying to connect to an EXISTING database then you should go back one step (click "
-                   "«Previous») and select the appropriate option.",
-                   "Si vous tentez de vous connecter à une banque de données EXISTANTE, vous devriez alors revenir à "
-                   "l'étape précédente (cliquez sur «Précédent») et sélectionner l'option appropriée."),
-                 Face::Warning);
-    } catch (const RuntimeError& error) {
-        TellError(error);
-    }
-    return false;
 }
 
 void frmSetUpWizard::Finish()
@@ -261,11 +190,7 @@ void frmSetUpWizard::Finish()
 
 void frmSetUpWizard::NetworkInstallationCompleted()
 {
-    try {
-        ConfigureWorkstation(choices_);
-    } catch (const RuntimeError& error) {
-        return TellError(error);
-    }
+    ConfigureWorkstation(choices_);
     StartNormally();
 }
 
@@ -283,15 +208,11 @@ void frmSetUpWizard::Configure(const QString& databaseType, void (*install)(Data
 {
     if (!ConfirmConfiguration(databaseType))
         return;
-    setEnabled(false);
-    try {
+    {
+        const DisabledForm disabled(this);
         const BusyPointer hourglass;
         install(datAbsence, choices_);
-    } catch (const RuntimeError& error) {
-        setEnabled(true);
-        return TellError(error);
     }
-    setEnabled(true);
     Tell(T("CONFIGURATION COMPLETED SUCCESSFULLY:", "CONFIGURATION INITIALE COMPLÉTÉE:"),
          T("You have successfully completed the initial configuration of Tarvell. Before you can start using the "
            "software to record absences, you will be required to: \r\n\r\n - Identify the various organizations "
@@ -310,23 +231,23 @@ void frmSetUpWizard::Configure(const QString& databaseType, void (*install)(Data
 bool frmSetUpWizard::ConfirmConfiguration(const QString& databaseType) const
 {
     return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
-               Fill(T("Is the configuration of your database completed?\r\n\r\n"
-                      "Database type:\t{type}\r\n"
-                      "Fiscal year:  \t{name}  Start: {start}  End: {end}\r\n"
-                      "Administrator:\t{first} {family}\r\n"
-                      "Username:     \tADMIN    Password: {password}",
-                      "La configuration de votre banque de données est-elle complétée?\r\n\r\n"
-                      "Type de banque de données:\t{type}\r\n"
-                      "Année fiscale:\t{name}  Début: {start}  Fin: {end}\r\n"
-                      "Administrateur:\t{first} {family}\r\n"
-                      "Nom d'usager:\tADMIN    Mot-clé: {password}"),
-                    {{"type", databaseType},
-                     {"name", choices_.FiscalYearName.left(kNameInSummary)},
-                     {"start", FormatDate(choices_.FiscalYearStart, "dd-mmm-yyyy")},
-                     {"end", FormatDate(choices_.FiscalYearEnd, "dd-mmm-yyyy")},
-                     {"first", choices_.AdminFirstName},
-                     {"family", choices_.AdminFamilyName},
-                     {"password", choices_.AdminPassword}}));
+               T({"Is the configuration of your database completed?\r\n\r\n"
+                  "Database type:\t{type}\r\n"
+                  "Fiscal year:  \t{name}  Start: {start}  End: {end}\r\n"
+                  "Administrator:\t{first} {family}\r\n"
+                  "Username:     \tADMIN    Password: {password}",
+                  "La configuration de votre banque de données est-elle complétée?\r\n\r\n"
+                  "Type de banque de données:\t{type}\r\n"
+                  "Année fiscale:\t{name}  Début: {start}  Fin: {end}\r\n"
+                  "Administrateur:\t{first} {family}\r\n"
+                  "Nom d'usager:\tADMIN    Mot-clé: {password}"},
+                 {{"type", databaseType},
+                  {"name", choices_.FiscalYearName.left(kNameInSummary)},
+                  {"start", FormatDate(choices_.FiscalYearStart, "dd-mmm-yyyy")},
+                  {"end", FormatDate(choices_.FiscalYearEnd, "dd-mmm-yyyy")},
+                  {"first", choices_.AdminFirstName},
+                  {"family", choices_.AdminFamilyName},
+                  {"password", choices_.AdminPassword}}));
 }
 
 void frmSetUpWizard::StartNormally()

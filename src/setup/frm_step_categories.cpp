@@ -1,13 +1,5 @@
 #include "setup/frm_step_categories.h"
 
-#include "foundation/texts.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
-
-#include <QCheckBox>
-#include <QGridLayout>
-#include <QLineEdit>
-
 namespace
 {
 constexpr int kCategoryNameLimit = 75;
@@ -16,26 +8,56 @@ constexpr int kMinuteDigits = 2;
 constexpr int kLastMinute = 59;
 constexpr int kDigitsWidth = 44;
 constexpr int kNameWidth = 150;
+constexpr int kColumnGap = 18;
+constexpr int kLineGap = 14;
+constexpr int kUnitGap = 4;
+constexpr int kFirstLine = 2; // of the grid, below the help
 
 struct BasicCategory
 {
     const char* Suffix; ///< of the controls' names
-    const char* English;
-    const char* French;
+    Text Name;
 };
 
-constexpr BasicCategory kCategories[] = {{"Vacation", "Vacation", "Vacances"},
-                                         {"Sick", "Sick", "Maladie"},
-                                         {"PersonalTime", "Personal time", "Temps personnel"},
-                                         {"Doctor", "Doctor appointments", "Rendez-vous médical"}};
+constexpr BasicCategory kCategories[] = {{"Vacation", {"Vacation", "Vacances"}},
+                                         {"Sick", {"Sick", "Maladie"}},
+                                         {"PersonalTime", {"Personal time", "Temps personnel"}},
+                                         {"Doctor", {"Doctor appointments", "Rendez-vous médical"}}};
+
+constexpr Text kCategoriesHelp = {
+    "Tarvell supports four basic categories of attendance, which are used by most businesses and institutions. They "
+    "are the following: Vacation, Sick, Personal time and Doctor appointments. Though Tarvell lets you create as many "
+    "categories as you want, you are required to specify how these four basic categories will be managed in your own "
+    "environment.",
+    "Tarvell comporte quatre catégories d'absentéisme de base, utilisées dans la plupart des entreprises et "
+    "institutions. Ce sont les suivantes: Vacances, Maladie, Temps personnel et Rendez-vous médical. Bien que Tarvell "
+    "vous permette de créer autant de catégories que vous le souhaitez, vous devez spécifier comment ces quatre "
+    "catégories de base seront gérées dans votre propre environnement."};
+
+/// What the lines of the grid ask, at its left.
+enum Line
+{
+    NameLine,
+    TimeLine,
+    VariesLine,
+    NoEntitlementLine,
+    CarryOverLine
+};
+constexpr Text kLines[] = {
+    {"Name of the category", "Nom de la catégorie"},
+    {"All employees are entitled to the same amount of time",
+     "Tous les employés ont droit à la même quantité de temps"},
+    {"Annual entitlement may vary between employees",
+     "Le temps alloué annuellement peut varier d'un employé à l'autre"},
+    {"No annual entitlement for this category", "Aucun temps n'est alloué annuellement pour cette catégorie"},
+    {"Balance of entitlements may be carried over at the end of the year",
+     "Le solde du temps alloué peut être transféré à la fin de l'année"}};
 
 QLineEdit* DigitsField(const QString& name, int digits)
 {
-    auto* field = Named<QLineEdit>(name);
-    field->setMaxLength(digits);
+    QLineEdit* field = MakeField(name, KeyFilter::WholeNumber, digits);
     field->setFixedWidth(kDigitsWidth);
     field->setAlignment(Qt::AlignRight);
-    FilterKeys(field, KeyFilter::WholeNumber);
     return field;
 }
 
@@ -47,105 +69,115 @@ void ShowNumber(QLineEdit* field, int value)
 }
 } // namespace
 
-CategoriesStep::CategoriesStep(SetUpChoices& choices) : WizardStep("fraStep5", choices)
+CategoriesStep::CategoriesStep(SetUpChoices& choices)
+    : WizardStep("fraStep5", {"BASIC CATEGORIES OF ATTENDANCE", "CATÉGORIES D'ABSENTÉISME DE BASE"}, choices)
 {
-    lblCategoriesHelp = WrappedLabel("lblCategoriesHelp");
     auto* content = new QGridLayout(this);
-    content->setHorizontalSpacing(18);
-    content->setVerticalSpacing(14);
-    content->addWidget(lblCategoriesHelp, 0, 0, 1, 5);
-    content->setRowMinimumHeight(1, 4);
-    for (int row = 0; row < static_cast<int>(lblRow.size()); ++row) {
-        lblRow[row] = WrappedLabel(ArrayName("lblRow", row));
-        content->addWidget(lblRow[row], row + 2, 0);
+    content->setHorizontalSpacing(kColumnGap);
+    content->setVerticalSpacing(kLineGap);
+    content->addWidget(WrappedLabel("lblCategoriesHelp", kCategoriesHelp), 0, 0, 1, 5);
+    content->setRowMinimumHeight(1, kUnitGap);
+    for (int line = NameLine; line <= CarryOverLine; ++line) {
+        QLabel* lblRow = WrappedLabel(ArrayName("lblRow", line), kLines[line]);
+        content->addWidget(line == NameLine ? AsHead(lblRow) : lblRow, kFirstLine + line, 0);
     }
-    AsHead(lblRow[0]);
-    for (int index = 0; index < static_cast<int>(columns_.size()); ++index) {
+    for (int index = 0; index < static_cast<int>(columns_.size()); ++index)
         BuildColumn(index, content);
-        ConnectColumn(index);
-    }
     content->setColumnStretch(0, 1);
-    content->setRowStretch(static_cast<int>(lblRow.size()) + 2, 1);
+    content->setRowStretch(content->rowCount(), 1);
 }
 
 void CategoriesStep::BuildColumn(int index, QGridLayout* grid)
 {
-    const QString suffix = kCategories[index].Suffix;
+    const auto& [suffix, name] = kCategories[index];
+    const QString chk = QLatin1String("chk") + suffix;
     Column& column = columns_[index];
-    column.Name = Named<QLineEdit>("txt" + suffix);
-    column.Name->setMaxLength(kCategoryNameLimit);
+    column.Choice = &choices_.Categories[index];
+    column.Name = MakeField(QLatin1String("txt") + suffix, KeyFilter::CategoryName, kCategoryNameLimit);
     column.Name->setFixedWidth(kNameWidth);
-    FilterKeys(column.Name, KeyFilter::CategoryName);
-    column.Hours = DigitsField("txtHours_" + suffix, kHourDigits);
-    column.Minutes = DigitsField("txtMinutes_" + suffix, kMinuteDigits);
-    column.HoursUnit = AsCaption(Named<QLabel>("lblHours_" + suffix));
-    column.MinutesUnit = AsCaption(Named<QLabel>("lblMinutes_" + suffix));
-    column.Varies = Named<QCheckBox>("chk" + suffix + "_EntitlementVaries");
-    column.NoEntitlement = Named<QCheckBox>("chk" + suffix + "_NoEntitlement");
-    column.CarryOver = Named<QCheckBox>("chk" + suffix + "_CarryOver");
+    column.Hours = DigitsField(QLatin1String("txtHours_") + suffix, kHourDigits);
+    column.Minutes = DigitsField(QLatin1String("txtMinutes_") + suffix, kMinuteDigits);
+    column.Varies = Named<QCheckBox>(chk + "_EntitlementVaries");
+    column.NoEntitlement = Named<QCheckBox>(chk + "_NoEntitlement");
+    column.CarryOver = Named<QCheckBox>(chk + "_CarryOver");
 
     auto* time = new QHBoxLayout;
-    time->setSpacing(4);
+    time->setSpacing(kUnitGap);
     time->addWidget(column.Hours);
-    time->addWidget(column.HoursUnit);
-    time->addSpacing(4);
+    time->addWidget(AsCaption(MakeLabel(QLatin1String("lblHours_") + suffix, {"h", "h"})));
+    time->addSpacing(kUnitGap);
     time->addWidget(column.Minutes);
-    time->addWidget(column.MinutesUnit);
+    time->addWidget(AsCaption(MakeLabel(QLatin1String("lblMinutes_") + suffix, {"min", "min"})));
     time->addStretch();
-    grid->addWidget(column.Name, 2, index + 1);
-    grid->addLayout(time, 3, index + 1);
-    grid->addWidget(column.Varies, 4, index + 1);
-    grid->addWidget(column.NoEntitlement, 5, index + 1);
-    grid->addWidget(column.CarryOver, 6, index + 1);
+    grid->addWidget(column.Name, kFirstLine + NameLine, index + 1);
+    grid->addLayout(time, kFirstLine + TimeLine, index + 1);
+    grid->addWidget(column.Varies, kFirstLine + VariesLine, index + 1);
+    grid->addWidget(column.NoEntitlement, kFirstLine + NoEntitlementLine, index + 1);
+    grid->addWidget(column.CarryOver, kFirstLine + CarryOverLine, index + 1);
+    ConnectColumn(column);
+    FollowLanguage(column.Name, [&column, name] {
+        if (column.Name->text() == column.Preset)
+            column.Name->setText(column.Preset = T(name));
+        NameControls(column);
+    });
 }
 
-void CategoriesStep::ConnectColumn(int index)
+/// The questions stand once, at the left; a screen reader hears them with each control.
+void CategoriesStep::NameControls(const Column& column)
 {
-    const Column& column = columns_[index];
-    CategoryChoice& category = choices_.Categories[index];
-    connect(column.Name, &QLineEdit::textChanged, this, [this, index] { Name_Change(index); });
-    connect(column.Hours, &QLineEdit::textChanged, this, [this, index] { Time_Change(index); });
-    connect(column.Minutes, &QLineEdit::textChanged, this, [this, index] { Time_Change(index); });
-    connect(column.Minutes, &QLineEdit::editingFinished, this, [this, index] { Minutes_LostFocus(index); });
-    connect(column.Varies, &QCheckBox::clicked, this, [this, index, &category](bool checked) {
-        CheckEntitlementVaries(category, checked);
-        ShowCategory(index);
-    });
-    connect(column.NoEntitlement, &QCheckBox::clicked, this, [this, index, &category](bool checked) {
-        CheckNoEntitlement(category, checked);
-        ShowCategory(index);
-    });
+    const std::pair<QWidget*, Text> controls[] = {{column.Hours, {"Hours", "Heures"}},
+                                                  {column.Minutes, {"Minutes", "Minutes"}},
+                                                  {column.Varies, kLines[VariesLine]},
+                                                  {column.NoEntitlement, kLines[NoEntitlementLine]},
+                                                  {column.CarryOver, kLines[CarryOverLine]}};
+    column.Name->setAccessibleName(T(kLines[NameLine]));
+    for (const auto& [control, text] : controls) {
+        control->setAccessibleName(column.Name->text() + ": " + T(text));
+        control->setToolTip(T(text));
+    }
+}
+
+void CategoriesStep::ConnectColumn(Column& column)
+{
+    CategoryChoice& category = *column.Choice;
+    const auto connectBox = [this, &column, &category](QCheckBox* box, void (*check)(CategoryChoice&, bool)) {
+        connect(box, &QCheckBox::clicked, this, [this, &column, &category, check](bool checked) {
+            check(category, checked);
+            ShowCategory(column);
+        });
+    };
+    connectBox(column.Varies, CheckEntitlementVaries);
+    connectBox(column.NoEntitlement, CheckNoEntitlement);
     connect(column.CarryOver, &QCheckBox::clicked, this, [&category](bool checked) { category.CarryOver = checked; });
+    connect(column.Name, &QLineEdit::textChanged, this, [this, &column] { Name_Change(column); });
+    for (QLineEdit* field : {column.Hours, column.Minutes})
+        connect(field, &QLineEdit::textChanged, this, [this, &column] { Time_Change(column); });
+    connect(column.Minutes, &QLineEdit::editingFinished, this, [field = column.Minutes] {
+        if (field->text().toInt() > kLastMinute)
+            field->clear();
+    });
 }
 
-void CategoriesStep::Name_Change(int index)
+void CategoriesStep::Name_Change(const Column& column)
 {
-    choices_.Categories[index].Name = columns_[index].Name->text().trimmed();
-    LoadColumnCaptions(index);
+    column.Choice->Name = column.Name->text().trimmed();
+    NameControls(column);
     emit Changed();
 }
 
-void CategoriesStep::Time_Change(int index)
+void CategoriesStep::Time_Change(const Column& column)
 {
     if (Loading)
         return;
-    EnterTime(choices_.Categories[index], columns_[index].Hours->text().toInt(),
-              columns_[index].Minutes->text().toInt());
-    ShowCategory(index);
+    EnterTime(*column.Choice, column.Hours->text().toInt(), column.Minutes->text().toInt());
+    ShowCategory(column);
 }
 
-void CategoriesStep::Minutes_LostFocus(int index)
-{
-    if (columns_[index].Minutes->text().toInt() > kLastMinute)
-        columns_[index].Minutes->clear();
-}
-
-void CategoriesStep::ShowCategory(int index)
+void CategoriesStep::ShowCategory(const Column& column)
 {
     {
         const LoadingGuard loading(Loading);
-        const CategoryChoice& category = choices_.Categories[index];
-        const Column& column = columns_[index];
+        const CategoryChoice& category = *column.Choice;
         const bool timeGiven = category.Hours > 0 || category.Minutes > 0;
         ShowNumber(column.Hours, category.Hours);
         ShowNumber(column.Minutes, category.Minutes);
@@ -157,52 +189,4 @@ void CategoriesStep::ShowCategory(int index)
         column.CarryOver->setEnabled(!category.NoEntitlement);
     }
     emit Changed();
-}
-
-void CategoriesStep::LoadCaptions()
-{
-    lblCategoriesHelp->setText(
-        T("Tarvell supports four basic categories of attendance, which are used by most businesses and institutions. "
-          "They are the following: Vacation, Sick, Personal time and Doctor appointments. Though Tarvell lets you "
-          "create as many categories as you want, you are required to specify how these four basic categories will be "
-          "managed in your own environment.",
-          "Tarvell comporte quatre catégories d'absentéisme de base, utilisées dans la plupart des entreprises et "
-          "institutions. Ce sont les suivantes: Vacances, Maladie, Temps personnel et Rendez-vous médical. Bien que "
-          "Tarvell vous permette de créer autant de catégories que vous le souhaitez, vous devez spécifier comment ces "
-          "quatre catégories de base seront gérées dans votre propre environnement."));
-    lblRow[0]->setText(T("Name of the category", "Nom de la catégorie"));
-    lblRow[1]->setText(T("All employees are entitled to the same amount of time",
-                         "Tous les employés ont droit à la même quantité de temps"));
-    lblRow[2]->setText(T("Annual entitlement may vary between employees",
-                         "Le temps alloué annuellement peut varier d'un employé à l'autre"));
-    lblRow[3]->setText(
-        T("No annual entitlement for this category", "Aucun temps n'est alloué annuellement pour cette catégorie"));
-    lblRow[4]->setText(T("Balance of entitlements may be carried over at the end of the year",
-                         "Le solde du temps alloué peut être transféré à la fin de l'année"));
-    for (int index = 0; index < static_cast<int>(columns_.size()); ++index) {
-        Column& column = columns_[index];
-        column.HoursUnit->setText("h");
-        column.MinutesUnit->setText("min");
-        if (column.Name->text() == column.Preset) {
-            column.Preset = T(kCategories[index].English, kCategories[index].French);
-            column.Name->setText(column.Preset);
-        }
-        LoadColumnCaptions(index);
-    }
-}
-
-/// The rows' questions stand once, at the left; a screen reader hears them with each control.
-void CategoriesStep::LoadColumnCaptions(int index)
-{
-    const Column& column = columns_[index];
-    const auto speak = [&column](QWidget* control, const QString& text) {
-        control->setAccessibleName(column.Name->text() + ": " + text);
-        control->setToolTip(text);
-    };
-    column.Name->setAccessibleName(lblRow[0]->text());
-    speak(column.Hours, T("Hours", "Heures"));
-    speak(column.Minutes, T("Minutes", "Minutes"));
-    speak(column.Varies, lblRow[2]->text());
-    speak(column.NoEntitlement, lblRow[3]->text());
-    speak(column.CarryOver, lblRow[4]->text());
 }

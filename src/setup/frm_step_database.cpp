@@ -2,43 +2,65 @@
 
 #include "foundation/common_services.h"
 #include "foundation/database_choice.h"
-#include "foundation/texts.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
 #include "setup/database_relocation.h"
 #include "setup/installation.h"
 
-#include <QGridLayout>
 #include <QStackedLayout>
 
 namespace
 {
 constexpr int kDatabaseFieldWidth = 320;
 constexpr int kServerFieldLimit = 50;
+constexpr int kFilePageGap = 12;
+constexpr int kGapBelowHelp = 10;
+constexpr int kPlaceGap = 8;
+
+constexpr Text kHelpOnNew = {
+    "Your database may stay on this computer if you are the only one to use it. If other people are to use Tarvell, "
+    "move it to a network folder that all of them can reach and write to.",
+    "Votre banque de données peut demeurer sur cet ordinateur si vous êtes la seule personne à l'utiliser. Si d'autres "
+    "personnes doivent exploiter Tarvell, déplacez-la dans un répertoire du réseau auquel toutes ont accès, en lecture "
+    "et en écriture."};
+constexpr Text kHelpOnExisting = {
+    "Specify the network folder where your organization keeps its database. If you do not know it, ask your network "
+    "administrator.",
+    "Spécifiez le répertoire du réseau où votre organisation conserve sa banque de données. Si vous ne le connaissez "
+    "pas, informez-vous auprès de votre administrateur de réseau."};
 
 void TellRelocationFailure(const RuntimeError& error)
 {
-    Tell(
-        T("AN ERROR HAS OCCURRED:", "UNE ERREUR EST SURVENUE:"),
-        Fill(
-            T("The following error has occurred as your database was being moved to its new location:\r\n\r\n{number}: "
-              "{description}\r\n\r\nPlease try again and if the problem persists, contact your network administrator.",
-              "L'erreur suivante est survenue lors de la relocalisation de votre banque de données:\r\n\r\n{number}: "
-              "{description}\r\n\r\nVeuillez essayer de nouveau et si le problème persiste, contactez votre "
-              "administrateur de réseau."),
-            {{"number", QString::number(error.Number)}, {"description", error.Description}}),
-        Face::Ashamed);
+    Tell(T("AN ERROR HAS OCCURRED:", "UNE ERREUR EST SURVENUE:"),
+         T({"The following error has occurred as your database was being moved to its new location:\r\n\r\n{number}: "
+            "{description}\r\n\r\nPlease try again and if the problem persists, contact your network administrator.",
+            "L'erreur suivante est survenue lors de la relocalisation de votre banque de données:\r\n\r\n{number}: "
+            "{description}\r\n\r\nVeuillez essayer de nouveau et si le problème persiste, contactez votre "
+            "administrateur de réseau."},
+           {{"number", QString::number(error.Number)}, {"description", error.Description}}),
+         Face::Ashamed);
 }
 
-void TellDatabaseNotEmpty()
+/// `server` names the kind of database where it is one on a server.
+void TellDatabaseNotEmpty(const QString& server = {})
 {
-    Tell(
-        T("DATABASE NOT EMPTY:", "BANQUE DE DONNÉES NON VIDE:"),
-        T("If you are trying to connect to an EXISTING SQL Server database then you should go back one step (click "
-          "«Previous») and select the appropriate option.",
-          "Si vous tentez de vous connecter à une banque de données SQL Server EXISTANTE, vous devriez alors revenir à "
-          "l'étape précédente (cliquez sur «Précédent») et sélectionner l'option appropriée."),
-        Face::Warning);
+    Tell(T("DATABASE NOT EMPTY:", "BANQUE DE DONNÉES NON VIDE:"),
+         T({"If you are trying to connect to an EXISTING {server}database then you should go back one step (click "
+            "«Previous») and select the appropriate option.",
+            "Si vous tentez de vous connecter à une banque de données {server}EXISTANTE, vous devriez alors revenir à "
+            "l'étape précédente (cliquez sur «Précédent») et sélectionner l'option appropriée."},
+           {{"server", server}}),
+         Face::Warning);
+}
+
+void TellDatabaseEmpty(const QString& path)
+{
+    Tell(T("ERROR:", "ERREUR:"),
+         T({"The database you intend to use ({path}) is currently empty! If you are not certain where your actual "
+            "database resides, please ask your network administrator.",
+            "La banque de données que vous souhaitez exploiter ({path}) est présentement vide! Si vous n'êtes pas "
+            "certain de l'endroit où se trouve votre banque de données, veuillez consulter votre administrateur de "
+            "réseau."},
+           {{"path", ShownPath(path)}}),
+         Face::Warning);
 }
 
 void TellInvalidStructure()
@@ -57,32 +79,39 @@ QString FolderOf(const QString& path)
 }
 } // namespace
 
-DatabaseStep::DatabaseStep(SetUpChoices& choices) : WizardStep("fraStep3", choices), pages_(new QStackedLayout(this))
+DatabaseStep::DatabaseStep(SetUpChoices& choices)
+    : WizardStep("fraStep3", {}, choices), pages_(new QStackedLayout(this))
 {
     choices_.NewDatabasePath = OriginalDatabasePath();
     pages_->addWidget(MakeFilePage());
     pages_->addWidget(MakeServerPage());
-    ConnectControls();
+}
+
+template <typename Control>
+Control* DatabaseStep::ByKind(Control* control, const Text& ofNew, const Text& ofExisting)
+{
+    FollowLanguage(control, [=, this] { control->setText(T(IsNew(choices_.Kind) ? ofNew : ofExisting)); });
+    return control;
 }
 
 QWidget* DatabaseStep::MakeFilePage()
 {
-    lblDatabaseHelp = WrappedLabel("lblDatabaseHelp");
-    lblDatabaseHead = AsHead(Named<QLabel>("lblDatabaseHead"));
     lblDatabasePath = WrappedLabel("lblDatabasePath");
     lblDatabasePath->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    cmdRelocateDatabase = Named<QPushButton>("cmdRelocateDatabase");
+    auto* cmdRelocateDatabase =
+        ByKind(Named<QPushButton>("cmdRelocateDatabase"), {"&Relocate database", "&Relocaliser la banque de données"},
+               {"&Specify path to existing database", "Spécifier l'&emplacement de la banque de données existante"});
+    connect(cmdRelocateDatabase, &QPushButton::clicked, this, &DatabaseStep::cmdRelocateDatabase_Click);
+    QLabel* lblDatabaseHead =
+        MakeLabel("lblDatabaseHead", {"Location of the database", "Emplacement de la banque de données"});
+    auto* place = Column(kPlaceGap, {AsHead(lblDatabaseHead), lblDatabasePath});
+    place->addSpacing(kPlaceGap);
+    place->addWidget(cmdRelocateDatabase, 0, Qt::AlignLeft);
     auto* page = new QWidget;
     auto* content = new QVBoxLayout(page);
-    content->setSpacing(12);
-    content->addWidget(lblDatabaseHelp);
-    content->addSpacing(10);
-    auto* place = new QVBoxLayout;
-    place->setSpacing(8);
-    place->addWidget(lblDatabaseHead);
-    place->addWidget(lblDatabasePath);
-    place->addSpacing(8);
-    place->addWidget(cmdRelocateDatabase, 0, Qt::AlignLeft);
+    content->setSpacing(kFilePageGap);
+    content->addWidget(ByKind(WrappedLabel("lblDatabaseHelp"), kHelpOnNew, kHelpOnExisting));
+    content->addSpacing(kGapBelowHelp);
     content->addWidget(MakeCard(place));
     content->addStretch();
     return page;
@@ -90,49 +119,44 @@ QWidget* DatabaseStep::MakeFilePage()
 
 QWidget* DatabaseStep::MakeServerPage()
 {
-    lblServerHead = AsHead(Named<QLabel>("lblServerHead"));
-    cmdTestConnection = Named<QPushButton>("cmdTestConnection");
     auto* page = new QWidget;
-    auto* content = new QGridLayout(page);
-    content->setHorizontalSpacing(16);
-    content->setVerticalSpacing(10);
-    content->addWidget(lblServerHead, 0, 0, 1, 2);
-    const std::pair<QLineEdit**, const char*> fields[] = {{&txtIPAddress, "txtIPAddress"},
-                                                          {&txtUserName, "txtUserName"},
-                                                          {&txtPassword, "txtPassword"},
-                                                          {&txtDatabaseName, "txtDatabaseName"}};
-    int row = 0;
-    for (const auto& [field, name] : fields) {
-        *field = Named<QLineEdit>(name);
-        (*field)->setMaxLength(kServerFieldLimit);
-        (*field)->setFixedWidth(kDatabaseFieldWidth);
-        FilterKeys(*field, KeyFilter::FreeText);
-        labels_[row] = new QLabel;
-        labels_[row]->setBuddy(*field);
-        content->addWidget(labels_[row], row + 1, 0);
-        content->addWidget(*field, row + 1, 1);
-        ++row;
-    }
+    QGridLayout* fields = FieldGrid();
+    page->setLayout(fields);
+    QLabel* lblServerHead = MakeLabel("lblServerHead", {"Microsoft SQL Server connection parameters:",
+                                                        "Paramètres de connexion à Microsoft SQL Server:"});
+    fields->addWidget(AsHead(lblServerHead), 0, 0, 1, 2);
+    txtIPAddress = AddServerField(fields, "txtIPAddress", {"&IP address", "Adresse &IP"});
+    txtUserName = AddServerField(fields, "txtUserName", {"&User name", "Nom d'&usager"});
+    txtPassword = AddServerField(fields, "txtPassword", {"Pass&word", "&Mot-clé"});
+    txtDatabaseName = AddServerField(fields, "txtDatabaseName", {"&Database name", "Nom de la &banque de données"});
     txtPassword->setEchoMode(QLineEdit::Password);
-    content->addWidget(cmdTestConnection, row + 1, 1, Qt::AlignLeft);
-    content->setRowStretch(row + 2, 1);
-    content->setColumnStretch(2, 1);
+    cmdTestConnection = MakeButton("cmdTestConnection", {"&Test connection", "&Tester la connexion"});
+    connect(cmdTestConnection, &QPushButton::clicked, this, &DatabaseStep::cmdTestConnection_Click);
+    fields->addWidget(cmdTestConnection, fields->rowCount(), 1, Qt::AlignLeft);
+    fields->setRowStretch(fields->rowCount(), 1);
+    fields->setColumnStretch(2, 1);
     return page;
 }
 
-void DatabaseStep::ConnectControls()
+QLineEdit* DatabaseStep::AddServerField(QGridLayout* fields, const char* name, const Text& label)
 {
-    connect(cmdRelocateDatabase, &QPushButton::clicked, this, &DatabaseStep::cmdRelocateDatabase_Click);
-    connect(cmdTestConnection, &QPushButton::clicked, this, &DatabaseStep::cmdTestConnection_Click);
-    for (QLineEdit* field : {txtIPAddress, txtUserName, txtPassword, txtDatabaseName})
-        connect(field, &QLineEdit::textChanged, this, [this] {
-            choices_.IPAddress = txtIPAddress->text().trimmed();
-            choices_.UserName = txtUserName->text().trimmed();
-            choices_.Password = txtPassword->text().trimmed();
-            choices_.DatabaseName = txtDatabaseName->text().trimmed();
-            cmdTestConnection->setEnabled(IsServerComplete(choices_));
-            emit Changed();
-        });
+    QLineEdit* field = MakeField(name, KeyFilter::FreeText, kServerFieldLimit);
+    field->setFixedWidth(kDatabaseFieldWidth);
+    connect(field, &QLineEdit::textChanged, this, &DatabaseStep::TakeChoices);
+    const int row = fields->rowCount();
+    fields->addWidget(LabelOf(field, label), row, 0);
+    fields->addWidget(field, row, 1);
+    return field;
+}
+
+void DatabaseStep::TakeChoices()
+{
+    choices_.IPAddress = txtIPAddress->text().trimmed();
+    choices_.UserName = txtUserName->text().trimmed();
+    choices_.Password = txtPassword->text().trimmed();
+    choices_.DatabaseName = txtDatabaseName->text().trimmed();
+    cmdTestConnection->setEnabled(IsServerComplete(choices_));
+    emit Changed();
 }
 
 QString DatabaseStep::Title() const
@@ -144,39 +168,11 @@ QString DatabaseStep::Title() const
                : T("SPECIFYING WHERE THE DATABASE RESIDES", "LOCALISATION DE VOTRE BANQUE DE DONNÉES");
 }
 
-void DatabaseStep::LoadCaptions()
-{
-    const bool isNew = IsNew(choices_.Kind);
-    lblDatabaseHelp->setText(
-        isNew
-            ? T("Your database may stay on this computer if you are the only one to use it. If other people are to use "
-                "Tarvell, move it to a network folder that all of them can reach and write to.",
-                "Votre banque de données peut demeurer sur cet ordinateur si vous êtes la seule personne à l'utiliser. "
-                "Si d'autres personnes doivent exploiter Tarvell, déplacez-la dans un répertoire du réseau auquel "
-                "toutes ont accès, en lecture et en écriture.")
-            : T("Specify the network folder where your organization keeps its database. If you do not know it, ask "
-                "your network administrator.",
-                "Spécifiez le répertoire du réseau où votre organisation conserve sa banque de données. Si vous ne le "
-                "connaissez pas, informez-vous auprès de votre administrateur de réseau."));
-    lblDatabaseHead->setText(T("Location of the database", "Emplacement de la banque de données"));
-    cmdRelocateDatabase->setText(
-        isNew ? T("&Relocate database", "&Relocaliser la banque de données")
-              : T("&Specify path to existing database", "Spécifier l'&emplacement de la banque de données existante"));
-    lblServerHead->setText(
-        T("Microsoft SQL Server connection parameters:", "Paramètres de connexion à Microsoft SQL Server:"));
-    labels_[0]->setText(T("&IP address", "Adresse &IP"));
-    labels_[1]->setText(T("&User name", "Nom d'&usager"));
-    labels_[2]->setText(T("Pass&word", "&Mot-clé"));
-    labels_[3]->setText(T("&Database name", "Nom de la &banque de données"));
-    cmdTestConnection->setText(T("&Test connection", "&Tester la connexion"));
-}
-
 void DatabaseStep::ShowChoices()
 {
     // A database located while "existing" was chosen is in use; a new one never takes its place.
     if (IsNew(choices_.Kind) && !choices_.DatabaseRelocated)
         choices_.NewDatabasePath = OriginalDatabasePath();
-    LoadCaptions();
     pages_->setCurrentIndex(IsServer(choices_.Kind) ? 1 : 0);
     lblDatabasePath->setText(ShownPath(choices_.NewDatabasePath));
     cmdTestConnection->setEnabled(IsServerComplete(choices_));
@@ -185,6 +181,17 @@ void DatabaseStep::ShowChoices()
 bool DatabaseStep::IsComplete() const
 {
     return !IsServer(choices_.Kind) || IsServerComplete(choices_);
+}
+
+bool DatabaseStep::IsAccepted() const
+{
+    if (IsServer(choices_.Kind))
+        return true;
+    const bool isEmpty = IsDatabaseEmpty(choices_.NewDatabasePath);
+    if (isEmpty == IsNew(choices_.Kind))
+        return true;
+    isEmpty ? TellDatabaseEmpty(choices_.NewDatabasePath) : TellDatabaseNotEmpty();
+    return false;
 }
 
 void DatabaseStep::cmdRelocateDatabase_Click()
@@ -246,7 +253,7 @@ void DatabaseStep::cmdTestConnection_Click()
     cmdTestConnection->setEnabled(false);
     try {
         AskServerForFiscalYears();
-        TellDatabaseNotEmpty();
+        TellDatabaseNotEmpty("SQL Server ");
     } catch (const RuntimeError&) {
         TellInvalidStructure();
     }

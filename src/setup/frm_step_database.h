@@ -2,10 +2,6 @@
 
 #include "setup/frm_wizard_step.h"
 
-#include <array>
-
-class QLineEdit;
-class QPushButton;
 class QStackedLayout;
 
 /// The third step: the folder of the database, or how to reach the server.
@@ -13,16 +9,20 @@ class DatabaseStep : public WizardStep
 {
 public:
     explicit DatabaseStep(SetUpChoices& choices);
-    void LoadCaptions() override;
+    /// It depends on the kind of installation, as most captions of this step do.
+    QString Title() const override;
     void ShowChoices() override;
     bool IsComplete() const override;
-    /// The line over the step: it depends on the kind of installation.
-    QString Title() const;
+    /// An existing database must have a fiscal year, and a new one must not: its rows would mix with those of others.
+    bool IsAccepted() const override;
 
 private:
+    template <typename Control>
+    Control* ByKind(Control* control, const Text& ofNew, const Text& ofExisting);
     QWidget* MakeFilePage();
     QWidget* MakeServerPage();
-    void ConnectControls();
+    QLineEdit* AddServerField(QGridLayout* fields, const char* name, const Text& label);
+    void TakeChoices();
     void cmdRelocateDatabase_Click();
     void RelocateDatabase(const QString& path);
     void ConnectToExistingDatabase(const QString& path);
@@ -30,15 +30,10 @@ private:
     void cmdTestConnection_Click();
 
     QStackedLayout* pages_;
-    QLabel* lblDatabaseHelp = nullptr;
-    QLabel* lblDatabaseHead = nullptr;
-    QLabel* lblDatabasePath = nullptr;
-    QPushButton* cmdRelocateDatabase = nullptr;
-    QLabel* lblServerHead = nullptr;
-    std::array<QLabel*, 4> labels_{};
-    QLineEdit* txtIPAddress = nullptr;
-    QLineEdit* txtUserName = nullptr;
-    QLineEdit* txtPassword = nullptr;
-    QLineEdit* txtDatabaseName = nullptr;
-    QPushButton* cmdTestConnection = nullptr;
+    QLabel* lblDatabasePath;
+    QLineEdit* txtIPAddress;
+    QLineEdit* txtUserName;
+    QLineEdit* txtPassword;
+    QLineEdit* txtDatabaseName;
+    QPushButton* cmdTestConnection;
 };

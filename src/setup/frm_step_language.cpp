@@ -1,51 +1,47 @@
 #include "setup/frm_step_language.h"
 
-#include "foundation/session_state.h"
-#include "platform/controls/form_kit.h"
-
-#include <QRadioButton>
-
 namespace
 {
 constexpr int kLogoSize = 72;
-}
+constexpr int kWelcomeGap = 14;
+constexpr int kLanguagesGap = 12;
+/// This step speaks both languages whatever was chosen: a wrong choice must be easy to mend.
+constexpr const char* kWelcome = "WELCOME TO Tarvell  -  BIENVENUE À Tarvell";
+constexpr const char* kQuestion =
+    "In which language would you like to work?\r\nDans quelle langue souhaitez-vous travailler?";
+} // namespace
 
-LanguageStep::LanguageStep(SetUpChoices& choices)
-    : WizardStep("fraStep1", choices), lblWelcome(WrappedLabel("lblWelcome")),
-      optEnglish(Named<QRadioButton>("optEnglish", QStringLiteral("I wish to use Tarvell in &English"))),
-      optFrench(Named<QRadioButton>("optFrench", QStringLiteral("Je compte utiliser Tarvell en &français")))
+LanguageStep::LanguageStep(SetUpChoices& choices) : WizardStep("fraStep1", {kWelcome, kWelcome}, choices)
 {
-    auto* imgLogo = Named<QLabel>("imgLogo");
-    imgLogo->setPixmap(Picture("app", kLogoSize));
-    auto* content = new QVBoxLayout(this);
-    content->setSpacing(14);
-    content->addStretch(1);
-    content->addWidget(imgLogo, 0, Qt::AlignHCenter);
-    content->addWidget(lblWelcome);
-    content->addSpacing(12);
+    QLabel* lblWelcome = WrappedLabel("lblWelcome", {kQuestion, kQuestion});
+    lblWelcome->setAlignment(Qt::AlignHCenter);
     auto* languages = new QVBoxLayout;
-    languages->setSpacing(12);
-    languages->addWidget(optEnglish);
-    languages->addWidget(optFrench);
+    languages->setSpacing(kLanguagesGap);
+    optEnglish = AddLanguage(languages, "optEnglish", "I wish to use Tarvell in &English", true);
+    optFrench = AddLanguage(languages, "optFrench", "Je compte utiliser Tarvell en &français", false);
     auto* centred = new QHBoxLayout;
     centred->addStretch();
     centred->addLayout(languages);
     centred->addStretch();
+    auto* content = new QVBoxLayout(this);
+    content->setSpacing(kWelcomeGap);
+    content->addStretch(1);
+    content->addWidget(MakeLogo(kLogoSize), 0, Qt::AlignHCenter);
+    content->addWidget(lblWelcome);
+    content->addSpacing(kLanguagesGap);
     content->addLayout(centred);
     content->addStretch(2);
-    lblWelcome->setAlignment(Qt::AlignHCenter);
-    const auto choose = [this] {
-        SessionState.English = optEnglish->isChecked();
-        emit LanguageChosen();
-    };
-    connect(optEnglish, &QRadioButton::clicked, this, choose);
-    connect(optFrench, &QRadioButton::clicked, this, choose);
 }
 
-/// This step speaks both languages whatever was chosen: a wrong choice must be easy to mend.
-void LanguageStep::LoadCaptions()
+QRadioButton* LanguageStep::AddLanguage(QVBoxLayout* languages, const char* name, const char* caption, bool english)
 {
-    lblWelcome->setText("In which language would you like to work?\r\nDans quelle langue souhaitez-vous travailler?");
+    QRadioButton* option = MakeOption(name, {caption, caption});
+    languages->addWidget(option);
+    connect(option, &QRadioButton::clicked, this, [this, english] {
+        SessionState.English = english;
+        emit LanguageChosen();
+    });
+    return option;
 }
 
 bool LanguageStep::IsComplete() const

@@ -2,8 +2,6 @@
 
 #include "setup/frm_wizard_step.h"
 
-class QRadioButton;
-
 /// The first step: English or French. The choice takes effect at once, in SessionState.English.
 class LanguageStep : public WizardStep
 {
@@ -11,14 +9,14 @@ class LanguageStep : public WizardStep
 
 public:
     explicit LanguageStep(SetUpChoices& choices);
-    void LoadCaptions() override;
     bool IsComplete() const override;
 
 signals:
     void LanguageChosen();
 
 private:
-    QLabel* lblWelcome;
+    QRadioButton* AddLanguage(QVBoxLayout* languages, const char* name, const char* caption, bool english);
+
     QRadioButton* optEnglish;
     QRadioButton* optFrench;
 };

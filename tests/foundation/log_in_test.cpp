@@ -27,9 +27,8 @@ protected:
             {[this] { shown << "wizard"; }, [this] { shown << "server"; }, [this] { shown << "main"; }});
         splash.Form_Activate();
     }
-    void Types(frmLogin& login, const QString& name, const QString& password)
+    void Types(const QString& name, const QString& password)
     {
-        Q_UNUSED(login);
         user.Types("txtUserName", name).Types("txtPassword", password).Clicks("cmdOK");
     }
     int Hired(const QString& loginID, const QStringList& rights = {})
@@ -49,8 +48,8 @@ TEST_F(LogIn, TheStartReadsTheConfigurationCleansUpAndLogsTheUserIn)
     }
     user.WhenOpens<frmLogin>([this](frmLogin& login) {
         user.WillAnswer("Access denied!...", "OK", "The username and password you specified are invalid!");
-        Types(login, "mbouchard", "wrong");
-        Types(login, "m=bou(chard", "pa ss");
+        Types("mbouchard", "wrong");
+        Types("m=bou(chard", "pa ss");
         EXPECT_FALSE(login.isVisible());
     });
     Start();
@@ -88,10 +87,10 @@ TEST_F(LogIn, AdminEntersAnyYearAndIsToldWhenItIsClosed)
 {
     house.Configured().Company();
     house.Sql("UPDATE FiscalYears SET ClosedDate = ?", {SerialOfDate({2026, 2, 27})});
-    user.WhenOpens<frmLogin>([this](frmLogin& login) {
+    user.WhenOpens<frmLogin>([this](frmLogin&) {
         user.WillAnswer("FISCAL YEAR CLOSED:", "OK",
                         "Fiscal year 2026 was closed on Fri 27-Feb-2026.\r\n\r\nYou can no longer");
-        Types(login, "admin", "secret");
+        Types("admin", "secret");
     });
     Start();
     EXPECT_EQ(SessionState.UserName, "");
@@ -106,13 +105,10 @@ TEST_F(LogIn, OnlyActiveEmployeesOfTheYearEnter)
     house.Hire({"NEXTYEAR", "Luc", "Roy", "Production", "", {}}, 2);
     const int gone = Hired("GONE");
     house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {gone});
-    frmLogin login;
-    login.FiscalYearID = 1;
-    login.show();
-    user.Works(login);
+    user.Opens<frmLogin>(1);
     for (const char* name : {"NEXTYEAR", "GONE", "NOBODY"}) {
         user.WillAnswer("Access denied!...", "OK");
-        Types(login, name, "PASS");
+        Types(name, "PASS");
     }
     EXPECT_EQ(SessionState.UserID, 0);
     EXPECT_EQ(SessionState.LoginID, "");
@@ -123,16 +119,11 @@ TEST_F(LogIn, MovingToAYearWithoutARecordCanBeCancelled)
 {
     house.Configured().Company();
     SessionState.LoginID = "MBOUCHARD";
-    frmLogin login;
-    login.FiscalYearID = 2;
-    login.FiscalYearName = "2027";
-    login.ChangingYear = true;
-    login.show();
-    user.Works(login);
+    user.Opens<frmLogin>(2, "2027");
     EXPECT_EQ(user.Reads("lblInstructions"), "Your current user identification (MBOUCHARD) does not give you access to "
                                              "fiscal year 2027. Please login under a different user identification.");
     user.Clicks("cmdCancel");
-    EXPECT_FALSE(login.isVisible());
+    EXPECT_FALSE(user.The<frmLogin>().isVisible());
 }
 
 TEST_F(LogIn, ALogInThatFailsLeavesTheSessionToTheUserBefore)
@@ -143,14 +134,10 @@ TEST_F(LogIn, ALogInThatFailsLeavesTheSessionToTheUserBefore)
     house.Sql("UPDATE Employees SET Language = 1 WHERE RecordID = ?", {marie});
     house.Sql("CREATE TRIGGER Refuse BEFORE UPDATE ON Employees BEGIN SELECT RAISE(ABORT, 'refused'); END");
     const int administrator = SessionState.UserID;
-    frmLogin login;
-    login.FiscalYearID = 1;
-    login.ChangingYear = true;
-    login.show();
-    user.Works(login).WillAnswer("AN ERROR HAS OCCURRED:", "OK");
-    Types(login, "MBOUCHARD", "PASS");
+    user.Opens<frmLogin>(1, "2026").WillAnswer("AN ERROR HAS OCCURRED:", "OK");
+    Types("MBOUCHARD", "PASS");
     user.WillAnswer("Access denied!...", "OK");
-    Types(login, "MBOUCHARD", "WRONG");
+    Types("MBOUCHARD", "WRONG");
     user.Clicks("cmdCancel");
     EXPECT_EQ(SessionState.UserID, administrator);
     EXPECT_EQ(SessionState.LoginID, "ADMIN");
@@ -233,7 +220,7 @@ TEST_F(LogIn, ALostDatabaseCanBeLookedForElsewhere)
         .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
         .WillChooseFile(elsewhere)
         .WillAnswer("CONNECTION TO DATABASE SUCCESSFUL:", "Yes")
-        .WhenOpens<frmLogin>([this](frmLogin& login) { Types(login, "ADMIN", "SECRET"); });
+        .WhenOpens<frmLogin>([this](frmLogin&) { Types("ADMIN", "SECRET"); });
     Start();
     EXPECT_EQ(shown, QStringList{"main"});
     SessionState.DatabasePath.clear();
@@ -255,7 +242,7 @@ TEST_F(LogIn, ADatabaseFoundElsewhereServesTheRunThatCannotKeepIt)
         .WillChooseFile(other.Folder() + "/Tarvell.mdb")
         .WillAnswer("CONNECTION TO DATABASE SUCCESSFUL:", "Yes")
         .WillAnswer("AN ERROR HAS OCCURRED:", "OK")
-        .WhenOpens<frmLogin>([this](frmLogin& login) { Types(login, "ADMIN", "SECRET"); });
+        .WhenOpens<frmLogin>([this](frmLogin&) { Types("ADMIN", "SECRET"); });
     Start();
     EXPECT_EQ(shown, QStringList{"main"});
 }

@@ -33,7 +33,7 @@ protected:
 TEST_F(ChoosingDates, HolidaysAndDaysOffFallOut)
 {
     WorksMondayToThursday();
-    user.Opens<frmSelectDates>();
+    user.Opens<frmSelectDates>(EntireYear(), SessionState);
     EXPECT_EQ(user.Reads("cboFrom"), Shown(Day(3, 2))) << "today, a Monday";
     EXPECT_EQ(user.Reads("chkWeekday(5)"), "0") << "Friday is a day off";
     PicksPeriod(Day(6, 30), Day(7, 6)).Checks("chkWeekday(5)");
@@ -46,7 +46,7 @@ TEST_F(ChoosingDates, HolidaysAndDaysOffFallOut)
 TEST_F(ChoosingDates, ClearingABoxWarnsAndThenLetsThemIn)
 {
     WorksMondayToThursday();
-    user.Opens<frmSelectDates>();
+    user.Opens<frmSelectDates>(EntireYear(), SessionState);
     PicksPeriod(Day(6, 30), Day(7, 3));
     user.WillAnswer("WARNING:", "No", "even on statutory holidays!").Clicks("chkIgnoreHolidays");
     EXPECT_EQ(user.Reads("chkIgnoreHolidays"), "1");
@@ -60,7 +60,7 @@ TEST_F(ChoosingDates, WithoutAScheduleEveryDayCountsAndAWeekdayIsNeeded)
 {
     SessionState.English = false;
     SessionState.AttendanceDates = {1};
-    user.Opens<frmSelectDates>();
+    user.Opens<frmSelectDates>(EntireYear(), SessionState);
     PicksPeriod(Day(3, 6), Day(3, 9));
     for (int day = 0; day < 7; ++day)
         user.Checks(QString("chkWeekday(%1)").arg(day), false);
@@ -73,7 +73,7 @@ TEST_F(ChoosingDates, WithoutAScheduleEveryDayCountsAndAWeekdayIsNeeded)
 TEST_F(ChoosingDates, LeavingTheFormGivesNoDates)
 {
     SessionState.AttendanceDates = {1};
-    user.Opens<frmSelectDates>().Clicks("cmdCancel");
+    user.Opens<frmSelectDates>(EntireYear(), SessionState).Clicks("cmdCancel");
     EXPECT_THAT(Dates(), ElementsAre());
 }
 

@@ -127,6 +127,15 @@ QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
     return row;
 }
 
+QVBoxLayout* Column(int gap, std::initializer_list<QWidget*> controls)
+{
+    auto* column = new QVBoxLayout;
+    column->setSpacing(gap);
+    for (QWidget* control : controls)
+        column->addWidget(control);
+    return column;
+}
+
 QGridLayout* Raster()
 {
     auto* raster = new QGridLayout;
@@ -272,4 +281,11 @@ QPixmap Picture(const QString& name, int size)
     QPainter painter(&picture);
     QSvgRenderer(path).render(&painter, QRectF(0, 0, size, size));
     return picture;
+}
+
+QLabel* MakeLogo(int size)
+{
+    auto* imgLogo = Named<QLabel>("imgLogo");
+    imgLogo->setPixmap(Picture("app", size));
+    return imgLogo;
 }

@@ -28,6 +28,8 @@ inline QString ArrayName(const QString& name, int index)
 QVBoxLayout* PageLayout(QWidget* form);
 /// Controls side by side, the rest of the row empty.
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls);
+/// Controls one below the other, `gap` pixels apart.
+QVBoxLayout* Column(int gap, std::initializer_list<QWidget*> controls);
 /// A raster of labels and controls; rows and boxes nested in it take its gaps over.
 QGridLayout* Raster();
 /// A white card with rounded corners on the quiet page; its layout holds the controls.
@@ -88,3 +90,5 @@ void ApplyStyle();
 /// the screen; `size` in pixels at 100 %. A name that has no file gives an empty picture.
 QIcon PictureIcon(const QString& name);
 QPixmap Picture(const QString& name, int size);
+/// The program's own picture, "imgLogo".
+QLabel* MakeLogo(int size);
