@@ -100,6 +100,6 @@ private:
 
 void RegisterAttendance(BigCompany& company)
 {
-    Register<RecordAdded>("Record added", company, Floor::Commit, {1, 20});
-    Register<RecordChanged>("Record changed", company, Floor::Commit, {1, 20});
+    Register<RecordAdded>("Record added", company, Floor::Commit, {1, 8});
+    Register<RecordChanged>("Record changed", company, Floor::Commit, {1, 8});
 }

@@ -78,7 +78,7 @@ private:
 
 void RegisterCalendar(BigCompany& company)
 {
-    Register<CalendarOfOneEmployee>("Calendar of one employee", company, Floor::Statements, {0, 16});
-    Register<CalendarOfTheCompany>("Calendar of the whole company", company, Floor::Statements, {1.5, 30});
-    Register<LogInToFirstCalendar>("Log-in to first calendar", company, Floor::Statements, {0, 250});
+    Register<CalendarOfOneEmployee>("Calendar of one employee", company, Floor::Statements, {0, 6});
+    Register<CalendarOfTheCompany>("Calendar of the whole company", company, Floor::Statements, {1.5, 10});
+    Register<LogInToFirstCalendar>("Log-in to first calendar", company, Floor::Statements, {0, 50});
 }

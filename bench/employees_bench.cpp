@@ -76,7 +76,7 @@ private:
 
 void RegisterEmployees(BigCompany& company)
 {
-    Register<Opening<frmEmployees>>("Opening frmEmployees", company, Floor::Statements, {0, 100});
+    Register<Opening<frmEmployees>>("Opening frmEmployees", company, Floor::Statements, {0, 40});
     Register<Loading>("Employee loaded", company, Floor::Statements, {0, 100});
     Register<Saving>("Employee saved", company, Floor::Commit, {1, 100});
     Register<Rebuilding>("Employees_List rebuilt", company, Floor::Commit, {1, 300});

@@ -13,6 +13,6 @@ AttendanceJob OneDate()
 
 void RegisterLists(BigCompany& company)
 {
-    Register<Opening<frmSelectEmployee>>("Opening frmSelectEmployee", company, Floor::Statements, {0, 100});
-    Register<Opening<frmAttendance, OneDate>>("Opening frmAttendance", company, Floor::Statements, {0, 100});
+    Register<Opening<frmSelectEmployee>>("Opening frmSelectEmployee", company, Floor::Statements, {0, 40});
+    Register<Opening<frmAttendance, OneDate>>("Opening frmAttendance", company, Floor::Statements, {0, 40});
 }

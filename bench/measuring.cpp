@@ -2,6 +2,7 @@
 
 #include "raw_engine.h"
 #include "support/statement_trace.h"
+#include "yardstick.h"
 
 #include <QElapsedTimer>
 
@@ -19,6 +20,7 @@ struct Verdict
     std::string Name;
     double Measured;
     double Floor;
+    double Speed; ///< of this machine while it was measured: its yardstick by the reference's
     double Bar;
 };
 
@@ -87,13 +89,16 @@ double CommitFloor(Measured& measured, const QList<QByteArray>& statements)
     });
 }
 
-/// Floor and work take turns, so that both meet the same disturbances.
+/// Yardstick, floor and work take turns, so that all meet the same disturbances.
 void Measure(benchmark::State& state, const std::string& name, Measured& measured, Floor floor, const Bar& bar)
 {
     const QList<QByteArray> statements = StatementsOf(measured);
+    const Yardstick yardstick(measured.Company().DatabaseFile());
+    std::vector<double> yards;
     std::vector<double> floors;
     std::vector<double> works;
     for ([[maybe_unused]] auto round : state) {
+        yards.push_back(MillisecondsOf([&] { yardstick.Run(); }));
         measured.Prepare();
         works.push_back(MillisecondsOf([&] { measured.Work(); }));
         state.SetIterationTime(works.back() / 1000);
@@ -102,7 +107,8 @@ void Measure(benchmark::State& state, const std::string& name, Measured& measure
         measured.CleanUp();
     }
     const double least = Median(floors);
-    const Verdict verdict{name, Median(works), least, bar.Floors * least + bar.Milliseconds};
+    const double speed = Median(yards) / Yardstick::kReference;
+    const Verdict verdict{name, Median(works), least, speed, bar.Floors * least + bar.Milliseconds * speed};
     Verdicts().push_back(verdict);
     state.counters["median_ms"] = verdict.Measured;
     state.counters["floor_ms"] = verdict.Floor;
@@ -122,13 +128,15 @@ void Register(const char* name, BigCompany& company, Floor floor, const Bar& bar
 bool TellVerdicts()
 {
     int missed = 0;
-    std::printf("\n%-40s %10s %10s %10s\n", "median, ms", "measured", "floor", "bar");
+    std::printf("\n%-40s %10s %10s %10s %10s\n", "median, ms", "measured", "floor", "yardstick", "bar");
     for (const Verdict& verdict : Verdicts()) {
         const bool met = verdict.Measured <= verdict.Bar;
         missed += met ? 0 : 1;
-        std::printf("%-40s %10.2f %10.2f %10.2f  %s\n", verdict.Name.c_str(), verdict.Measured, verdict.Floor,
-                    verdict.Bar, met ? "met" : "MISSED");
+        std::printf("%-40s %10.2f %10.2f %9.2fx %10.2f  %s\n", verdict.Name.c_str(), verdict.Measured, verdict.Floor,
+                    verdict.Speed, verdict.Bar, met ? "met" : "MISSED");
     }
     std::printf("%zu bars met, %d missed\n", Verdicts().size() - static_cast<std::size_t>(missed), missed);
+    std::printf("yardstick: times the %.1f ms of the reference; the milliseconds of a bar are multiplied by it\n",
+                Yardstick::kReference);
     return missed == 0;
 }

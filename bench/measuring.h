@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-/// What a work may cost: so many floors and so many milliseconds.
+/// What a work may cost: so many floors and so many milliseconds at the speed of the reference.
 struct Bar
 {
     double Floors = 0;
