@@ -34,7 +34,7 @@ TEST_F(EmployeeRows, ARowComesBackAsItWasWritten)
 {
     EmployeeRecord record = Loaded(chris);
     record.LoginID = "COPY";
-    record.Password = "NEW";
+    record.NewPassword = "NEW";
     record.FirstHalfStart[0] = kMidnight;
     record.HoursWorked[0] = 7.33333F;
     record.HoursWorkedDaily = 6.7F;
@@ -59,8 +59,8 @@ TEST_F(EmployeeRows, ARowComesBackAsItWasWritten)
     EXPECT_EQ(read.HoursWorkedDaily, 6.7F);
     EXPECT_EQ(read.TotalHours[0] + ":" + read.TotalMinutes[0], "7:20");
     EXPECT_EQ(read.Hire.Year + read.Hire.Month + read.Hire.Day + read.Birth.Year, "20191231");
-    EXPECT_EQ(read.KeptPassword + read.Password, "NEW");
-    EXPECT_EQ(read.HourlyRate, "20.55");
+    EXPECT_EQ(read.Password + read.NewPassword, "NEW");
+    EXPECT_EQ(read.HourlyRateText, "20.55");
     EXPECT_FALSE(HasNewRate(read));
     EXPECT_EQ(std::count(read.HoursSpecified.begin(), read.HoursSpecified.end(), true), 0);
 }
@@ -72,7 +72,7 @@ TEST_F(EmployeeRows, NullFieldsOfOldRowsStayEmpty)
               {chris});
     const EmployeeRecord record = Loaded(chris);
     EXPECT_EQ(record.LoginID, "OLDNAME");
-    EXPECT_EQ(record.HourlyRate, "0.00");
+    EXPECT_EQ(record.HourlyRateText, "0.00");
     EXPECT_EQ(record.Birth.Year, "");
     EXPECT_EQ(record.FirstHalfStart[1], 0);
     EmployeeRecord none;

@@ -1,8 +1,8 @@
 #include "foundation/common_services.h"
-#include "foundation/rows.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
+#include "platform/dao/server.h"
 #include "support/house.h"
 
 #include <gtest/gtest.h>
