@@ -155,38 +155,3 @@ TEST_F(EmployeeRows, TheSummarySpeaksTheUsersLanguage)
                     .contains("comme suit?\r\n\r\nNom et identification:\t\tChris Davis     12\r\n"
                               "Cet(te) employé(e) travaille selon un horaire irrégulier.\r\nNom d'usager"));
 }
-
-TEST_F(EmployeeRows, TheServerBackEndOnlyComposesStatements)
-{
-    const EmployeeRecord record = Loaded(chris);
-    QStringList sent;
-    SetServerSink([&sent](const QString& statement) { sent << statement; });
-    SessionState.SQL_Server = true;
-    ModifyEmployee(datAbsence, record);
-    ASSERT_EQ(sent.size(), 3);
-    EXPECT_TRUE(sent[0].startsWith("INSERT INTO Employees_Modifications SELECT * FROM Employees WHERE RecordID = "));
-    EXPECT_TRUE(sent[1].startsWith("UPDATE Employees SET FamilyName = 'Davis', "));
-    sent.clear();
-    EXPECT_TRUE(AddEmployee(datAbsence, record).isEmpty());
-    ASSERT_EQ(sent.size(), 2);
-    EXPECT_TRUE(sent[0].startsWith("INSERT INTO Employees (FiscalYear, OrganizationID, "));
-    sent.clear();
-    DeactivateEmployee(datAbsence, chris, "gone");
-    EXPECT_EQ(sent.size(), 4) << sent.join('\n').toStdString();
-    sent.clear();
-    UpdateHourlyRate(datAbsence, record, 46083);
-    EXPECT_EQ(sent, QStringList{QStringLiteral("UPDATE Attendance SET HourlyRate = '20.55', UnitCost = 20.55, "
-                                               "ExtendedCost = TotalDuration * 20.55 WHERE EmployeeID = %1 AND "
-                                               "RecordDate >= 46083")
-                                    .arg(chris)});
-    sent.clear();
-    EXPECT_TRUE(LoadApprovedBy(datAbsence, record).isEmpty());
-    EXPECT_EQ(sent.size(), 4);
-    EXPECT_TRUE(sent[0].contains(QStringLiteral("Employees.GroupID = 1 AND Employees.FiscalYear = 1 AND "
-                                                "Employees.RecordID <> %1 AND")
-                                     .arg(chris)));
-    user.WillAnswer("UNABLE TO PROCEED:", "OK", "The selected employee record is already inactive!");
-    EXPECT_FALSE(LoadEmployeeRecord_SQL());
-    SessionState.SQL_Server = false;
-    EXPECT_EQ(EmployeeCell("ModifiedBy", chris), "");
-}

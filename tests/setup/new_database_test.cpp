@@ -1,6 +1,6 @@
 #include "foundation/employee_rights.h"
 #include "foundation/log_in.h"
-#include "foundation/rows.h"
+#include "platform/dao/server.h"
 #include "foundation/texts.h"
 #include "foundation/work_schedule.h"
 #include "platform/clock.h"

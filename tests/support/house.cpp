@@ -2,7 +2,7 @@
 
 #include "foundation/connection.h"
 #include "foundation/log_in.h"
-#include "foundation/rows.h"
+#include "platform/dao/server.h"
 #include "foundation/session_rows.h"
 #include "foundation/start_up.h"
 #include "platform/clock.h"
