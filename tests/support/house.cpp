@@ -2,10 +2,10 @@
 
 #include "foundation/connection.h"
 #include "foundation/log_in.h"
-#include "platform/dao/server.h"
 #include "foundation/session_rows.h"
 #include "foundation/start_up.h"
 #include "platform/clock.h"
+#include "platform/dao/server.h"
 #include "platform/program.h"
 
 #include <QDir>
