@@ -1,8 +1,10 @@
 #include "attendance/attendance_records.h"
 
+#include "foundation/attendance_row.h"
+#include "foundation/category_row.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
-#include "foundation/rows.h"
+#include "foundation/names.h"
 #include "foundation/session_rows.h"
 #include "foundation/session_state.h"
 #include "foundation/values.h"
@@ -13,23 +15,16 @@
 
 namespace
 {
-constexpr double kHundredths = 100;
-
-QString FullName(const Recordset& person)
+void TakeEmployee(const EmployeeRow& employee, AttendanceEntry& entry)
 {
-    return (person.Text("FirstName").trimmed() + " " + person.Text("FamilyName").trimmed()).trimmed();
-}
-
-void TakeEmployee(const Recordset& employee, AttendanceEntry& entry)
-{
-    employee.Take("OrganizationID", entry.EmployeeOrganizationID);
-    employee.Take("DepartmentID", entry.EmployeeDepartmentID);
-    employee.Take("GroupID", entry.EmployeeGroupID);
-    ReadSchedule(employee, entry);
-    employee.Take("AttendanceApprovedBy_Main", entry.FirstApprover);
-    employee.Take("AttendanceApprovedBy_Backup", entry.SecondApprover);
-    employee.Take("HourlyRate", entry.EmployeeRate);
-    entry.EmployeeName = FullName(employee);
+    entry.EmployeeOrganizationID = employee.OrganizationID;
+    entry.EmployeeDepartmentID = employee.DepartmentID;
+    entry.EmployeeGroupID = employee.GroupID;
+    TakeSchedule(employee, entry);
+    entry.FirstApprover = employee.ApprovedByMain;
+    entry.SecondApprover = employee.ApprovedByBackup;
+    entry.EmployeeRate = static_cast<float>(employee.HourlyRate);
+    entry.EmployeeName = FullName(employee.FirstName, employee.FamilyName);
 }
 
 void ForgetEmployee(AttendanceEntry& entry)
@@ -46,105 +41,61 @@ QString VisibleRate(float rate)
     return SessionState.AccessToEmployeesModule == 1 ? FormatNumber(rate, 2) : QString();
 }
 
-struct Submission
-{
-    int Submitted = 0;
-    QVariant Moment = 0;
-    int By = 0;
-    int ToFirst = 0;
-    int ToSecond = 0;
-};
-
-Submission RequestBy(const AttendanceEntry& entry, const QVariant& moment)
-{
-    return {1, moment, SessionState.UserID, entry.FirstApprover, entry.SecondApprover};
-}
-
 /// What the form can change of a record.
-RowValues EnteredValues(const AttendanceEntry& entry)
+constexpr Column<AttendanceRow>::Place kEntered[] = {
+    &AttendanceRow::CategoryID, &AttendanceRow::Duration,          &AttendanceRow::StartTime,
+    &AttendanceRow::EndTime,    &AttendanceRow::TimeMultiplicator, &AttendanceRow::TotalDuration,
+    &AttendanceRow::WholeDay,   &AttendanceRow::Comment,           &AttendanceRow::Justified,
+    &AttendanceRow::HourlyRate, &AttendanceRow::UnitCost,          &AttendanceRow::ExtendedCost};
+
+int Hundredths(double money)
 {
-    return {{"CategoryID", entry.SelectedCategoryID},
-            {"Duration", entry.Duration},
-            {"StartTime", entry.StartTime},
-            {"EndTime", entry.EndTime},
-            {"TimeMultiplicator", entry.TimeMultiplicator},
-            {"TotalDuration", entry.TotalDuration},
-            {"WholeDay", entry.Part == DayPart::WholeDay ? 1 : 0},
-            {"Comment", entry.Comment.trimmed()},
-            {"Justified", entry.Justified ? 1 : 0}};
+    return static_cast<int>(qRound64(money * 100));
 }
 
-void Append(RowValues& values, const RowValues& more)
-{
-    values.insert(values.end(), more.begin(), more.end());
-}
-
-RowValues NewRow(const AttendanceEntry& entry, int date, const Submission& submission)
-{
-    RowValues row = {{"FiscalYear", SessionState.FiscalYearID},
-                     {"EmployeeID", entry.EmployeeID},
-                     {"GroupID", entry.EmployeeGroupID},
-                     {"DepartmentID", entry.EmployeeDepartmentID},
-                     {"OrganizationID", entry.EmployeeOrganizationID}};
-    RowValues entered = EnteredValues(entry);
-    entered.insert(entered.begin() + 1, {"RecordDate", date});
-    Append(row, entered);
-    Append(row, {{"Submitted", submission.Submitted},
-                 {"SubmittedDateTime", submission.Moment},
-                 {"SubmittedBy", submission.By},
-                 {"SubmittedTo_First", submission.ToFirst},
-                 {"SubmittedTo_Second", submission.ToSecond},
-                 {"RequestStatus", 0},
-                 {"ApprovedDateTime", 0},
-                 {"ApprovedBy", QString("")},
-                 {"DeniedDateTime", 0},
-                 {"DeniedBy", QString("")},
-                 {"ApprovalRefusalMessage", QString("")},
-                 {"EnteredBy", Who()},
-                 {"EnteredDate", Today()},
-                 {"ModifiedBy", QString("")},
-                 {"ModifiedDate", 0},
-                 {"CancelledBy", QString("")},
-                 {"CancelledDate", 0}});
-    return row;
-}
-
-RowValues ModifiedRow(const AttendanceEntry& entry)
-{
-    RowValues row = EnteredValues(entry);
-    Append(row, {{"ModifiedBy", Who()}, {"ModifiedDate", Today()}});
-    return row;
-}
-
-RowValues WithCosts(RowValues row, const AttendanceEntry& entry)
+AttendanceRow EnteredRow(const AttendanceEntry& entry)
 {
     const double rate = entry.HourlyRateText.isEmpty() ? entry.EmployeeRate : Val(entry.HourlyRateText);
-    Append(row, {{"HourlyRate", FormatNumber(static_cast<float>(rate), 2)},
-                 {"UnitCost", qRound64(rate * kHundredths)},
-                 {"ExtendedCost", qRound64(rate * entry.TotalDuration * kHundredths)}});
+    AttendanceRow row;
+    row.CategoryID = entry.SelectedCategoryID;
+    row.Duration = entry.Duration;
+    row.StartTime = entry.StartTime;
+    row.EndTime = entry.EndTime;
+    row.TimeMultiplicator = entry.TimeMultiplicator;
+    row.TotalDuration = entry.TotalDuration;
+    row.WholeDay = entry.Part == DayPart::WholeDay ? 1 : 0;
+    row.Comment = entry.Comment.trimmed();
+    row.Justified = entry.Justified ? 1 : 0;
+    row.HourlyRate = FormatNumber(static_cast<float>(rate), 2);
+    row.UnitCost = Hundredths(rate);
+    row.ExtendedCost = Hundredths(rate * entry.TotalDuration);
     return row;
 }
 
-void AddRows(DataControl& datAbsence, const AttendanceEntry& entry, const Submission& submission)
+AttendanceRow NewRow(const AttendanceEntry& entry)
 {
-    const Connection connection(datAbsence);
-    Batch batch(datAbsence.Engine());
-    for (const int date : entry.Dates)
-        AddRow(datAbsence, "Attendance", WithCosts(NewRow(entry, date, submission), entry));
-    batch.Commit();
+    AttendanceRow row = EnteredRow(entry);
+    row.FiscalYear = SessionState.FiscalYearID;
+    row.EmployeeID = entry.EmployeeID;
+    row.GroupID = entry.EmployeeGroupID;
+    row.DepartmentID = entry.EmployeeDepartmentID;
+    row.OrganizationID = entry.EmployeeOrganizationID;
+    row.EnteredBy = UserStamp();
+    row.EnteredDate = Today();
+    return row;
 }
 
-void SendRows(const AttendanceEntry& entry, const Submission& submission)
+void AddOnEachDate(DataControl& datAbsence, const AttendanceEntry& entry, AttendanceRow row)
 {
-    for (const int date : entry.Dates)
-        SendToServer(InsertStatement("Attendance", NewRow(entry, date, submission)));
-}
-
-void ReadEntitlement(DataControl& datAbsence, AttendanceEntry& entry)
-{
-    if (datAbsence.Read("SELECT * FROM Entitlements WHERE CategoryID = ? AND EmployeeID = ?", entry.SelectedCategoryID,
-                        entry.EmployeeID))
-        entry.Entitlement = datAbsence.Records.Single("CarriedOver") + datAbsence.Records.Single("AnnualEntitlement");
+    InTransaction(
+        datAbsence,
+        [&] {
+            for (const int date : entry.Dates) {
+                row.RecordDate = date;
+                Add(datAbsence, row);
+            }
+        },
+        Transaction::KeepOnFailure);
 }
 
 void ForgetCategory(AttendanceEntry& entry)
@@ -163,24 +114,14 @@ void ForgetCategory(AttendanceEntry& entry)
 void LoadEmployeeInfo(DataControl& datAbsence, AttendanceEntry& entry)
 {
     ForgetEmployee(entry);
-    if (SessionState.SQL_Server)
-        LoadEmployeeInfo_SQL(entry);
-    else
-        LoadEmployeeInfo_ACCESS(datAbsence, entry);
-}
-
-void LoadEmployeeInfo_ACCESS(DataControl& datAbsence, AttendanceEntry& entry)
-{
-    const Connection connection(datAbsence);
-    if (datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", entry.EmployeeID))
-        TakeEmployee(datAbsence.Records, entry);
-    entry.HourlyRateText = VisibleRate(entry.EmployeeRate);
-    FindDayParts(entry);
-}
-
-void LoadEmployeeInfo_SQL(AttendanceEntry& entry)
-{
-    SendToServer(QStringLiteral("SELECT * FROM Employees WHERE RecordID = %1").arg(entry.EmployeeID));
+    if (IsServerChosen()) {
+        SendToServer(QStringLiteral("SELECT * FROM Employees WHERE RecordID = %1").arg(entry.EmployeeID));
+    } else {
+        const Connection connection(datAbsence);
+        if (const auto employee = Find<EmployeeRow>(datAbsence, entry.EmployeeID))
+            TakeEmployee(*employee, entry);
+        entry.HourlyRateText = VisibleRate(entry.EmployeeRate);
+    }
     FindDayParts(entry);
 }
 
@@ -190,16 +131,19 @@ void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry)
     if (entry.SelectedCategoryID == 0)
         return;
     const Connection connection(datAbsence);
-    if (datAbsence.Read("SELECT * FROM Categories WHERE RecordID = ?", entry.SelectedCategoryID)) {
-        datAbsence.Take("TimeBankRelated", entry.TimeBankRelated);
-        datAbsence.Take("ConstitutesAnAbsence", entry.ConstitutesAnAbsence);
-        datAbsence.Take("RequiresMonitoring", entry.RequiresMonitoring);
-        entry.SystemName = datAbsence.Records.Text("SystemName").trimmed();
+    if (const auto category = Find<CategoryRow>(datAbsence, entry.SelectedCategoryID)) {
+        entry.TimeBankRelated = category->TimeBankRelated;
+        entry.ConstitutesAnAbsence = category->ConstitutesAnAbsence;
+        entry.RequiresMonitoring = category->RequiresMonitoring;
+        entry.SystemName = category->SystemName.trimmed();
     }
     if (entry.EmployeeID == 0)
         return;
     if (entry.RequiresMonitoring == 1)
-        ReadEntitlement(datAbsence, entry);
+        entry.Entitlement = datAbsence.Scalar<float>(
+            "SELECT COALESCE(CarriedOver, 0) + COALESCE(AnnualEntitlement, 0) FROM Entitlements WHERE CategoryID = ? "
+            "AND EmployeeID = ?",
+            entry.SelectedCategoryID, entry.EmployeeID);
     else if (entry.TimeBankRelated == 1)
         entry.TimeBanked = TimeBankOfEmployee(datAbsence, entry.EmployeeID);
 }
@@ -212,18 +156,18 @@ bool LacksEntitlement(const AttendanceEntry& entry)
 void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry)
 {
     const Connection connection(datAbsence);
-    if (!datAbsence.Read("SELECT * FROM Attendance WHERE RecordID = ?", entry.RecordToModify))
+    const auto record = Find<AttendanceRow>(datAbsence, entry.RecordToModify);
+    if (!record)
         return;
-    const Recordset& record = datAbsence.Records;
-    entry.Comment = record.Text("Comment").trimmed();
-    entry.Justified = record.Long("Justified") == 1;
-    entry.Part = record.Long("WholeDay") == 1 ? DayPart::WholeDay : DayPart::None;
-    record.Take("TimeMultiplicator", entry.TimeMultiplicator);
-    record.Take("StartTime", entry.StartTime);
-    record.Take("EndTime", entry.EndTime);
-    record.Take("Duration", entry.Duration);
-    record.Take("TotalDuration", entry.TotalDuration);
-    entry.HourlyRateText = VisibleRate(static_cast<float>(Val(record.Text("HourlyRate"))));
+    entry.Comment = record->Comment.trimmed();
+    entry.Justified = record->Justified == 1;
+    entry.Part = record->WholeDay == 1 ? DayPart::WholeDay : DayPart::None;
+    entry.TimeMultiplicator = record->TimeMultiplicator;
+    entry.StartTime = record->StartTime;
+    entry.EndTime = record->EndTime;
+    entry.Duration = record->Duration;
+    entry.TotalDuration = record->TotalDuration;
+    entry.HourlyRateText = VisibleRate(static_cast<float>(Val(record->HourlyRate)));
     if (entry.StartTime != 0) {
         entry.StartTimeText = DurationText(entry.StartTime);
         entry.EndTimeText = DurationText(entry.EndTime);
@@ -235,61 +179,37 @@ void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry)
 void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry)
 {
     const Connection connection(datAbsence);
-    for (Recordset people = datAbsence.Select(
+    for (const Recordset& person : datAbsence.Select(
              "SELECT RecordID, FirstName, FamilyName, EMailAddress FROM Employees WHERE RecordID IN (?, ?)",
-             entry.FirstApprover, entry.SecondApprover);
-         !people.AtEnd(); people.MoveNext()) {
-        const bool first = people.Long("RecordID") == entry.FirstApprover;
-        (first ? entry.FirstApproverName : entry.SecondApproverName) = FullName(people);
-        people.Take("EMailAddress", first ? entry.FirstApproverEMail : entry.SecondApproverEMail);
+             entry.FirstApprover, entry.SecondApprover)) {
+        const bool first = person.Long("RecordID") == entry.FirstApprover;
+        (first ? entry.FirstApproverName : entry.SecondApproverName) = FullName(person);
+        person.Take("EMailAddress", first ? entry.FirstApproverEMail : entry.SecondApproverEMail);
     }
 }
 
-void NewAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry)
+void NewAttendance(DataControl& datAbsence, const AttendanceEntry& entry)
 {
-    AddRows(datAbsence, entry, {});
+    AddOnEachDate(datAbsence, entry, NewRow(entry));
 }
 
-void NewAttendance_SQL(const AttendanceEntry& entry)
+void SubmitAttendance(DataControl& datAbsence, const AttendanceEntry& entry)
 {
-    SendRows(entry, {});
+    AttendanceRow row = NewRow(entry);
+    row.Submitted = 1;
+    // In the file the moment is rounded to a whole day: a request made after noon bears the next day's number, as
+    // required.
+    row.SubmittedDateTime = static_cast<float>(IsServerChosen() ? Now() : std::rint(Now()));
+    row.SubmittedBy = SessionState.UserID;
+    row.SubmittedTo_First = entry.FirstApprover;
+    row.SubmittedTo_Second = entry.SecondApprover;
+    AddOnEachDate(datAbsence, entry, row);
 }
 
-void SubmitAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry)
+void ModifyAttendance(DataControl& datAbsence, const AttendanceEntry& entry)
 {
-    // The moment is rounded to a whole day: a request made after noon bears the next day's number, as required.
-    AddRows(datAbsence, entry, RequestBy(entry, static_cast<int>(std::lrint(Now()))));
-}
-
-void SubmitAttendance_SQL(const AttendanceEntry& entry)
-{
-    SendRows(entry, RequestBy(entry, static_cast<float>(Now())));
-}
-
-void ModifyAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry)
-{
-    const Connection connection(datAbsence);
-    Batch batch(datAbsence.Engine());
-    ModificationsLog(datAbsence, entry.RecordToModify);
-    WriteRow(datAbsence, "Attendance", entry.RecordToModify, WithCosts(ModifiedRow(entry), entry));
-    batch.Commit();
-}
-
-void ModifyAttendance_SQL(DataControl& datAbsence, const AttendanceEntry& entry)
-{
-    ModificationsLog(datAbsence, entry.RecordToModify);
-    SendToServer(UpdateStatement("Attendance", entry.RecordToModify, ModifiedRow(entry)));
-}
-
-void ModificationsLog(DataControl& datAbsence, int recordID)
-{
-    if (!SessionState.SQL_Server)
-        return CopyToAuditTwin(datAbsence, "Attendance", recordID);
-    QStringList columns = {"RecordID"};
-    for (const ColumnValue& value : NewRow({}, 0, {}))
-        columns << value.Column;
-    SendToServer(
-        QStringLiteral("INSERT INTO Attendance_Modifications (%1) SELECT * FROM Attendance WHERE RecordID = %2")
-            .arg(columns.join(", "))
-            .arg(recordID));
+    const AttendanceRow row = EnteredRow(entry);
+    InTransaction(
+        datAbsence, [&] { Change(datAbsence, entry.RecordToModify, Picked(row, kEntered)); },
+        Transaction::KeepOnFailure);
 }

@@ -22,8 +22,6 @@ QVector<ListEntry> LoadCategories(DataControl& datAbsence, AttendanceEntry& entr
 /// The entry takes over what the employee's file says: units, schedule, name, rate, approvers, day parts. On the server
 /// back end the statement is composed and nothing is read.
 void LoadEmployeeInfo(DataControl& datAbsence, AttendanceEntry& entry);
-void LoadEmployeeInfo_ACCESS(DataControl& datAbsence, AttendanceEntry& entry);
-void LoadEmployeeInfo_SQL(AttendanceEntry& entry);
 
 /// What the selected category says, with the employee's entitlement or bank balance where it matters.
 void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry);
@@ -36,16 +34,9 @@ void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry);
 /// Names ("FirstName FamilyName") and mail addresses of the approvers.
 void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry);
 
-/// One record for each selected date. They throw; what was written before the failure stays written. The statements of
-/// the server back end leave out the cost columns.
-void NewAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry);
-void NewAttendance_SQL(const AttendanceEntry& entry);
-void SubmitAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry);
-void SubmitAttendance_SQL(const AttendanceEntry& entry);
+/// One record for each selected date. They throw; what was written before the failure stays written.
+void NewAttendance(DataControl& datAbsence, const AttendanceEntry& entry);
+void SubmitAttendance(DataControl& datAbsence, const AttendanceEntry& entry);
 
 /// Audits the record to modify as it was, and rewrites it. Throws, 3021 when it is gone.
-void ModifyAttendance_ACCESS(DataControl& datAbsence, const AttendanceEntry& entry);
-void ModifyAttendance_SQL(DataControl& datAbsence, const AttendanceEntry& entry);
-
-/// Copies a record, but not its costs, to the audit twin.
-void ModificationsLog(DataControl& datAbsence, int recordID);
+void ModifyAttendance(DataControl& datAbsence, const AttendanceEntry& entry);

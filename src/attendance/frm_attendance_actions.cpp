@@ -72,10 +72,7 @@ bool frmAttendance::NewAttendance()
 {
     if (!ConfirmNewAttendance(entry_))
         return false;
-    if (SessionState.SQL_Server)
-        NewAttendance_SQL(entry_);
-    else
-        NewAttendance_ACCESS(datAbsence, entry_);
+    ::NewAttendance(datAbsence, entry_);
     return true;
 }
 
@@ -83,10 +80,7 @@ bool frmAttendance::SubmitAttendance()
 {
     if (!ConfirmSubmission(entry_))
         return false;
-    if (SessionState.SQL_Server)
-        SubmitAttendance_SQL(entry_);
-    else
-        SubmitAttendance_ACCESS(datAbsence, entry_);
+    ::SubmitAttendance(datAbsence, entry_);
     if (doors_.SendRequestNotice)
         doors_.SendRequestNotice(entry_);
     TellSubmitted(entry_);
@@ -98,10 +92,7 @@ bool frmAttendance::ModifyAttendance()
     if (!ConfirmModification(entry_))
         return false;
     sstAttendance->setEnabled(false);
-    if (SessionState.SQL_Server)
-        ModifyAttendance_SQL(datAbsence, entry_);
-    else
-        ModifyAttendance_ACCESS(datAbsence, entry_);
+    ::ModifyAttendance(datAbsence, entry_);
     TellModified();
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "attendance/record_lines.h"
 #include "foundation/common_services.h"
+#include "foundation/names.h"
 #include "foundation/texts.h"
 
 namespace
@@ -40,26 +41,22 @@ ScopeFilter CalendarScope()
 float TotalForTheYear(DataControl& datAbsence)
 {
     const ScopeFilter filter = CalendarScope();
-    float total = 0;
-    datAbsence.Read("SELECT SUM(Attendance.TotalDuration) AS TotalTime FROM Attendance, Categories WHERE "
-                    "Attendance.CategoryID = Categories.RecordID AND Attendance.FiscalYear = ?3" +
-                        filter.Sql,
-                    filter.Scope, filter.Category, SessionState.FiscalYearID);
-    datAbsence.Take("TotalTime", total);
-    return total;
+    return datAbsence.Scalar<float>("SELECT SUM(Attendance.TotalDuration) FROM Attendance, Categories WHERE "
+                                    "Attendance.CategoryID = Categories.RecordID AND Attendance.FiscalYear = ?3" +
+                                        filter.Sql,
+                                    filter.Scope, filter.Category, SessionState.FiscalYearID);
 }
 
 QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence)
 {
     const ScopeFilter filter = CalendarScope();
     QVector<CalendarRecord> records;
-    for (Recordset row = datAbsence.Select(
+    for (const Recordset& row : datAbsence.Select(
              "SELECT Days.RecordDate, Days.CategoryID, Categories.CategoryColorCode FROM Categories, (SELECT DISTINCT "
              "Attendance.RecordDate, Attendance.CategoryID FROM Attendance, Categories WHERE Attendance.CategoryID = "
              "Categories.RecordID AND Attendance.RecordDate BETWEEN ?3 AND ?4" +
                  filter.Sql + ") AS Days WHERE Days.CategoryID = Categories.RecordID ORDER BY Days.RecordDate ASC",
-             filter.Scope, filter.Category, SessionState.CommencingDate, SessionState.EndingDate);
-         !row.AtEnd(); row.MoveNext())
+             filter.Scope, filter.Category, SessionState.CommencingDate, SessionState.EndingDate))
         records.append({row.Long("RecordDate"), row.Long("CategoryID"), row.Long("CategoryColorCode")});
     return records;
 }
@@ -68,16 +65,14 @@ QStringList DailyAttendance(DataControl& datAbsence, int date)
 {
     const ScopeFilter filter = CalendarScope();
     QStringList lines;
-    for (Recordset row = datAbsence.Select(
+    for (const Recordset& row : datAbsence.Select(
              QString(kTimesOfRecord) +
                  ", Employees.FirstName, Employees.FamilyName FROM Attendance, Categories, Employees WHERE "
                  "Attendance.CategoryID = Categories.RecordID AND Attendance.EmployeeID = Employees.RecordID AND "
                  "Attendance.RecordDate = ?3" +
                  filter.Sql + " ORDER BY Employees.FamilyName ASC, Employees.FirstName ASC",
-             filter.Scope, filter.Category, date);
-         !row.AtEnd(); row.MoveNext()) {
-        QString line = row.Text("FirstName").trimmed() + " " + row.Text("FamilyName").trimmed() + "   " +
-                       CategoryOfRow(row) + "   ";
+             filter.Scope, filter.Category, date)) {
+        QString line = FullName(row) + "   " + CategoryOfRow(row) + "   ";
         if (row.Single("StartTime") != 0)
             line += T("From: ", "De: ") + DurationText(row.Single("StartTime")) + T(" To: ", " À: ") +
                     DurationText(row.Single("EndTime")) + "   ";
@@ -89,12 +84,11 @@ QStringList DailyAttendance(DataControl& datAbsence, int date)
 QString ConflictingRecords(DataControl& datAbsence, int date)
 {
     QString lines;
-    for (Recordset row =
-             datAbsence.Select(QString(kTimesOfRecord) + " FROM Attendance, Categories WHERE Attendance.CategoryID = "
-                                                         "Categories.RecordID AND Attendance.RecordDate = ? AND "
-                                                         "Attendance.EmployeeID = ? AND Attendance.CancelledDate = 0",
-                               date, SessionState.EmployeeID);
-         !row.AtEnd(); row.MoveNext())
+    for (const Recordset& row :
+         datAbsence.Select(QString(kTimesOfRecord) + " FROM Attendance, Categories WHERE Attendance.CategoryID = "
+                                                     "Categories.RecordID AND Attendance.RecordDate = ? AND "
+                                                     "Attendance.EmployeeID = ? AND Attendance.CancelledDate = 0",
+                           date, SessionState.EmployeeID))
         lines += ConflictLine(row);
     return lines;
 }

@@ -35,9 +35,9 @@ void ShowNoUnit()
 bool TakeUserOfYear(DataControl& datAbsence, int year, const QString& name,
                     const std::function<bool(int, const QString&)>& logIn)
 {
-    if (datAbsence.Read("SELECT * FROM Employees WHERE LoginID = ? AND FiscalYear = ? AND DeactivatedDate = 0",
-                        SessionState.LoginID, year)) {
-        TakeUser(datAbsence.Records);
+    if (const auto user = First<EmployeeRow>(datAbsence, "LoginID = ? AND FiscalYear = ? AND DeactivatedDate = 0",
+                                             SessionState.LoginID, year)) {
+        TakeUser(*user);
         return true;
     }
     if (SessionState.LoginID != "ADMIN")
@@ -54,8 +54,8 @@ bool ChangeYear(DataControl& datAbsence, Neighbour direction, const std::functio
     if (!TakeUserOfYear(datAbsence, next ? s.NextFYID : s.PreviousFYID, next ? s.NextFYName : s.PreviousFYName, logIn))
         return false;
     Shift(direction);
-    if (datAbsence.Read("SELECT * FROM FiscalYears WHERE RecordID = ?", s.FiscalYearID))
-        TakeFiscalYear(datAbsence.Records);
+    if (const auto year = Find<FiscalYearRow>(datAbsence, s.FiscalYearID))
+        TakeFiscalYear(*year);
     if (next)
         FindNextYear(datAbsence);
     else
@@ -69,12 +69,13 @@ void LoadEmployeeInfo_ACCESS(DataControl& datAbsence)
     Session& s = SessionState;
     const Connection connection(datAbsence);
     static_cast<WorkSchedule&>(s) = WorkSchedule();
-    if (s.EmployeeID == 0 || !datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", s.EmployeeID))
+    const auto employee = Find<EmployeeRow>(datAbsence, s.EmployeeID);
+    if (!employee)
         return;
-    datAbsence.Take("OrganizationID", s.EmployeeOrganizationID);
-    datAbsence.Take("DepartmentID", s.EmployeeDepartmentID);
-    datAbsence.Take("GroupID", s.EmployeeGroupID);
-    ReadSchedule(datAbsence.Records, s);
+    s.EmployeeOrganizationID = employee->OrganizationID;
+    s.EmployeeDepartmentID = employee->DepartmentID;
+    s.EmployeeGroupID = employee->GroupID;
+    TakeSchedule(*employee, s);
 }
 
 void LoadEmployeeInfo_SQL(DataControl& datAbsence)

@@ -46,18 +46,18 @@ QString SourceListed(const Recordset& row)
     return location.isEmpty() ? name : location + " / " + name;
 }
 
-void TakeWorkplace(const Recordset& row, EmployeeRecord& record)
+void TakeWorkplace(const EmployeeRow& source, EmployeeRecord& record)
 {
-    row.Take("OrganizationID", record.OrganizationID);
-    row.Take("DepartmentID", record.DepartmentID);
-    row.Take("GroupID", record.GroupID);
-    row.Take("AttendanceApprovedBy_Main", record.ApprovedByMain);
-    row.Take("AttendanceApprovedBy_Backup", record.ApprovedByBackup);
+    record.OrganizationID = source.OrganizationID;
+    record.DepartmentID = source.DepartmentID;
+    record.GroupID = source.GroupID;
+    record.ApprovedByMain = source.ApprovedByMain;
+    record.ApprovedByBackup = source.ApprovedByBackup;
 }
 
-void TakeSchedule(const Recordset& row, EmployeeRecord& record)
+void TakeWeek(const EmployeeRow& source, EmployeeRecord& record)
 {
-    ReadSchedule(row, record);
+    TakeSchedule(source, record);
     ShowDayLengths(record);
     for (std::size_t day = 0; day < record.HoursWorked.size(); ++day)
         record.HoursSpecified[day] = record.HoursWorked[day] > 0;
@@ -76,10 +76,11 @@ QVector<CloneSource> LoadCloneSources(DataControl& datAbsence)
 void TakeTemplate(DataControl& datAbsence, int sourceEmployeeID, EmployeeRecord& record)
 {
     const Connection connection(datAbsence);
-    if (!datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", sourceEmployeeID))
+    const auto source = Find<EmployeeRow>(datAbsence, sourceEmployeeID);
+    if (!source)
         return;
-    TakeWorkplace(datAbsence.Records, record);
-    TakeSchedule(datAbsence.Records, record);
-    ReadRights(datAbsence.Records, record);
+    TakeWorkplace(*source, record);
+    TakeWeek(*source, record);
+    static_cast<SecurityProfile&>(record) = *source;
     CompleteLoadedRights(record);
 }

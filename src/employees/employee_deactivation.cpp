@@ -1,7 +1,7 @@
 #include "employees/employee_deactivation.h"
 
 #include "employees/employee_entitlements.h"
-#include "employees/employee_rows.h"
+#include "foundation/employee_row.h"
 #include "foundation/session_state.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
@@ -9,17 +9,19 @@
 
 namespace
 {
-RowValues Deactivation(const QString& reason)
+Settings<EmployeeRow> Deactivation(const QString& reason)
 {
-    return {{"DeactivatedDate", Today()}, {"DeactivatedBy", Who()}, {"ReasonForDeactivation", reason}};
+    return {{&EmployeeRow::DeactivatedDate, Today()},
+            {&EmployeeRow::DeactivatedBy, UserStamp()},
+            {&EmployeeRow::ReasonForDeactivation, reason}};
 }
 
 /// Only one year forward is reached, and a failure is ignored.
 void DeactivateNextYear(DataControl& datAbsence, int employee, const QString& reason)
 {
     try {
-        if (datAbsence.Read("SELECT * FROM Employees WHERE PreviousID = ?", employee))
-            WriteRow(datAbsence, "Employees", datAbsence.Records.Long("RecordID"), Deactivation(reason));
+        if (const auto next = First<EmployeeRow>(datAbsence, "PreviousID = ?", employee))
+            Set(datAbsence, next->RecordID, Deactivation(reason));
     } catch (const RuntimeError&) {
         return;
     }
@@ -28,9 +30,9 @@ void DeactivateNextYear(DataControl& datAbsence, int employee, const QString& re
 
 void DeactivateEmployee(DataControl& datAbsence, int employee, const QString& reason)
 {
-    WriteAtOnce(datAbsence, [&] {
-        LogEmployeeModification(datAbsence, employee);
-        WriteRow(datAbsence, "Employees", employee, Deactivation(reason));
+    InTransaction(datAbsence, [&] {
+        CopyToAuditTwin(datAbsence, kTable<EmployeeRow>, employee);
+        Set(datAbsence, employee, Deactivation(reason));
         DeactivateNextYear(datAbsence, employee, reason);
         DeactivateEntitlements(datAbsence, employee);
         EmployeesListToBeReloaded(datAbsence);

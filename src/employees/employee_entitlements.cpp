@@ -1,10 +1,9 @@
 #include "employees/employee_entitlements.h"
 
-#include "foundation/rows.h"
-#include "foundation/session_state.h"
+#include "foundation/entitlement_row.h"
+#include "foundation/names.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
-#include "reference/category_list.h"
 
 namespace
 {
@@ -15,14 +14,17 @@ constexpr int kMostReminders = 25;
 /// department, or to those who have none.
 Recordset SelectCategories(DataControl& datAbsence, int department)
 {
+    const QString select = "SELECT Categories.RecordID, Active, RequiresMonitoring, StandardEntitlement, Restricted, "
+                           "CarryOverAtYearEnd, " +
+                           NameColumn("Category") + " AS CategoryName, ";
     if (department == 0)
-        return datAbsence.Select("SELECT *, IsPublic AS UsedHere FROM Categories WHERE FiscalYear = ? AND "
-                                 "TimeBankRelated = 0",
+        return datAbsence.Select(select + "IsPublic AS UsedHere FROM Categories WHERE FiscalYear = ? AND "
+                                          "TimeBankRelated = 0",
                                  SessionState.FiscalYearID);
-    return datAbsence.Select("SELECT Categories.*, CategoriesDepartments.IsUsed AS UsedHere FROM Categories, "
-                             "CategoriesDepartments WHERE Categories.RecordID = CategoriesDepartments.CategoryID AND "
-                             "CategoriesDepartments.DepartmentID = ? AND Categories.FiscalYear = ? AND "
-                             "Categories.TimeBankRelated = 0",
+    return datAbsence.Select(select + "IsUsed AS UsedHere FROM Categories, CategoriesDepartments WHERE "
+                                      "Categories.RecordID = CategoriesDepartments.CategoryID AND "
+                                      "CategoriesDepartments.DepartmentID = ? AND Categories.FiscalYear = ? AND "
+                                      "Categories.TimeBankRelated = 0",
                              department, SessionState.FiscalYearID);
 }
 
@@ -38,20 +40,19 @@ bool NeedsReminder(const Recordset& category)
            category.Long("Restricted") == 0;
 }
 
-RowValues NewEntitlement(const Recordset& category, int employee)
+EntitlementRow NewEntitlement(const Recordset& category, int employee)
 {
-    return {{"FiscalYear", SessionState.FiscalYearID},
-            {"CategoryID", category.Long("RecordID")},
-            {"EmployeeID", employee},
-            {"CarriedOver", 0},
-            {"AnnualEntitlement", category.Single("StandardEntitlement")},
-            {"MayBeCarriedOver", category.Long("CarryOverAtYearEnd")},
-            {"EnteredBy", Who()},
-            {"EnteredDate", Today()},
-            {"ModifiedBy", QString("")},
-            {"ModifiedDate", 0},
-            {"Active", IsMonitored(category)},
-            {"Comment", QString("SYSTEM GENERATED")}};
+    EntitlementRow row;
+    row.FiscalYear = SessionState.FiscalYearID;
+    row.CategoryID = category.Long("RecordID");
+    row.EmployeeID = employee;
+    row.AnnualEntitlement = category.Single("StandardEntitlement");
+    row.MayBeCarriedOver = category.Long("CarryOverAtYearEnd");
+    row.EnteredBy = UserStamp();
+    row.EnteredDate = Today();
+    row.Active = IsMonitored(category);
+    row.Comment = "SYSTEM GENERATED";
+    return row;
 }
 } // namespace
 
@@ -61,18 +62,14 @@ QStringList CreateEntitlements(DataControl& datAbsence, const EmployeeRecord& re
     Recordset category = SelectCategories(datAbsence, record.DepartmentID);
     for (int held = 0; !category.AtEnd() && held < kMostCategories; category.MoveNext(), ++held) {
         if (NeedsReminder(category) && reminders.size() < kMostReminders)
-            reminders << category.Text(CategoryNameColumn()).trimmed();
-        AddRow(datAbsence, "Entitlements", NewEntitlement(category, employee));
+            reminders << category.Text("CategoryName").trimmed();
+        Add(datAbsence, NewEntitlement(category, employee));
     }
     return reminders;
 }
 
 void DeactivateEntitlements(DataControl& datAbsence, int employee)
 {
-    if (SessionState.SQL_Server)
-        return SendToServer(QStringLiteral("UPDATE Entitlements SET Active = 0, ModifiedBy = '%1', ModifiedDate = %2 "
-                                           "WHERE EmployeeID = %3")
-                                .arg(Who(), QString::number(Today()), QString::number(employee)));
     datAbsence.Execute("UPDATE Entitlements SET Active = 0, ModifiedBy = ?, ModifiedDate = ? WHERE EmployeeID = ?",
-                       Who(), Today(), employee);
+                       UserStamp(), Today(), employee);
 }

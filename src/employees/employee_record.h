@@ -1,7 +1,6 @@
 #pragma once
 
-#include "foundation/employee_rights.h"
-#include "foundation/work_schedule.h"
+#include "foundation/employee_row.h"
 
 #include <QString>
 
@@ -17,47 +16,18 @@ struct DateEntry
     bool IsFilled() const { return !Year.isEmpty() && !Month.isEmpty() && !Day.isEmpty(); }
 };
 
-/// The employee on the screen: rights, weekly schedule and all that is typed, as one operation of the employee file
-/// works on it. A new record is that of an employee who sees his own attendance and nothing else. Texts stand as typed;
-/// ids are RecordIDs and dates serial days, 0 none. The schedule is a copy of its own: the one of the calendar in
-/// SessionState stays as it is.
-struct EmployeeRecord : SecurityProfile, WorkSchedule
+/// The employee on the screen: his row, as one operation of the employee file works on it, and all that is typed. A new
+/// record is that of an employee who sees his own attendance and nothing else. Texts stand as typed. The schedule is a
+/// copy of its own: the one of the calendar in SessionState stays as it is.
+struct EmployeeRecord : EmployeeRow
 {
     EmployeeRecord() { SelfLevelRead = 1; }
+    explicit EmployeeRecord(const EmployeeRow& row) : EmployeeRow(row) {}
 
-    int RecordID = 0; ///< 0 for a new employee
-    int OrganizationID = 0;
-    int DepartmentID = 0;
-    int GroupID = 0;
-    int ApprovedByMain = 0;
-    int ApprovedByBackup = 0;
-
-    // General information.
-    QString FamilyName;
-    QString FirstName;
-    QString EmployeeID; ///< the employer's own number
-    QString AddressLine1;
-    QString PostalCode; ///< stands in the column AddressLine2
-    QString City;
-    QString ProvinceState;
-    QString Country;
-    QString PhoneHome;
-    QString PhoneOffice;
-    QString EMailAddress;
-    QString Comment;
-    QString HourlyRate; ///< money per hour, the point as decimal sign
-    DateEntry Birth;
+    QString HourlyRateText; ///< the point as decimal sign; HourlyRate stays that of the row
+    QString NewPassword;    ///< empty keeps the one of the row
+    DateEntry Birth;        ///< DateOfBirth and DateOfHire are the last complete and valid entries
     DateEntry Hire;
-    int DateOfBirth = 0; ///< the last complete and valid entry
-    int DateOfHire = 0;
-    int DeactivatedDate = 0; ///< 0 active
-    QString DeactivatedBy;
-    float PreviousHourlyRate = 0; ///< as it stands in the row
-
-    // Log-in.
-    QString LoginID;
-    QString Password;     ///< empty keeps the one of the row
-    QString KeptPassword; ///< of the row
 
     // What goes with the schedule. Indexed 0 Sunday to 6 Saturday.
     std::array<bool, 7> HoursSpecified{}; ///< the day's total was typed and wins over the calculated one

@@ -16,47 +16,12 @@ namespace
 {
 constexpr int kUsernameWidth = 15;
 
-/// The text columns with their fields.
-struct TextColumn
-{
-    const char* Column;
-    QString EmployeeRecord::*Member;
-};
-constexpr TextColumn kTextColumns[] = {
-    {"FamilyName", &EmployeeRecord::FamilyName},       {"FirstName", &EmployeeRecord::FirstName},
-    {"EmployeeID", &EmployeeRecord::EmployeeID},       {"AddressLine1", &EmployeeRecord::AddressLine1},
-    {"AddressLine2", &EmployeeRecord::PostalCode},     {"City", &EmployeeRecord::City},
-    {"ProvinceState", &EmployeeRecord::ProvinceState}, {"Country", &EmployeeRecord::Country},
-    {"PhoneHome", &EmployeeRecord::PhoneHome},         {"PhoneOffice", &EmployeeRecord::PhoneOffice},
-    {"EMailAddress", &EmployeeRecord::EMailAddress},   {"Comment", &EmployeeRecord::Comment},
-};
-
-struct NumberColumn
-{
-    const char* Column;
-    int EmployeeRecord::*Member;
-};
-constexpr NumberColumn kNumberColumns[] = {
-    {"DeactivatedDate", &EmployeeRecord::DeactivatedDate},
-    {"AttendanceApprovedBy_Main", &EmployeeRecord::ApprovedByMain},
-    {"AttendanceApprovedBy_Backup", &EmployeeRecord::ApprovedByBackup},
-};
-struct DateColumn
-{
-    const char* Column;
-    int EmployeeRecord::*Member;
-    DateEntry EmployeeRecord::*Entry;
-};
-constexpr DateColumn kDateColumns[] = {
-    {"DateOfBirth", &EmployeeRecord::DateOfBirth, &EmployeeRecord::Birth},
-    {"DateOfHire", &EmployeeRecord::DateOfHire, &EmployeeRecord::Hire},
-};
-/// Written by Add alone: later only a transfer changes them.
-constexpr NumberColumn kUnitColumns[] = {
-    {"OrganizationID", &EmployeeRecord::OrganizationID},
-    {"DepartmentID", &EmployeeRecord::DepartmentID},
-    {"GroupID", &EmployeeRecord::GroupID},
-};
+/// What is read and shown without blanks around it.
+constexpr QString EmployeeRow::*kTexts[] = {
+    &EmployeeRow::FamilyName, &EmployeeRow::FirstName,   &EmployeeRow::EmployeeID,    &EmployeeRow::AddressLine1,
+    &EmployeeRow::PostalCode, &EmployeeRow::City,        &EmployeeRow::ProvinceState, &EmployeeRow::Country,
+    &EmployeeRow::PhoneHome,  &EmployeeRow::PhoneOffice, &EmployeeRow::EMailAddress,  &EmployeeRow::Comment,
+    &EmployeeRow::LoginID};
 
 DateEntry EntryOf(int serial)
 {
@@ -66,78 +31,60 @@ DateEntry EntryOf(int serial)
     return {QString::number(date.year()), QString::number(date.month()), QString::number(date.day())};
 }
 
-void TakeLogIn(const Recordset& row, EmployeeRecord& record)
-{
-    record.LoginID = row.Text(row.IsNull("LoginID") ? "Username" : "LoginID").trimmed();
-    row.Take("Password", record.KeptPassword);
-    row.Take("HourlyRate", record.PreviousHourlyRate);
-    record.HourlyRate = FormatNumber(record.PreviousHourlyRate, 2);
-}
+/// What the employee file leaves alone in a row that exists: transfers and log-ins change it.
+constexpr int EmployeeRow::*kKept[] = {
+    &EmployeeRow::FiscalYear, &EmployeeRow::OrganizationID, &EmployeeRow::DepartmentID, &EmployeeRow::GroupID,
+    &EmployeeRow::ReportTo,   &EmployeeRow::Gender,         &EmployeeRow::Language};
 
-void TakeRow(const Recordset& row, EmployeeRecord& record)
+/// The row as the employee file writes it.
+EmployeeRow WrittenRow(const EmployeeRecord& record)
 {
-    for (const auto& [column, member] : kTextColumns)
-        record.*member = row.Text(column).trimmed();
-    for (const auto& [column, member] : kNumberColumns)
-        row.Take(column, record.*member);
-    for (const auto& [column, member] : kUnitColumns)
-        row.Take(column, record.*member);
-    row.Take("DeactivatedBy", record.DeactivatedBy);
-    for (const auto& [column, member, entry] : kDateColumns) {
-        row.Take(column, record.*member);
-        record.*entry = EntryOf(record.*member);
-    }
-    TakeLogIn(row, record);
-    ReadRights(row, record);
-    CompleteLoadedRights(record);
-    ReadSchedule(row, record);
-    ShowDayLengths(record);
-}
-
-void AppendSchedule(RowValues& values, const WorkSchedule& schedule)
-{
-    for (const auto& [column, member, weekday] : kDayLengths)
-        values.push_back({column, (schedule.*member)[weekday]});
-    for (const auto& [column, member, weekday] : kClockTimes)
-        values.push_back({column, (schedule.*member)[weekday]});
-    values.push_back({"HoursWorkedDaily", schedule.HoursWorkedDaily});
-}
-
-void AppendRights(RowValues& values, SecurityProfile profile)
-{
-    CompleteLoadedRights(profile);
-    for (const auto& [column, member] : kRights)
-        values.push_back({column, profile.*member == 1 ? 1 : 0});
-}
-
-RowValues NewRow(const EmployeeRecord& record)
-{
-    RowValues values = {{"FiscalYear", SessionState.FiscalYearID}};
-    for (const auto& [column, member] : kUnitColumns)
-        values.push_back({column, record.*member});
-    for (const ColumnValue& value : EmployeeColumns(record))
-        values.push_back(value);
-    return values;
+    EmployeeRow row = record;
+    row.DateOfBirth = record.Birth.IsFilled() ? record.DateOfBirth : 0;
+    row.DateOfHire = record.Hire.IsFilled() ? record.DateOfHire : 0;
+    row.DateEntered = Today();
+    row.EnteredBy = UserStamp();
+    row.DeactivatedBy = row.ReasonForDeactivation = " ";
+    row.EmployeeType = 0;
+    row.HourlyRate = Val(record.HourlyRateText);
+    row.PreviousID = 0; // cuts the link to the year before, also on a modification; that is kept
+    row.IsAllowedToCarryOverVacation = row.IsAllowedToCarryOverTimeBanked = 0;
+    row.Username = record.LoginID.left(kUsernameWidth);
+    if (!record.NewPassword.isEmpty())
+        row.Password = record.NewPassword;
+    CompleteLoadedRights(row);
+    for (const RightColumn& right : kRights)
+        row.*right.Member = row.*right.Member == 1 ? 1 : 0;
+    return row;
 }
 } // namespace
 
 void CountEmployees(DataControl& datAbsence, int& count)
 {
     const Connection connection(datAbsence);
-    if (datAbsence.Read("SELECT COUNT(RecordID) AS Empl FROM Employees WHERE DeactivatedDate = 0 AND FiscalYear = ?",
-                        SessionState.FiscalYearID))
-        datAbsence.Take("Empl", count);
+    datAbsence
+        .Select("SELECT COUNT(RecordID) AS Empl FROM Employees WHERE DeactivatedDate = 0 AND FiscalYear = ?",
+                SessionState.FiscalYearID)
+        .Take("Empl", count);
 }
 
 bool LoadEmployeeRecord_ACCESS(DataControl& datAbsence, EmployeeRecord& record)
 {
-    const int employee = record.RecordID;
-    record = {};
     const Connection connection(datAbsence);
-    if (!datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", employee))
+    const auto row = Find<EmployeeRow>(datAbsence, record.RecordID);
+    record = row ? EmployeeRecord(*row) : EmployeeRecord();
+    if (!row)
         return false;
-    record.RecordID = employee;
-    TakeRow(datAbsence.Records, record);
+    if (record.LoginID.isEmpty())
+        record.LoginID = record.Username; // of a row older than log-in names
+    for (const auto text : kTexts)
+        record.*text = (record.*text).trimmed();
+    record.HourlyRateText = FormatNumber(static_cast<float>(record.HourlyRate), 2);
+    record.Birth = EntryOf(record.DateOfBirth);
+    record.Hire = EntryOf(record.DateOfHire);
+    CompleteLoadedRights(record);
+    TakeSchedule(*row, record);
+    ShowDayLengths(record);
     return true;
 }
 
@@ -160,56 +107,29 @@ bool IsLoginIDTaken(DataControl& datAbsence, const EmployeeRecord& record)
     const QString name = record.LoginID.trimmed().toUpper();
     const Connection connection(datAbsence);
     return name == "ADMIN" ||
-           datAbsence.Read("SELECT * FROM Employees WHERE LoginID = ? AND RecordID <> ? AND FiscalYear = ?", name,
-                           record.RecordID, SessionState.FiscalYearID);
+           datAbsence.Read("SELECT RecordID FROM Employees WHERE LoginID = ? AND RecordID <> ? AND FiscalYear = ?",
+                           name, record.RecordID, SessionState.FiscalYearID);
 }
 
 bool HasNamesake(DataControl& datAbsence, const EmployeeRecord& record, bool modifying)
 {
     const Connection connection(datAbsence);
     const int self = modifying ? record.RecordID : 0;
-    return datAbsence.Read("SELECT * FROM Employees WHERE FamilyName = ? AND FirstName = ? AND FiscalYear = ? AND "
-                           "OrganizationID = ? AND DeactivatedDate = 0 AND (? = 0 OR DepartmentID = ?) AND "
-                           "RecordID <> ?",
-                           record.FamilyName, record.FirstName, SessionState.FiscalYearID, record.OrganizationID,
-                           record.DepartmentID, record.DepartmentID, self);
-}
-
-RowValues EmployeeColumns(const EmployeeRecord& record)
-{
-    RowValues values;
-    for (const auto& [column, member] : kTextColumns)
-        values.push_back({column, record.*member});
-    for (const auto& [column, member] : kNumberColumns)
-        values.push_back({column, record.*member});
-    for (const auto& [column, member, entry] : kDateColumns)
-        values.push_back({column, (record.*entry).IsFilled() ? record.*member : 0});
-    const RowValues others = {
-        {"DateEntered", Today()},
-        {"EnteredBy", Who()},
-        {"DeactivatedBy", QString(" ")},
-        {"ReasonForDeactivation", QString(" ")},
-        {"EmployeeType", 0},
-        {"HourlyRate", Val(record.HourlyRate)},
-        {"PreviousID", 0}, // cuts the link to the year before, also on a modification; that is kept
-        {"IsAllowedToCarryOverVacation", 0},
-        {"IsAllowedToCarryOverTimeBanked", 0},
-        {"LoginID", record.LoginID},
-        {"Username", record.LoginID.left(kUsernameWidth)},
-        {"Password", record.Password.isEmpty() ? record.KeptPassword : record.Password},
-    };
-    values.insert(values.end(), others.begin(), others.end());
-    AppendSchedule(values, record);
-    AppendRights(values, record);
-    return values;
+    return datAbsence.Read(
+        "SELECT RecordID FROM Employees WHERE FamilyName = ? AND FirstName = ? AND FiscalYear = ? AND "
+        "OrganizationID = ? AND DeactivatedDate = 0 AND (? = 0 OR DepartmentID = ?) AND "
+        "RecordID <> ?",
+        record.FamilyName, record.FirstName, SessionState.FiscalYearID, record.OrganizationID, record.DepartmentID,
+        record.DepartmentID, self);
 }
 
 EntitlementReminders AddEmployee(DataControl& datAbsence, const EmployeeRecord& record)
 {
     EntitlementReminders reminders;
-    WriteAtOnce(datAbsence, [&] {
-        const int employee = AddRow(datAbsence, "Employees", NewRow(record));
-        reminders = CreateEntitlements(datAbsence, record, employee);
+    InTransaction(datAbsence, [&] {
+        EmployeeRow row = WrittenRow(record);
+        row.FiscalYear = SessionState.FiscalYearID;
+        reminders = CreateEntitlements(datAbsence, record, Add(datAbsence, row));
         EmployeesListToBeReloaded(datAbsence);
     });
     return reminders;
@@ -217,36 +137,14 @@ EntitlementReminders AddEmployee(DataControl& datAbsence, const EmployeeRecord& 
 
 void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record)
 {
-    RowValues values = EmployeeColumns(record);
-    values.push_back({"ModifiedBy", Who()});
-    values.push_back({"ModifiedDate", Today()});
-    WriteAtOnce(datAbsence, [&] {
-        LogEmployeeModification(datAbsence, record.RecordID);
-        WriteRow(datAbsence, "Employees", record.RecordID, values);
+    InTransaction(datAbsence, [&] {
+        const auto standing = Standing<EmployeeRow>(datAbsence, record.RecordID);
+        EmployeeRow row = WrittenRow(record);
+        for (const auto kept : kKept)
+            row.*kept = standing.*kept;
+        row.Title = standing.Title;
+        row.LoggedIn = standing.LoggedIn;
+        Change(datAbsence, standing, row);
         EmployeesListToBeReloaded(datAbsence);
     });
-}
-
-void LogEmployeeModification(DataControl& datAbsence, int employee)
-{
-    try {
-        CopyToAuditTwin(datAbsence, "Employees", employee);
-    } catch (const RuntimeError&) {
-        return;
-    }
-}
-
-void WriteAtOnce(DataControl& datAbsence, const std::function<void()>& work)
-{
-    const Connection connection(datAbsence);
-    if (SessionState.SQL_Server)
-        return work();
-    Batch batch(datAbsence.Engine());
-    try {
-        work();
-        batch.Commit();
-    } catch (const RuntimeError&) {
-        batch.Rollback();
-        throw;
-    }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "employees/employee_record.h"
-#include "foundation/rows.h"
+#include "platform/dao/dao.h"
 
 #include <QStringList>
 
@@ -22,9 +22,6 @@ bool IsLoginIDTaken(DataControl& datAbsence, const EmployeeRecord& record);
 /// `modifying`: the employee himself does not count.
 bool HasNamesake(DataControl& datAbsence, const EmployeeRecord& record, bool modifying);
 
-/// All that the employee file writes of a record, but its place in a year and a unit.
-RowValues EmployeeColumns(const EmployeeRecord& record);
-
 /// What a new employee sets off in the year's list of entitlements: names of the categories that still need an annual
 /// entitlement, in the user's language.
 using EntitlementReminders = QStringList;
@@ -35,10 +32,3 @@ EntitlementReminders AddEmployee(DataControl& datAbsence, const EmployeeRecord& 
 /// Stores the row as it stands in the modifications log, changes it, and flags the list of employees. Throws
 /// RuntimeError; nothing is written then.
 void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record);
-
-/// Copies the row of an employee, as it stands, into Employees_Modifications. A failure is ignored: the change that
-/// follows goes on without its copy.
-void LogEmployeeModification(DataControl& datAbsence, int employee);
-
-/// Runs `work` connected and in one transaction, which is undone when it throws. The server back end has none.
-void WriteAtOnce(DataControl& datAbsence, const std::function<void()>& work);

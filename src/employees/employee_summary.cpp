@@ -73,7 +73,7 @@ QString EmployeeSummary(const EmployeeRecord& record, const UnitNames& units, bo
            UnitLine(T("Organization:", "Organisation:"), units.Organization) +
            UnitLine(T("Department:", "Département:"), units.Department) +
            UnitLine(T("Group:      ", "Groupe:      "), units.Group) + ScheduleBlock(record) + "\r\n" +
-           T("Username and password:", "Nom d'usager/mot-clé:") + "\t" + record.LoginID + ", " + record.Password +
+           T("Username and password:", "Nom d'usager/mot-clé:") + "\t" + record.LoginID + ", " + record.NewPassword +
            "\r\n" + ProfileBlock(record);
 }
 

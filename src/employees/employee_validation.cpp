@@ -128,7 +128,7 @@ Verdict CheckThatLoginIDIsFree(Validation& v)
 
 Verdict CheckPassword(Validation& v)
 {
-    if (!v.Record.Password.isEmpty() || !v.Record.KeptPassword.isEmpty())
+    if (!v.Record.NewPassword.isEmpty() || !v.Record.Password.isEmpty())
         return {};
     return Refuse(
         T("You must specify a password for this employee!", "Vous devez spécifier un mot-clé pour cet(te) employé(e)!"),
@@ -233,9 +233,9 @@ void NormaliseTexts(EmployeeRecord& record)
     record.FirstName = ProperCase(record.FirstName);
     record.PostalCode = record.PostalCode.toUpper();
     record.LoginID = record.LoginID.toUpper();
-    record.Password = record.Password.toUpper();
+    record.NewPassword = record.NewPassword.toUpper();
     record.EMailAddress = record.EMailAddress.trimmed();
     record.Comment = record.Comment.trimmed();
-    if (!record.HourlyRate.isEmpty())
-        record.HourlyRate = FormatNumber(static_cast<float>(Val(record.HourlyRate)), 2);
+    if (!record.HourlyRateText.isEmpty())
+        record.HourlyRateText = FormatNumber(static_cast<float>(Val(record.HourlyRateText)), 2);
 }

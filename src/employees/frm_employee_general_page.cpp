@@ -51,7 +51,7 @@ constexpr TextField kFields[] = {
     {"txtName", &EmployeeRecord::FamilyName, KeyFilter::PersonName, 35, "Family name:", "Nom de famille:"},
     {"txtFirstName", &EmployeeRecord::FirstName, KeyFilter::PersonName, 35, "First name:", "Prénom:"},
     {"txtEmployeeID", &EmployeeRecord::EmployeeID, KeyFilter::Comment, 35, "Employee ID:", "Numéro d'employé(e):"},
-    {"txtHourlyRate", &EmployeeRecord::HourlyRate, KeyFilter::DecimalNumber, kUnlimited,
+    {"txtHourlyRate", &EmployeeRecord::HourlyRateText, KeyFilter::DecimalNumber, kUnlimited,
      "Hourly rate:", "Taux horaire:"},
     {"txtAddressLine1", &EmployeeRecord::AddressLine1, KeyFilter::Comment, kUnlimited, "Address:", "Adresse:"},
     {"txtCity", &EmployeeRecord::City, KeyFilter::Comment, kUnlimited, "City:", "Ville:"},

@@ -188,13 +188,13 @@ void EmployeeProfilePage::LoadMatrixCaptions()
 void EmployeeProfilePage::Show(const EmployeeRecord& record)
 {
     ShowText(txtUserName, record.LoginID);
-    ShowText(txtPassword, record.Password);
+    ShowText(txtPassword, record.NewPassword);
 }
 
 void EmployeeProfilePage::Read(EmployeeRecord& record) const
 {
     record.LoginID = txtUserName->text();
-    record.Password = txtPassword->text();
+    record.NewPassword = txtPassword->text();
 }
 
 void EmployeeProfilePage::Normalise()

@@ -1,6 +1,6 @@
 #include "employees/hourly_rate.h"
 
-#include "employees/employee_rows.h"
+#include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
 #include "foundation/session_state.h"
 #include "foundation/texts.h"
@@ -14,24 +14,22 @@ void SendStatement(const EmployeeRecord& record, int effective)
 {
     SendToServer(Fill("UPDATE Attendance SET HourlyRate = '{rate}', UnitCost = {rate}, ExtendedCost = TotalDuration * "
                       "{rate} WHERE EmployeeID = {employee} AND RecordDate >= {date}",
-                      {{"rate", record.HourlyRate},
+                      {{"rate", record.HourlyRateText},
                        {"employee", QString::number(record.RecordID)},
                        {"date", QString::number(effective)}}));
 }
 
-void WriteCosts(Recordset& attendance, const QString& rate)
+Settings<AttendanceRow> Costs(const AttendanceRow& record, const QString& rate)
 {
-    attendance.Edit();
-    attendance["HourlyRate"] = rate;
-    attendance["UnitCost"] = qRound64(Val(rate) * kHundredths);
-    attendance["ExtendedCost"] = qRound64(Val(rate) * attendance.Single("TotalDuration") * kHundredths);
-    attendance.Update();
+    return {{&AttendanceRow::HourlyRate, rate},
+            {&AttendanceRow::UnitCost, qRound64(Val(rate) * kHundredths)},
+            {&AttendanceRow::ExtendedCost, qRound64(Val(rate) * record.TotalDuration * kHundredths)}};
 }
 } // namespace
 
 bool HasNewRate(const EmployeeRecord& record)
 {
-    return static_cast<float>(Val(record.HourlyRate)) != record.PreviousHourlyRate;
+    return static_cast<float>(Val(record.HourlyRateText)) != static_cast<float>(record.HourlyRate);
 }
 
 bool AskForRetroactiveRate(const EmployeeRecord& record)
@@ -47,19 +45,18 @@ bool AskForRetroactiveRate(const EmployeeRecord& record)
         "{FiscalYearName}?\r\n\r\nN.B.: Il vous sera possible de spécifier la date à laquelle le nouveau taux horaire "
         "est entré en vigueur.");
     return Ask(T("New hourly rate specified:", "Un changement de taux horaire a été détecté!"),
-               Fill(text, {{"old", FormatNumber(record.PreviousHourlyRate, 2)},
-                           {"new", record.HourlyRate},
+               Fill(text, {{"old", FormatNumber(static_cast<float>(record.HourlyRate), 2)},
+                           {"new", record.HourlyRateText},
                            {"FiscalYearName", SessionState.FiscalYearName}}));
 }
 
 void UpdateHourlyRate(DataControl& datAbsence, const EmployeeRecord& record, int effective)
 {
-    if (SessionState.SQL_Server)
+    if (IsServerChosen()) // which works the costs out by itself, in one statement
         return SendStatement(record, effective);
-    WriteAtOnce(datAbsence, [&] {
-        for (Recordset attendance = datAbsence.Open("SELECT * FROM Attendance WHERE EmployeeID = ? AND RecordDate >= ?",
-                                                    record.RecordID, effective);
-             !attendance.AtEnd(); attendance.MoveNext())
-            WriteCosts(attendance, record.HourlyRate);
+    InTransaction(datAbsence, [&] {
+        for (const AttendanceRow& row :
+             Where<AttendanceRow>(datAbsence, "EmployeeID = ? AND RecordDate >= ?", record.RecordID, effective))
+            Set(datAbsence, row.RecordID, Costs(row, record.HourlyRateText));
     });
 }

@@ -1,10 +1,11 @@
 #include "employees/transfer_employee.h"
 
-#include "employees/employee_rows.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/employee_row.h"
+#include "foundation/entitlement_row.h"
+#include "foundation/names.h"
 #include "foundation/texts.h"
-#include "foundation/values.h"
 #include "platform/clock.h"
 #include "reference/employees_list.h"
 
@@ -13,21 +14,8 @@ namespace
 /// More entitlements than this of one employee are not looked at.
 constexpr int kMostEntitlements = 1000;
 
-RowValues UnitColumns(const TransferPlace& place)
-{
-    return {{"OrganizationID", place.OrganizationID}, {"DepartmentID", place.DepartmentID}, {"GroupID", place.GroupID}};
-}
-
-void UpdateEmployee(DataControl& datAbsence, const EmployeeTransfer& transfer)
-{
-    RowValues values = UnitColumns(transfer.To);
-    values.push_back({"ModifiedBy", Who()});
-    values.push_back({"ModifiedDate", Today()});
-    WriteRow(datAbsence, "Employees", transfer.RecordID, values);
-}
-
 /// Records up to today keep their unit, so that reports of the past still charge it.
-void UpdateAttendance_ACCESS(DataControl& datAbsence, const EmployeeTransfer& transfer)
+void UpdateAttendance(DataControl& datAbsence, const EmployeeTransfer& transfer)
 {
     datAbsence.Execute(
         "UPDATE Attendance SET OrganizationID = ?, DepartmentID = ?, GroupID = ? WHERE EmployeeID = ? AND "
@@ -35,39 +23,19 @@ void UpdateAttendance_ACCESS(DataControl& datAbsence, const EmployeeTransfer& tr
         transfer.To.OrganizationID, transfer.To.DepartmentID, transfer.To.GroupID, transfer.RecordID, Today());
 }
 
-void UpdateAttendance_SQL(const EmployeeTransfer& transfer)
-{
-    SendToServer(QStringLiteral("UPDATE Attendance SET OrganizationID = %1, DepartmentID = %2, GroupID = %3 WHERE "
-                                "EmployeeID = %4 AND RecordDate > %5 AND CancelledDate = 0")
-                     .arg(transfer.To.OrganizationID)
-                     .arg(transfer.To.DepartmentID)
-                     .arg(transfer.To.GroupID)
-                     .arg(transfer.RecordID)
-                     .arg(Today()));
-}
-
-void UpdateAttendance(DataControl& datAbsence, const EmployeeTransfer& transfer)
-{
-    if (SessionState.SQL_Server)
-        UpdateAttendance_SQL(transfer);
-    else
-        UpdateAttendance_ACCESS(datAbsence, transfer);
-}
-
 /// The new department decides which categories its people use; balances move along unchanged. The employee's row
 /// already names that department.
 void UpdateEntitlements(DataControl& datAbsence, int employee)
 {
-    for (Recordset row = datAbsence.Select(
+    for (const Recordset& row : datAbsence.Select(
              "SELECT DISTINCT Entitlements.RecordID, CategoriesDepartments.IsUsed, Employees.DepartmentID FROM "
              "Entitlements, CategoriesDepartments, Employees, Categories WHERE "
              "Entitlements.CategoryID = CategoriesDepartments.CategoryID AND "
              "Entitlements.CategoryID = Categories.RecordID AND Entitlements.EmployeeID = Employees.RecordID AND "
              "Categories.CanBeRemoved = 1 AND CategoriesDepartments.DepartmentID = Employees.DepartmentID AND "
              "Entitlements.EmployeeID = ? LIMIT ?",
-             employee, kMostEntitlements);
-         !row.AtEnd(); row.MoveNext())
-        WriteRow(datAbsence, "Entitlements", row.Long("RecordID"), {{"Active", row.Long("IsUsed")}});
+             employee, kMostEntitlements))
+        Set<EntitlementRow>(datAbsence, row.Long("RecordID"), {{&EntitlementRow::Active, row.Long("IsUsed")}});
 }
 
 void ShowPlaceInCalendar(const EmployeeTransfer& transfer)
@@ -101,24 +69,20 @@ QVector<TransferCandidate> ReloadEmployees(DataControl& datAbsence, const Transf
     const Connection connection(datAbsence);
     const auto [condition, unit] = DeepestUnit(within);
     QVector<TransferCandidate> candidates;
-    for (Recordset row = datAbsence.Select("SELECT * FROM Employees WHERE " + condition +
-                                               " AND DeactivatedDate = 0 AND FiscalYear = ?2 "
-                                               "ORDER BY FamilyName ASC, FirstName ASC",
-                                           unit, SessionState.FiscalYearID);
-         !row.AtEnd(); row.MoveNext())
-        candidates.append(
-            {row.Long("RecordID"), row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed()});
+    for (const Recordset& row :
+         datAbsence.Select("SELECT RecordID, FamilyName, FirstName FROM Employees WHERE " + condition +
+                               " AND DeactivatedDate = 0 AND FiscalYear = ?2 "
+                               "ORDER BY FamilyName ASC, FirstName ASC",
+                           unit, SessionState.FiscalYearID))
+        candidates.append({row.Long("RecordID"), ListedName(row)});
     return candidates;
 }
 
 void TakePlaceOfEmployee(DataControl& datAbsence, int employee, TransferPlace& place)
 {
     const Connection connection(datAbsence);
-    if (!datAbsence.Read("SELECT * FROM Employees WHERE RecordID = ?", employee))
-        return;
-    datAbsence.Take("OrganizationID", place.OrganizationID);
-    datAbsence.Take("DepartmentID", place.DepartmentID);
-    datAbsence.Take("GroupID", place.GroupID);
+    if (const auto row = Find<EmployeeRow>(datAbsence, employee))
+        place = {row->OrganizationID, row->DepartmentID, row->GroupID};
 }
 
 bool ValidateTransfer(const EmployeeTransfer& transfer)
@@ -142,9 +106,11 @@ bool ConfirmTransfer(const EmployeeTransfer& transfer, const QString& fromLines,
 
 void TransferEmployee(DataControl& datAbsence, const EmployeeTransfer& transfer)
 {
-    WriteAtOnce(datAbsence, [&] {
-        LogEmployeeModification(datAbsence, transfer.RecordID);
-        UpdateEmployee(datAbsence, transfer);
+    InTransaction(datAbsence, [&] {
+        Change<EmployeeRow>(datAbsence, transfer.RecordID,
+                            {{&EmployeeRow::OrganizationID, transfer.To.OrganizationID},
+                             {&EmployeeRow::DepartmentID, transfer.To.DepartmentID},
+                             {&EmployeeRow::GroupID, transfer.To.GroupID}});
         UpdateAttendance(datAbsence, transfer);
         if (transfer.From.DepartmentID != transfer.To.DepartmentID)
             UpdateEntitlements(datAbsence, transfer.RecordID);

@@ -1,10 +1,9 @@
 #include "foundation/common_services.h"
 
-#include "foundation/rows.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
-#include "platform/dao/dao.h"
+#include "platform/dao/server.h"
 #include "platform/program.h"
 
 #include <QFile>
@@ -178,12 +177,11 @@ void LogError(int errorCode, const QString& errorDescription, const QString& for
         return;
     }
     const auto quoteless = [](QString text) { return text.replace('\'', '`'); };
-    SendToServer(InsertStatement("ErrorLog", {{"ErrorCode", errorCode},
-                                              {"ErrorDescription", quoteless(errorDescription)},
-                                              {"Form", formName},
-                                              {"ProcedureName", quoteless(procedureName)},
-                                              {"Occurred", static_cast<float>(occurred)},
-                                              {"SQL", quoteless(sqlText)}}));
+    SendToServer(
+        ServerStatement("INSERT INTO ErrorLog (ErrorCode, ErrorDescription, Form, ProcedureName, Occurred, SQL) "
+                        "VALUES (?, ?, ?, ?, ?, ?)",
+                        {errorCode, quoteless(errorDescription), formName, quoteless(procedureName),
+                         static_cast<float>(occurred), quoteless(sqlText)}));
 }
 
 void FormatDuration()

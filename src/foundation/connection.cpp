@@ -2,11 +2,13 @@
 
 #include "foundation/common_services.h"
 #include "foundation/texts.h"
+#include "platform/dao/server.h"
 #include "platform/program.h"
 
 namespace
 {
 int connections = 0; // nested connections of the shared workspace
+[[maybe_unused]] const bool followed = FollowServerChoice(SessionState.SQL_Server);
 
 void OpenFile()
 {
@@ -15,7 +17,7 @@ void OpenFile()
 
 void Restore(DataControl& /*datAbsence*/)
 {
-    if (!SessionState.SQL_Server)
+    if (!IsServerChosen())
         OpenFile();
 }
 } // namespace
@@ -39,7 +41,7 @@ void EndOnFailedConnection(const RuntimeError& error)
 void TryToConnect(DataControl& datAbsence)
 {
     DataControl::Reconnect = Restore;
-    if (!SessionState.SQL_Server && !DefaultWorkspace().IsOpen()) {
+    if (!IsServerChosen() && !DefaultWorkspace().IsOpen()) {
         OpenFile();
         connections = 0;
     }

@@ -27,7 +27,7 @@ void TellInvalidDatabaseName()
 bool CanBeConnectedTo(const QString& path)
 {
     try {
-        Database::Open(path, kDatabasePassword)->OpenRecordset("SELECT * FROM FiscalYears").MoveFirst();
+        Database::Open(path, kDatabasePassword)->OpenRecordset("SELECT RecordID FROM FiscalYears").MoveFirst();
         return true;
     } catch (const RuntimeError& error) {
         Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),

@@ -2,7 +2,6 @@
 
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
-#include "foundation/rows.h"
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
@@ -14,37 +13,39 @@ constexpr int kEmployeeTimeOut = 840;
 constexpr int kAdminTimeOut = 3540;
 constexpr int kExperiencedUser = 25;
 
-bool FindUser(DataControl& datAbsence, int fiscalYear)
+std::optional<EmployeeRow> FindUser(DataControl& datAbsence, int fiscalYear)
 {
     const Session& s = SessionState;
     if (s.LoginID == "ADMIN")
-        return datAbsence.Read("SELECT * FROM Employees WHERE LoginID = 'ADMIN' AND FiscalYear = 0 AND Password = ?",
-                               s.UserPassword);
-    return datAbsence.Read("SELECT * FROM Employees WHERE LoginID = ? AND Password = ? AND FiscalYear = ? AND "
-                           "DeactivatedDate = 0",
-                           s.LoginID, s.UserPassword, fiscalYear);
+        return First<EmployeeRow>(datAbsence, "LoginID = 'ADMIN' AND FiscalYear = 0 AND Password = ?", s.UserPassword);
+    return First<EmployeeRow>(datAbsence, "LoginID = ? AND Password = ? AND FiscalYear = ? AND DeactivatedDate = 0",
+                              s.LoginID, s.UserPassword, fiscalYear);
 }
 
-void TakeName(const Recordset& employee)
+void TakeName(const EmployeeRow& employee)
 {
     Session& s = SessionState;
     const bool isAdmin = s.LoginID == "ADMIN";
-    s.UserName =
-        isAdmin ? QString() : employee.Text("FirstName").trimmed() + " " + employee.Text("FamilyName").trimmed();
+    s.UserName = isAdmin ? QString() : employee.FirstName.trimmed() + " " + employee.FamilyName.trimmed();
     s.CurrentSelection = isAdmin ? s.LoginID : s.UserName;
     s.TimeOutSeconds = isAdmin ? kAdminTimeOut : kEmployeeTimeOut;
+}
+
+void NoteLogIn(DataControl& datAbsence, double moment)
+{
+    Set<EmployeeRow>(datAbsence, SessionState.UserID, {{&EmployeeRow::LoggedIn, moment}});
 }
 } // namespace
 
 bool LogInUser(DataControl& datAbsence, int fiscalYear)
 {
-    if (!FindUser(datAbsence, fiscalYear))
+    const auto user = FindUser(datAbsence, fiscalYear);
+    if (!user)
         return false;
-    TakeUser(datAbsence.Records);
-    TakeName(datAbsence.Records);
-    SessionState.English = datAbsence.Records.Long("Language") == 0;
-    if (!SessionState.SQL_Server)
-        WriteRow(datAbsence, "Employees", SessionState.UserID, {{"LoggedIn", Now()}});
+    TakeUser(*user);
+    TakeName(*user);
+    SessionState.English = user->Language == 0;
+    NoteLogIn(datAbsence, Now());
     SessionState.ShowSelectHint = true;
     if (SessionState.GroupLevelCreate == 1 || SessionState.SelfLevelCreate == 1)
         SessionState.ShowSelectHint = !CountAttenceRecords(datAbsence);
@@ -54,8 +55,8 @@ bool LogInUser(DataControl& datAbsence, int fiscalYear)
 bool CountAttenceRecords(DataControl& datAbsence)
 {
     const Recordset batches = datAbsence.Select(
-        "SELECT DISTINCT EnteredDate, CategoryID FROM Attendance WHERE EnteredBy = ? COLLATE BINARY LIMIT ?", Who(),
-        kExperiencedUser + 1);
+        "SELECT DISTINCT EnteredDate, CategoryID FROM Attendance WHERE EnteredBy = ? COLLATE BINARY LIMIT ?",
+        UserStamp(), kExperiencedUser + 1);
     return batches.RecordCount() > kExperiencedUser;
 }
 
@@ -63,7 +64,7 @@ void LogOutUser(DataControl& datAbsence)
 {
     try {
         TryToConnect(datAbsence);
-        WriteRow(datAbsence, "Employees", SessionState.UserID, {{"LoggedIn", 0}});
+        NoteLogIn(datAbsence, 0);
         DisconnectFromDatabase(datAbsence);
     } catch (const RuntimeError&) {
         // Nothing reads LoggedIn; a database that is gone must not keep the program from ending.

@@ -1,98 +1,113 @@
 #include "foundation/rows.h"
 
-#include "foundation/session_state.h"
+#include "foundation/connection.h"
+#include "foundation/values.h"
+#include "platform/clock.h"
 
 namespace
 {
-std::function<void(const QString&)>& ServerSink()
+Values BoundTo(const RowValues& values)
 {
-    static std::function<void(const QString&)> sink;
-    return sink;
+    Values bound;
+    for (const ColumnValue& value : values)
+        bound << value.Value;
+    return bound;
 }
 
-QString Literal(const QVariant& value)
+/// What goes into a statement about `table`: not its key, and to the server no column that is kept in the file alone.
+RowValues Written(const TableShape& table, const RowValues& values)
 {
-    if (value.typeId() == QMetaType::QString)
-        return "'" + value.toString() + "'";
-    if (value.typeId() == QMetaType::Float)
-        return QString::number(value.toFloat(), 'g', 7);
-    return value.toString();
+    const QStringList here = table.Columns.mid(table.Columns.size() - (IsServerChosen() ? table.FileOnly : 0));
+    RowValues written;
+    for (const ColumnValue& value : values)
+        if (value.Column != "RecordID" && !here.contains(value.Column))
+            written.push_back(value);
+    return written;
 }
 
-void SetFields(Recordset& record, const RowValues& values)
+QString InsertText(const QString& table, const RowValues& values)
 {
-    for (const auto& [column, value] : values)
-        record[column] = value;
-    record.Update();
+    QStringList columns;
+    for (const ColumnValue& value : values)
+        columns << value.Column;
+    const QStringList marks(columns.size(), QStringLiteral("?"));
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, columns.join(", "), marks.join(", "));
 }
 
-QStringList AuditedColumns(Database& database, const QString& table)
+QString UpdateText(const QString& table, const RowValues& values, const QString& key = "RecordID")
 {
-    const QStringList columns = database.Columns(table);
-    return table == "Attendance" ? columns.mid(0, columns.indexOf("CancelledDate") + 1) : columns;
+    QStringList settings;
+    for (const ColumnValue& value : values)
+        settings << value.Column + " = ?";
+    return QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?").arg(table, settings.join(", "), key);
 }
 } // namespace
 
-int AddRow(DataControl& datAbsence, const char* table, const RowValues& values)
+int AddRow(DataControl& datAbsence, const TableShape& table, const RowValues& values)
 {
-    if (SessionState.SQL_Server) {
-        SendToServer(InsertStatement(table, values));
-        return 0;
+    const RowValues written = Written(table, values);
+    datAbsence.Run(InsertText(table.Name, written), BoundTo(written));
+    return table.HasRecordID ? datAbsence.LastKey() : 0;
+}
+
+void WriteRow(DataControl& datAbsence, const TableShape& table, int recordID, const RowValues& values)
+{
+    const RowValues written = Written(table, values);
+    if (!written.empty() && datAbsence.Run(UpdateText(table.Name, written), BoundTo(written) << recordID) == 0)
+        throw RuntimeError(EngineError::NoCurrentRecord, "The record has been removed by another user.");
+}
+
+void WriteRowsOf(DataControl& datAbsence, const char* table, const char* key, int id, const RowValues& values)
+{
+    datAbsence.Run(UpdateText(table, values, key), BoundTo(values) << id);
+}
+
+void ChangeRow(DataControl& datAbsence, const TableShape& table, int recordID, const RowValues& values)
+{
+    CopyToAuditTwin(datAbsence, table, recordID);
+    RowValues stamped = values;
+    if (table.Columns.contains("ModifiedBy"))
+        stamped.insert(stamped.end(), {{"ModifiedBy", UserStamp()}, {"ModifiedDate", Today()}});
+    WriteRow(datAbsence, table, recordID, stamped);
+}
+
+void CopyToAuditTwin(DataControl& datAbsence, const TableShape& table, int recordID)
+{
+    if (table.Audit == Twin::None)
+        return;
+    const QStringList columns = QStringList("RecordID") + table.Columns.mid(0, table.Columns.size() - table.FileOnly);
+    const QString all = columns.join(", ");
+    try {
+        datAbsence.Execute(QStringLiteral("INSERT INTO %1_Modifications (%2) SELECT %3 FROM %1 WHERE RecordID = ?")
+                               .arg(table.Name, all, IsServerChosen() ? "*" : all),
+                           recordID);
+    } catch (const RuntimeError&) {
+        if (table.Audit != Twin::Tried)
+            throw;
     }
-    Recordset record = datAbsence.Open(QStringLiteral("SELECT * FROM %1 WHERE 1 = 0").arg(table));
-    record.AddNew();
-    SetFields(record, values);
-    return datAbsence.Engine().LastKey();
 }
 
-void WriteRow(DataControl& datAbsence, const char* table, int recordID, const RowValues& values)
+QString SelectFrom(const TableShape& table, const QString& conditions)
 {
-    if (SessionState.SQL_Server)
-        return SendToServer(UpdateStatement(table, recordID, values));
-    Recordset record = datAbsence.Open(QStringLiteral("SELECT * FROM %1 WHERE RecordID = ?").arg(table), recordID);
-    record.Edit();
-    SetFields(record, values);
+    return QStringLiteral("SELECT %1%2 FROM %3 WHERE %4")
+        .arg(table.HasRecordID ? "RecordID, " : "", table.Columns.join(", "), table.Name, conditions);
 }
 
-void CopyToAuditTwin(DataControl& datAbsence, const char* table, int recordID)
+RowValues Differing(const RowValues& before, const RowValues& now)
 {
-    if (SessionState.SQL_Server)
-        return SendToServer(QStringLiteral("INSERT INTO %1_Modifications SELECT * FROM %1 WHERE RecordID = %2")
-                                .arg(table)
-                                .arg(recordID));
-    const QString columns = AuditedColumns(datAbsence.Engine(), table).join(", ");
-    datAbsence.Execute(
-        QStringLiteral("INSERT INTO %1_Modifications (%2) SELECT %2 FROM %1 WHERE RecordID = ?").arg(table, columns),
-        recordID);
+    RowValues differing;
+    for (std::size_t i = 0; i < now.size(); ++i)
+        if (now[i].Value != before[i].Value)
+            differing.push_back(now[i]);
+    return differing;
 }
 
-QString InsertStatement(const char* table, const RowValues& values)
+void InTransaction(DataControl& datAbsence, const std::function<void()>& work, Transaction::OnFailure onFailure)
 {
-    QStringList columns;
-    QStringList literals;
-    for (const auto& [column, value] : values) {
-        columns << column;
-        literals << Literal(value);
-    }
-    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, columns.join(", "), literals.join(", "));
-}
-
-QString UpdateStatement(const char* table, int recordID, const RowValues& values)
-{
-    QStringList settings;
-    for (const auto& [column, value] : values)
-        settings << QStringLiteral("%1 = %2").arg(column, Literal(value));
-    return QStringLiteral("UPDATE %1 SET %2 WHERE RecordID = %3")
-        .arg(QLatin1String(table), settings.join(", "), QString::number(recordID));
-}
-
-void SendToServer(const QString& statement)
-{
-    if (ServerSink())
-        ServerSink()(statement);
-}
-
-void SetServerSink(std::function<void(const QString&)> sink)
-{
-    ServerSink() = std::move(sink);
+    const Connection connection(datAbsence);
+    if (IsServerChosen())
+        return work();
+    Transaction transaction(datAbsence.Engine(), onFailure);
+    work();
+    transaction.Commit();
 }

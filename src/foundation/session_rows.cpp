@@ -1,60 +1,49 @@
 #include "foundation/session_rows.h"
 
 #include "foundation/connection.h"
+#include "foundation/names.h"
 
 #include <algorithm>
 
-void ReadRights(const Recordset& employee, SecurityProfile& profile)
+void TakeSchedule(const WorkSchedule& employee, WorkSchedule& schedule)
 {
-    for (const auto& [column, member] : kRights)
-        employee.Take(column, profile.*member);
-}
-
-void ReadSchedule(const Recordset& employee, WorkSchedule& schedule)
-{
-    for (const auto& [column, member, weekday] : kClockTimes)
-        employee.Take(column, (schedule.*member)[weekday]);
-    for (const auto& [column, member, weekday] : kDayLengths)
-        employee.Take(column, (schedule.*member)[weekday]);
-    float daily = 0;
-    employee.Take("HoursWorkedDaily", daily);
-    if (daily > 0)
-        schedule.HoursWorkedDaily = daily;
+    const float daily = employee.HoursWorkedDaily > 0 ? employee.HoursWorkedDaily : schedule.HoursWorkedDaily;
+    schedule = employee;
+    schedule.HoursWorkedDaily = daily;
     schedule.HasSchedule =
         std::any_of(schedule.HoursWorked.begin(), schedule.HoursWorked.end(), [](float hours) { return hours != 0; });
 }
 
-void TakeUser(const Recordset& employee)
+void TakeUser(const EmployeeRow& employee)
 {
     Session& s = SessionState;
-    employee.Take("RecordID", s.UserID);
-    s.EmployeeID = s.UserID;
-    employee.Take("AttendanceApprovedBy_Main", s.UserApprovedBy);
-    employee.Take("OrganizationID", s.UserOrganizationID);
-    employee.Take("DepartmentID", s.UserDepartmentID);
-    employee.Take("GroupID", s.UserGroupID);
-    s.EmployeeOrganizationID = s.UserOrganizationID;
-    s.EmployeeDepartmentID = s.UserDepartmentID;
-    s.EmployeeGroupID = s.UserGroupID;
-    ReadRights(employee, s);
+    s.UserID = s.EmployeeID = employee.RecordID;
+    s.UserApprovedBy = employee.ApprovedByMain;
+    s.UserOrganizationID = s.EmployeeOrganizationID = employee.OrganizationID;
+    s.UserDepartmentID = s.EmployeeDepartmentID = employee.DepartmentID;
+    s.UserGroupID = s.EmployeeGroupID = employee.GroupID;
+    static_cast<SecurityProfile&>(s) = employee;
 }
 
-void TakeFiscalYear(const Recordset& year)
+void TakeFiscalYear(const FiscalYearRow& year)
 {
-    year.Take("RecordID", SessionState.FiscalYearID);
-    year.Take("FiscalYearName", SessionState.FiscalYearName);
-    year.Take("CommencingDate", SessionState.CommencingDate);
-    year.Take("EndingDate", SessionState.EndingDate);
-    year.Take("ClosedDate", SessionState.ClosedDate);
+    SessionState.FiscalYearID = year.RecordID;
+    SessionState.FiscalYearName = year.FiscalYearName;
+    SessionState.CommencingDate = year.CommencingDate;
+    SessionState.EndingDate = year.EndingDate;
+    SessionState.ClosedDate = year.ClosedDate;
+}
+
+std::optional<EmployeeRow> FindAdministrator(DataControl& datAbsence)
+{
+    return First<EmployeeRow>(datAbsence, "LoginID = 'ADMIN' AND FiscalYear = 0");
 }
 
 void LoadAdministratorInfo(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
-    if (!datAbsence.Read("SELECT * FROM Employees WHERE LoginID = 'ADMIN' AND FiscalYear = 0"))
-        return;
-    SessionState.AdminName =
-        (datAbsence.Records.Text("FirstName").trimmed() + " " + datAbsence.Records.Text("FamilyName").trimmed())
-            .trimmed();
-    datAbsence.Take("EMailAddress", SessionState.AdminEMail);
+    if (const auto administrator = FindAdministrator(datAbsence)) {
+        SessionState.AdminName = FullName(administrator->FirstName, administrator->FamilyName);
+        SessionState.AdminEMail = administrator->EMailAddress;
+    }
 }

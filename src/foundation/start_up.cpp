@@ -4,7 +4,6 @@
 #include "foundation/connection.h"
 #include "foundation/database_choice.h"
 #include "foundation/deployment.h"
-#include "foundation/rows.h"
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
 #include "platform/clock.h"
@@ -19,12 +18,11 @@ std::unique_ptr<Database> OpenConfiguration()
     return Database::Open(JoinPath(ProgramFolder(), "Config.mdb"), kConfigPassword);
 }
 
-RowValues ConfigurationValues()
-{
-    const Session& s = SessionState;
-    return {{"SQL_Server", s.SQL_Server}, {"IP_Address", s.IP_Address},     {"Username", s.Username},
-            {"Password", s.Password},     {"DatabasePath", s.DatabasePath}, {"DatabaseName", s.DatabaseName}};
-}
+const Table<Session> kConfiguration = {
+    "Configuration",
+    {COLUMN(Session, English), COLUMN(Session, SQL_Server), COLUMN(Session, IP_Address), COLUMN(Session, Username),
+     COLUMN(Session, Password), COLUMN(Session, DatabasePath), COLUMN(Session, DatabaseName),
+     Column<Session>("Configured", &Session::MailConfigured), COLUMN(Session, LastUpgradeDate)}};
 
 /// A configuration that cannot be written is told; the database found serves this run all the same.
 void KeepConfiguration()
@@ -68,68 +66,54 @@ void CleanUpProgramFolder()
 
 bool ReadConfiguration()
 {
-    const auto config = OpenConfiguration();
-    const Recordset row = config->OpenRecordset("SELECT * FROM Configuration");
+    const Recordset row = OpenConfiguration()->OpenRecordset(SelectFrom(kConfiguration, "1 = 1"));
     if (row.AtEnd())
         return false;
-    Session& s = SessionState;
-    row.Take("English", s.English);
-    row.Take("SQL_Server", s.SQL_Server);
-    row.Take("IP_Address", s.IP_Address);
-    row.Take("Username", s.Username);
-    row.Take("Password", s.Password);
-    row.Take("DatabasePath", s.DatabasePath);
-    row.Take("DatabaseName", s.DatabaseName);
-    row.Take("Configured", s.MailConfigured);
-    row.Take("LastUpgradeDate", s.LastUpgradeDate);
-    s.VersionText = Deployment::VersionText();
+    for (const Column<Session>& column : kConfiguration.List)
+        column.In(SessionState, [&](auto& value) { row.Take(column.Name, value); });
+    SessionState.VersionText = Deployment::VersionText();
     return true;
 }
 
 void WriteConfiguration()
 {
+    const Session& s = SessionState;
     const auto config = OpenConfiguration();
-    Recordset row = config->OpenRecordset("SELECT * FROM Configuration");
-    if (row.AtEnd()) {
-        row.AddNew();
-        row["English"] = SessionState.English;
-    } else {
-        row.Edit();
-    }
-    for (const auto& [column, value] : ConfigurationValues())
-        row[column] = value;
-    row.Update();
+    Transaction transaction(*config);
+    if (config->OpenRecordset("SELECT English FROM Configuration").AtEnd())
+        config->Execute("INSERT INTO Configuration (English) VALUES (?)", {s.English});
+    config->Execute("UPDATE Configuration SET SQL_Server = ?, IP_Address = ?, Username = ?, Password = ?, "
+                    "DatabasePath = ?, DatabaseName = ?",
+                    {s.SQL_Server, s.IP_Address, s.Username, s.Password, s.DatabasePath, s.DatabaseName});
+    transaction.Commit();
 }
 
 bool ChooseCurrentFiscalYear(DataControl& datAbsence)
 {
     SessionState.FiscalYearID = 0;
     const int today = Today();
-    if (datAbsence.Read("SELECT * FROM FiscalYears WHERE CommencingDate <= ? AND EndingDate >= ?", today, today) ||
-        datAbsence.Read("SELECT * FROM FiscalYears WHERE CommencingDate > ? ORDER BY CommencingDate ASC", today) ||
-        datAbsence.Read("SELECT * FROM FiscalYears WHERE EndingDate < ? ORDER BY RecordID DESC", today))
-        TakeFiscalYear(datAbsence.Records);
+    auto year = First<FiscalYearRow>(datAbsence, "CommencingDate <= ? AND EndingDate >= ?", today, today);
+    if (!year)
+        year = First<FiscalYearRow>(datAbsence, "CommencingDate > ? ORDER BY CommencingDate ASC", today);
+    if (!year)
+        year = First<FiscalYearRow>(datAbsence, "EndingDate < ? ORDER BY RecordID DESC", today);
+    if (year)
+        TakeFiscalYear(*year);
     return SessionState.FiscalYearID != 0;
 }
 
 void FindNextYear(DataControl& datAbsence)
 {
-    SessionState.NextFYID = 0;
-    SessionState.NextFYName.clear();
-    if (datAbsence.Read("SELECT * FROM FiscalYears WHERE CommencingDate = ?", SessionState.EndingDate + 1)) {
-        datAbsence.Take("RecordID", SessionState.NextFYID);
-        datAbsence.Take("FiscalYearName", SessionState.NextFYName);
-    }
+    const auto year = First<FiscalYearRow>(datAbsence, "CommencingDate = ?", SessionState.EndingDate + 1);
+    SessionState.NextFYID = year ? year->RecordID : 0;
+    SessionState.NextFYName = year ? year->FiscalYearName : QString();
 }
 
 void FindPreviousYear(DataControl& datAbsence)
 {
-    SessionState.PreviousFYID = 0;
-    SessionState.PreviousFYName.clear();
-    if (datAbsence.Read("SELECT * FROM FiscalYears WHERE EndingDate = ?", SessionState.CommencingDate - 1)) {
-        datAbsence.Take("RecordID", SessionState.PreviousFYID);
-        datAbsence.Take("FiscalYearName", SessionState.PreviousFYName);
-    }
+    const auto year = First<FiscalYearRow>(datAbsence, "EndingDate = ?", SessionState.CommencingDate - 1);
+    SessionState.PreviousFYID = year ? year->RecordID : 0;
+    SessionState.PreviousFYName = year ? year->FiscalYearName : QString();
 }
 
 void FindNeighbouringYears(DataControl& datAbsence)

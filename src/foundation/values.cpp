@@ -40,7 +40,7 @@ QStringList ClockTexts()
     return texts;
 }
 
-QString Who()
+QString UserStamp()
 {
     return SessionState.LoginID.left(15);
 }

@@ -20,4 +20,8 @@ QStringList ClockTexts();
 constexpr float kMidnight = 1e-7F;
 
 /// The first 15 characters of the log-in name, as the "who" columns hold it.
-QString Who();
+QString UserStamp();
+inline QString Who()
+{
+    return UserStamp();
+}

@@ -6,14 +6,12 @@ namespace
 {
 float TimeBank(DataControl& datAbsence, const char* column, int id)
 {
-    float banked = 0;
-    datAbsence.Read(QStringLiteral("SELECT SUM(Attendance.TotalDuration) AS Bank FROM Attendance, Categories WHERE "
-                                   "Attendance.CategoryID = Categories.RecordID AND Attendance.%1 = ? AND "
-                                   "Categories.TimeBankRelated = 1 AND Attendance.CancelledDate = 0")
-                        .arg(QLatin1String(column)),
-                    id);
-    datAbsence.Take("Bank", banked);
-    return banked;
+    return datAbsence.Scalar<float>(
+        QStringLiteral("SELECT SUM(Attendance.TotalDuration) FROM Attendance, Categories WHERE "
+                       "Attendance.CategoryID = Categories.RecordID AND Attendance.%1 = ? AND "
+                       "Categories.TimeBankRelated = 1 AND Attendance.CancelledDate = 0")
+            .arg(QLatin1String(column)),
+        id);
 }
 } // namespace
 

@@ -10,10 +10,11 @@ QString CategoriesQuery()
     const QString usable =
         SessionState.EmployeeDepartmentID != 0
             ? "SELECT Categories.RecordID, Categories.CategoryEnglishName, Categories.CategoryFrenchName, "
-              "Categories.SystemName, Categories.Restricted FROM Categories, CategoriesDepartments WHERE "
+              "Categories.SystemName FROM Categories, CategoriesDepartments WHERE "
               "Categories.RecordID = CategoriesDepartments.CategoryID AND CategoriesDepartments.IsUsed = 1 AND "
               "CategoriesDepartments.DepartmentID = ?1 AND Categories.FiscalYear = ?2 AND Categories.Active = 1"
-            : "SELECT * FROM Categories WHERE ?1 = 0 AND FiscalYear = ?2 AND Active = 1 AND IsPublic = 1";
+            : "SELECT RecordID, CategoryEnglishName, CategoryFrenchName, SystemName FROM Categories WHERE ?1 = 0 AND "
+              "FiscalYear = ?2 AND Active = 1 AND IsPublic = 1";
     const QString visible = SessionState.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0";
     return usable + visible + " ORDER BY Categories." + CategoryNameColumn() + " ASC";
 }
@@ -21,8 +22,9 @@ QString CategoriesQuery()
 QString LegendQuery()
 {
     const QString visible = SessionState.AccessToRestrictedCategory == 0 ? "AND Restricted = 0 " : "";
-    return "SELECT * FROM Categories WHERE FiscalYear = ? AND Active = 1 AND TimeBankRelated = 0 " + visible +
-           "ORDER BY SystemName DESC, " + CategoryNameColumn() + " ASC";
+    return "SELECT RecordID, CategoryEnglishName, CategoryFrenchName, CategoryCode, CategoryColorCode FROM Categories "
+           "WHERE FiscalYear = ? AND Active = 1 AND TimeBankRelated = 0 " +
+           visible + "ORDER BY SystemName DESC, " + CategoryNameColumn() + " ASC";
 }
 } // namespace
 
@@ -40,9 +42,8 @@ QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     QVector<CategoryItem> items;
-    for (Recordset row =
-             datAbsence.Select(CategoriesQuery(), SessionState.EmployeeDepartmentID, SessionState.FiscalYearID);
-         !row.AtEnd(); row.MoveNext())
+    for (const Recordset& row :
+         datAbsence.Select(CategoriesQuery(), SessionState.EmployeeDepartmentID, SessionState.FiscalYearID))
         items.append(
             {row.Long("RecordID"), row.Text(CategoryNameColumn()).trimmed(), row.Text("SystemName").trimmed()});
     return items;
@@ -52,7 +53,7 @@ QVector<LegendItem> LoadLegendItems(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     QVector<LegendItem> items;
-    for (Recordset row = datAbsence.Select(LegendQuery(), SessionState.FiscalYearID); !row.AtEnd(); row.MoveNext()) {
+    for (const Recordset& row : datAbsence.Select(LegendQuery(), SessionState.FiscalYearID)) {
         const QString code = row.Text("CategoryCode").trimmed();
         const QString name = row.Text(CategoryNameColumn()).trimmed();
         items.append({row.Long("RecordID"), code.isEmpty() ? name : code + "  " + name, row.Long("CategoryColorCode")});

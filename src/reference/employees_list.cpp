@@ -1,7 +1,7 @@
 #include "reference/employees_list.h"
 
 #include "foundation/connection.h"
-#include "foundation/rows.h"
+#include "foundation/fiscal_year_row.h"
 #include "foundation/session_state.h"
 
 namespace
@@ -31,31 +31,24 @@ void InsertYear(DataControl& datAbsence, ListedEmployees which)
 void EmployeesListToBeReloaded(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
-    WriteRow(datAbsence, "FiscalYears", SessionState.FiscalYearID, {{"ReloadEmployeesList", 1}});
+    Set<FiscalYearRow>(datAbsence, SessionState.FiscalYearID, {{&FiscalYearRow::ReloadEmployeesList, 1}});
 }
 
 void ReloadEmployeesList(DataControl& datAbsence, ListedEmployees which)
 {
-    if (SessionState.SQL_Server)
-        return SendToServer(
-            QStringLiteral("DELETE FROM Employees_List WHERE FiscalYear = %1").arg(SessionState.FiscalYearID));
-    const Connection connection(datAbsence);
-    Batch batch(datAbsence.Engine());
-    try {
+    InTransaction(datAbsence, [&] {
         datAbsence.Execute("DELETE FROM Employees_List WHERE FiscalYear = ?", SessionState.FiscalYearID);
+        if (IsServerChosen()) // whose list is only emptied
+            return;
         InsertYear(datAbsence, which);
-        WriteRow(datAbsence, "FiscalYears", SessionState.FiscalYearID, {{"ReloadEmployeesList", 0}});
-        batch.Commit();
-    } catch (const RuntimeError&) {
-        batch.Rollback();
-        throw;
-    }
+        Set<FiscalYearRow>(datAbsence, SessionState.FiscalYearID, {{&FiscalYearRow::ReloadEmployeesList, 0}});
+    });
 }
 
 void ReloadEmployeesListIfFlagged(DataControl& datAbsence, ListedEmployees which)
 {
     const Connection connection(datAbsence);
-    if (datAbsence.Read("SELECT * FROM FiscalYears WHERE RecordID = ?", SessionState.FiscalYearID) &&
-        datAbsence.Records.Long("ReloadEmployeesList") == 1)
+    const auto year = Find<FiscalYearRow>(datAbsence, SessionState.FiscalYearID);
+    if (year && year->ReloadEmployeesList == 1)
         ReloadEmployeesList(datAbsence, which);
 }

@@ -9,11 +9,9 @@ QVector<Holiday> LoadHolidays(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     QVector<Holiday> holidays;
-    for (Recordset row =
-             datAbsence.Select("SELECT * FROM Holidays WHERE HolidayDate BETWEEN ? AND ? AND CancelledDate = 0 "
-                               "ORDER BY HolidayDate ASC",
-                               SessionState.CommencingDate, SessionState.EndingDate);
-         !row.AtEnd(); row.MoveNext())
+    for (const Recordset& row : datAbsence.Select("SELECT HolidayDate, HolidayName FROM Holidays WHERE HolidayDate "
+                                                  "BETWEEN ? AND ? AND CancelledDate = 0 ORDER BY HolidayDate ASC",
+                                                  SessionState.CommencingDate, SessionState.EndingDate))
         holidays.append({row.Long("HolidayDate"), row.Text("HolidayName").trimmed()});
     return holidays;
 }

@@ -2,7 +2,8 @@
 
 const UnitKind kOrganizations = {
     "frmOrganizations",
-    "Organizations",
+    kOrganizationRows,
+    &UnitRow::OrganizationID,
     "OrganizationID",
     "OrganizationEnglishName",
     "OrganizationFrenchName",
@@ -66,7 +67,8 @@ const UnitKind kOrganizations = {
 
 const UnitKind kDepartments = {
     "frmDepartments",
-    "Departments",
+    kDepartmentRows,
+    &UnitRow::DepartmentID,
     "DepartmentID",
     "DepartmentEnglishName",
     "DepartmentFrenchName",
@@ -139,7 +141,8 @@ const UnitKind kDepartments = {
 
 const UnitKind kGroups = {
     "frmGroups",
-    "Groups",
+    kGroupRows,
+    nullptr,
     "GroupID",
     "GroupEnglishName",
     "GroupFrenchName",
@@ -200,28 +203,28 @@ const UnitKind kGroups = {
 
 const std::array<AddressField, kAddressLines> kAddressFields = {{
     {"txtAddressLine1",
-     "AddressLine1",
+     &UnitRow::AddressLine1,
      100,
      {"Address (line 1)", "Adresse (ligne 1)"},
      {"You must specify an address for the organization!", "Vous devez spécifier l'adresse de l'organisation!"}},
-    {"txtAddressLine2", "AddressLine2", 100, {"Address (line 2)", "Adresse (ligne 2)"}, {}},
-    {"txtRoomNumber", "Suite", 15, {"Room or suite", "Bureau"}, {}},
+    {"txtAddressLine2", &UnitRow::AddressLine2, 100, {"Address (line 2)", "Adresse (ligne 2)"}, {}},
+    {"txtRoomNumber", &UnitRow::Suite, 15, {"Room or suite", "Bureau"}, {}},
     {"txtCity",
-     "City",
+     &UnitRow::City,
      75,
      {"City", "Ville"},
      {"You must specify a city for the organization!", "Vous devez spécifier la ville où est située l'organisation!"}},
     {"txtState",
-     "StateProvince",
+     &UnitRow::StateProvince,
      75,
      {"State or province", "État ou province"},
      {"You must specify a state or a province for the organization!",
       "Vous devez spécifier l'état ou la province est située l'organisation!"}},
     {"txtCountry",
-     "Country",
+     &UnitRow::Country,
      75,
      {"Country", "Pays"},
      {"You must specify a country for the organization!",
       "Vous devez spécifier le pays où est située l'organisation!"}},
-    {"txtZipCode", "ZipCode", 20, {"Zip or postal code", "Code postal"}, {}},
+    {"txtZipCode", &UnitRow::ZipCode, 20, {"Zip or postal code", "Code postal"}, {}},
 }};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/texts.h"
+#include "reference/unit_row.h"
 
 #include <array>
 #include <vector>
@@ -38,8 +39,9 @@ struct UnitTexts
 struct UnitKind
 {
     const char* FormName;
-    const char* Table;
-    const char* Key; ///< the column in which employees and the units below name a unit of this level
+    const Table<UnitRow>& Rows;
+    int UnitRow::*ID; ///< the member in which the rows below name a unit of this level
+    const char* Key;  ///< the column in which employees and the units below name a unit of this level
     const char* EnglishColumn;
     const char* FrenchColumn;
     const UnitKind* Parent; ///< nullptr at the top
@@ -58,7 +60,7 @@ extern const UnitKind kGroups;
 struct AddressField
 {
     const char* Control;
-    const char* Column;
+    QString UnitRow::*Line;
     int Limit;
     Text Label;
     Text Missing;

@@ -105,5 +105,5 @@ void CopyDatabase(const QString& original, const QString& target)
 
 bool IsDatabaseEmpty(const QString& path)
 {
-    return Database::Open(path, kDatabasePassword)->OpenRecordset("SELECT * FROM FiscalYears").AtEnd();
+    return Database::Open(path, kDatabasePassword)->OpenRecordset("SELECT RecordID FROM FiscalYears").AtEnd();
 }

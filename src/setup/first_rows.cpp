@@ -1,9 +1,10 @@
 #include "setup/first_rows.h"
 
+#include "foundation/category_row.h"
 #include "foundation/common_services.h"
-#include "foundation/employee_rights.h"
+#include "foundation/employee_row.h"
+#include "foundation/fiscal_year_row.h"
 #include "foundation/texts.h"
-#include "foundation/work_schedule.h"
 #include "platform/clock.h"
 
 namespace
@@ -29,83 +30,70 @@ constexpr SystemCategory kSystemCategories[] = {
     {"Time borrowed", "Temps emprunté", 1, 1, 0xC0C0C0},
 };
 
-RowValues FirstFiscalYear(const SetUpChoices& choices)
+FiscalYearRow FirstFiscalYear(const SetUpChoices& choices)
 {
-    return {{"FiscalYearName", choices.FiscalYearName.trimmed()},
-            {"CommencingDate", choices.FiscalYearStart},
-            {"EndingDate", choices.FiscalYearEnd},
-            {"EnteredDate", Today()},
-            {"EnteredBy", "ADMIN"},
-            {"ClosedDate", 0},
-            {"ScheduledClosingDate", 0},
-            {"ReloadEmployeesList", 0}};
+    FiscalYearRow year;
+    year.FiscalYearName = choices.FiscalYearName.trimmed();
+    year.CommencingDate = choices.FiscalYearStart;
+    year.EndingDate = choices.FiscalYearEnd;
+    year.EnteredDate = Today();
+    year.EnteredBy = "ADMIN";
+    return year;
 }
 
-void Append(RowValues& values, std::initializer_list<const char*> columns, const QVariant& value)
+EmployeeRow Administrator(const SetUpChoices& choices)
 {
-    for (const char* column : columns)
-        values.push_back({column, value});
+    EmployeeRow administrator;
+    administrator.FamilyName = choices.AdminFamilyName;
+    administrator.FirstName = choices.AdminFirstName;
+    administrator.PhoneOffice = choices.AdminPhoneNumber.trimmed();
+    administrator.DateEntered = Today();
+    administrator.EnteredBy = "SYSTEM";
+    administrator.Language = SessionState.English ? 0 : 1;
+    administrator.Password = choices.AdminPassword;
+    administrator.DeactivatedBy = administrator.ReasonForDeactivation = administrator.EMailAddress = " ";
+    for (const RightColumn& right : kRights)
+        administrator.*right.Member = 1;
+    return administrator;
 }
 
-RowValues Administrator(const SetUpChoices& choices)
+/// The server knows its users by another column.
+void AddAdministrator(DataControl& datAbsence, EmployeeRow administrator)
 {
-    RowValues values = {{"FamilyName", choices.AdminFamilyName},
-                        {"FirstName", choices.AdminFirstName},
-                        {"PhoneOffice", choices.AdminPhoneNumber.trimmed()},
-                        {"DateEntered", Today()},
-                        {"EnteredBy", "SYSTEM"},
-                        {"Language", SessionState.English ? 0 : 1},
-                        {"Password", choices.AdminPassword},
-                        {SessionState.SQL_Server ? "Username" : "LoginID", "ADMIN"}};
-    Append(values,
-           {"FiscalYear", "OrganizationID", "DepartmentID", "GroupID", "DateOfBirth", "DateOfHire", "DeactivatedDate",
-            "EmployeeType", "HourlyRate", "AttendanceApprovedBy_Main", "AttendanceApprovedBy_Backup", "PreviousID",
-            "IsAllowedToCarryOverVacation", "IsAllowedToCarryOverTimeBanked", "HoursWorkedDaily"},
-           0);
-    Append(values,
-           {"EmployeeID", "AddressLine1", "AddressLine2", "City", "ProvinceState", "Country", "PhoneHome", "Comment"},
-           QString(""));
-    Append(values, {"DeactivatedBy", "ReasonForDeactivation", "EMailAddress"}, QString(" "));
-    for (const auto& right : kRights)
-        values.push_back({right.Column, 1});
-    for (const auto& length : kDayLengths)
-        values.push_back({length.Column, 0});
-    for (const auto& time : kClockTimes)
-        values.push_back({time.Column, 0});
-    return values;
+    Table<EmployeeRow> table = kTable<EmployeeRow>;
+    if (IsServerChosen())
+        std::erase_if(table.List, [](const auto& column) {
+            return column.Member == Column<EmployeeRow>::Place(&EmployeeRow::LoginID);
+        });
+    (IsServerChosen() ? administrator.Username : administrator.LoginID) = "ADMIN";
+    Add(datAbsence, administrator, table);
 }
 
 /// `choice`: how a regular category is managed; nullptr for one of the time bank.
-RowValues Category(const SystemCategory& category, const CategoryChoice* choice, int fiscalYear)
+CategoryRow FirstCategory(const SystemCategory& category, const CategoryChoice* choice, int fiscalYear)
 {
-    const QString english = choice ? choice->Name : QString::fromUtf8(category.SystemName);
-    const QString french = choice ? choice->Name : QString::fromUtf8(category.FrenchName);
     const auto time = [](int value) { return static_cast<float>(value); };
-    return {{"FiscalYear", fiscalYear},
-            {"CategoryFrenchName", french},
-            {"CategoryEnglishName", english},
-            {"SystemName", category.SystemName},
-            {"CanBeRemoved", 0},
-            {"ConstitutesAnAbsence", category.ConstitutesAnAbsence},
-            {"StandardEntitlement", choice ? DecimalHours(time(choice->Hours), time(choice->Minutes)) : 0.0F},
-            {"CarryOverAtYearEnd", choice && choice->CarryOver ? 1 : 0},
-            {"TimeBankRelated", category.TimeBankRelated},
-            {"Restricted", 0},
-            {"PreviousID", 0},
-            {"CreatedBy", "ADMIN"},
-            {"CreatedDate", Today()},
-            {"ModifiedBy", ""},
-            {"ModifiedDate", 0},
-            {"RequiresMonitoring", choice && !choice->NoEntitlement ? 1 : 0},
-            {"Active", 1},
-            {"IsPublic", 1},
-            {"CategoryColorCode", QString::number(category.ColorCode)}};
+    CategoryRow row;
+    row.FiscalYear = fiscalYear;
+    row.CategoryFrenchName = choice ? choice->Name : QString::fromUtf8(category.FrenchName);
+    row.CategoryEnglishName = choice ? choice->Name : QString::fromUtf8(category.SystemName);
+    row.SystemName = category.SystemName;
+    row.ConstitutesAnAbsence = category.ConstitutesAnAbsence;
+    row.StandardEntitlement = choice ? DecimalHours(time(choice->Hours), time(choice->Minutes)) : 0;
+    row.CarryOverAtYearEnd = choice && choice->CarryOver ? 1 : 0;
+    row.TimeBankRelated = category.TimeBankRelated;
+    row.CreatedBy = "ADMIN";
+    row.CreatedDate = Today();
+    row.RequiresMonitoring = choice && !choice->NoEntitlement ? 1 : 0;
+    row.Active = row.IsPublic = 1;
+    row.CategoryColorCode = QString::number(category.ColorCode);
+    return row;
 }
 
 /// Another workstation may have set the shared database up while this wizard was being filled in.
 void RequireEmptyDatabase(DataControl& datAbsence)
 {
-    if (!datAbsence.Open("SELECT * FROM FiscalYears").AtEnd())
+    if (!datAbsence.Open("SELECT RecordID FROM FiscalYears").AtEnd())
         throw RuntimeError(EngineError::DuplicateKey, T("The database already holds a fiscal year.",
                                                         "La banque de données contient déjà une année fiscale."));
 }
@@ -113,25 +101,20 @@ void RequireEmptyDatabase(DataControl& datAbsence)
 
 void SendFirstRows(DataControl& datAbsence, const SetUpChoices& choices)
 {
-    const int fiscalYear = AddRow(datAbsence, "FiscalYears", FirstFiscalYear(choices));
-    AddRow(datAbsence, "Employees", Administrator(choices));
+    const int fiscalYear = Add(datAbsence, FirstFiscalYear(choices));
+    AddAdministrator(datAbsence, Administrator(choices));
     std::size_t row = 0;
     for (const SystemCategory& category : kSystemCategories) {
         const bool regular = row < choices.Categories.size();
-        AddRow(datAbsence, "Categories", Category(category, regular ? &choices.Categories[row] : nullptr, fiscalYear));
+        Add(datAbsence, FirstCategory(category, regular ? &choices.Categories[row] : nullptr, fiscalYear));
         ++row;
     }
 }
 
 void AddFirstRows(DataControl& datAbsence, const SetUpChoices& choices)
 {
-    Batch batch(datAbsence.Engine());
-    try {
-        RequireEmptyDatabase(datAbsence);
-        SendFirstRows(datAbsence, choices);
-        batch.Commit();
-    } catch (const RuntimeError&) {
-        batch.Rollback();
-        throw;
-    }
+    Transaction transaction(datAbsence.Engine());
+    RequireEmptyDatabase(datAbsence);
+    SendFirstRows(datAbsence, choices);
+    transaction.Commit();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/rows.h"
+#include "platform/dao/dao.h"
 #include "setup/set_up_choices.h"
 
 /// Adds the rows that a new database begins with: the first fiscal year, the administrator, the eight system

@@ -4,6 +4,7 @@
 #include "foundation/database_choice.h"
 #include "foundation/session_state.h"
 #include "foundation/start_up.h"
+#include "platform/dao/server.h"
 #include "platform/program.h"
 #include "setup/database_relocation.h"
 #include "setup/first_rows.h"

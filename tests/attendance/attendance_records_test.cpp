@@ -1,5 +1,4 @@
 #include "attendance/attendance_fixture.h"
-#include "foundation/rows.h"
 
 namespace
 {
@@ -89,45 +88,5 @@ TEST_F(AttendanceRecords, CategoriesAreThoseOfTheDepartmentOrThePublicOnes)
     SessionState.English = false;
     EXPECT_EQ(Categories(), (QStringList{"(Toutes les catégories)", "Maladie", "Temps accumulé", "Temps emprunté",
                                          "Temps personnel", "Temps réclamé"}));
-}
-
-TEST_F(AttendanceRecords, TheServerGetsStatementsWithoutCosts)
-{
-    QStringList sent;
-    SetServerSink([&sent](const QString& statement) { sent << statement; });
-    house.Today(2026, 3, 2, 18);
-    Begin({kRecordMonday}, chris, "Sick");
-    entry.Kind = AttendanceKind::Submit;
-    entry.FirstApprover = marc;
-    entry.Comment = "flu ";
-    ChooseStartTime(entry, "08:00");
-    ChooseEndTime(entry, "10:30");
-    entry.EmployeeDepartmentID = 1;
-    SessionState.SQL_Server = true;
-    SubmitAttendance_SQL(entry);
-    entry.RecordToModify = 7;
-    ModifyAttendance_SQL(datAbsence, entry);
-    NewAttendance_SQL(entry);
-
-    const QString columns =
-        "FiscalYear, EmployeeID, GroupID, DepartmentID, OrganizationID, CategoryID, RecordDate, Duration, StartTime, "
-        "EndTime, TimeMultiplicator, TotalDuration, WholeDay, Comment, Justified, Submitted, SubmittedDateTime, "
-        "SubmittedBy, SubmittedTo_First, SubmittedTo_Second, RequestStatus, ApprovedDateTime, ApprovedBy, "
-        "DeniedDateTime, DeniedBy, ApprovalRefusalMessage, EnteredBy, EnteredDate, ModifiedBy, ModifiedDate, "
-        "CancelledBy, CancelledDate";
-    const QString category = QString::number(house.CategoryID("Sick"));
-    const QString head = "INSERT INTO Attendance (" + columns + ") VALUES (1, " + QString::number(chris) +
-                         ", 0, 1, 0, " + category + ", 46083, 2.5, 8, 10.5, 1, 2.5, 0, 'flu', 0, ";
-    const QString tail = ", 0, 0, '', 0, '', '', 'ADMIN', 46083, '', 0, '', 0)";
-    const QString requester = QString::number(SessionState.UserID);
-    EXPECT_EQ(sent.value(0), head + "1, 46083.75, " + requester + ", " + QString::number(marc) + ", 0" + tail);
-    EXPECT_EQ(sent.value(1), "INSERT INTO Attendance_Modifications (RecordID, " + columns +
-                                 ") SELECT * FROM Attendance WHERE RecordID = 7");
-    EXPECT_EQ(sent.value(2), "UPDATE Attendance SET CategoryID = " + category +
-                                 ", Duration = 2.5, StartTime = 8, EndTime = 10.5, TimeMultiplicator = 1, "
-                                 "TotalDuration = 2.5, WholeDay = 0, Comment = 'flu', Justified = 0, ModifiedBy = "
-                                 "'ADMIN', ModifiedDate = 46083 WHERE RecordID = 7");
-    EXPECT_EQ(sent.value(3), head + "0, 0, 0, 0, 0" + tail);
-    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 0);
 }
 } // namespace

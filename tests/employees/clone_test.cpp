@@ -86,10 +86,10 @@ TEST_F(Cloning, TheNewRecordTakesWorkplaceScheduleApproversAndRightsButNothingPe
     EXPECT_EQ(record.CanGenerateReports, 0);
 
     EXPECT_EQ(record.RecordID, 0);
-    EXPECT_EQ(record.FamilyName + record.FirstName + record.LoginID + record.KeptPassword + record.EMailAddress +
-                  record.HourlyRate,
+    EXPECT_EQ(record.FamilyName + record.FirstName + record.LoginID + record.Password + record.EMailAddress +
+                  record.HourlyRateText,
               "");
-    EXPECT_EQ(record.PreviousHourlyRate, 0);
+    EXPECT_EQ(record.HourlyRate, 0);
 }
 
 TEST_F(Cloning, WithoutATemplateTheRecordStaysEmpty)

@@ -34,7 +34,7 @@ TEST_F(EmployeeRows, ARowComesBackAsItWasWritten)
 {
     EmployeeRecord record = Loaded(chris);
     record.LoginID = "COPY";
-    record.Password = "NEW";
+    record.NewPassword = "NEW";
     record.FirstHalfStart[0] = kMidnight;
     record.HoursWorked[0] = 7.33333F;
     record.HoursWorkedDaily = 6.7F;
@@ -59,8 +59,8 @@ TEST_F(EmployeeRows, ARowComesBackAsItWasWritten)
     EXPECT_EQ(read.HoursWorkedDaily, 6.7F);
     EXPECT_EQ(read.TotalHours[0] + ":" + read.TotalMinutes[0], "7:20");
     EXPECT_EQ(read.Hire.Year + read.Hire.Month + read.Hire.Day + read.Birth.Year, "20191231");
-    EXPECT_EQ(read.KeptPassword + read.Password, "NEW");
-    EXPECT_EQ(read.HourlyRate, "20.55");
+    EXPECT_EQ(read.Password + read.NewPassword, "NEW");
+    EXPECT_EQ(read.HourlyRateText, "20.55");
     EXPECT_FALSE(HasNewRate(read));
     EXPECT_EQ(std::count(read.HoursSpecified.begin(), read.HoursSpecified.end(), true), 0);
 }
@@ -72,7 +72,7 @@ TEST_F(EmployeeRows, NullFieldsOfOldRowsStayEmpty)
               {chris});
     const EmployeeRecord record = Loaded(chris);
     EXPECT_EQ(record.LoginID, "OLDNAME");
-    EXPECT_EQ(record.HourlyRate, "0.00");
+    EXPECT_EQ(record.HourlyRateText, "0.00");
     EXPECT_EQ(record.Birth.Year, "");
     EXPECT_EQ(record.FirstHalfStart[1], 0);
     EmployeeRecord none;
@@ -154,39 +154,4 @@ TEST_F(EmployeeRows, TheSummarySpeaksTheUsersLanguage)
     EXPECT_TRUE(EmployeeSummary(record, {}, true)
                     .contains("comme suit?\r\n\r\nNom et identification:\t\tChris Davis     12\r\n"
                               "Cet(te) employé(e) travaille selon un horaire irrégulier.\r\nNom d'usager"));
-}
-
-TEST_F(EmployeeRows, TheServerBackEndOnlyComposesStatements)
-{
-    const EmployeeRecord record = Loaded(chris);
-    QStringList sent;
-    SetServerSink([&sent](const QString& statement) { sent << statement; });
-    SessionState.SQL_Server = true;
-    ModifyEmployee(datAbsence, record);
-    ASSERT_EQ(sent.size(), 3);
-    EXPECT_TRUE(sent[0].startsWith("INSERT INTO Employees_Modifications SELECT * FROM Employees WHERE RecordID = "));
-    EXPECT_TRUE(sent[1].startsWith("UPDATE Employees SET FamilyName = 'Davis', "));
-    sent.clear();
-    EXPECT_TRUE(AddEmployee(datAbsence, record).isEmpty());
-    ASSERT_EQ(sent.size(), 2);
-    EXPECT_TRUE(sent[0].startsWith("INSERT INTO Employees (FiscalYear, OrganizationID, "));
-    sent.clear();
-    DeactivateEmployee(datAbsence, chris, "gone");
-    EXPECT_EQ(sent.size(), 4) << sent.join('\n').toStdString();
-    sent.clear();
-    UpdateHourlyRate(datAbsence, record, 46083);
-    EXPECT_EQ(sent, QStringList{QStringLiteral("UPDATE Attendance SET HourlyRate = '20.55', UnitCost = 20.55, "
-                                               "ExtendedCost = TotalDuration * 20.55 WHERE EmployeeID = %1 AND "
-                                               "RecordDate >= 46083")
-                                    .arg(chris)});
-    sent.clear();
-    EXPECT_TRUE(LoadApprovedBy(datAbsence, record).isEmpty());
-    EXPECT_EQ(sent.size(), 4);
-    EXPECT_TRUE(sent[0].contains(QStringLiteral("Employees.GroupID = 1 AND Employees.FiscalYear = 1 AND "
-                                                "Employees.RecordID <> %1 AND")
-                                     .arg(chris)));
-    user.WillAnswer("UNABLE TO PROCEED:", "OK", "The selected employee record is already inactive!");
-    EXPECT_FALSE(LoadEmployeeRecord_SQL());
-    SessionState.SQL_Server = false;
-    EXPECT_EQ(EmployeeCell("ModifiedBy", chris), "");
 }

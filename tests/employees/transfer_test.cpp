@@ -1,5 +1,4 @@
 #include "employees/frm_transfer_employees.h"
-#include "foundation/rows.h"
 #include "platform/clock.h"
 #include "support/user.h"
 
@@ -223,23 +222,4 @@ TEST_F(Transferring, AFailureInTheMiddleLeavesEverythingAsItWas)
     EXPECT_EQ(Place("Attendance", tomorrow), "1|1|1");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Employees_Modifications"), 0);
     EXPECT_EQ(user.Reads("lstToDepartment"), "Sales") << "the choice stays for another try";
-}
-
-TEST_F(Transferring, TheServerIsSentTheSameChanges)
-{
-    QStringList sent;
-    SetServerSink([&sent](const QString& statement) { sent << statement; });
-    SessionState.SQL_Server = true;
-    DataControl datAbsence("test");
-    TransferEmployee(datAbsence, {anna, "Abel, Anna", {1, 1, 1}, {2, 3, 0}});
-    EXPECT_EQ(sent.value(1),
-              QString("UPDATE Employees SET OrganizationID = 2, DepartmentID = 3, GroupID = 0, ModifiedBy "
-                      "= 'ADMIN', ModifiedDate = %1 WHERE RecordID = %2")
-                  .arg(Today())
-                  .arg(anna));
-    EXPECT_EQ(sent.value(2), QString("UPDATE Attendance SET OrganizationID = 2, DepartmentID = 3, GroupID = 0 WHERE "
-                                     "EmployeeID = %1 AND RecordDate > %2 AND CancelledDate = 0")
-                                 .arg(anna)
-                                 .arg(Today()));
-    EXPECT_EQ(Place("Employees", anna), "1|1|1");
 }

@@ -1,5 +1,4 @@
 #include "foundation/common_services.h"
-#include "foundation/rows.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
@@ -113,13 +112,6 @@ TEST_F(CommonServices, LogsAreAppendedLineByLine)
     EXPECT_EQ(house.ReadFile("EMailErrors.log"), "Subject\tTrue\tNo mail program\r\n");
     LogError(3021, "No current record.", "frmX", "Routine", "SELECT 'x'", 46083.5);
     EXPECT_EQ(house.ReadFile("Errors.log"), "3021\tNo current record.\tfrmX\tRoutine\t46083.5\tSELECT 'x'\r\n");
-
-    QString sent;
-    SetServerSink([&sent](const QString& statement) { sent = statement; });
-    SessionState.SQL_Server = true;
-    LogError(1, "it's", "frmX", "Routine", "SELECT 'x'", 1.5);
-    EXPECT_EQ(sent, "INSERT INTO ErrorLog (ErrorCode, ErrorDescription, Form, ProcedureName, Occurred, SQL) VALUES (1, "
-                    "'it`s', 'frmX', 'Routine', 1.5, 'SELECT `x`')");
 }
 
 TEST_F(CommonServices, DatesFollowTheFixedPatternsAndZeroShowsNothing)

@@ -71,7 +71,7 @@ TEST_F(Opening, AFileThatAnotherHoldsIsWaitedForAndThenReportedAsLocked)
     other->Execute("BEGIN IMMEDIATE");
     EXPECT_EQ(List(*mine, "SELECT COUNT(*) FROM Staff"), "0") << "a writer does not keep readers out";
     EXPECT_EQ(FailureOf([&] { mine->Execute("DELETE FROM Staff"); }), EngineError::Locked);
-    EXPECT_EQ(FailureOf([&] { Batch batch(*mine); }), EngineError::Locked);
+    EXPECT_EQ(FailureOf([&] { Transaction mineToo(*mine); }), EngineError::Locked);
 }
 
 TEST_F(Opening, BothSeparatorsAndAnyLetterCaseFindTheFile)
@@ -89,12 +89,9 @@ TEST_F(Opening, AFileThatVanishesIsALostConnectionToReadersAndADiskErrorToWriter
 {
     const auto database = Open();
     database->Execute("INSERT INTO Staff (Name) VALUES ('Anne')");
-    Recordset staff = database->OpenRecordset("SELECT * FROM Staff");
     ASSERT_TRUE(QFile::remove(File()));
     EXPECT_EQ(FailureOf([&] { database->OpenRecordset("SELECT * FROM Staff"); }), EngineError::ConnectionLost);
-    staff.Edit();
-    staff["Name"] = "Zoé";
-    EXPECT_EQ(FailureOf([&] { staff.Update(); }), EngineError::DiskError);
+    EXPECT_EQ(FailureOf([&] { database->Execute("UPDATE Staff SET Name = 'Zoé'"); }), EngineError::DiskError);
 }
 
 TEST_F(Opening, ADamagedFileAndAFullDiskAreReportedAndCommittedRowsStay)
@@ -119,7 +116,7 @@ TEST_F(Opening, ADamagedFileAndAFullDiskAreReportedAndCommittedRowsStay)
     EXPECT_EQ(FailureOf([this] { List("SELECT Name FROM Staff"); }), EngineError::Damaged);
 }
 
-TEST_F(Opening, ALostConnectionIsRestoredOnceAndOtherFailuresReadAsEmpty)
+TEST_F(Opening, ALostConnectionIsRestoredOnceAndAMisspeltStatementIsTold)
 {
     Open()->Execute("INSERT INTO Staff (Name) VALUES ('Anne')");
     int restored = 0;
@@ -137,10 +134,18 @@ TEST_F(Opening, ALostConnectionIsRestoredOnceAndOtherFailuresReadAsEmpty)
     };
     EXPECT_TRUE(datAbsence.Read("SELECT * FROM Staff WHERE Name = ?", "ANNE"));
     EXPECT_EQ(restored, 1);
-    EXPECT_FALSE(datAbsence.Read("SELECT * FROM Nowhere"));
-    EXPECT_EQ(restored, 1) << "a bad statement is no lost connection";
+    EXPECT_FALSE(datAbsence.Read("SELECT * FROM Staff WHERE Name = 'Zoé'"));
     datAbsence.Take("Name", name);
     EXPECT_EQ(name, "before");
+    const std::pair<const char*, int> misspelt[] = {
+        {"SELECT * FROM Nowhere", EngineError::NoSuchTable},
+        {"SELECT Salary FROM Staff", EngineError::UnknownName},
+        {"SELECT * FROM Staff WHERE RecordID = ?", EngineError::UnknownName},
+        {"SELEKT", EngineError::StatementError}};
+    for (const auto& [sql, number] : misspelt)
+        EXPECT_EQ(FailureOf([&] { datAbsence.Read(sql); }), number) << "no empty result: " << sql;
+    EXPECT_EQ(FailureOf([&] { datAbsence.Take("Salary", name); }), EngineError::NoSuchField);
+    EXPECT_EQ(restored, 1) << "a bad statement is no lost connection";
 
     DataControl::Reconnect = [&](DataControl&) { ++restored; };
     DefaultWorkspace().Close();

@@ -1,7 +1,10 @@
+#include "foundation/attendance_row.h"
+#include "foundation/category_row.h"
 #include "foundation/connection.h"
-#include "foundation/employee_rights.h"
-#include "foundation/work_schedule.h"
-#include "platform/dao/dao.h"
+#include "foundation/employee_row.h"
+#include "foundation/entitlement_row.h"
+#include "foundation/fiscal_year_row.h"
+#include "reference/unit_row.h"
 #include "support/house.h"
 
 #include <gtest/gtest.h>
@@ -72,11 +75,11 @@ TEST_F(Schema, ARowCopiedByPositionIntoItsTwinKeepsEachValueInItsColumn)
     const auto database = Open();
     for (const QString& table : kTwinned) {
         const QStringList columns = database->Columns(table);
-        Recordset base = database->OpenRecordset("SELECT * FROM " + table);
-        base.AddNew();
+        QStringList numbers;
         for (int i = 1; i < columns.size(); ++i)
-            base[columns[i]] = i;
-        base.Update();
+            numbers << QString::number(i);
+        database->Execute("INSERT INTO " + table + " (" + columns.mid(1).join(',') + ") VALUES (" + numbers.join(',') +
+                          ")");
         const QString target = "INSERT INTO " + table + "_Modifications (" + columns.join(',') + ") SELECT * FROM ";
         for (int times = 0; times < 2; ++times)
             EXPECT_EQ(database->Execute(target + table), 1) << "the key of the base row repeats";
@@ -90,33 +93,27 @@ TEST_F(Schema, ARowCopiedByPositionIntoItsTwinKeepsEachValueInItsColumn)
     EXPECT_EQ(newest.Long("ID"), 2) << "the log of employees has a counter of its own";
 }
 
-TEST_F(Schema, TheListsThatTheProgramWalksNameColumnsOfEmployees)
+template <typename R>
+void ExpectWholeTable(Database& database, const Table<R>& table)
 {
-    const QStringList columns = Open()->Columns("Employees");
-    for (const RightColumn& right : kRights)
-        EXPECT_TRUE(columns.contains(QLatin1String(right.Column))) << right.Column;
-    for (const ScheduleColumn& time : kClockTimes)
-        EXPECT_TRUE(columns.contains(QLatin1String(time.Column))) << time.Column;
-    EXPECT_LT(columns.indexOf("MONDAY_FirstHalfStart"), columns.indexOf("SUNDAY_FirstHalfStart"));
-    EXPECT_EQ(columns.indexOf("HoursWorkedSaturday") - columns.indexOf("HoursWorkedSunday"), 6);
-    EXPECT_EQ(columns.mid(columns.size() - 6).join(','), "LoginID,ReportTo,Title,Gender,Language,LoggedIn");
+    QStringList listed = (table.HasRecordID ? QStringList("RecordID") : QStringList()) + table.Columns;
+    QStringList columns = database.Columns(table.Name);
+    EXPECT_EQ(RowOf(table, database.OpenRecordset(SelectFrom(table, "1 = 1"))).RecordID, 0);
+    listed.sort();
+    columns.sort();
+    EXPECT_EQ(listed, columns) << qPrintable(table.Name);
 }
 
-TEST_F(Schema, UnsetColumnsReadAsNoneAndHoursKeepSinglePrecision)
+TEST_F(Schema, EachListOfColumnsNamesAllThatItsTableHas)
 {
     const auto database = Open();
-    Recordset record = database->OpenRecordset("SELECT * FROM Attendance");
-    record.AddNew();
-    record["Duration"] = 2.1;
-    record["HourlyRate"] = "12.50";
-    record["ExtendedCost"] = 26.25 * 100;
-    record.Update();
-    EXPECT_TRUE(house_.Number("SELECT COUNT(*) FROM Attendance WHERE CancelledDate = 0 AND Submitted = 0"));
-    Recordset read = database->OpenRecordset("SELECT * FROM Attendance");
-    EXPECT_FALSE(read.IsNull("Comment"));
-    EXPECT_EQ(read.Value("Duration").toDouble(), static_cast<double>(2.1F));
-    EXPECT_EQ(read.Text("HourlyRate"), "12.50");
-    EXPECT_EQ(read.Value("ExtendedCost"), QVariant(2625));
+    ExpectWholeTable(*database, kTable<AttendanceRow>);
+    ExpectWholeTable(*database, kTable<CategoryRow>);
+    ExpectWholeTable(*database, kTable<EmployeeRow>);
+    ExpectWholeTable(*database, kTable<EntitlementRow>);
+    ExpectWholeTable(*database, kTable<FiscalYearRow>);
+    for (const auto* units : {&kOrganizationRows, &kDepartmentRows, &kGroupRows})
+        ExpectWholeTable(*database, *units);
 }
 
 TEST_F(Schema, ToolsWithAnotherOrderOfTextsStillReadTheFileSoundly)

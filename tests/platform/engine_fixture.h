@@ -60,7 +60,7 @@ protected:
     static QString List(Database& database, const QString& sql, const Values& values = {})
     {
         QStringList cells;
-        for (Recordset rows = database.OpenRecordset(sql, values); !rows.AtEnd(); rows.MoveNext())
+        for (const Recordset& rows : database.OpenRecordset(sql, values))
             cells += rows.Text(rows.Columns().first());
         return cells.join(',');
     }

@@ -15,7 +15,7 @@ constexpr int kWorkstations = 8;
 constexpr int kRecordsEach = 30;
 constexpr int kKills = 6;
 
-/// Many processes on one file. Each workstation notes a record in a file of its own once Update has returned.
+/// Many processes on one file. Each workstation notes a record in a file of its own once the statement has returned.
 class ManyWorkstations : public testing::Test
 {
 protected:
@@ -25,13 +25,9 @@ protected:
     void AddRecord(int workstation, int day) const
     {
         const auto database = Open();
-        Recordset attendance = database->OpenRecordset("SELECT * FROM Attendance WHERE RecordID = 0");
-        attendance.AddNew();
-        attendance["EmployeeID"] = workstation;
-        attendance["RecordDate"] = day;
-        attendance["TotalDuration"] = 7.5;
-        attendance["Comment"] = QString(300, 'x');
-        attendance.Update();
+        database->Execute(
+            "INSERT INTO Attendance (EmployeeID, RecordDate, TotalDuration, Comment) VALUES (?, ?, 7.5, ?)",
+            {workstation, day, QString(300, 'x')});
     }
 
     /// The life of a workstation's process.
@@ -113,8 +109,8 @@ TEST_F(ManyWorkstations, NoRecordIsLostThatOneOfThemWasToldIsWritten)
     QSet<QString> stored;
     const auto database = Open();
     Recordset records = database->OpenRecordset("SELECT EmployeeID || '/' || RecordDate AS Mark FROM Attendance");
-    for (; !records.AtEnd(); records.MoveNext())
-        stored += records.Text("Mark");
+    for (const Recordset& record : records)
+        stored += record.Text("Mark");
     EXPECT_EQ(stored.size(), records.RecordCount()) << "a record was written twice";
     qsizetype noted = 0;
     for (size_t workstation = 0; workstation < running_.size(); ++workstation)
@@ -126,13 +122,13 @@ TEST_F(ManyWorkstations, NoRecordIsLostThatOneOfThemWasToldIsWritten)
     EXPECT_EQ(house_.Cell("PRAGMA integrity_check"), "ok");
 }
 
-TEST_F(ManyWorkstations, AProcessKilledInTheMidstOfABatchLeavesNothingOfIt)
+TEST_F(ManyWorkstations, AProcessKilledInTheMidstOfATransactionLeavesNothingOfIt)
 {
     AddRecord(1, 1);
     const pid_t child = Start([this] {
         const auto database = Open();
-        database->Execute("PRAGMA cache_size = 5"); // pages go to the file long before the batch ends
-        Batch batch(*database);
+        database->Execute("PRAGMA cache_size = 5"); // pages go to the file long before the transaction ends
+        Transaction transaction(*database);
         for (int i = 0; i < 200; ++i)
             database->Execute("INSERT INTO Attendance (Comment) VALUES (?)", {QString(3000, 'y')});
         database->Execute("DELETE FROM Attendance WHERE RecordID = 1");

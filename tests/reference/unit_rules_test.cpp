@@ -1,4 +1,3 @@
-#include "foundation/rows.h"
 #include "reference/unit_records.h"
 #include "support/house.h"
 
@@ -104,31 +103,5 @@ TEST_F(UnitRules, ListsFollowTheLanguageAndTheYear)
     EXPECT_EQ(LoadParentItems(datAbsence, kGroups, 0).size(), 3);
     EXPECT_EQ(Shown(LoadParentItems(datAbsence, kGroups, 2)).last(), "Ventes/Ateliers du Nord -")
         << "where a group is now can be kept";
-}
-
-TEST_F(UnitRules, TheServerIsSentTheSameChanges)
-{
-    QStringList sent;
-    SetServerSink([&sent](const QString& statement) { sent << statement; });
-    SessionState.SQL_Server = true;
-    UnitEntry unit = Named("Sales", "Ventes", 2, 2);
-    unit.StoredParentID = 1;
-    ModifyUnit(datAbsence, kDepartments, unit);
-    ReactivateUnit(datAbsence, kGroups, 1);
-
-    EXPECT_EQ(
-        sent.join('\n'),
-        "INSERT INTO Departments_Modifications SELECT * FROM Departments WHERE RecordID = 2\n"
-        "UPDATE Departments SET DepartmentFrenchName = 'Ventes', DepartmentEnglishName = 'Sales', "
-        "OrganizationID = 2, ModifiedBy = 'ADMIN', ModifiedDate = 46083 WHERE RecordID = 2\n"
-        "UPDATE Groups SET OrganizationID = 2 WHERE DepartmentID = 2\n"
-        "UPDATE Employees SET OrganizationID = 2 WHERE DepartmentID = 2\n"
-        "UPDATE FiscalYears SET ReloadEmployeesList = 1 WHERE RecordID = 1\n"
-        "INSERT INTO Groups_Modifications SELECT * FROM Groups WHERE RecordID = 1\n"
-        "UPDATE Groups SET Active = 1, ModifiedBy = 'ADMIN', ModifiedDate = 46083 WHERE RecordID = 1\n"
-        "UPDATE Employees SET DeactivatedDate = 0, DeactivatedBy = '', ReasonForDeactivation = '' WHERE GroupID = "
-        "1\n"
-        "UPDATE FiscalYears SET ReloadEmployeesList = 1 WHERE RecordID = 1");
-    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Departments_Modifications"), 0);
 }
 } // namespace

@@ -1,9 +1,9 @@
 #include "foundation/employee_rights.h"
 #include "foundation/log_in.h"
-#include "foundation/rows.h"
 #include "foundation/texts.h"
 #include "foundation/work_schedule.h"
 #include "platform/clock.h"
+#include "platform/dao/server.h"
 #include "setup/wizard_house.h"
 
 #include <gmock/gmock.h>

@@ -2,10 +2,10 @@
 
 #include "foundation/connection.h"
 #include "foundation/log_in.h"
-#include "foundation/rows.h"
 #include "foundation/session_rows.h"
 #include "foundation/start_up.h"
 #include "platform/clock.h"
+#include "platform/dao/server.h"
 #include "platform/program.h"
 
 #include <QDir>
@@ -261,11 +261,10 @@ House& House::LogIn(const QString& loginID)
 int House::Insert(const char* table, const QVariantMap& values)
 {
     const auto database = Database::Open(DatabaseFile(), kDatabasePassword);
-    Recordset record = database->OpenRecordset(QStringLiteral("SELECT * FROM %1 WHERE 1 = 0").arg(table));
-    record.AddNew();
-    for (auto value = values.begin(); value != values.end(); ++value)
-        record[value.key()] = value.value();
-    record.Update();
+    const QStringList marks(values.size(), QStringLiteral("?"));
+    database->Execute(
+        QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, values.keys().join(", "), marks.join(", ")),
+        values.values());
     return database->LastKey();
 }
 
@@ -273,7 +272,7 @@ QString House::Rows(const QString& sql, const Values& values)
 {
     const auto database = Database::Open(DatabaseFile(), kDatabasePassword);
     QStringList lines;
-    for (Recordset rows = database->OpenRecordset(sql, values); !rows.AtEnd(); rows.MoveNext()) {
+    for (const Recordset& rows : database->OpenRecordset(sql, values)) {
         QStringList cells;
         for (const QString& column : rows.Columns())
             cells << rows.Text(column);

@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QHash>
-#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -74,105 +73,78 @@ QVariant BoundValue(const T& value)
 }
 
 /// A result read whole into memory: the file is not held while a caller walks it. The cursor stands on the first
-/// record after opening. A result of "SELECT * FROM one table" can be edited; others are read-only.
+/// record after opening. "for (const Recordset& row : result)" walks the records.
 class Recordset
 {
 public:
     Recordset() = default;
 
-    bool AtEnd() const { return current_ < 0 || current_ >= count_; }
+    bool AtEnd() const { return current_ >= count_; }
     /// Throws 3021 when there is no record at all.
     void MoveFirst();
-    /// Changes that were not written by Update are dropped, here and in MoveFirst.
-    void MoveNext();
-    /// The records read, without those removed by Delete.
-    int RecordCount() const { return static_cast<int>(count_ - deleted_); }
+    void MoveNext() { ++current_; }
+    int RecordCount() const { return static_cast<int>(count_); }
     /// Column names in the order of the result.
     const QStringList& Columns() const { return names_; }
 
-    /// The value of a column in the current record, or in the one being edited. Throws 3021 without a current
-    /// record, 3265 for an unknown column. Column names are found whatever their letter case.
-    QVariant Value(const QString& column) const;
+    /// The value of a column in the current record. Throws 3021 without a current record, 3265 for an unknown column.
+    /// Column names are found whatever their letter case.
+    const QVariant& Value(const QString& column) const;
     bool IsNull(const QString& column) const { return Value(column).isNull(); }
 
-    /// Copies a column into `target`. NULL, no record or an unknown column leave the target as it was.
-    void Take(const QString& column, int& target) const;
-    void Take(const QString& column, qint64& target) const;
-    void Take(const QString& column, float& target) const;
-    void Take(const QString& column, double& target) const;
-    void Take(const QString& column, bool& target) const;
-    void Take(const QString& column, QString& target) const;
+    /// Copies a column into `target`. NULL and no record leave the target as it was; an unknown column throws 3265.
+    template <typename T>
+    void Take(const QString& column, T& target) const
+    {
+        if (const QVariant* value = Find(column); value != nullptr && value->isValid())
+            target = Converted<T>(*value);
+    }
 
     /// The value itself; 0 or an empty text for NULL.
     int Long(const QString& column) const { return Value(column).toInt(); }
     float Single(const QString& column) const { return static_cast<float>(Value(column).toDouble()); }
     QString Text(const QString& column) const { return Value(column).toString(); }
 
-    class Field
+    struct End
+    {};
+    class Cursor
     {
     public:
-        Field(Recordset& owner, QString column) : owner_(owner), column_(std::move(column)) {}
-        /// Throws 3020 without Edit or AddNew, 3265 for an unknown column. A single-precision column keeps the nearest
-        /// float, a whole-number column the nearest whole number (the even one of two).
-        void operator=(const QVariant& value) { owner_.Set(column_, value); }
+        explicit Cursor(Recordset& records) : records_(records) {}
+        const Recordset& operator*() const { return records_; }
+        void operator++() { records_.MoveNext(); }
+        bool operator!=(End) const { return !records_.AtEnd(); }
 
     private:
-        Recordset& owner_;
-        QString column_;
+        Recordset& records_;
     };
-    Field operator[](const QString& column) { return Field(*this, column); }
-
-    /// Starts a new record. After Update the cursor stands where it was; the next opening reads the new record.
-    void AddNew();
-    void Edit();
-    /// Writes the values set since Edit or AddNew. Throws; the record is unchanged then.
-    void Update();
-    /// Forgets the values set since Edit or AddNew.
-    void CancelUpdate();
-    /// Removes the current record from its table. The cursor stays in its place until MoveNext.
-    void Delete();
+    Cursor begin() { return Cursor(*this); }
+    End end() { return {}; }
 
 private:
     friend class Database;
-    enum class Editing
-    {
-        None,
-        Existing,
-        New
-    };
-    enum class Kind
-    {
-        Plain,
-        Whole,
-        Single
-    };
 
-    void ReadColumns(const Statement& statement);
-    void ReadRow(const Statement& statement);
-    int ColumnIndex(const QString& column) const; // -1 unknown
-    const QVariant* Find(int column) const;
-    bool IsDeleted(qsizetype record) const { return !keys_.isEmpty() && keys_[record] < 0; }
-    void SkipDeleted();
-    Database& Owner() const;
-    void RequireTable() const;
-    void RequireRecord() const;
-    void Set(const QString& column, const QVariant& value);
-    QString UpdateStatement() const;
-    QString InsertStatement() const;
-    void WriteExisting();
+    explicit Recordset(Statement& statement);
+    int ColumnIndex(const QString& column) const; // throws 3265
+    const QVariant* Find(const QString& column) const;
+    template <typename T>
+    static T Converted(const QVariant& value)
+    {
+        if constexpr (std::is_same_v<T, QString>)
+            return value.toString();
+        else if constexpr (std::is_same_v<T, bool>)
+            return value.toDouble() != 0;
+        else if constexpr (std::is_floating_point_v<T>)
+            return static_cast<T>(value.toDouble());
+        else
+            return static_cast<T>(value.toLongLong());
+    }
 
-    std::weak_ptr<Database*> database_;
-    QString table_; // empty: cannot be edited
     QStringList names_;
-    QVector<Kind> kinds_;
     QHash<QString, int> columns_;
     QVector<QVariant> cells_; // record after record
-    QVector<qint64> keys_;    // of an editable result: -1 once deleted
     qsizetype count_ = 0;
-    qsizetype deleted_ = 0;
-    qsizetype current_ = -1;
-    Editing editing_ = Editing::None;
-    QMap<int, QVariant> changes_;
+    qsizetype current_ = 0;
 };
 
 /// One open file. Values are bound to the question marks of a statement in order.
@@ -184,8 +156,7 @@ public:
     Database& operator=(const Database&) = delete;
 
     Recordset OpenRecordset(const QString& sql, const Values& values = {});
-    /// Runs one statement and returns the number of records that it touched. Values are stored as they are: only a
-    /// recordset rounds to single precision.
+    /// Runs one statement and returns the number of records that it touched. Values are stored as they are.
     int Execute(const QString& sql, const Values& values = {});
     /// Runs a whole script of statements.
     void ExecuteScript(const QString& script);
@@ -195,6 +166,7 @@ public:
     int LastKey() const;
     QString Path() const { return path_; }
     sqlite3* Handle() const { return handle_; }
+    bool IsInTransaction() const { return transactions_ > 0; }
 
     /// Makes a new file at `path` with `script` run in it and `password` set. An existing file is replaced.
     static void Create(const QString& path, const QString& password, const QString& script);
@@ -207,13 +179,15 @@ public:
     static int LockWait;
 
 private:
-    friend class Recordset;
-    friend class Batch;
+    friend class Transaction;
     Database(sqlite3* handle, QString path);
-    Statement Prepare(const QString& sql, const Values& values);
+    template <typename Work>
+    auto Guarded(Work work);
 
     sqlite3* handle_;
     QString path_;
+    int transactions_ = 0;            // open ones, each inside the one before
+    std::exception_ptr ended_;        // the failure by which the engine has undone the open transaction
     std::shared_ptr<Database*> self_; // what outlives the database looks here whether it is still open
 };
 
@@ -225,6 +199,7 @@ public:
     Database& OpenDatabase(const QString& path, const QString& connect);
     void Close() { database_.reset(); }
     bool IsOpen() const { return database_ != nullptr; }
+    bool IsInTransaction() const { return IsOpen() && database_->IsInTransaction(); }
     /// Throws 91 when nothing is open.
     Database& Current();
 
@@ -235,31 +210,39 @@ private:
 /// Workspaces(0).
 Workspace& DefaultWorkspace();
 
-/// One transaction around bulk work. It commits when the scope ends, also when an exception leaves it, so that the
-/// file holds just what record-by-record writing would have left. A batch inside another is written to the file with
-/// the outer one.
-class Batch
+/// All that is written while it lives is written together. It is undone unless committed, whatever leaves the scope. A
+/// transaction inside another is written to the file with the outer one. A failure that ends it by itself, such as a
+/// full disk, is thrown again by whatever is read or written in its scope afterwards.
+class Transaction
 {
 public:
+    enum OnFailure
+    {
+        Undo,
+        KeepOnFailure ///< the file then holds what writing without a transaction would have left
+    };
+
     /// Throws when another user writes for longer than the engine waits.
-    explicit Batch(Database& database);
-    ~Batch();
-    Batch(const Batch&) = delete;
-    Batch& operator=(const Batch&) = delete;
-    /// Commits now and reports a failure, which the destructor cannot. After a failure all is undone.
+    explicit Transaction(Database& database, OnFailure onFailure = Undo);
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    /// Throws when the file cannot be written; all is undone then.
     void Commit();
-    /// Undoes all that was written in the batch.
-    void Rollback();
 
 private:
     void Run(const char* sql);
+    void Rollback();
+    void Close();
 
     std::weak_ptr<Database*> database_;
-    bool nested_ = false;
+    OnFailure onFailure_;
+    bool nested_;
     bool open_ = true;
 };
 
-/// The data control of a form: it names the form in the connection log and holds the form's recordset.
+/// The data control of a form: it names the form in the connection log and holds the form's recordset. Where the server
+/// back end is chosen it reads nothing and sends what is written to the server.
 class DataControl
 {
 public:
@@ -268,8 +251,9 @@ public:
     const QString FormName;
     Recordset Records; ///< what Read found
 
-    /// Reads with errors resumed: true when there is a first record. Nothing is thrown. A lost connection (91, 3420)
-    /// is restored through Reconnect and read once more.
+    /// Reads with errors resumed: true when there is a first record. A lost connection (91, 3420) is restored through
+    /// Reconnect and read once more, but not inside a transaction, which is over then: it throws there. A statement
+    /// that names what no table has, or that cannot be understood, throws (3061, 3075, 3078, 3265).
     template <typename... V>
     bool Read(const QString& sql, const V&... values)
     {
@@ -282,28 +266,43 @@ public:
     {
         return ReadResumed(sql, {BoundValue(values)...});
     }
+    /// The same for a statement of one value; T() when it is NULL, or there is none.
+    template <typename T, typename... V>
+    T Scalar(const QString& sql, const V&... values)
+    {
+        const Recordset found = Select(sql, values...);
+        T value{};
+        if (!found.AtEnd())
+            found.Take(found.Columns().first(), value);
+        return value;
+    }
     template <typename T>
     void Take(const QString& column, T& target) const
     {
         Records.Take(column, target);
     }
 
-    /// Opens for writing; throws.
+    /// Reads for writing: all failures are thrown.
     template <typename... V>
     Recordset Open(const QString& sql, const V&... values)
     {
-        return DefaultWorkspace().Current().OpenRecordset(sql, {BoundValue(values)...});
+        return OpenResult(sql, {BoundValue(values)...});
     }
+    /// Runs one statement and returns the number of records that it touched; 1 for one sent to the server.
     template <typename... V>
     int Execute(const QString& sql, const V&... values)
     {
-        return DefaultWorkspace().Current().Execute(sql, {BoundValue(values)...});
+        return Run(sql, {BoundValue(values)...});
     }
+    int Run(const QString& sql, const Values& values);
+    /// RecordID of the record added last; 0 on the server.
+    int LastKey() const;
     Database& Engine() const { return DefaultWorkspace().Current(); }
 
     /// How a lost connection is restored; set once by the connection routines.
     static std::function<void(DataControl&)> Reconnect;
 
 private:
+    Recordset OpenResult(const QString& sql, const Values& values);
     Recordset ReadResumed(const QString& sql, const Values& values);
 };

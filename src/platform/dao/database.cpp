@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QRegularExpression>
 
 #include <chrono>
 #include <sqlite3.h>
@@ -98,30 +97,15 @@ void RemoveFile(const QString& file)
         throw RuntimeError(EngineError::CannotOpen, "The file cannot be replaced: " + file);
 }
 
-void Fill(Database& database, const QString& password, const QString& script)
+void WriteNewFile(Database& database, const QString& password, const QString& script)
 {
     const QString salt = NewSalt();
     database.ExecuteScript(QStringLiteral("PRAGMA application_id = %1;").arg(kApplicationId));
-    Batch batch(database);
+    Transaction transaction(database);
     database.ExecuteScript("CREATE TABLE FilePassword (Salt TEXT, Hash TEXT);");
     database.Execute("INSERT INTO FilePassword VALUES (?, ?)", {salt, HashOf(salt, password)});
     database.ExecuteScript(script);
-    batch.Commit();
-}
-
-/// The table of "SELECT * FROM one table ...", whose rows can be edited; empty for other statements.
-QString EditableTable(const QString& sql)
-{
-    static const QRegularExpression pattern(
-        QStringLiteral("^\\s*SELECT\\s+\\*\\s+FROM\\s+(\\w+)\\s*(?:;|$|WHERE\\b|ORDER\\b|LIMIT\\b)"),
-        QRegularExpression::CaseInsensitiveOption);
-    return pattern.match(sql).captured(1);
-}
-
-/// The same statement with the row's key as its first column.
-QString WithRowKey(QString sql)
-{
-    return sql.replace(sql.indexOf('*'), 1, QStringLiteral("rowid, *"));
+    transaction.Commit();
 }
 } // namespace
 
@@ -153,51 +137,57 @@ void Database::Create(const QString& path, const QString& password, const QStrin
     RemoveFile(file);
     try {
         Database database(OpenFile(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE), file);
-        Fill(database, password, script);
+        WriteNewFile(database, password, script);
     } catch (...) {
         QFile::remove(file);
         throw;
     }
 }
 
-Statement Database::Prepare(const QString& sql, const Values& values)
+/// Runs `work`, unless a failure has ended the open transaction: what was to be written together would be torn apart.
+template <typename Work>
+auto Database::Guarded(Work work)
 {
-    return Statement(handle_, sql, values);
+    if (ended_)
+        std::rethrow_exception(ended_);
+    try {
+        return work();
+    } catch (const RuntimeError&) {
+        if (IsInTransaction() && sqlite3_get_autocommit(handle_) != 0)
+            ended_ = std::current_exception();
+        throw;
+    }
 }
 
 Recordset Database::OpenRecordset(const QString& sql, const Values& values)
 {
-    Recordset records;
-    records.table_ = EditableTable(sql);
-    Statement statement = Prepare(records.table_.isEmpty() ? sql : WithRowKey(sql), values);
-    records.database_ = self_;
-    records.ReadColumns(statement);
-    while (statement.Step())
-        records.ReadRow(statement);
-    records.current_ = 0;
-    return records;
+    return Guarded([&] {
+        Statement statement(handle_, sql, values);
+        return Recordset(statement);
+    });
 }
 
 int Database::Execute(const QString& sql, const Values& values)
 {
-    Statement statement = Prepare(sql, values);
-    const int before = sqlite3_total_changes(handle_);
-    while (statement.Step()) {
-    }
-    return sqlite3_total_changes(handle_) - before;
+    return Guarded([&] {
+        Statement statement(handle_, sql, values);
+        const int before = sqlite3_total_changes(handle_);
+        while (statement.Step()) {
+        }
+        return sqlite3_total_changes(handle_) - before;
+    });
 }
 
 void Database::ExecuteScript(const QString& script)
 {
-    Run(handle_, script.toUtf8().constData(), FileAccess::Writing);
+    Guarded([&] { Run(handle_, script.toUtf8().constData(), FileAccess::Writing); });
 }
 
 QStringList Database::Columns(const QString& table)
 {
-    Statement statement = Prepare("SELECT name FROM pragma_table_info(?) ORDER BY cid", {table});
     QStringList names;
-    while (statement.Step())
-        names += statement.Value(0).toString();
+    for (const Recordset& column : OpenRecordset("SELECT name FROM pragma_table_info(?) ORDER BY cid", {table}))
+        names += column.Text("name");
     return names;
 }
 

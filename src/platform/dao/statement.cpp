@@ -58,11 +58,6 @@ QString Statement::ColumnName(int column) const
     return QString::fromUtf8(sqlite3_column_name(statement_, column));
 }
 
-QByteArray Statement::DeclaredType(int column) const
-{
-    return QByteArray(sqlite3_column_decltype(statement_, column)).toUpper();
-}
-
 QVariant Statement::Value(int column) const
 {
     switch (sqlite3_column_type(statement_, column)) {

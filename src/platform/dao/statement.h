@@ -18,8 +18,6 @@ public:
     bool Step();
     int ColumnCount() const;
     QString ColumnName(int column) const;
-    /// The type word of the table's column, in capitals; empty for an expression.
-    QByteArray DeclaredType(int column) const;
     QVariant Value(int column) const;
     qint64 WholeNumber(int column) const;
 

@@ -1,4 +1,4 @@
-#include "platform/dao/dao.h"
+#include "platform/dao/server.h"
 
 namespace
 {
@@ -15,6 +15,20 @@ QString PasswordOf(const QString& connect)
 bool IsConnectionLost(const RuntimeError& error)
 {
     return error.Number == EngineError::ObjectNotSet || error.Number == EngineError::ConnectionLost;
+}
+/// A fault of the program itself must not pass for an empty result, and a lost connection not for one in the middle of
+/// a transaction, which is over then.
+bool MayBeResumed(const RuntimeError& error)
+{
+    switch (error.Number) {
+    case EngineError::UnknownName:
+    case EngineError::StatementError:
+    case EngineError::NoSuchTable:
+    case EngineError::NoSuchField:
+        return false;
+    default:
+        return !IsConnectionLost(error) || !DefaultWorkspace().IsInTransaction();
+    }
 }
 } // namespace
 
@@ -39,18 +53,40 @@ Workspace& DefaultWorkspace()
     return workspace;
 }
 
+Recordset DataControl::OpenResult(const QString& sql, const Values& values)
+{
+    return IsServerChosen() ? Recordset() : Engine().OpenRecordset(sql, values);
+}
+
+int DataControl::Run(const QString& sql, const Values& values)
+{
+    if (!IsServerChosen())
+        return Engine().Execute(sql, values);
+    SendToServer(ServerStatement(sql, values));
+    return 1;
+}
+
+int DataControl::LastKey() const
+{
+    return IsServerChosen() ? 0 : Engine().LastKey();
+}
+
 Recordset DataControl::ReadResumed(const QString& sql, const Values& values)
 {
     try {
-        return Engine().OpenRecordset(sql, values);
+        return OpenResult(sql, values);
     } catch (const RuntimeError& error) {
+        if (!MayBeResumed(error))
+            throw;
         if (!IsConnectionLost(error) || !Reconnect)
             return {};
     }
     try {
         Reconnect(*this);
-        return Engine().OpenRecordset(sql, values);
-    } catch (const RuntimeError&) {
+        return OpenResult(sql, values);
+    } catch (const RuntimeError& error) {
+        if (!MayBeResumed(error))
+            throw;
         return {};
     }
 }
