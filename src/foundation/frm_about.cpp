@@ -19,7 +19,7 @@ QLabel* Paragraph(const QString& name, const Text& text)
 QVBoxLayout* AboutTexts()
 {
     auto* lblVersion = Named<QLabel>("lblVersion", "Version " + Deployment::Version());
-    auto* texts = Column(8, {AsFigure(MakeLabel("lblTitle", {"Tarvell", "Tarvell"})), AsCaption(lblVersion)});
+    auto* texts = Stack(8, {AsFigure(MakeLabel("lblTitle", {"Tarvell", "Tarvell"})), AsCaption(lblVersion)});
     texts->addSpacing(6);
     texts->addWidget(Paragraph(
         "lblDescription", {"Attendance, leave and time banks of the employees of an organization, on one calendar per "

@@ -15,7 +15,7 @@ frmInputBox::frmInputBox(const QString& title, const QString& prompt, QWidget* p
     lblPrompt->setText(prompt);
     lblPrompt->setFixedWidth(kPromptWidth);
     txtInput->setAccessibleName(prompt);
-    Page()->addWidget(MakeCard(Column(kInputGap, {lblPrompt, txtInput})));
+    Page()->addWidget(MakeCard(Stack(kInputGap, {lblPrompt, txtInput})));
     LayFoot({AddWayOut(), AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { accept(); })});
     txtInput->setFocus();
 }

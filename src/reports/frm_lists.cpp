@@ -21,7 +21,7 @@ frmLists::frmLists(ListKind kind, QWidget* parent)
     const bool employees = kind == ListKind::Employees;
     SetTitle(this, employees ? Text{"Employees", "Employés"} : Text{"Categories", "Catégories"});
     flxList->SetRowSelection(true);
-    Page()->addWidget(MakeCard(Column(kHeadingGap, {lblHeading, flxList})), 1);
+    Page()->addWidget(MakeCard(Stack(kHeadingGap, {lblHeading, flxList})), 1);
     LayFoot({AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { accept(); })});
     const BusyPointer busy;
     Attempt([&] { ShowList(employees ? ListOfEmployees(datAbsence) : ListOfCategories(datAbsence)); });

@@ -26,7 +26,7 @@ frmGetApproverFromList::frmGetApproverFromList(const QString& employeeName, QWid
     SetAccessibleName(lstApprovers, kTitle);
     connect(lstApprovers, &QListWidget::itemSelectionChanged, this, &frmGetApproverFromList::lstApprovers_Click);
     connect(lstApprovers, &QListWidget::itemDoubleClicked, this, &frmGetApproverFromList::cmdSelect_Click);
-    Page()->addWidget(MakeCard(Column(kInstructionsGap, {lblInstructions, lstApprovers})));
+    Page()->addWidget(MakeCard(Stack(kInstructionsGap, {lblInstructions, lstApprovers})));
     cmdSelect = AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); });
     LayFoot({AddWayOut(), cmdSelect});
     Attempt([this] { LoadRecords(); });

@@ -21,7 +21,7 @@ frmSelectAttendanceRecord::frmSelectAttendanceRecord(const std::vector<std::pair
         AddEntry(lstRecords, text, recordID);
     lstRecords->setCurrentRow(0);
     connect(lstRecords, &QListWidget::itemDoubleClicked, this, &frmSelectAttendanceRecord::cmdSelect_Click);
-    Page()->addWidget(MakeCard(Column(kRecordListGap, {WrappedLabel("lblInstructions", kChooseRecord), lstRecords})));
+    Page()->addWidget(MakeCard(Stack(kRecordListGap, {WrappedLabel("lblInstructions", kChooseRecord), lstRecords})));
     LayFoot({AddWayOut(), AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); })});
     resize(kSize);
 }

@@ -15,7 +15,7 @@ frmSelectWeekdays::frmSelectWeekdays(QWidget* parent) : FormBase("frmSelectWeekd
     boxes_->SetChecked({false, true, true, true, true, true, false});
     QLabel* lblInstructions =
         MakeLabel("lblInstructions", {"Days of the week to be included:", "Jours de la semaine à inclure:"});
-    Page()->addWidget(MakeCard(Column(kBoxesGap, {AsHead(lblInstructions), boxes_})));
+    Page()->addWidget(MakeCard(Stack(kBoxesGap, {AsHead(lblInstructions), boxes_})));
     LayFoot({AddWayOut(), AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { cmdOK_Click(); })});
 }
 

@@ -64,7 +64,7 @@ frmSetUpWizard::frmSetUpWizard(std::function<void()> startNormally, QWidget* par
     head->addWidget(lblStep, 0, Qt::AlignBottom);
     Page()->addLayout(head);
     AddSteps();
-    Page()->addWidget(MakeCard(Column(0, {steps_})), 1);
+    Page()->addWidget(MakeCard(Stack(0, {steps_})), 1);
     cmdCancel = AddButton("cmdCancel", kCancel, [this] { cmdCancel_Click(); });
     cmdPrevious = AddButton("cmdPrevious", kPrevious, [this] { cmdPrevious_Click(); });
     cmdNext = AddMainButton("cmdNext", kNext, [this] { cmdNext_Click(); });

@@ -104,7 +104,7 @@ QWidget* DatabaseStep::MakeFilePage()
     connect(cmdRelocateDatabase, &QPushButton::clicked, this, &DatabaseStep::cmdRelocateDatabase_Click);
     QLabel* lblDatabaseHead =
         MakeLabel("lblDatabaseHead", {"Location of the database", "Emplacement de la banque de données"});
-    auto* place = Column(kPlaceGap, {AsHead(lblDatabaseHead), lblDatabasePath});
+    auto* place = Stack(kPlaceGap, {AsHead(lblDatabaseHead), lblDatabasePath});
     place->addSpacing(kPlaceGap);
     place->addWidget(cmdRelocateDatabase, 0, Qt::AlignLeft);
     auto* page = new QWidget;

@@ -72,8 +72,8 @@ QLayout* FiscalYearStep::Dates()
 {
     auto* dates = new QHBoxLayout;
     dates->setSpacing(kDatesGap);
-    dates->addLayout(Column(0, {AsCaption(MakeLabel("lblStartCaption", {"Start", "Début"})), lblFiscalYearStart}));
-    dates->addLayout(Column(0, {AsCaption(MakeLabel("lblEndCaption", {"End", "Fin"})), lblFiscalYearEnd}));
+    dates->addLayout(Stack(0, {AsCaption(MakeLabel("lblStartCaption", {"Start", "Début"})), lblFiscalYearStart}));
+    dates->addLayout(Stack(0, {AsCaption(MakeLabel("lblEndCaption", {"End", "Fin"})), lblFiscalYearEnd}));
     dates->addStretch();
     return dates;
 }

@@ -127,7 +127,7 @@ QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
     return row;
 }
 
-QVBoxLayout* Column(int gap, std::initializer_list<QWidget*> controls)
+QVBoxLayout* Stack(int gap, std::initializer_list<QWidget*> controls)
 {
     auto* column = new QVBoxLayout;
     column->setSpacing(gap);

@@ -29,7 +29,7 @@ QVBoxLayout* PageLayout(QWidget* form);
 /// Controls side by side, the rest of the row empty.
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls);
 /// Controls one below the other, `gap` pixels apart.
-QVBoxLayout* Column(int gap, std::initializer_list<QWidget*> controls);
+QVBoxLayout* Stack(int gap, std::initializer_list<QWidget*> controls);
 /// A raster of labels and controls; rows and boxes nested in it take its gaps over.
 QGridLayout* Raster();
 /// A white card with rounded corners on the quiet page; its layout holds the controls.
