@@ -1,5 +1,6 @@
 #include "measuring.h"
 #include "platform/controls/form_kit.h"
+#include "support/screen.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -9,7 +10,7 @@
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", kScreen);
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     QLoggingCategory::setFilterRules("default.warning=false"); // the offscreen windows cannot be sized by hints
     QApplication application(argc, argv);

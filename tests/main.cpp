@@ -1,5 +1,6 @@
 #include "platform/controls/form_kit.h"
 #include "support/house.h"
+#include "support/screen.h"
 
 #include <QApplication>
 
@@ -7,7 +8,7 @@
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", kScreen);
     QApplication application(argc, argv);
     ApplyStyle();
     SetComplaintHandler([](const QString& text) { ADD_FAILURE() << qUtf8Printable(text); });

@@ -1,4 +1,5 @@
 #include "platform/controls/form_kit.h"
+#include "support/screen.h"
 #include "tour.h"
 
 #include <QApplication>
@@ -10,7 +11,7 @@
 /// Walks through the program in English and in French: tour FOLDER.
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", kScreen);
     QApplication application(argc, argv);
     ApplyStyle();
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("tour");

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "employees/employee_record.h"
-#include "employees/field_in_error.h"
+#include "foundation/fault.h"
 #include "platform/dao/dao.h"
 
 #include <optional>
@@ -13,11 +13,10 @@ struct ValidationContext
     bool ApproversOffered = false; ///< the list of first-level approvers has entries
 };
 
-/// Checks a record in the order of the form, with its errors and warnings. The first failure, or the first warning that
-/// is answered with No, ends the checks and names its field; nothing when the record may be saved. On the way the dates
-/// are taken in and the schedule is brought up to date.
-std::optional<FieldInError> ValidateRecord(DataControl& datAbsence, EmployeeRecord& record,
-                                           const ValidationContext& context);
+/// Checks a record in the order of the form, and asks its questions. The first error, or the first question that is
+/// answered with No, ends the checks and is the fault; none when the record may be saved. On the way the dates are
+/// taken in and the schedule is brought up to date.
+std::optional<Fault> ValidateRecord(DataControl& datAbsence, EmployeeRecord& record, const ValidationContext& context);
 
 /// Brings what is typed into the form in which it is stored: names with capitals, codes and log-in in upper case, the
 /// rate with two decimals.

@@ -1,15 +1,7 @@
 #include "employees/frm_employee_general_page.h"
 
 #include "employees/employee_validation.h"
-#include "employees/frm_employee_kit.h"
-#include "foundation/texts.h"
 #include "platform/clock.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
-
-#include <QComboBox>
-#include <QGridLayout>
-#include <QListWidget>
 
 namespace
 {
@@ -18,69 +10,23 @@ constexpr int kCommentHeight = 56;
 constexpr int kFirstHireYear = 1931;
 constexpr int kFirstBirthYear = 1901;
 constexpr int kLastBirthYear = 1990;
-constexpr int kUnlimited = 32767;
-
-struct TextField
-{
-    const char* Name;
-    QString EmployeeRecord::*Member;
-    KeyFilter Filter;
-    int Limit;
-    const char* English;
-    const char* French;
-};
-
-enum
-{
-    kName,
-    kFirstName,
-    kEmployeeID,
-    kHourlyRate,
-    kAddress,
-    kCity,
-    kState,
-    kPostalCode,
-    kCountry,
-    kPhoneHome,
-    kPhoneWork,
-    kEMail
-};
-
-/// In the order of the enumeration above.
-constexpr TextField kFields[] = {
-    {"txtName", &EmployeeRecord::FamilyName, KeyFilter::PersonName, 35, "Family name:", "Nom de famille:"},
-    {"txtFirstName", &EmployeeRecord::FirstName, KeyFilter::PersonName, 35, "First name:", "Prénom:"},
-    {"txtEmployeeID", &EmployeeRecord::EmployeeID, KeyFilter::Comment, 35, "Employee ID:", "Numéro d'employé(e):"},
-    {"txtHourlyRate", &EmployeeRecord::HourlyRateText, KeyFilter::DecimalNumber, kUnlimited,
-     "Hourly rate:", "Taux horaire:"},
-    {"txtAddressLine1", &EmployeeRecord::AddressLine1, KeyFilter::Comment, kUnlimited, "Address:", "Adresse:"},
-    {"txtCity", &EmployeeRecord::City, KeyFilter::Comment, kUnlimited, "City:", "Ville:"},
-    {"txtStateProvince", &EmployeeRecord::ProvinceState, KeyFilter::LogIn, kUnlimited,
-     "State or province:", "État ou province:"},
-    {"txtPostalCode", &EmployeeRecord::PostalCode, KeyFilter::Comment, kUnlimited,
-     "Postal or zip code:", "Code postal:"},
-    {"txtCountry", &EmployeeRecord::Country, KeyFilter::Comment, kUnlimited, "Country:", "Pays:"},
-    {"txtPhoneHome", &EmployeeRecord::PhoneHome, KeyFilter::Phone, 20, "Phone (home):", "Téléphone (domicile):"},
-    {"txtPhoneWork", &EmployeeRecord::PhoneOffice, KeyFilter::Phone, 20, "Phone (work):", "Téléphone (bureau):"},
-    {"txtEMail", &EmployeeRecord::EMailAddress, KeyFilter::EMailAddress, 75, "E-mail:", "Courriel:"},
-};
 
 struct UnitCaption
 {
     const char* Control;
-    const char* English;
-    const char* French;
+    Text Caption;
 };
 constexpr UnitCaption kUnitCaptions[] = {
-    {"Organizations", "Organization:", "Organisation:"},
-    {"Departments", "Department:", "Département:"},
-    {"Groups", "Group:", "Groupe:"},
+    {"lstOrganizations", {"Organization:", "Organisation:"}},
+    {"lstDepartments", {"Department:", "Département:"}},
+    {"lstGroups", {"Group:", "Groupe:"}},
 };
 
-QComboBox* DatePart(const QString& name, int digits)
+QComboBox* DatePart(const QString& name, int digits, const Text& caption)
 {
     QComboBox* combo = EntryCombo(name, digits);
     FilterKeys(combo, KeyFilter::WholeNumber);
+    SetToolTip(combo, caption);
     return combo;
 }
 
@@ -91,211 +37,156 @@ QStringList Numbers(int from, int to)
         numbers << QString::number(number);
     return numbers << QString::number(to);
 }
-
-void Fill(QComboBox* combo, const QStringList& entries)
-{
-    combo->clear();
-    combo->addItems(entries);
-    combo->setCurrentIndex(-1);
-}
 } // namespace
 
 EmployeeGeneralPage::EmployeeGeneralPage()
 {
-    BuildControls();
     auto* left = new QVBoxLayout;
     left->addWidget(PersonCard());
     left->addWidget(ContactCard(), 1);
     auto* right = new QVBoxLayout;
     right->addWidget(UnitsCard(), 3);
     right->addWidget(CommentCard(), 1);
-    auto* page = new QHBoxLayout(this);
-    page->setContentsMargins(kTabMargin, kTabMargin, kTabMargin, kTabMargin);
-    page->setSpacing(kTabMargin);
-    page->addLayout(left, 3);
-    page->addLayout(right, 2);
-    for (QBoxLayout* column : {left, right})
-        column->setSpacing(kTabMargin);
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(left, 3);
+    columns->addLayout(right, 2);
+    TabLayout(this)->addLayout(columns, 1);
+    txtName = fields_.front().first;
 }
 
-void EmployeeGeneralPage::BuildControls()
+void EmployeeGeneralPage::AddField(QGridLayout* raster, const Place& place, const QString& name,
+                                   QString EmployeeRecord::*member, const Text& caption, KeyFilter filter, int limit)
 {
-    for (const TextField& field : kFields) {
-        auto* control = Named<QLineEdit>(field.Name);
-        control->setMaxLength(field.Limit);
-        FilterKeys(control, field.Filter);
-        connect(control, &QLineEdit::editingFinished, this, &EmployeeGeneralPage::Normalise);
-        fields_.push_back(control);
-        captions_.push_back(Named<QLabel>(QString(field.Name).replace("txt", "lbl")));
-    }
-    txtName = fields_[kName];
-    lblBirth = Named<QLabel>("lblDateOfBirth");
-    lblHire = Named<QLabel>("lblDateOfHire");
-    birth_ = BuildDate("Birth");
-    hire_ = BuildDate("Hire");
-    lblPerson = Named<QLabel>("lblPerson");
-    lblContact = Named<QLabel>("lblContact");
-    lblUnits = Named<QLabel>("lblUnits");
-    lblComment = Named<QLabel>("lblComment");
-    txtComment = Named<QPlainTextEdit>("txtComment");
-    txtComment->setTabChangesFocus(true);
-    FilterKeys(txtComment, KeyFilter::Comment);
-    for (const UnitList list : kUnitLists) {
-        const auto i = static_cast<std::size_t>(list);
-        lstUnits[i] = Named<QListWidget>(QString("lst") + kUnitCaptions[i].Control);
-        lstUnits[i]->setMinimumHeight(kUnitListHeight);
-        unitCaptions_[i] = Named<QLabel>(QString("lbl") + kUnitCaptions[i].Control);
-    }
+    auto* field = MakeField(name, filter, limit);
+    connect(field, &QLineEdit::editingFinished, this, &EmployeeGeneralPage::Normalise);
+    fields_.emplace_back(field, member);
+    raster->addLayout(Captioned(caption, field), place.Row, place.Column, 1, place.Columns);
+    raster->setColumnStretch(place.Column, 1);
 }
 
-EmployeeGeneralPage::DateCombos EmployeeGeneralPage::BuildDate(const QString& kind)
+QVBoxLayout* EmployeeGeneralPage::DateField(const Text& caption, DateCombos& date, const QString& name,
+                                            const QStringList& years)
 {
-    const QString name = "cbo" + kind;
-    return {DatePart(name + "Year", 4), DatePart(name + "Month", 2), DatePart(name + "Day", 2)};
-}
-
-QBoxLayout* EmployeeGeneralPage::Field(int index) const
-{
-    const auto i = static_cast<std::size_t>(index);
-    return Captioned(captions_[i], fields_[i]);
-}
-
-QBoxLayout* EmployeeGeneralPage::DateField(QLabel* caption, const DateCombos& combos)
-{
+    date = {DatePart(name + "Year", 4, {"Year", "Année"}), DatePart(name + "Month", 2, {"Month", "Mois"}),
+            DatePart(name + "Day", 2, {"Day", "Jour"})};
+    ShareEntries({date.Year}, years);
     auto* parts = new QWidget;
     auto* row = new QHBoxLayout(parts);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(6);
-    row->addWidget(combos.Year, 4);
-    row->addWidget(combos.Month, 3);
-    row->addWidget(combos.Day, 3);
-    auto* column = Captioned(caption, parts);
-    caption->setBuddy(combos.Year);
+    row->addWidget(date.Year, 4);
+    row->addWidget(date.Month, 3);
+    row->addWidget(date.Day, 3);
+    auto* column = Captioned(caption, parts, date.Year);
+    for (QComboBox* part : {date.Year, date.Month, date.Day})
+        part->setAccessibleName(part->toolTip());
     return column;
 }
 
 QWidget* EmployeeGeneralPage::PersonCard()
 {
     auto* raster = Raster();
-    raster->addLayout(Field(kName), 0, 0);
-    raster->addLayout(Field(kFirstName), 0, 1);
-    raster->addLayout(Field(kEmployeeID), 1, 0);
-    raster->addLayout(Field(kHourlyRate), 1, 1);
-    raster->addLayout(DateField(lblBirth, birth_), 2, 0);
-    raster->addLayout(DateField(lblHire, hire_), 2, 1);
-    raster->setColumnStretch(0, 1);
-    raster->setColumnStretch(1, 1);
-    return HeadedCard(lblPerson, raster);
+    AddField(raster, {0, 0}, "txtName", &EmployeeRecord::FamilyName, {"Family name:", "Nom de famille:"},
+             KeyFilter::PersonName, 35);
+    AddField(raster, {0, 1}, "txtFirstName", &EmployeeRecord::FirstName, {"First name:", "Prénom:"},
+             KeyFilter::PersonName, 35);
+    AddField(raster, {1, 0}, "txtEmployeeID", &EmployeeRecord::EmployeeID, {"Employee ID:", "Numéro d'employé(e):"},
+             KeyFilter::Comment, 35);
+    AddField(raster, {1, 1}, "txtHourlyRate", &EmployeeRecord::HourlyRateText, {"Hourly rate:", "Taux horaire:"},
+             KeyFilter::DecimalNumber);
+    raster->addLayout(DateField({"Date of birth (year, month, day):", "Date de naissance (année, mois, jour):"}, birth_,
+                                "cboBirth", Numbers(kLastBirthYear, kFirstBirthYear)),
+                      2, 0);
+    raster->addLayout(DateField({"Date of hire (year, month, day):", "Date d'embauche (année, mois, jour):"}, hire_,
+                                "cboHire", Numbers(DateOfSerial(Today()).year(), kFirstHireYear)),
+                      2, 1);
+    ShareEntries({birth_.Month, hire_.Month}, Numbers(1, 12));
+    ShareEntries({birth_.Day, hire_.Day}, Numbers(1, 31));
+    return HeadedCard({"Employee", "Employé(e)"}, raster);
 }
 
 QWidget* EmployeeGeneralPage::ContactCard()
 {
     auto* raster = Raster();
-    raster->addLayout(Field(kAddress), 0, 0, 1, 3);
-    raster->addLayout(Field(kCity), 1, 0);
-    raster->addLayout(Field(kState), 1, 1);
-    raster->addLayout(Field(kPostalCode), 1, 2);
-    raster->addLayout(Field(kCountry), 2, 0);
-    raster->addLayout(Field(kPhoneHome), 2, 1);
-    raster->addLayout(Field(kPhoneWork), 2, 2);
-    raster->addLayout(Field(kEMail), 3, 0, 1, 3);
-    for (int column = 0; column < 3; ++column)
-        raster->setColumnStretch(column, 1);
+    AddField(raster, {0, 0, 3}, "txtAddressLine1", &EmployeeRecord::AddressLine1, {"Address:", "Adresse:"},
+             KeyFilter::Comment);
+    AddField(raster, {1, 0}, "txtCity", &EmployeeRecord::City, {"City:", "Ville:"}, KeyFilter::Comment);
+    AddField(raster, {1, 1}, "txtStateProvince", &EmployeeRecord::ProvinceState,
+             {"State or province:", "État ou province:"}, KeyFilter::LogIn);
+    AddField(raster, {1, 2}, "txtPostalCode", &EmployeeRecord::PostalCode, {"Postal or zip code:", "Code postal:"},
+             KeyFilter::Comment);
+    AddField(raster, {2, 0}, "txtCountry", &EmployeeRecord::Country, {"Country:", "Pays:"}, KeyFilter::Comment);
+    AddField(raster, {2, 1}, "txtPhoneHome", &EmployeeRecord::PhoneHome, {"Phone (home):", "Téléphone (domicile):"},
+             KeyFilter::Phone, 20);
+    AddField(raster, {2, 2}, "txtPhoneWork", &EmployeeRecord::PhoneOffice, {"Phone (work):", "Téléphone (bureau):"},
+             KeyFilter::Phone, 20);
+    AddField(raster, {3, 0, 3}, "txtEMail", &EmployeeRecord::EMailAddress, {"E-mail:", "Courriel:"},
+             KeyFilter::EMailAddress, 75);
     raster->setRowStretch(raster->rowCount(), 1);
-    return HeadedCard(lblContact, raster);
+    return HeadedCard({"Contact details", "Coordonnées"}, raster);
 }
 
 QWidget* EmployeeGeneralPage::UnitsCard()
 {
     auto* lists = new QVBoxLayout;
-    for (std::size_t i = 0; i < lstUnits.size(); ++i)
-        lists->addLayout(Captioned(unitCaptions_[i], lstUnits[i]), 1);
-    return HeadedCard(lblUnits, lists);
+    for (std::size_t i = 0; i < lstUnits.size(); ++i) {
+        lstUnits[i] = Named<ChoiceList>(kUnitCaptions[i].Control);
+        lstUnits[i]->setMinimumHeight(kUnitListHeight);
+        lists->addLayout(Captioned(kUnitCaptions[i].Caption, lstUnits[i]), 1);
+    }
+    return HeadedCard({"Workplace", "Lieu de travail"}, lists);
 }
 
 QWidget* EmployeeGeneralPage::CommentCard()
 {
+    constexpr Text kHead = {"Comment", "Commentaire"};
+    txtComment = Named<QPlainTextEdit>("txtComment");
+    txtComment->setTabChangesFocus(true);
+    txtComment->setMinimumHeight(kCommentHeight);
+    FilterKeys(txtComment, KeyFilter::Comment);
+    SetAccessibleName(txtComment, kHead);
     auto* content = new QVBoxLayout;
     content->addWidget(txtComment);
-    txtComment->setMinimumHeight(kCommentHeight);
-    return HeadedCard(lblComment, content);
-}
-
-void EmployeeGeneralPage::LoadCaptions()
-{
-    for (std::size_t i = 0; i < fields_.size(); ++i)
-        captions_[i]->setText(T(kFields[i].English, kFields[i].French));
-    for (std::size_t i = 0; i < lstUnits.size(); ++i) {
-        unitCaptions_[i]->setText(T(kUnitCaptions[i].English, kUnitCaptions[i].French));
-        lstUnits[i]->setAccessibleName(unitCaptions_[i]->text());
-    }
-    lblPerson->setText(T("Employee", "Employé(e)"));
-    lblContact->setText(T("Contact details", "Coordonnées"));
-    lblUnits->setText(T("Workplace", "Lieu de travail"));
-    lblComment->setText(T("Comment", "Commentaire"));
-    lblBirth->setText(T("Date of birth (year, month, day):", "Date de naissance (année, mois, jour):"));
-    lblHire->setText(T("Date of hire (year, month, day):", "Date d'embauche (année, mois, jour):"));
-    for (const DateCombos& combos : {birth_, hire_}) {
-        combos.Year->setToolTip(T("Year", "Année"));
-        combos.Month->setToolTip(T("Month", "Mois"));
-        combos.Day->setToolTip(T("Day", "Jour"));
-        for (QComboBox* part : {combos.Year, combos.Month, combos.Day})
-            part->setAccessibleName(part->toolTip());
-    }
-    txtComment->setAccessibleName(lblComment->text());
-}
-
-void EmployeeGeneralPage::LoadComboBoxes()
-{
-    Fill(birth_.Year, Numbers(kLastBirthYear, kFirstBirthYear));
-    Fill(hire_.Year, Numbers(DateOfSerial(Today()).year(), kFirstHireYear));
-    for (const DateCombos& combos : {birth_, hire_}) {
-        Fill(combos.Month, Numbers(1, 12));
-        Fill(combos.Day, Numbers(1, 31));
-    }
+    return HeadedCard(kHead, content);
 }
 
 void EmployeeGeneralPage::LoadUnits(const std::array<QVector<Unit>, 3>& units)
 {
     for (std::size_t i = 0; i < lstUnits.size(); ++i) {
         lstUnits[i]->clear();
-        for (const Unit& unit : units[i]) {
-            auto* item = new QListWidgetItem(unit.Name, lstUnits[i]);
-            item->setData(Qt::UserRole, unit.RecordID);
-        }
+        for (const Unit& unit : units[i])
+            AddEntry(lstUnits[i], unit.Name, unit.RecordID);
     }
 }
 
 void EmployeeGeneralPage::Show(const EmployeeRecord& record)
 {
     ShowTexts(record);
-    ShowDate(birth_, record.Birth);
-    ShowDate(hire_, record.Hire);
-    const int chosen[] = {record.OrganizationID, record.DepartmentID, record.GroupID};
-    for (std::size_t i = 0; i < lstUnits.size(); ++i) {
-        lstUnits[i]->setCurrentRow(-1);
-        lstUnits[i]->clearSelection();
-        for (int row = 0; row < lstUnits[i]->count(); ++row)
-            if (chosen[i] != 0 && lstUnits[i]->item(row)->data(Qt::UserRole).toInt() == chosen[i])
-                lstUnits[i]->setCurrentRow(row);
+    if (txtComment->toPlainText() != record.Comment)
+        txtComment->setPlainText(record.Comment);
+    for (const auto& [date, entry] : {std::pair(birth_, &record.Birth), std::pair(hire_, &record.Hire)}) {
+        ShowText(date.Year, entry->Year);
+        ShowText(date.Month, entry->Month);
+        ShowText(date.Day, entry->Day);
     }
+    Choose(lstUnits[0], record.OrganizationID);
+    Choose(lstUnits[1], record.DepartmentID);
+    Choose(lstUnits[2], record.GroupID);
 }
 
 void EmployeeGeneralPage::ShowTexts(const EmployeeRecord& record)
 {
-    for (std::size_t i = 0; i < fields_.size(); ++i)
-        ShowText(fields_[i], record.*kFields[i].Member);
-    if (txtComment->toPlainText() != record.Comment)
-        txtComment->setPlainText(record.Comment);
+    for (const auto& [field, member] : fields_)
+        ShowText(field, record.*member);
 }
 
 void EmployeeGeneralPage::Read(EmployeeRecord& record) const
 {
-    for (std::size_t i = 0; i < fields_.size(); ++i)
-        record.*kFields[i].Member = fields_[i]->text();
+    for (const auto& [field, member] : fields_)
+        record.*member = field->text();
     record.Comment = txtComment->toPlainText();
-    record.Birth = ReadDate(birth_);
-    record.Hire = ReadDate(hire_);
+    for (const auto& [date, entry] : {std::pair(birth_, &record.Birth), std::pair(hire_, &record.Hire)})
+        *entry = {date.Year->currentText(), date.Month->currentText(), date.Day->currentText()};
 }
 
 void EmployeeGeneralPage::Normalise()
@@ -303,41 +194,15 @@ void EmployeeGeneralPage::Normalise()
     EmployeeRecord typed;
     Read(typed);
     NormaliseTexts(typed);
-    for (std::size_t i = 0; i < fields_.size(); ++i)
-        ShowText(fields_[i], typed.*kFields[i].Member);
+    ShowTexts(typed);
 }
 
 void EmployeeGeneralPage::SetEntryEnabled(bool enabled)
 {
-    for (QLineEdit* field : fields_)
-        field->setEnabled(enabled);
+    for (const auto& field : fields_)
+        field.first->setEnabled(enabled);
     txtComment->setEnabled(enabled);
-    for (const DateCombos& combos : {birth_, hire_})
-        for (QComboBox* part : {combos.Year, combos.Month, combos.Day})
+    for (const DateCombos& date : {birth_, hire_})
+        for (QComboBox* part : {date.Year, date.Month, date.Day})
             part->setEnabled(enabled);
-}
-
-void EmployeeGeneralPage::SetUnitsEnabled(bool organizations, bool departments, bool groups)
-{
-    lstUnits[0]->setEnabled(organizations);
-    lstUnits[1]->setEnabled(departments);
-    lstUnits[2]->setEnabled(groups);
-}
-
-QString EmployeeGeneralPage::SelectedUnit(UnitList list) const
-{
-    const QList<QListWidgetItem*> items = lstUnits[static_cast<std::size_t>(list)]->selectedItems();
-    return items.isEmpty() ? QString() : items.first()->text();
-}
-
-void EmployeeGeneralPage::ShowDate(const DateCombos& combos, const DateEntry& entry)
-{
-    ShowText(combos.Year, entry.Year);
-    ShowText(combos.Month, entry.Month);
-    ShowText(combos.Day, entry.Day);
-}
-
-DateEntry EmployeeGeneralPage::ReadDate(const DateCombos& combos)
-{
-    return {combos.Year->currentText(), combos.Month->currentText(), combos.Day->currentText()};
 }

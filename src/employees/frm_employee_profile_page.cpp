@@ -1,13 +1,9 @@
 #include "employees/frm_employee_profile_page.h"
 
 #include "employees/employee_validation.h"
-#include "employees/frm_employee_kit.h"
-#include "foundation/texts.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
-
-#include <QCheckBox>
-#include <QGridLayout>
+#include "foundation/common_services.h"
+#include "platform/controls/entry_lists.h"
+#include "selection/frm_get_approver_from_list.h"
 
 namespace
 {
@@ -42,97 +38,93 @@ constexpr Text kSingleCaptions[] = {
      "absences"},
 };
 
-QLineEdit* LogInField(const QString& name, int limit)
+/// A level at a kind of access has no caption of its own beside those of its row and its column.
+QCheckBox* LevelBox(RightBoxes& boxes, int level, int kind)
 {
-    auto* field = Named<QLineEdit>(name);
-    field->setMaxLength(limit);
-    FilterKeys(field, KeyFilter::SetUpPassword);
-    return field;
-}
-
-QLayout* WithButton(QLabel* caption, QComboBox* combo, QPushButton* button)
-{
-    auto* field = new QWidget;
-    auto* row = new QHBoxLayout(field);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(combo, 1);
-    row->addWidget(button);
-    auto* column = Captioned(caption, field);
-    caption->setBuddy(combo);
-    return column;
+    QCheckBox* box = boxes.Make(kLevelBoxes[level][kind]);
+    box->setAccessibleName(T(kLevelCaptions[level]) + ": " + T(kKindCaptions[kind]));
+    SetToolTip(box, kKindCaptions[kind]);
+    return box;
 }
 } // namespace
 
-EmployeeProfilePage::EmployeeProfilePage(RightBoxes& boxes)
+EmployeeProfilePage::EmployeeProfilePage(RightBoxes& boxes, EmployeeRecord& record, bool& loading,
+                                         std::function<QString()> employeeName)
+    : record_(record), Loading(loading), employeeName_(std::move(employeeName))
 {
-    BuildControls();
-    auto* page = new QVBoxLayout(this);
-    page->setContentsMargins(kTabMargin, kTabMargin, kTabMargin, kTabMargin);
-    page->setSpacing(kTabMargin);
+    QVBoxLayout* page = TabLayout(this);
     page->addWidget(LogInCard());
-    page->addWidget(lblExplanation);
+    page->addWidget(WrappedLabel(
+        "lblProfileExplanation",
+        {"By default, every employee in your organization has access to their own attendance records and is allowed to "
+         "submit their own requests for leave. Use the check boxes contained in this window to grant additional "
+         "privileges to the employee.",
+         "Par défaut, chacun des employés de votre organisation a accès aux enregistrements qui le concernent et est "
+         "autorisé à soumettre ses propres demandes de congé. Il vous est possible, en cochant les cases contenues "
+         "dans cette fenêtre, d'octroyer des privilèges additionnels à cet(te) employé(e)."}));
     page->addWidget(MatrixCard(boxes));
     page->addWidget(SingleRightsCard(boxes));
     page->addStretch();
 }
 
-void EmployeeProfilePage::BuildControls()
+QWidget* EmployeeProfilePage::LogInCard()
 {
-    lblExplanation = Named<QLabel>("lblProfileExplanation");
-    lblExplanation->setWordWrap(true);
-    lblLogIn = Named<QLabel>("lblLogIn");
-    lblUserName = Named<QLabel>("lblUserName");
-    lblPassword = Named<QLabel>("lblPassword");
-    lblFirstLevel = Named<QLabel>("lblApprovedBy_FirstLevel");
-    lblSecondLevel = Named<QLabel>("lblApprovedBy_SecondLevel");
-    txtUserName = LogInField("txtUserName", kUserNameLimit);
-    txtPassword = LogInField("txtPassword", kPasswordLimit);
+    txtUserName = MakeField("txtUserName", KeyFilter::SetUpPassword, kUserNameLimit);
+    txtPassword = MakeField("txtPassword", KeyFilter::SetUpPassword, kPasswordLimit);
     txtPassword->setEchoMode(QLineEdit::PasswordEchoOnEdit);
     for (QLineEdit* field : {txtUserName, txtPassword})
         connect(field, &QLineEdit::editingFinished, this, &EmployeeProfilePage::Normalise);
-    cboApprovedBy_FirstLevel = EntryCombo("cboApprovedBy_FirstLevel", kNameCharacters);
-    cboApprovedBy_SecondLevel = EntryCombo("cboApprovedBy_SecondLevel", kNameCharacters);
-    for (QComboBox* combo : {cboApprovedBy_FirstLevel, cboApprovedBy_SecondLevel})
-        combo->view()->setTextElideMode(Qt::ElideNone);
-    cmdGetApprover1FromList = Named<QPushButton>("cmdGetApprover1FromList");
-    cmdGetApprover2FromList = Named<QPushButton>("cmdGetApprover2FromList");
-    for (QPushButton* button : {cmdGetApprover1FromList, cmdGetApprover2FromList}) {
-        button->setAutoDefault(false);
-        button->setProperty("look", "arrow");
-    }
+    auto& [first, second] = approvers_;
+    first.Approver = &EmployeeRecord::ApprovedByMain;
+    second.Approver = &EmployeeRecord::ApprovedByBackup;
+    QWidget* firstLevel = Approvers(first, "cboApprovedBy_FirstLevel", "cmdGetApprover1FromList");
+    QWidget* secondLevel = Approvers(second, "cboApprovedBy_SecondLevel", "cmdGetApprover2FromList");
+
+    auto* row = new QHBoxLayout;
+    row->addLayout(Captioned({"&Username:", "Nom d'&usager:"}, txtUserName), 3);
+    row->addLayout(Captioned({"Password:", "Mot-clé:"}, txtPassword), 2);
+    row->addLayout(Captioned({"Requests approved by, first level:", "Demandes approuvées par, premier niveau:"},
+                             firstLevel, first.List),
+                   4);
+    row->addLayout(Captioned({"Requests approved by, second level:", "Demandes approuvées par, second niveau:"},
+                             secondLevel, second.List),
+                   4);
+    return HeadedCard({"Log-in and approval of requests", "Accès et approbation des demandes"}, row);
 }
 
-QWidget* EmployeeProfilePage::LogInCard()
+QWidget* EmployeeProfilePage::Approvers(ApproverField& field, const QString& list, const QString& button)
 {
-    auto* raster = Raster();
-    raster->addLayout(Captioned(lblUserName, txtUserName), 0, 0);
-    raster->addLayout(Captioned(lblPassword, txtPassword), 0, 1);
-    raster->addLayout(WithButton(lblFirstLevel, cboApprovedBy_FirstLevel, cmdGetApprover1FromList), 0, 2);
-    raster->addLayout(WithButton(lblSecondLevel, cboApprovedBy_SecondLevel, cmdGetApprover2FromList), 0, 3);
-    raster->setColumnStretch(0, 3);
-    raster->setColumnStretch(1, 2);
-    raster->setColumnStretch(2, 4);
-    raster->setColumnStretch(3, 4);
-    return HeadedCard(lblLogIn, raster);
+    field.List = EntryCombo(list, kNameCharacters);
+    field.List->view()->setTextElideMode(Qt::ElideNone);
+    field.FromList = MakeButton(button, {"List...", "Liste..."});
+    field.FromList->setProperty("look", "arrow");
+    SetToolTip(field.FromList, {"Select the approver from the list of all those who are authorized to approve",
+                                "Sélectionner parmi tous ceux qui sont autorisés à approuver"});
+    connect(field.List, &QComboBox::activated, this, [this, &field] { cboApprovedBy_Click(field); });
+    connect(field.List->lineEdit(), &QLineEdit::textEdited, this, [this, &field] { Approver_Change(field); });
+    connect(field.FromList, &QPushButton::clicked, this, [this, &field] { GetApproverFromList(field); });
+
+    auto* both = new QWidget;
+    auto* row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(field.List, 1);
+    row->addWidget(field.FromList);
+    return both;
 }
 
 QWidget* EmployeeProfilePage::MatrixCard(RightBoxes& boxes)
 {
     auto* matrix = Raster();
     for (int kind = 0; kind < kKinds; ++kind) {
-        lblKind[kind] = AsCaption(Named<QLabel>(ArrayName("lblKind", kind)));
-        lblKind[kind]->setWordWrap(true);
-        lblKind[kind]->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-        matrix->addWidget(lblKind[kind], 0, kind + 1);
+        auto* head = AsCaption(WrappedLabel(ArrayName("lblKind", kind), kKindCaptions[kind]));
+        head->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+        matrix->addWidget(head, 0, kind + 1);
         matrix->setColumnStretch(kind + 1, 1);
     }
     for (int level = 0; level < kLevels; ++level) {
-        lblLevel[level] = AsHead(Named<QLabel>(ArrayName("lblLevel", level)));
-        matrix->addWidget(lblLevel[level], level + 1, 0);
-        for (int kind = 0; kind < kKinds; ++kind) {
-            levels_[level][kind] = boxes.Make(kLevelBoxes[level][kind]);
-            matrix->addWidget(levels_[level][kind], level + 1, kind + 1, Qt::AlignCenter);
-        }
+        matrix->addWidget(AsHead(MakeLabel(ArrayName("lblLevel", level), kLevelCaptions[level])), level + 1, 0);
+        for (int kind = 0; kind < kKinds; ++kind)
+            matrix->addWidget(LevelBox(boxes, level, kind), level + 1, kind + 1, Qt::AlignCenter);
     }
     return MakeCard(matrix);
 }
@@ -141,48 +133,9 @@ QWidget* EmployeeProfilePage::SingleRightsCard(RightBoxes& boxes)
 {
     auto* rights = new QVBoxLayout;
     rights->setSpacing(kRightsGap);
-    for (std::size_t i = 0; i < singles_.size(); ++i) {
-        singles_[i] = boxes.Make(kSingleRightBoxes[i]);
-        rights->addWidget(singles_[i]);
-    }
+    for (std::size_t i = 0; i < kSingleRightBoxes.size(); ++i)
+        rights->addWidget(boxes.Make(kSingleRightBoxes[i], kSingleCaptions[i]));
     return MakeCard(rights);
-}
-
-void EmployeeProfilePage::LoadCaptions()
-{
-    lblExplanation->setText(T(
-        "By default, every employee in your organization has access to their own attendance records and is allowed to "
-        "submit their own requests for leave. Use the check boxes contained in this window to grant additional "
-        "privileges to the employee.",
-        "Par défaut, chacun des employés de votre organisation a accès aux enregistrements qui le concernent et est "
-        "autorisé à soumettre ses propres demandes de congé. Il vous est possible, en cochant les cases contenues dans "
-        "cette fenêtre, d'octroyer des privilèges additionnels à cet(te) employé(e)."));
-    lblLogIn->setText(T("Log-in and approval of requests", "Accès et approbation des demandes"));
-    lblUserName->setText(T("&Username:", "Nom d'&usager:"));
-    lblPassword->setText(T("Password:", "Mot-clé:"));
-    lblFirstLevel->setText(T("Requests approved by, first level:", "Demandes approuvées par, premier niveau:"));
-    lblSecondLevel->setText(T("Requests approved by, second level:", "Demandes approuvées par, second niveau:"));
-    for (QPushButton* button : {cmdGetApprover1FromList, cmdGetApprover2FromList}) {
-        button->setText(T("List...", "Liste..."));
-        button->setToolTip(T("Select the approver from the list of all those who are authorized to approve",
-                             "Sélectionner parmi tous ceux qui sont autorisés à approuver"));
-    }
-    for (std::size_t i = 0; i < singles_.size(); ++i)
-        singles_[i]->setText(T(kSingleCaptions[i]));
-    LoadMatrixCaptions();
-}
-
-void EmployeeProfilePage::LoadMatrixCaptions()
-{
-    for (int kind = 0; kind < kKinds; ++kind)
-        lblKind[kind]->setText(T(kKindCaptions[kind]));
-    for (int level = 0; level < kLevels; ++level) {
-        lblLevel[level]->setText(T(kLevelCaptions[level]));
-        for (int kind = 0; kind < kKinds; ++kind) {
-            levels_[level][kind]->setAccessibleName(lblLevel[level]->text() + ": " + lblKind[kind]->text());
-            levels_[level][kind]->setToolTip(lblKind[kind]->text());
-        }
-    }
 }
 
 void EmployeeProfilePage::Show(const EmployeeRecord& record)
@@ -207,18 +160,86 @@ void EmployeeProfilePage::Normalise()
 
 void EmployeeProfilePage::SetEntryEnabled(bool enabled)
 {
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{txtUserName, txtPassword, cboApprovedBy_FirstLevel, cboApprovedBy_SecondLevel,
-                                         cmdGetApprover1FromList, cmdGetApprover2FromList})
-        control->setEnabled(enabled);
+    for (QLineEdit* field : {txtUserName, txtPassword})
+        field->setEnabled(enabled);
+    for (const ApproverField& field : approvers_) {
+        field.List->setEnabled(enabled);
+        field.FromList->setEnabled(enabled);
+    }
 }
 
-void EmployeeProfilePage::LoadApprovers(const QVector<Approver>& approvers)
+void EmployeeProfilePage::OfferApprovers(const QVector<Approver>& approvers)
 {
-    for (QComboBox* combo : {cboApprovedBy_FirstLevel, cboApprovedBy_SecondLevel}) {
-        combo->clear();
+    for (const ApproverField& field : approvers_) {
+        field.List->clear();
         for (const Approver& approver : approvers)
-            combo->addItem(approver.Listed, approver.RecordID);
-        ShowText(combo, QString());
+            field.List->addItem(approver.Listed, approver.RecordID);
+        ShowText(field.List, QString());
     }
+}
+
+void EmployeeProfilePage::ClearApprovers()
+{
+    OfferApprovers({});
+}
+
+void EmployeeProfilePage::LoadApprovers(DataControl& datAbsence, bool wherever)
+{
+    const LoadingGuard loading(Loading);
+    OfferApprovers(LoadApprovedBy(datAbsence, record_));
+    for (const auto& [list, button, member] : approvers_) {
+        const int approver = record_.*member;
+        const int index = approver == 0 ? -1 : list->findData(approver);
+        if (index >= 0)
+            list->setCurrentIndex(index);
+        else if (approver != 0 && wherever)
+            ShowText(list, ApproverName(datAbsence, approver));
+    }
+}
+
+void EmployeeProfilePage::cboApprovedBy_Click(const ApproverField& field)
+{
+    if (Loading || field.List->currentText().isEmpty())
+        return;
+    record_.*field.Approver = field.List->currentData().toInt();
+    if (field.Approver == &EmployeeRecord::ApprovedByBackup)
+        CheckSecondLevel();
+}
+
+void EmployeeProfilePage::CheckSecondLevel()
+{
+    if (record_.ApprovedByMain == 0) {
+        RefuseSecondLevel({"You must specify a first level of approval before specifying a second level of approval!",
+                           "Vous devez spécifier un premier niveau d'approbation avant d'en spécifier un second!"});
+        approvers_[0].List->setFocus();
+    } else if (record_.ApprovedByBackup == record_.ApprovedByMain) {
+        RefuseSecondLevel({"The second level of approval cannot be the same as the first one!",
+                           "Le second niveau d'approbation ne peut être le même que le premier!"});
+    }
+}
+
+void EmployeeProfilePage::RefuseSecondLevel(const Text& reason)
+{
+    Tell(T("ERROR:", "ERREUR:"), T(reason), Face::Warning);
+    ShowText(approvers_[1].List, QString());
+    record_.ApprovedByBackup = 0;
+}
+
+void EmployeeProfilePage::Approver_Change(const ApproverField& field)
+{
+    if (Loading)
+        return;
+    record_.*field.Approver = 0;
+    ShowText(field.List, QString());
+}
+
+void EmployeeProfilePage::GetApproverFromList(const ApproverField& field)
+{
+    frmGetApproverFromList form(employeeName_(), this);
+    ShowModal(form);
+    if (form.ApproverID() == 0)
+        return;
+    const LoadingGuard loading(Loading);
+    ShowText(field.List, form.ApproverName());
+    record_.*field.Approver = form.ApproverID();
 }

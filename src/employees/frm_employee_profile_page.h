@@ -3,53 +3,53 @@
 #include "employees/approver_list.h"
 #include "employees/frm_right_boxes.h"
 
-#include <QWidget>
-
 #include <array>
 
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-
-/// The tab "Security profile": rights by level and kind of access, single rights, log-in and approvers.
+/// The tab "Security profile": rights by level and kind of access, single rights, log-in and approvers. An approver is
+/// picked, never typed. It works on the approvers of the form's record and is silent while the form is loading.
 class EmployeeProfilePage : public QWidget
 {
 public:
-    explicit EmployeeProfilePage(RightBoxes& boxes);
+    /// `employeeName`: whose approvers are chosen, as the form shows him at that moment.
+    EmployeeProfilePage(RightBoxes& boxes, EmployeeRecord& record, bool& loading,
+                        std::function<QString()> employeeName);
 
-    void LoadCaptions();
     /// Shows the log-in; the password of the row is not shown.
     void Show(const EmployeeRecord& record);
     void Read(EmployeeRecord& record) const;
     void SetEntryEnabled(bool enabled);
 
-    /// Both lists of approvers offer the same candidates.
-    void LoadApprovers(const QVector<Approver>& approvers);
-
-    QComboBox* cboApprovedBy_FirstLevel = nullptr;
-    QComboBox* cboApprovedBy_SecondLevel = nullptr;
-    QPushButton* cmdGetApprover1FromList = nullptr;
-    QPushButton* cmdGetApprover2FromList = nullptr;
+    /// Both lists offer those who may approve for the record's unit, and show its approvers. One whom the unit does not
+    /// offer is shown only when he is looked for `wherever` he works.
+    void LoadApprovers(DataControl& datAbsence, bool wherever);
+    void ClearApprovers();
+    bool HasApprovers() const { return approvers_[0].List->count() > 0; }
 
 private:
-    void BuildControls();
+    /// A level of approval.
+    struct ApproverField
+    {
+        QComboBox* List = nullptr;
+        QPushButton* FromList = nullptr;
+        int EmployeeRecord::*Approver = nullptr;
+    };
+
+    QWidget* LogInCard();
+    QWidget* Approvers(ApproverField& field, const QString& list, const QString& button);
     QWidget* MatrixCard(RightBoxes& boxes);
     QWidget* SingleRightsCard(RightBoxes& boxes);
-    QWidget* LogInCard();
-    void LoadMatrixCaptions();
     void Normalise();
+    void OfferApprovers(const QVector<Approver>& approvers);
+    void cboApprovedBy_Click(const ApproverField& field);
+    void CheckSecondLevel();
+    void RefuseSecondLevel(const Text& reason);
+    void Approver_Change(const ApproverField& field);
+    void GetApproverFromList(const ApproverField& field);
 
-    std::array<std::array<QCheckBox*, kKinds>, kLevels> levels_{};
-    std::array<QLabel*, kLevels> lblLevel{};
-    std::array<QLabel*, kKinds> lblKind{};
-    std::array<QCheckBox*, 4> singles_{};
-    QLabel* lblExplanation = nullptr;
-    QLabel* lblLogIn = nullptr;
-    QLabel* lblUserName = nullptr;
-    QLabel* lblPassword = nullptr;
-    QLabel* lblFirstLevel = nullptr;
-    QLabel* lblSecondLevel = nullptr;
-    QLineEdit* txtUserName = nullptr;
-    QLineEdit* txtPassword = nullptr;
+    EmployeeRecord& record_;
+    bool& Loading;
+    const std::function<QString()> employeeName_;
+    QLineEdit* txtUserName;
+    QLineEdit* txtPassword;
+    std::array<ApproverField, 2> approvers_; ///< first and second level
 };

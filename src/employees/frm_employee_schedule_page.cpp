@@ -1,170 +1,169 @@
 #include "employees/frm_employee_schedule_page.h"
 
-#include "employees/frm_employee_kit.h"
-#include "foundation/texts.h"
 #include "foundation/values.h"
-#include "platform/controls/entry_filters.h"
-#include "platform/controls/form_kit.h"
+#include "platform/controls/entry_lists.h"
 
-#include <QCheckBox>
-#include <QGridLayout>
-#include <QStringListModel>
+#include <QFocusEvent>
+
+#include <span>
 
 namespace
 {
 constexpr int kDays = 7;
 constexpr int kTotalWidth = 70;
+constexpr int kTimeCharacters = 6;
 constexpr int kGroupGap = 28; ///< between the halves of the day and the total
 constexpr int kRowGap = 10;
 
-/// Columns of the week's raster: the weekday, two halves with a gap before each, and the total.
-constexpr int kTimeColumns[] = {2, 3, 5, 6};
-constexpr int kHoursColumn = 8;
-constexpr int kMinutesColumn = 9;
-
-QLineEdit* TotalField(const QString& name, int day)
+/// The raster of the week: the weekday, two halves and the total, with a gap before each.
+struct WeekColumn
 {
-    auto* box = Named<QLineEdit>(ArrayName(name, day));
-    box->setMaxLength(2);
-    box->setFixedWidth(kTotalWidth);
-    FilterKeys(box, KeyFilter::WholeNumber);
-    return box;
+    int Column;
+    Text Caption;
+};
+constexpr WeekColumn kTimeColumns[] = {{2, {"Start time", "Heure de début"}},
+                                       {3, {"End time", "Heure de fin"}},
+                                       {5, {"Start time", "Heure de début"}},
+                                       {6, {"End time", "Heure de fin"}}};
+constexpr WeekColumn kTotalColumns[] = {{8, {"Hours", "Heures"}}, {9, {"Minutes", "Minutes"}}};
+constexpr int kFirstDayRow = 2;
+
+/// Calls back when a person brings the focus to a control or takes it away, not when a list drops down or another
+/// window comes to the front.
+class FocusWatch : public QObject
+{
+public:
+    FocusWatch(QWidget* control, std::function<void()> entered, std::function<void()> left)
+        : QObject(control), entered_(std::move(entered)), left_(std::move(left))
+    {
+        control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* target, QEvent* event) override
+    {
+        const bool entering = event->type() == QEvent::FocusIn;
+        if (entering || event->type() == QEvent::FocusOut) {
+            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+            if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+                entering ? entered_() : left_();
+        }
+        return QObject::eventFilter(target, event);
+    }
+
+private:
+    const std::function<void()> entered_;
+    const std::function<void()> left_;
+};
+
+void AddHeads(QGridLayout* week)
+{
+    week->addWidget(AsHead(MakeLabel("lblFirstHalf", {"First half of the day", "Première moitié de la journée"})), 0, 2,
+                    1, 2);
+    week->addWidget(AsHead(MakeLabel("lblSecondHalf", {"Second half of the day", "Seconde moitié de la journée"})), 0,
+                    5, 1, 2);
+    week->addWidget(AsHead(MakeLabel("lblTotal", {"Total", "Total"})), 0, 8, 1, 2);
+    int number = 0;
+    for (const auto& columns : {std::span<const WeekColumn>(kTimeColumns), std::span<const WeekColumn>(kTotalColumns)})
+        for (const auto& [column, caption] : columns)
+            week->addWidget(AsCaption(MakeLabel(ArrayName("lblScheduleColumn", number++), caption)), 1, column);
+}
+
+/// A screen reader says the weekday and the head of the column.
+void Place(QGridLayout* week, QWidget* control, int day, const WeekColumn& column)
+{
+    week->addWidget(control, day + kFirstDayRow, column.Column);
+    control->setAccessibleName(WeekdayName(day) + ", " + T(column.Caption));
 }
 } // namespace
 
-EmployeeSchedulePage::EmployeeSchedulePage(EmployeeRecord& record, bool& loading)
-    : record_(record), Loading(loading), clockTimes_(new QStringListModel(this))
+EmployeeSchedulePage::EmployeeSchedulePage(EmployeeRecord& record, bool& loading) : record_(record), Loading(loading)
 {
-    BuildControls();
-    for (int day = 0; day < kDays; ++day)
-        ConnectDay(day);
+    setObjectName(kScheduleTab);
+    chkIrregularHours =
+        MakeCheckBox("chkIrregularHours", {"This employee works &irregular hours",
+                                           "Cet(te) employé(e) travaille selon un horaire &irrégulier"});
     connect(chkIrregularHours, &QCheckBox::clicked, this, &EmployeeSchedulePage::chkIrregularHours_Click);
 
     auto* content = new QVBoxLayout;
-    content->setSpacing(kTabMargin);
-    content->addWidget(lblExplanation);
+    content->addWidget(WrappedLabel(
+        "lblScheduleExplanation",
+        {"If the employee works according to a regular schedule, you should take the time to detail that schedule "
+         "here. Providing this information greatly accelerates the process of entering attendance records. In most "
+         "cases, all you will ever need to do is check a box to specify the duration of an absence.",
+         "Si l'employé(e) travaille selon un horaire régulier, vous devriez prendre le temps de détailler cet horaire. "
+         "En fournissant cette information dès le départ, vous réduirez considérablement le temps nécessaire à "
+         "l'enregistrement des absences. Dans la plupart des cas, il vous suffira de cocher une case afin de spécifier "
+         "la durée d'une absence."}));
     content->addLayout(Week());
     content->addWidget(chkIrregularHours);
-    auto* page = new QVBoxLayout(this);
-    page->setContentsMargins(kTabMargin, kTabMargin, kTabMargin, kTabMargin);
+    QVBoxLayout* page = TabLayout(this);
+    content->setSpacing(page->spacing());
     page->addWidget(MakeCard(content));
     page->addStretch();
-}
-
-void EmployeeSchedulePage::BuildControls()
-{
-    lblExplanation = Named<QLabel>("lblScheduleExplanation");
-    lblExplanation->setWordWrap(true);
-    lblFirstHalf = AsHead(Named<QLabel>("lblFirstHalf"));
-    lblSecondHalf = AsHead(Named<QLabel>("lblSecondHalf"));
-    lblTotal = AsHead(Named<QLabel>("lblTotal"));
-    for (std::size_t i = 0; i < columns_.size(); ++i)
-        columns_[i] = AsCaption(Named<QLabel>(ArrayName("lblScheduleColumn", static_cast<int>(i))));
-    for (int day = 0; day < kDays; ++day) {
-        lblWeekday[day] = Named<QLabel>(ArrayName("lblWeekday", day));
-        for (std::size_t time = 0; time < kDayTimes.size(); ++time) {
-            cboTimes[time][day] = EntryCombo(ArrayName(kDayTimes[time].Control, day), 6);
-            cboTimes[time][day]->setModel(clockTimes_);
-        }
-        txtTotalHours[day] = TotalField("txtTotalHours", day);
-        txtTotalMinutes[day] = TotalField("txtTotalMinutes", day);
-    }
-    chkIrregularHours = Named<QCheckBox>("chkIrregularHours");
 }
 
 QGridLayout* EmployeeSchedulePage::Week()
 {
     auto* week = Raster();
     week->setVerticalSpacing(kRowGap);
-    week->addWidget(lblFirstHalf, 0, kTimeColumns[0], 1, 2);
-    week->addWidget(lblSecondHalf, 0, kTimeColumns[2], 1, 2);
-    week->addWidget(lblTotal, 0, kHoursColumn, 1, 2);
-    for (std::size_t time = 0; time < kDayTimes.size(); ++time)
-        week->addWidget(columns_[time], 1, kTimeColumns[time]);
-    week->addWidget(columns_[4], 1, kHoursColumn);
-    week->addWidget(columns_[5], 1, kMinutesColumn);
-    for (int day = 0; day < kDays; ++day) {
-        week->addWidget(lblWeekday[day], day + 2, 0);
-        for (std::size_t time = 0; time < kDayTimes.size(); ++time)
-            week->addWidget(cboTimes[time][day], day + 2, kTimeColumns[time]);
-        week->addWidget(txtTotalHours[day], day + 2, kHoursColumn);
-        week->addWidget(txtTotalMinutes[day], day + 2, kMinutesColumn);
-    }
+    AddHeads(week);
+    for (int day = 0; day < kDays; ++day)
+        AddDay(week, day);
     for (const int gap : {1, 4, 7})
         week->setColumnMinimumWidth(gap, kGroupGap);
-    for (const int time : kTimeColumns)
-        week->setColumnStretch(time, 1);
+    for (const WeekColumn& time : kTimeColumns)
+        week->setColumnStretch(time.Column, 1);
+    std::vector<QComboBox*> lists;
+    for (const auto& time : cboTimes)
+        lists.insert(lists.end(), time.begin(), time.end());
+    ShareEntries(lists, ClockTexts());
     return week;
 }
 
-void EmployeeSchedulePage::ConnectDay(int day)
+void EmployeeSchedulePage::AddDay(QGridLayout* week, int day)
 {
-    for (const ClockTimeInfo& time : kDayTimes)
-        ConnectTime(time, day);
-    for (QLineEdit* box : {txtTotalHours[day], txtTotalMinutes[day]}) {
-        connect(box, &QLineEdit::textChanged, this, [this, day] { Total_Change(day); });
-        // Enter finishes the editing too, but stays in the box and presses the main button: see LeaveFocusedTotalFor.
-        connect(box, &QLineEdit::editingFinished, this, [this, box, day] {
-            if (!box->hasFocus())
-                Total_LostFocus(day);
-        });
-    }
+    auto* lblWeekday = Named<QLabel>(ArrayName("lblWeekday", day));
+    lblWeekday->setText(WeekdayName(day));
+    week->addWidget(lblWeekday, day + kFirstDayRow, 0);
+    for (std::size_t time = 0; time < kDayTimes.size(); ++time)
+        Place(week, cboTimes[time][day] = TimeList(kDayTimes[time], day), day, kTimeColumns[time]);
+    Place(week, txtTotalHours[day] = TotalField("txtTotalHours", day), day, kTotalColumns[0]);
+    Place(week, txtTotalMinutes[day] = TotalField("txtTotalMinutes", day), day, kTotalColumns[1]);
 }
 
-void EmployeeSchedulePage::ConnectTime(const ClockTimeInfo& time, int day)
+QComboBox* EmployeeSchedulePage::TimeList(const ClockTimeInfo& info, int day)
 {
-    QComboBox* list = TimeList(time.Time, day);
-    connect(list, &QComboBox::activated, this, [this, time = time.Time, day] { Time_Click(time, day); });
-    connect(list->lineEdit(), &QLineEdit::textEdited, this, [this, time = time.Time, day] { Time_Change(time, day); });
+    QComboBox* list = EntryCombo(ArrayName(info.Control, day), kTimeCharacters);
+    const ClockTime time = info.Time;
+    connect(list, &QComboBox::activated, this, [this, time, day] { Time_Click(time, day); });
+    connect(list->lineEdit(), &QLineEdit::textEdited, this, [this, time, day] { Apply(ClearTime, time, day); });
     new FocusWatch(
-        list, [this, time = time.Time, day] { Time_GotFocus(time, day); },
-        [this, time = time.Time, day] { Time_LostFocus(time, day); });
+        list, [this, time, day] { Apply(OfferTime, time, day); }, [this, time, day] { Apply(LeaveTime, time, day); });
+    return list;
+}
+
+QLineEdit* EmployeeSchedulePage::TotalField(const QString& name, int day)
+{
+    auto* box = MakeField(ArrayName(name, day), KeyFilter::WholeNumber, 2);
+    box->setFixedWidth(kTotalWidth);
+    SetToolTip(box, {"Total duration of the employee's working day. Values specified here can be entered by you or be "
+                     "calculated automatically if you specify the employee's start time and end time using the above "
+                     "menus",
+                     "Durée totale de la journée de travail de l'employé(e). Vous pouvez inscrire vous-même ces "
+                     "valeurs ou les laisser se calculer en spécifiant l'heure de début et l'heure de fin à l'aide des "
+                     "menus ci-dessus"});
+    connect(box, &QLineEdit::textChanged, this, [this, day] { Total_Change(day); });
+    // Enter finishes the editing too, but stays in the box and presses the main button: see LeaveFocusedTotalFor.
+    connect(box, &QLineEdit::editingFinished, this, [this, box, day] {
+        if (!box->hasFocus())
+            Total_LostFocus(day);
+    });
+    return box;
 }
 
 QComboBox* EmployeeSchedulePage::TimeList(ClockTime time, int day) const
 {
     return cboTimes[static_cast<std::size_t>(time)][static_cast<std::size_t>(day)];
-}
-
-void EmployeeSchedulePage::LoadCaptions()
-{
-    lblExplanation->setText(T(
-        "If the employee works according to a regular schedule, you should take the time to detail that schedule here. "
-        "Providing this information greatly accelerates the process of entering attendance records. In most cases, all "
-        "you will ever need to do is check a box to specify the duration of an absence.",
-        "Si l'employé(e) travaille selon un horaire régulier, vous devriez prendre le temps de détailler cet horaire. "
-        "En fournissant cette information dès le départ, vous réduirez considérablement le temps nécessaire à "
-        "l'enregistrement des absences. Dans la plupart des cas, il vous suffira de cocher une case afin de spécifier "
-        "la durée d'une absence."));
-    lblFirstHalf->setText(T("First half of the day", "Première moitié de la journée"));
-    lblSecondHalf->setText(T("Second half of the day", "Seconde moitié de la journée"));
-    lblTotal->setText(T("Total", "Total"));
-    const QString captions[] = {
-        T("Start time", "Heure de début"), T("End time", "Heure de fin"), T("Start time", "Heure de début"),
-        T("End time", "Heure de fin"),     T("Hours", "Heures"),          T("Minutes", "Minutes")};
-    for (std::size_t i = 0; i < columns_.size(); ++i)
-        columns_[i]->setText(captions[i]);
-    const QString total =
-        T("Total duration of the employee's working day. Values specified here can be entered by you or be calculated "
-          "automatically if you specify the employee's start time and end time using the above menus",
-          "Durée totale de la journée de travail de l'employé(e). Vous pouvez inscrire vous-même ces valeurs ou les "
-          "laisser se calculer en spécifiant l'heure de début et l'heure de fin à l'aide des menus ci-dessus");
-    for (int day = 0; day < kDays; ++day) {
-        lblWeekday[day]->setText(WeekdayName(day));
-        for (std::size_t time = 0; time < kDayTimes.size(); ++time)
-            cboTimes[time][day]->setAccessibleName(WeekdayName(day) + ", " + captions[time]);
-        txtTotalHours[day]->setToolTip(total);
-        txtTotalMinutes[day]->setToolTip(total);
-        txtTotalHours[day]->setAccessibleName(WeekdayName(day) + ", " + captions[4]);
-        txtTotalMinutes[day]->setAccessibleName(WeekdayName(day) + ", " + captions[5]);
-    }
-    chkIrregularHours->setText(
-        T("This employee works &irregular hours", "Cet(te) employé(e) travaille selon un horaire &irrégulier"));
-}
-
-void EmployeeSchedulePage::LoadComboBoxes()
-{
-    clockTimes_->setStringList(ClockTexts());
 }
 
 void EmployeeSchedulePage::Show()
@@ -202,27 +201,11 @@ void EmployeeSchedulePage::Time_Click(ClockTime time, int day)
     ShowDay(day);
 }
 
-void EmployeeSchedulePage::Time_Change(ClockTime time, int day)
+void EmployeeSchedulePage::Apply(TimeRule rule, ClockTime time, int day)
 {
     if (Loading)
         return;
-    ClearTime(record_, time, day);
-    ShowDay(day);
-}
-
-void EmployeeSchedulePage::Time_GotFocus(ClockTime time, int day)
-{
-    if (Loading)
-        return;
-    OfferTime(record_, time, day);
-    ShowDay(day);
-}
-
-void EmployeeSchedulePage::Time_LostFocus(ClockTime time, int day)
-{
-    if (Loading)
-        return;
-    LeaveTime(record_, time, day);
+    rule(record_, time, day);
     ShowDay(day);
 }
 

@@ -1,42 +1,119 @@
 #include "employees/frm_employees.h"
 
+#include "employees/employee_deactivation.h"
 #include "employees/employee_rows.h"
 #include "employees/employee_validation.h"
+#include "employees/frm_clone_employee.h"
 #include "employees/frm_employee_general_page.h"
-#include "employees/frm_employee_kit.h"
 #include "employees/frm_employee_modules_page.h"
 #include "employees/frm_employee_profile_page.h"
 #include "employees/frm_employee_schedule_page.h"
-#include "foundation/common_services.h"
-#include "foundation/session_state.h"
-#include "foundation/texts.h"
-#include "platform/controls/form_kit.h"
-#include "selection/frm_get_approver_from_list.h"
+#include "employees/frm_transfer_employees.h"
+#include "employees/hourly_rate.h"
+#include "foundation/frm_input_box.h"
+#include "reference/employees_list.h"
+#include "selection/frm_select_employee.h"
+#include "selection/frm_select_period.h"
 
-#include <QListWidget>
-#include <QShowEvent>
 #include <QTabWidget>
-#include <QTimer>
 
 namespace
 {
 constexpr QSize kSize(1040, 638);
 constexpr int kYearWidth = 150;
+constexpr int kModulesTab = 3;
 
-QString InYear(const QString& text)
+constexpr Text kNoOrganization = {"Before you can update your list of employees you must first set up at least one "
+                                  "organization in fiscal year {FiscalYearName}!",
+                                  "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer "
+                                  "au moins une organisation dans l'année fiscale {FiscalYearName}!"};
+constexpr Text kNoDepartment = {"Before you can update your list of employees you must first set up at least one "
+                                "department in fiscal year {FiscalYearName}!",
+                                "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
+                                "moins un département dans l'année fiscale {FiscalYearName}!"};
+
+void RemindOfEntitlements(const EntitlementReminders& categories)
 {
-    return Fill(text, {{"FiscalYearName", SessionState.FiscalYearName}});
+    if (categories.isEmpty())
+        return;
+    const QString text =
+        T("You must remember to specify this employee's annual entitlement for the following categorie(s):\r\n\r\n",
+          "Vous devez vous rappeler de sécifier le temps alloué annuellement à cet(te) employé(e) pour les categories "
+          "suivantes:\r\n\r\n");
+    Tell(T("REMINDER:", "RAPPEL:"), text + " - " + categories.join("\r\n - ") + "\r\n");
+}
+
+void RemindOfNextYear(const EmployeeRecord& record)
+{
+    if (SessionState.NextFYID <= 0)
+        return;
+    const QString text =
+        T("TARVELL automatically reproduces your list of employees from one fiscal year to the next upon creation of a "
+          "new fiscal year. The next fiscal year ({NextFYName}) having already been created, you will now be required "
+          "to create {FirstName} {Name} in the new year yourself.",
+          "TARVELL reproduit automatiquement la liste de vos employés d'une année fiscale à l'autre au moment de la "
+          "création d'une nouvelle année fiscale. La prochaine année fiscale ({NextFYName}) ayant déjà été créée, vous "
+          "allez devoir y ajouter {FirstName} {Name} vous-même.");
+    Tell(T("REMINDER:", "RAPPEL:"), WithName(Fill(text, {{"NextFYName", SessionState.NextFYName}}), record));
+}
+
+bool AskForDeactivation(const EmployeeRecord& record)
+{
+    const QString text =
+        T("Do you really wish to deactivate {FirstName} {Name}?\r\n\r\nNOTE: This process is irreversible! Deactivated "
+          "employees cannot be reactivated.",
+          "Souhaitez-vous vraiment désactiver {FirstName} {Name}?\r\n\r\nN.B.: Ce processus est irréversible! Un(e) "
+          "employé(e) désactivé(e) ne peut être réactivée.");
+    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), WithName(text, record), Face::Warning);
+}
+
+QString AskForReason(const EmployeeRecord& record, QWidget* parent)
+{
+    const QString prompt = T("Please specify the reason why you are deactivating {FirstName} {Name}.",
+                             "Veuillez spécifier la raison pour laquelle vous désactivez {FirstName} {Name}.");
+    return AskForText(T("Employee deactivation:", "Désactivation d'employé(e):"), WithName(prompt, record), parent);
+}
+
+void TellWithoutReason(const EmployeeRecord& record)
+{
+    const QString text =
+        T("You did not specify a reason for the deactivation of {FirstName} {Name}. The operation is now cancelled.",
+          "Vous n'avez spécifié aucune une raison pour la désactivation de {FirstName} {Name}. L'opération est "
+          "maintenant annulée.");
+    Tell(T("OPERATION CANCELLED:", "OPÉRATION ANNULÉE:"), WithName(text, record));
+}
+
+void TellDeactivated(const EmployeeRecord& record)
+{
+    Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
+         record.FirstName + " " + record.FamilyName + T(" was deactivated on ", " a été désactivé(e) le ") +
+             FormatDate(record.DeactivatedDate, "ddd dd-mmm-yyyy") + T(" by ", " par ") + record.DeactivatedBy +
+             T("! ", "!"),
+         Face::Warning);
 }
 } // namespace
 
 std::function<void(QWidget*)> frmEmployees::ShowEmployeesList;
 
-frmEmployees::frmEmployees(QWidget* parent) : QDialog(parent)
+frmEmployees::frmEmployees(QWidget* parent)
+    : EditingForm("frmEmployees", parent, {{"Ca&ncel", "A&nnuler"}, {"&Close", "&Fermer"}, {}})
 {
-    BuildControls();
-    LayControls();
-    ConnectControls();
-    Form_Load();
+    SetTitle(this, {"Employees", "Employé(e)s"});
+    auto* txtFiscalYear = Named<QLineEdit>("txtFiscalYear", SessionState.FiscalYearName);
+    txtFiscalYear->setReadOnly(true);
+    txtFiscalYear->setFixedWidth(kYearWidth);
+    txtFiscalYear->setFocusPolicy(Qt::NoFocus);
+    Page()->addLayout(
+        Row({LabelOf(txtFiscalYear, {"All records to be added / modified are associated to fiscal year",
+                                     "Tous les enregistrements ajoutés / modifiés sont associés à l'année fiscale"}),
+             txtFiscalYear}));
+    AddTabs();
+    LayCommands({AddButton("cmdListRecords", {"&List of employees", "&Liste des employé(e)s"},
+                           [this] { cmdListRecords_Click(); }),
+                 AddButton("cmdTransfer", {"&Transfer", "&Transférer"}, [this] { cmdTransfer_Click(); })});
+    SetSize(kSize);
+    ShowMode();
+    Show(record_);
 }
 
 /// Hiding takes the focus from its field, whose handler needs the form whole.
@@ -45,175 +122,45 @@ frmEmployees::~frmEmployees()
     hide();
 }
 
-void frmEmployees::BuildControls()
+void frmEmployees::AddTabs()
 {
-    setObjectName("frmEmployees");
     general_ = new EmployeeGeneralPage;
     schedule_ = new EmployeeSchedulePage(record_, Loading);
-    profile_ = new EmployeeProfilePage(boxes_);
-    modules_ = new EmployeeModulesPage(boxes_);
-    sstEmployees = Named<QTabWidget>("sstEmployees");
-    for (QWidget* page : std::initializer_list<QWidget*>{general_, schedule_, profile_, modules_})
-        sstEmployees->addTab(page, QString());
-    lblFiscalYear = Named<QLabel>("lblFiscalYear");
-    txtFiscalYear = Named<QLineEdit>("txtFiscalYear");
-    txtFiscalYear->setReadOnly(true);
-    txtFiscalYear->setFixedWidth(kYearWidth);
-    txtFiscalYear->setFocusPolicy(Qt::NoFocus);
-    lblFiscalYear->setBuddy(txtFiscalYear);
-    BuildButtons();
-}
-
-void frmEmployees::BuildButtons()
-{
-    const std::pair<QPushButton**, const char*> buttons[] = {
-        {&cmdAdd, "cmdAdd"},
-        {&cmdModify, "cmdModify"},
-        {&cmdTransfer, "cmdTransfer"},
-        {&cmdDeactivate, "cmdDeactivate"},
-        {&cmdListRecords, "cmdListRecords"},
-        {&cmdCancelOperation, "cmdCancelOperation"},
-        {&cmdQuit, "cmdQuit"},
-    };
-    for (const auto& [button, name] : buttons) {
-        *button = Named<QPushButton>(name);
-        (*button)->setAutoDefault(false);
-    }
-}
-
-void frmEmployees::LayControls()
-{
-    auto* page = PageLayout(this);
-    page->addLayout(Row({lblFiscalYear, txtFiscalYear}));
-    page->addWidget(sstEmployees, 1);
-    auto* buttons = ButtonRow({cmdListRecords, cmdTransfer, cmdDeactivate, cmdModify, cmdAdd});
-    buttons->insertWidget(0, cmdQuit);
-    buttons->insertWidget(1, cmdCancelOperation);
-    page->addLayout(buttons);
-    resize(kSize);
-}
-
-void frmEmployees::ConnectControls()
-{
-    connect(cmdAdd, &QPushButton::clicked, this, &frmEmployees::cmdAdd_Click);
-    connect(cmdModify, &QPushButton::clicked, this, &frmEmployees::cmdModify_Click);
-    connect(cmdTransfer, &QPushButton::clicked, this, &frmEmployees::cmdTransfer_Click);
-    connect(cmdDeactivate, &QPushButton::clicked, this, &frmEmployees::cmdDeactivate_Click);
-    connect(cmdListRecords, &QPushButton::clicked, this, &frmEmployees::cmdListRecords_Click);
-    connect(cmdCancelOperation, &QPushButton::clicked, this, &frmEmployees::cmdCancelOperation_Click);
-    connect(cmdQuit, &QPushButton::clicked, this, &frmEmployees::cmdQuit_Click);
-    connect(sstEmployees, &QTabWidget::currentChanged, this, &frmEmployees::sstEmployees_Click);
-    ConnectUnitLists();
-    ConnectApprovers();
-}
-
-/// A click counts also on the unit that is selected already: it takes the choice back to that level.
-void frmEmployees::ConnectUnitLists()
-{
-    for (const UnitList list : kUnitLists) {
-        const QListWidget* box = general_->lstUnits[static_cast<std::size_t>(list)];
-        const auto choose = [this, list] { UnitList_Click(list); };
-        connect(box, &QListWidget::itemSelectionChanged, this, choose);
-        connect(box, &QListWidget::itemClicked, this, choose);
-    }
-}
-
-void frmEmployees::ConnectApprovers()
-{
-    QComboBox* first = profile_->cboApprovedBy_FirstLevel;
-    QComboBox* second = profile_->cboApprovedBy_SecondLevel;
-    connect(first, &QComboBox::activated, this, &frmEmployees::cboApprovedBy_FirstLevel_Click);
-    connect(second, &QComboBox::activated, this, &frmEmployees::cboApprovedBy_SecondLevel_Click);
-    const std::tuple<QComboBox*, int EmployeeRecord::*, QPushButton*> approvers[] = {
-        {first, &EmployeeRecord::ApprovedByMain, profile_->cmdGetApprover1FromList},
-        {second, &EmployeeRecord::ApprovedByBackup, profile_->cmdGetApprover2FromList}};
-    for (const auto& [combo, approver, button] : approvers) {
-        connect(combo->lineEdit(), &QLineEdit::textEdited, this,
-                [this, combo = combo, approver = approver] { Approver_Change(combo, approver); });
-        connect(button, &QPushButton::clicked, this,
-                [this, combo = combo, approver = approver] { GetApproverFromList(combo, approver); });
-    }
-}
-
-void frmEmployees::Form_Load()
-{
-    LoadCaptions();
-    txtFiscalYear->setText(SessionState.FiscalYearName);
-    LoadComboBoxes();
-    SetButtons(true, cmdAdd);
-    SetEntryEnabled(false);
-    ShowRecord();
-}
-
-void frmEmployees::LoadCaptions()
-{
-    setWindowTitle(T("Employees", "Employé(e)s"));
-    lblFiscalYear->setText(T("All records to be added / modified are associated to fiscal year",
-                             "Tous les enregistrements ajoutés / modifiés sont associés à l'année fiscale"));
-    const QString tabs[] = {T("General information", "Informations générales"),
-                            T("Working schedule", "Horaire de travail"), T("Security profile", "Profil de sécurité"),
-                            T("Accessible modules", "Modules accessibles")};
-    for (int tab = 0; tab < sstEmployees->count(); ++tab)
-        sstEmployees->setTabText(tab, tabs[tab]);
-    cmdAdd->setText(T("&Add", "&Ajouter"));
-    cmdModify->setText(T("&Modify", "&Modifier"));
-    cmdTransfer->setText(T("&Transfer", "&Transférer"));
-    cmdDeactivate->setText(T("&Deactivate", "&Désactiver"));
-    cmdListRecords->setText(T("&List of employees", "&Liste des employé(e)s"));
-    cmdCancelOperation->setText(T("Ca&ncel", "A&nnuler"));
-    cmdQuit->setText(T("&Close", "&Fermer"));
-    general_->LoadCaptions();
-    schedule_->LoadCaptions();
-    profile_->LoadCaptions();
-    modules_->LoadCaptions();
-}
-
-void frmEmployees::LoadComboBoxes()
-{
-    const LoadingGuard loading(Loading);
-    general_->LoadComboBoxes();
-    schedule_->LoadComboBoxes();
-}
-
-void frmEmployees::showEvent(QShowEvent* event)
-{
-    QDialog::showEvent(event);
-    if (std::exchange(activated_, true))
-        return;
-    QTimer::singleShot(0, this, &frmEmployees::Form_Activate);
+    profile_ = new EmployeeProfilePage(boxes_, record_, Loading, [this] {
+        record_ = Read();
+        return (record_.FirstName + " " + record_.FamilyName).trimmed();
+    });
+    for (const UnitList list : kUnitLists)
+        general_->lstUnits[static_cast<std::size_t>(list)]->OnChoice(
+            [this, list](int row) { UnitList_Click(list, row); });
+    auto* tabs = Named<QTabWidget>("sstEmployees");
+    Page()->addWidget(tabs, 1);
+    AddTab(tabs, general_, {"General information", "Informations générales"});
+    AddTab(tabs, schedule_, {"Working schedule", "Horaire de travail"});
+    AddTab(tabs, profile_, {"Security profile", "Profil de sécurité"});
+    AddTab(tabs, MakeModulesPage(boxes_), {"Accessible modules", "Modules accessibles"});
+    connect(tabs, &QTabWidget::currentChanged, this, &frmEmployees::sstEmployees_Click);
 }
 
 void frmEmployees::Form_Activate()
 {
     LoadRecords();
-    if (MustClose)
-        return cmdQuit_Click();
+    if (units_[0].isEmpty() || units_[1].isEmpty()) {
+        Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"), T(units_[0].isEmpty() ? kNoOrganization : kNoDepartment,
+                                                             {{"FiscalYearName", SessionState.FiscalYearName}}));
+        return reject();
+    }
+    SelectStartingUnits();
     cmdAdd->setFocus();
 }
 
 void frmEmployees::LoadRecords()
 {
-    {
-        const LoadingGuard loading(Loading);
-        for (const UnitList list : kUnitLists)
-            units_[static_cast<std::size_t>(list)] = UnitsByPosition(datAbsence, list);
-        general_->LoadUnits(units_);
-        CountEmployees(datAbsence, EmployeeCount);
-    }
-    const QString denied = T("OPERATION DENIED:", "OPÉRATION REFUSÉE:");
-    MustClose = units_[0].isEmpty() || units_[1].isEmpty();
-    if (units_[0].isEmpty())
-        Tell(denied, InYear(T("Before you can update your list of employees you must first set up at least one "
-                              "organization in fiscal year {FiscalYearName}!",
-                              "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
-                              "moins une organisation dans l'année fiscale {FiscalYearName}!")));
-    else if (units_[1].isEmpty())
-        Tell(denied, InYear(T("Before you can update your list of employees you must first set up at least one "
-                              "department in fiscal year {FiscalYearName}!",
-                              "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
-                              "moins un département dans l'année fiscale {FiscalYearName}!")));
-    else
-        SelectStartingUnits();
+    const LoadingGuard loading(Loading);
+    for (const UnitList list : kUnitLists)
+        units_[static_cast<std::size_t>(list)] = UnitsByPosition(datAbsence, list);
+    general_->LoadUnits(units_);
+    CountEmployees(datAbsence, EmployeeCount);
 }
 
 /// A list with one unit has it selected, with the units above it. The user's own units are always the form's.
@@ -231,28 +178,75 @@ void frmEmployees::SelectStartingUnits()
                                     std::pair(SessionState.UserGroupID, &EmployeeRecord::GroupID)})
         if (own != 0)
             record_.*unit = own;
-    ShowRecord();
+    Show(record_);
+}
+
+void frmEmployees::EnableControls()
+{
+    const bool entering = Mode() == EditingMode::Adding || (Mode() == EditingMode::Modifying && HasRecord());
+    general_->SetEntryEnabled(entering);
+    schedule_->SetEntryEnabled(entering);
+    profile_->SetEntryEnabled(entering);
+    boxes_.SetEnabled(entering, Mode() == EditingMode::Modifying);
+    // A new employee may stand in any unit below the user's own.
+    const int own[] = {SessionState.UserOrganizationID, SessionState.UserDepartmentID, SessionState.UserGroupID};
+    bool below = Mode() == EditingMode::Adding;
+    for (std::size_t list = kUnitLists.size(); list-- > 0;) {
+        below = below && own[list] == 0;
+        general_->lstUnits[list]->setEnabled(below);
+    }
+}
+
+void frmEmployees::ResetVariables()
+{
+    record_ = {};
+    profile_->ClearApprovers();
+    SelectStartingUnits();
+}
+
+void frmEmployees::cmdCancelOperation_Click()
+{
+    EditingForm::cmdCancelOperation_Click();
+    cmdAdd->setFocus();
+}
+
+void frmEmployees::Show(const EmployeeRecord& record)
+{
+    const LoadingGuard loading(Loading);
+    record_ = record;
+    general_->Show(record_);
+    schedule_->Show();
+    profile_->Show(record_);
+    boxes_.Show(record_);
+}
+
+/// An employee who is deactivated is told of as his row stands.
+EmployeeRecord frmEmployees::Read() const
+{
+    EmployeeRecord record = record_;
+    if (Mode() == EditingMode::Deactivating)
+        return record;
+    general_->Read(record);
+    profile_->Read(record);
+    NormaliseTexts(record);
+    return record;
 }
 
 /// A unit brings the units above it along; those below it, and the approvers, have to be chosen anew. A group leaves
 /// the approvers as they are.
-void frmEmployees::UnitList_Click(UnitList list)
+void frmEmployees::UnitList_Click(UnitList list, int row)
 {
-    const auto index = static_cast<std::size_t>(list);
-    const QListWidget* box = general_->lstUnits[index];
     if (Loading)
         return;
-    ReadForm();
-    if (box->selectedItems().isEmpty())
-        return ShowRecord(); // a choice is changed, never taken away
-    const Unit& unit = units_[index][box->row(box->selectedItems().first())];
+    record_ = Read();
+    const Unit& unit = units_[static_cast<std::size_t>(list)][row];
     record_.OrganizationID = unit.OrganizationID;
     record_.DepartmentID = unit.DepartmentID;
     record_.GroupID = list == UnitList::Groups ? unit.RecordID : 0;
     if (list != UnitList::Groups)
         record_.ApprovedByMain = record_.ApprovedByBackup = 0;
-    ShowRecord();
-    LoadApprovers(true);
+    Show(record_);
+    profile_->LoadApprovers(datAbsence, true);
 }
 
 void frmEmployees::Right_Click(Right box, bool granted)
@@ -263,123 +257,165 @@ void frmEmployees::Right_Click(Right box, bool granted)
     boxes_.Show(record_);
 }
 
-/// Both lists offer those who may approve for the unit, and show the approvers of the record. One whom the unit does
-/// not offer is shown only when he is looked for `wherever` he works.
-void frmEmployees::LoadApprovers(bool wherever)
-{
-    const LoadingGuard loading(Loading);
-    profile_->LoadApprovers(LoadApprovedBy(datAbsence, record_));
-    ShowApprover(profile_->cboApprovedBy_FirstLevel, record_.ApprovedByMain, wherever);
-    ShowApprover(profile_->cboApprovedBy_SecondLevel, record_.ApprovedByBackup, wherever);
-}
-
-void frmEmployees::ShowApprover(QComboBox* combo, int approver, bool wherever)
-{
-    const int index = approver == 0 ? -1 : combo->findData(approver);
-    if (index >= 0)
-        combo->setCurrentIndex(index);
-    else if (approver != 0 && wherever)
-        ShowText(combo, ApproverName(datAbsence, approver));
-}
-
-void frmEmployees::cboApprovedBy_FirstLevel_Click()
-{
-    const QComboBox* combo = profile_->cboApprovedBy_FirstLevel;
-    if (!Loading && !combo->currentText().isEmpty())
-        record_.ApprovedByMain = combo->currentData().toInt();
-}
-
-void frmEmployees::cboApprovedBy_SecondLevel_Click()
-{
-    QComboBox* combo = profile_->cboApprovedBy_SecondLevel;
-    if (Loading || combo->currentText().isEmpty())
-        return;
-    const QString error = T("ERROR:", "ERREUR:");
-    if (record_.ApprovedByMain == 0) {
-        Tell(error,
-             T("You must specify a first level of approval before specifying a second level of approval!",
-               "Vous devez spécifier un premier niveau d'approbation avant d'en spécifier un second!"),
-             Face::Warning);
-        ShowText(combo, QString());
-        record_.ApprovedByBackup = 0;
-        return profile_->cboApprovedBy_FirstLevel->setFocus();
-    }
-    record_.ApprovedByBackup = combo->currentData().toInt();
-    if (record_.ApprovedByBackup != record_.ApprovedByMain)
-        return;
-    Tell(error,
-         T("The second level of approval cannot be the same as the first one!",
-           "Le second niveau d'approbation ne peut être le même que le premier!"),
-         Face::Warning);
-    ShowText(combo, QString());
-    record_.ApprovedByBackup = 0;
-}
-
-/// An approver is picked, never typed.
-void frmEmployees::Approver_Change(QComboBox* combo, int EmployeeRecord::*approver)
-{
-    if (Loading)
-        return;
-    record_.*approver = 0;
-    ShowText(combo, QString());
-}
-
-void frmEmployees::GetApproverFromList(QComboBox* combo, int EmployeeRecord::*approver)
-{
-    ReadForm();
-    frmGetApproverFromList form((record_.FirstName + " " + record_.FamilyName).trimmed(), this);
-    ShowModal(form);
-    if (form.ApproverID() == 0)
-        return;
-    const LoadingGuard loading(Loading);
-    ShowText(combo, form.ApproverName());
-    record_.*approver = form.ApproverID();
-}
-
 void frmEmployees::sstEmployees_Click(int tab)
 {
-    if (tab != static_cast<int>(EmployeeTab::Modules) || SessionState.LoginID == "ADMIN")
-        return;
-    Tell(T("FOR YOUR INFORMATION:", "POUR VOTRE INFORMATION:"),
-         Fill(T("The system administrator ({name}) is the only user authorized to grant these privileges.",
-                "L'administrateur du système ({name}) est le seul usager ayant le pouvoir d'accorder ces privilèges."),
-              {{"name", SessionState.AdminName}}));
+    if (tab == kModulesTab && SessionState.LoginID != "ADMIN")
+        Tell(T("FOR YOUR INFORMATION:", "POUR VOTRE INFORMATION:"),
+             Fill(T("The system administrator ({name}) is the only user authorized to grant these privileges.",
+                    "L'administrateur du système ({name}) est le seul usager ayant le pouvoir d'accorder ces "
+                    "privilèges."),
+                  {{"name", SessionState.AdminName}}));
 }
 
-void frmEmployees::ShowRecord()
+bool frmEmployees::Begin(EditingMode mode)
 {
-    const LoadingGuard loading(Loading);
-    general_->Show(record_);
-    schedule_->Show();
-    profile_->Show(record_);
-    boxes_.Show(record_);
+    ShowTabOf(general_);
+    if (mode == EditingMode::Adding)
+        OfferTemplate();
+    else if (!SelectEmployee() || !LoadEmployeeRecord())
+        return false;
+    ShowMode();
+    if (mode == EditingMode::Deactivating)
+        cmdDeactivate->setFocus();
+    else
+        general_->txtName->setFocus();
+    return true;
 }
 
-void frmEmployees::ReadForm()
+void frmEmployees::OfferTemplate()
 {
-    general_->Read(record_);
-    profile_->Read(record_);
-    NormaliseTexts(record_);
-}
-
-void frmEmployees::SetEntryEnabled(bool enabled)
-{
-    general_->SetEntryEnabled(enabled);
-    general_->SetUnitsEnabled(false, false, false);
-    schedule_->SetEntryEnabled(enabled);
-    profile_->SetEntryEnabled(enabled);
-    boxes_.SetEnabled(enabled, ModifyMode);
-}
-
-/// All commands are enabled, or only the one that ends the mode. That one, or Add, is the main button.
-void frmEmployees::SetButtons(bool idle, QPushButton* usable)
-{
-    for (QPushButton* button : {cmdAdd, cmdModify, cmdTransfer, cmdDeactivate, cmdListRecords, cmdQuit}) {
-        button->setEnabled(idle || button == usable);
-        button->setProperty("look", button == usable ? "main" : "");
-        button->setDefault(button == usable);
-        button->style()->unpolish(button);
-        button->style()->polish(button);
+    if (EmployeeCount >= 1) {
+        frmCloneEmployee form(record_, this);
+        ShowModal(form);
+        CompleteLoadedRights(record_);
+        ShowDayLengths(record_);
+        Show(record_);
     }
-    cmdCancelOperation->setEnabled(!idle);
+    if (record_.OrganizationID != 0)
+        profile_->LoadApprovers(datAbsence, false);
+}
+
+/// The employee that the user chooses becomes the record's; the calendar keeps the one that it shows.
+bool frmEmployees::SelectEmployee()
+{
+    frmSelectEmployee form(this, frmSelectEmployee::Purpose::EmployeeRecord);
+    ShowModal(form);
+    record_.RecordID = form.ChosenEmployeeID();
+    return record_.RecordID > 0;
+}
+
+/// False when there is nothing to work on; the user has been told.
+bool frmEmployees::LoadEmployeeRecord()
+{
+    if (SessionState.SQL_Server)
+        return LoadEmployeeRecord_SQL();
+    if (!LoadEmployeeRecord_ACCESS(datAbsence, record_))
+        return false;
+    const bool active = record_.DeactivatedDate == 0;
+    if (Mode() == EditingMode::Deactivating && !active) {
+        TellAlreadyInactive();
+        return false;
+    }
+    Show(record_);
+    if (active)
+        profile_->LoadApprovers(datAbsence, true);
+    else
+        TellDeactivated(record_);
+    return active;
+}
+
+void frmEmployees::Finish(EditingMode mode)
+{
+    if (mode == EditingMode::Deactivating || LeavesFieldsFor(mode == EditingMode::Adding ? cmdAdd : cmdModify))
+        EditingForm::Finish(mode);
+}
+
+/// A field that is left by pressing a button, or by Enter, may refuse its contents and keep the focus: nothing is saved
+/// then.
+bool frmEmployees::LeavesFieldsFor(QPushButton* button)
+{
+    if (!schedule_->LeaveFocusedTotalFor(button))
+        return false;
+    button->setFocus();
+    return focusWidget() == button;
+}
+
+std::optional<Fault> frmEmployees::Validate(EmployeeRecord& record)
+{
+    return ValidateRecord(datAbsence, record, {Mode() == EditingMode::Modifying, profile_->HasApprovers()});
+}
+
+bool frmEmployees::Confirm(EditingMode mode, const EmployeeRecord& record)
+{
+    if (mode == EditingMode::Deactivating)
+        return ConfirmDeactivation(record);
+    const auto& lists = general_->lstUnits;
+    return ApproveRecord(record, {ChosenText(lists[0]), ChosenText(lists[1]), ChosenText(lists[2])},
+                         mode == EditingMode::Modifying);
+}
+
+/// Whoever does not go through with it, or gives no reason, is led out of the mode.
+bool frmEmployees::ConfirmDeactivation(const EmployeeRecord& record)
+{
+    const bool wanted = AskForDeactivation(record);
+    reason_ = wanted ? AskForReason(record, this) : QString();
+    if (!reason_.isEmpty())
+        return true;
+    if (wanted)
+        TellWithoutReason(record);
+    cmdCancelOperation_Click();
+    return false;
+}
+
+void frmEmployees::Write(EditingMode mode, const EmployeeRecord& record)
+{
+    if (mode == EditingMode::Deactivating)
+        return DeactivateEmployee(datAbsence, record.RecordID, StoredReason(reason_));
+    if (mode == EditingMode::Adding)
+        return RemindOfEntitlements(AddEmployee(datAbsence, record));
+    ModifyEmployee(datAbsence, record);
+    if (HasNewRate(record))
+        ApplyNewRate(record);
+}
+
+/// Attendance that is entered already keeps its costs unless the user says from which day the new rate counts.
+void frmEmployees::ApplyNewRate(const EmployeeRecord& record)
+{
+    if (!AskForRetroactiveRate(record))
+        return;
+    frmSelectPeriod form(PeriodMode::SingleDate, this);
+    ShowModal(form);
+    if (form.PeriodStart() != 0)
+        UpdateHourlyRate(datAbsence, record, form.PeriodStart());
+}
+
+void frmEmployees::TellDone(EditingMode mode, const EmployeeRecord& record)
+{
+    constexpr Text kDone[] = {
+        {},
+        {"The new employee has been added to your database.",
+         "Le nouvel employé a été ajouté dans votre banque de données."},
+        {"All modifications have been recorded.", "Toutes les modifications ont été enregistrées."},
+        {"The selected employee has been deactivated.", "L'employé(e) sélectionné(e) a été désactivé(e)."}};
+    if (mode == EditingMode::Adding)
+        RemindOfNextYear(record);
+    Tell(T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:"), T(kDone[static_cast<int>(mode)]));
+}
+
+void frmEmployees::cmdTransfer_Click()
+{
+    frmTransferEmployees form(this);
+    ShowModal(form);
+    if (form.Transferred())
+        cmdCancelOperation_Click();
+}
+
+void frmEmployees::cmdListRecords_Click()
+{
+    {
+        const BusyPointer busy;
+        ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
+    }
+    if (ShowEmployeesList)
+        ShowEmployeesList(this);
 }

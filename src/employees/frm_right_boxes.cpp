@@ -1,12 +1,10 @@
 #include "employees/frm_right_boxes.h"
 
-#include "platform/controls/form_kit.h"
-
-#include <QCheckBox>
-
-QCheckBox* RightBoxes::Make(const ProfileBox& box)
+QCheckBox* RightBoxes::Make(const ProfileBox& box, const Text& caption)
 {
     auto* control = Named<QCheckBox>(box.Name);
+    if (!caption.IsEmpty())
+        SetCaption(control, caption);
     QObject::connect(control, &QCheckBox::clicked, control,
                      [this, right = box.Member](bool checked) { changed_(right, checked); });
     boxes_.push_back({box.Member, control});

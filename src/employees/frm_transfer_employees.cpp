@@ -1,23 +1,37 @@
 #include "employees/frm_transfer_employees.h"
 
 #include "foundation/common_services.h"
-#include "foundation/texts.h"
-#include "platform/controls/form_kit.h"
-
-#include <QListWidget>
-#include <QRadioButton>
 
 namespace
 {
-constexpr int kListWidth = 230;
-constexpr int kTransferListHeight = 104;
+constexpr QSize kOpeningSize(887, 533);
+constexpr QSize kListSize(230, 104);
 constexpr int kListGap = 10;
 
-QListWidget* MakeList(const QString& name)
+struct UnitKindTexts
 {
-    auto* list = Named<QListWidget>(name);
-    list->setMinimumSize(kListWidth, kTransferListHeight);
+    const char* Name;
+    Text Caption;
+};
+constexpr UnitKindTexts kUnitKinds[] = {{"Organization", {"Organizations", "Organisations"}},
+                                        {"Department", {"Departments", "Départements"}},
+                                        {"Group", {"Groups", "Groupes"}}};
+
+template <typename List>
+List* MakeTransferList(const QString& name)
+{
+    auto* list = Named<List>(name);
+    list->setMinimumSize(kListSize);
     return list;
+}
+
+QWidget* StepCard(const QString& name, const Text& head, QLayout* lists)
+{
+    auto* content = new QVBoxLayout;
+    content->setSpacing(kListGap);
+    content->addWidget(AsHead(MakeLabel(name, head)));
+    content->addLayout(lists);
+    return MakeCard(content);
 }
 
 std::size_t Index(UnitList list)
@@ -26,122 +40,71 @@ std::size_t Index(UnitList list)
 }
 } // namespace
 
-frmTransferEmployees::frmTransferEmployees(QWidget* parent) : QDialog(parent)
+frmTransferEmployees::frmTransferEmployees(QWidget* parent) : FormBase("frmTransferEmployees", parent)
 {
-    BuildControls();
-    ConnectControls();
-    LoadCaptions();
-    LoadListBoxes();
-}
-
-void frmTransferEmployees::BuildControls()
-{
-    setObjectName("frmTransferEmployees");
-    lblStep1 = AsHead(Named<QLabel>("lblStep1"));
-    lblStep2 = AsHead(Named<QLabel>("lblStep2"));
-    BuildSide(from_, "From");
-    BuildSide(to_, "To");
-    lblFromEmployee = Named<QLabel>("lblFromEmployee");
-    lstFromEmployee = MakeList("lstFromEmployee");
-    optMoveWithAccruals = Named<QRadioButton>("optMoveWithAccruals");
-    optMoveWithoutAccruals = Named<QRadioButton>("optMoveWithoutAccruals");
-    optMoveWithAccruals->setChecked(true);
-    cmdProcess = AsMainButton(Named<QPushButton>("cmdProcess"));
-    cmdQuit = Named<QPushButton>("cmdQuit");
-
+    SetTitle(this, {"Employee transfers", "Transfert d'employé(e)s"});
     auto* sides = new QHBoxLayout;
     sides->setSpacing(12);
-    sides->addWidget(MakeCard(LayFromSide()), 2);
-    sides->addWidget(MakeCard(LayToSide()), 1);
-    QVBoxLayout* page = PageLayout(this);
-    page->addLayout(sides, 1);
-    auto* foot = ButtonRow({cmdQuit, cmdProcess});
-    foot->insertWidget(0, optMoveWithAccruals);
-    foot->insertWidget(1, optMoveWithoutAccruals);
-    page->addLayout(foot);
-}
-
-void frmTransferEmployees::BuildSide(UnitLists& side, const QString& name)
-{
-    const std::array<QString, 3> kinds = {"Organization", "Department", "Group"};
-    for (std::size_t i = 0; i < kinds.size(); ++i) {
-        side.Captions[i] = Named<QLabel>("lbl" + name + kinds[i]);
-        side.Lists[i] = MakeList("lst" + name + kinds[i]);
-    }
-}
-
-QVBoxLayout* frmTransferEmployees::LayFromSide()
-{
-    auto* units = new QVBoxLayout;
-    units->setSpacing(kListGap);
-    for (std::size_t i = 0; i < from_.Lists.size(); ++i)
-        units->addLayout(Captioned(from_.Captions[i], from_.Lists[i]));
-    auto* lists = new QHBoxLayout;
-    lists->setSpacing(16);
-    lists->addLayout(units);
-    lists->addLayout(Captioned(lblFromEmployee, lstFromEmployee));
-    auto* content = new QVBoxLayout;
-    content->setSpacing(kListGap);
-    content->addWidget(lblStep1);
-    content->addLayout(lists);
-    return content;
-}
-
-QVBoxLayout* frmTransferEmployees::LayToSide()
-{
-    auto* content = new QVBoxLayout;
-    content->setSpacing(kListGap);
-    content->addWidget(lblStep2);
-    for (std::size_t i = 0; i < to_.Lists.size(); ++i)
-        content->addLayout(Captioned(to_.Captions[i], to_.Lists[i]));
-    return content;
-}
-
-void frmTransferEmployees::ConnectControls()
-{
+    sides->addWidget(FromCard(), 2);
+    sides->addWidget(ToCard(), 1);
+    Page()->addLayout(sides, 1);
+    // Neither option has an effect: what was accrued always moves along.
+    auto* optMoveWithAccruals =
+        MakeOption("optMoveWithAccruals", {"Move with accrued time", "Transférer avec le temps accumulé"});
+    optMoveWithAccruals->setChecked(true);
+    LayFoot(
+        {optMoveWithAccruals,
+         MakeOption("optMoveWithoutAccruals", {"Move without accrued time", "Transférer sans le temps accumulé"})},
+        {AddWayOut({"&Close", "&Fermer"}, "cmdQuit"),
+         AddMainButton("cmdProcess", {"&Transfer the selected employee", "&Transfert de l'employé(e) sélectionné(e)"},
+                       [this] { cmdProcess_Click(); })});
+    SetSize(kOpeningSize);
     ConnectSide(from_, [this] { LoadEmployees(); });
     ConnectSide(to_, [] {});
     connect(lstFromEmployee, &QListWidget::itemSelectionChanged, this, &frmTransferEmployees::lstFromEmployee_Click);
-    connect(cmdProcess, &QPushButton::clicked, this, &frmTransferEmployees::cmdProcess_Click);
-    connect(cmdQuit, &QPushButton::clicked, this, &QDialog::reject);
+    LoadListBoxes();
 }
 
-/// A click counts also on the entry that is selected already: it takes the choice back to that level.
+QVBoxLayout* frmTransferEmployees::BuildSide(UnitLists& side, const QString& name)
+{
+    auto* lists = new QVBoxLayout;
+    lists->setSpacing(kListGap);
+    for (std::size_t i = 0; i < side.Lists.size(); ++i) {
+        side.Lists[i] = MakeTransferList<ChoiceList>("lst" + name + kUnitKinds[i].Name);
+        lists->addLayout(Captioned(kUnitKinds[i].Caption, side.Lists[i]));
+    }
+    return lists;
+}
+
+QWidget* frmTransferEmployees::FromCard()
+{
+    lstFromEmployee = MakeTransferList<QListWidget>("lstFromEmployee");
+    auto* lists = new QHBoxLayout;
+    lists->setSpacing(16);
+    lists->addLayout(BuildSide(from_, "From"));
+    lists->addLayout(Captioned({"&Employees", "&Employés"}, lstFromEmployee));
+    return StepCard("lblStep1",
+                    {"Select the name of the employee you wish to transfer",
+                     "Sélectionnez le nom de l'employé(e) que vous souhaitez transférer"},
+                    lists);
+}
+
+QWidget* frmTransferEmployees::ToCard()
+{
+    return StepCard("lblStep2",
+                    {"Specify the employee's new location", "Spécifiez l'endroit où l'employé(e) est transféré(e)"},
+                    BuildSide(to_, "To"));
+}
+
 void frmTransferEmployees::ConnectSide(UnitLists& side, const std::function<void()>& chosen)
 {
-    for (const UnitList list : kUnitLists) {
-        const auto choose = [this, &side, list, chosen] {
+    for (const UnitList list : kUnitLists)
+        side.Lists[Index(list)]->OnChoice([this, &side, list, chosen](int row) {
             if (Loading)
                 return;
-            if (side.Lists[Index(list)]->selectedItems().isEmpty())
-                return HighlightChoice(side); // a choice is changed, never taken away
-            ChooseInSide(side, list);
+            ChooseInSide(side, list, row);
             chosen();
-        };
-        connect(side.Lists[Index(list)], &QListWidget::itemSelectionChanged, this, choose);
-        connect(side.Lists[Index(list)], &QListWidget::itemClicked, this, choose);
-    }
-}
-
-void frmTransferEmployees::LoadCaptions()
-{
-    setWindowTitle(T("Employee transfers", "Transfert d'employé(e)s"));
-    lblStep1->setText(T("Select the name of the employee you wish to transfer",
-                        "Sélectionnez le nom de l'employé(e) que vous souhaitez transférer"));
-    lblStep2->setText(T("Specify the employee's new location", "Spécifiez l'endroit où l'employé(e) est transféré(e)"));
-    for (UnitLists* side : {&from_, &to_}) {
-        side->Captions[0]->setText(T("Organizations", "Organisations"));
-        side->Captions[1]->setText(T("Departments", "Départements"));
-        side->Captions[2]->setText(T("Groups", "Groupes"));
-        for (std::size_t i = 0; i < side->Lists.size(); ++i)
-            side->Lists[i]->setAccessibleName(side->Captions[i]->text());
-    }
-    lblFromEmployee->setText(T("&Employees", "&Employés"));
-    lstFromEmployee->setAccessibleName(T("Employees", "Employés"));
-    optMoveWithAccruals->setText(T("Move with accrued time", "Transférer avec le temps accumulé"));
-    optMoveWithoutAccruals->setText(T("Move without accrued time", "Transférer sans le temps accumulé"));
-    cmdProcess->setText(T("&Transfer the selected employee", "&Transfert de l'employé(e) sélectionné(e)"));
-    cmdQuit->setText(T("&Close", "&Fermer"));
+        });
 }
 
 void frmTransferEmployees::LoadListBoxes()
@@ -165,26 +128,19 @@ void frmTransferEmployees::FillList(UnitLists& side, UnitList list)
     const LoadingGuard loading(Loading);
     side.Lists[Index(list)]->clear();
     for (const Unit& unit : side.Data.UnitsOf(list))
-        side.Lists[Index(list)]->addItem(unit.Name);
+        AddEntry(side.Lists[Index(list)], unit.Name, unit.RecordID);
 }
 
 void frmTransferEmployees::HighlightChoice(const UnitLists& side)
 {
     const LoadingGuard loading(Loading);
-    for (const UnitList list : kUnitLists) {
-        const QVector<Unit>& units = side.Data.UnitsOf(list);
-        const int chosen = side.Data.Chosen(list).RecordID;
-        int row = -1;
-        for (int i = 0; i < units.size() && row < 0 && chosen != 0; ++i)
-            if (units[i].RecordID == chosen)
-                row = i;
-        side.Lists[Index(list)]->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
-    }
+    for (const UnitList list : kUnitLists)
+        Choose(side.Lists[Index(list)], UnitOf(side.Data.Place, list));
 }
 
-void frmTransferEmployees::ChooseInSide(UnitLists& side, UnitList list)
+void frmTransferEmployees::ChooseInSide(UnitLists& side, UnitList list, int row)
 {
-    ChooseUnit(datAbsence, side.Data, list, side.Data.UnitsOf(list)[side.Lists[Index(list)]->currentRow()]);
+    ChooseUnit(datAbsence, side.Data, list, side.Data.UnitsOf(list)[row]);
     for (const UnitList below : kUnitLists)
         if (below > list)
             FillList(side, below);
@@ -195,27 +151,21 @@ void frmTransferEmployees::ChooseInSide(UnitLists& side, UnitList list)
 void frmTransferEmployees::LoadEmployees()
 {
     const LoadingGuard loading(Loading);
-    RecordID = 0;
     lstFromEmployee->clear();
     lstFromEmployee->addItem(T("(Reload all employees)", "(Réafficher tous les employés)"));
-    for (const TransferCandidate& candidate : ReloadEmployees(datAbsence, from_.Data.Place)) {
-        auto* line = new QListWidgetItem(candidate.Name, lstFromEmployee);
-        line->setData(Qt::UserRole, candidate.RecordID);
-    }
+    for (const TransferCandidate& candidate : ReloadEmployees(datAbsence, from_.Data.Place))
+        AddEntry(lstFromEmployee, candidate.Name, candidate.RecordID);
 }
 
 void frmTransferEmployees::lstFromEmployee_Click()
 {
-    if (Loading)
+    if (Loading || lstFromEmployee->selectedItems().isEmpty())
         return;
-    RecordID = 0;
-    if (lstFromEmployee->selectedItems().isEmpty())
-        return;
-    RecordID = lstFromEmployee->selectedItems().first()->data(Qt::UserRole).toInt();
-    if (RecordID == 0)
+    const int employee = ChosenID(lstFromEmployee);
+    if (employee == 0)
         return ShowEverybody();
     TransferPlace place;
-    TakePlaceOfEmployee(datAbsence, RecordID, place);
+    TakePlaceOfEmployee(datAbsence, employee, place);
     ChoosePlace(datAbsence, from_.Data, place);
     ShowSide(from_);
 }
@@ -229,8 +179,8 @@ void frmTransferEmployees::ShowEverybody()
 
 EmployeeTransfer frmTransferEmployees::Transfer() const
 {
-    const QListWidgetItem* employee = lstFromEmployee->currentItem();
-    return {RecordID, RecordID != 0 && employee ? employee->text() : QString(), from_.Data.Place, to_.Data.Place};
+    const int employee = ChosenID(lstFromEmployee);
+    return {employee, employee != 0 ? ChosenText(lstFromEmployee) : QString(), from_.Data.Place, to_.Data.Place};
 }
 
 void frmTransferEmployees::cmdProcess_Click()
@@ -238,15 +188,6 @@ void frmTransferEmployees::cmdProcess_Click()
     const EmployeeTransfer transfer = Transfer();
     if (!ValidateTransfer(transfer) || !ConfirmTransfer(transfer, from_.Data.Lines(), to_.Data.Lines()))
         return;
-    try {
-        CarryOut(transfer);
-    } catch (const RuntimeError& error) {
-        TellError(error);
-    }
-}
-
-void frmTransferEmployees::CarryOut(const EmployeeTransfer& transfer)
-{
     {
         const BusyPointer busy;
         TransferEmployee(datAbsence, transfer);

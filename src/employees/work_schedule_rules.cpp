@@ -96,27 +96,25 @@ void RefuseTotal(EmployeeRecord& record, int day)
     record.RecalculationPending = false;
 }
 
-QString IncompleteText(bool firstHalf)
-{
-    return firstHalf ? T("{Weekday}'s schedule (first half of the day) is incomplete!",
-                         "L'horaire de travail de {Weekday} (première moitié de la journée) est incomplet!")
-                     : T("{Weekday}'s schedule (second half of the day) is incomplete!",
-                         "L'horaire de travail de {Weekday} (deuxième moitié de la journée) est incomplet!");
-}
+constexpr Text kFirstHalfIncomplete = {"{Weekday}'s schedule (first half of the day) is incomplete!",
+                                       "L'horaire de travail de {Weekday} (première moitié de la journée) est "
+                                       "incomplet!"};
+constexpr Text kSecondHalfIncomplete = {"{Weekday}'s schedule (second half of the day) is incomplete!",
+                                        "L'horaire de travail de {Weekday} (deuxième moitié de la journée) est "
+                                        "incomplet!"};
 
-std::optional<FieldInError> CheckHalf(const EmployeeRecord& record, ClockTime start, int day)
+std::optional<Fault> CheckHalf(const EmployeeRecord& record, ClockTime start, int day)
 {
     const ClockTime end = InfoOf(start).OtherEnd;
     const bool lacksStart = TimeOf(record, start, day) == 0;
     if (lacksStart == (TimeOf(record, end, day) == 0))
         return {};
-    Tell(T("ERROR:", "ERREUR:"),
-         Fill(IncompleteText(start == ClockTime::FirstHalfStart), {{"Weekday", WeekdayName(day)}}), Face::Warning);
-    return FieldInError{EmployeeTab::Schedule,
-                        QStringLiteral("%1(%2)").arg(InfoOf(lacksStart ? start : end).Control).arg(day)};
+    const Text& text = start == ClockTime::FirstHalfStart ? kFirstHalfIncomplete : kSecondHalfIncomplete;
+    return Fault{QStringLiteral("%1(%2)").arg(InfoOf(lacksStart ? start : end).Control).arg(day),
+                 T(text, {{"Weekday", WeekdayName(day)}})};
 }
 
-std::optional<FieldInError> CheckHalves(const EmployeeRecord& record)
+std::optional<Fault> CheckHalves(const EmployeeRecord& record)
 {
     for (int day = 0; day < kDays; ++day)
         for (const ClockTime start : {ClockTime::FirstHalfStart, ClockTime::SecondHalfStart})
@@ -143,17 +141,15 @@ void FindHoursWorkedDaily(EmployeeRecord& record)
         record.HoursWorkedDaily = 0;
 }
 
-std::optional<FieldInError> CheckThatDaysHaveHours(const EmployeeRecord& record)
+std::optional<Fault> CheckThatDaysHaveHours(const EmployeeRecord& record)
 {
     if (record.HasSchedule || record.IrregularHours)
         return {};
-    Tell(T("ERROR:", "ERREUR:"),
-         T("You must specify the employee's weekly schedule! If the employee works irregular hours, check the box "
-           "reserved to that effect.",
-           "Vous devez spécifier l'horaire de travail de l'employé(e). Si l'employé(e) ne travaille pas selon un "
-           "horaire régulier veuillez cocher la case destinée à cet effet."),
-         Face::Warning);
-    return FieldInError{EmployeeTab::Schedule, {}};
+    return Fault{kScheduleTab,
+                 T("You must specify the employee's weekly schedule! If the employee works irregular hours, check the "
+                   "box reserved to that effect.",
+                   "Vous devez spécifier l'horaire de travail de l'employé(e). Si l'employé(e) ne travaille pas selon "
+                   "un horaire régulier veuillez cocher la case destinée à cet effet.")};
 }
 
 /// One line for each day whose total is not what its times come to, whatever the reason.
@@ -186,7 +182,7 @@ bool AskAboutMismatch(const QString& lines)
     return AskWithList(T("WARNING:", "MISE EN GARDE:"), Fill(text, {{"lines", lines}}), kLines, Face::Warning);
 }
 
-std::optional<FieldInError> CheckTotals(EmployeeRecord& record)
+std::optional<Fault> CheckTotals(EmployeeRecord& record)
 {
     const QString lines = MismatchLines(record);
     if (lines.isEmpty() || record.HoursMismatchAccepted)
@@ -194,7 +190,7 @@ std::optional<FieldInError> CheckTotals(EmployeeRecord& record)
     record.HoursMismatchAccepted = AskAboutMismatch(lines);
     if (record.HoursMismatchAccepted)
         return {};
-    return FieldInError{EmployeeTab::Schedule, {}};
+    return Fault{kScheduleTab, {}};
 }
 
 void EmptyWeek(EmployeeRecord& record)
@@ -324,7 +320,7 @@ bool ConfirmIrregularHours(EmployeeRecord& record)
     return record.IrregularHours;
 }
 
-std::optional<FieldInError> CheckSchedule(EmployeeRecord& record)
+std::optional<Fault> CheckSchedule(EmployeeRecord& record)
 {
     if (const auto incomplete = CheckHalves(record))
         return incomplete;

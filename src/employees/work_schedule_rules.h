@@ -1,7 +1,7 @@
 #pragma once
 
 #include "employees/employee_record.h"
-#include "employees/field_in_error.h"
+#include "foundation/fault.h"
 
 #include <optional>
 #include <utility>
@@ -61,9 +61,12 @@ void ShowDayLengths(EmployeeRecord& record);
 /// The box of irregular hours was checked: asks, and on Yes empties the whole week. False for No.
 bool ConfirmIrregularHours(EmployeeRecord& record);
 
-/// The checks of the schedule when a record is saved, with their messages. Brings the days' lengths and
-/// HoursWorkedDaily up to date. The first failure names its field.
-std::optional<FieldInError> CheckSchedule(EmployeeRecord& record);
+/// The tab of the schedule: where a fault is mended that no single control has.
+inline constexpr const char* kScheduleTab = "tabSchedule";
+
+/// The checks of the schedule when a record is saved. Brings the days' lengths and HoursWorkedDaily up to date. The
+/// first fault ends them.
+std::optional<Fault> CheckSchedule(EmployeeRecord& record);
 
 /// "7" as "07": the digits of a total's box as texts show them.
 QString TwoDigits(const QString& digits);

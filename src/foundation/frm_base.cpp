@@ -56,7 +56,7 @@ FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbse
 
 QSize FormBase::sizeHint() const
 {
-    return QDialog::sizeHint().boundedTo(screen()->availableSize() - kFrame);
+    return (size_.isValid() ? size_ : QDialog::sizeHint()).boundedTo(screen()->availableSize() - kFrame);
 }
 
 QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)
@@ -109,6 +109,8 @@ void FormBase::GoTo(const QString& control)
     if (!field)
         return;
     ShowTabOf(field);
+    if (field->focusPolicy() == Qt::NoFocus)
+        return;
     field->setFocus();
     scroll_->ensureWidgetVisible(field);
 }

@@ -21,6 +21,8 @@ public:
 protected:
     /// Where cards go, from the top down.
     QVBoxLayout* Page() const { return page_; }
+    /// The size in which the form opens, where the screen has room for it; otherwise what its page asks for.
+    void SetSize(const QSize& size) { size_ = size; }
     /// A button whose click runs `clicked`; a failure is told.
     QPushButton* AddButton(const char* name, const Text& caption, const std::function<void()>& clicked);
     /// The same for the one main button, which Enter presses.
@@ -35,7 +37,7 @@ protected:
     bool Attempt(const std::function<void()>& work);
     /// Tells a fault and takes the user to the control to be mended.
     void ShowFault(const Fault& fault, const Text& title = {"ERROR:", "ERREUR:"});
-    /// Puts the focus into a control, its tab in front and in sight.
+    /// Puts the focus into a control, its tab in front and in sight. A page of tabs only comes to the front.
     void GoTo(const QString& control);
 
     /// Called once, when the form has been shown.
@@ -49,5 +51,6 @@ private:
     QScrollArea* scroll_ = nullptr;
     QVBoxLayout* page_ = nullptr;
     QHBoxLayout* foot_ = nullptr;
+    QSize size_;
     bool activated_ = false;
 };

@@ -15,9 +15,18 @@ TwoPressForm::TwoPressForm(const char* name, QWidget* parent, const EditingTexts
     cmdDeactivate = AddButton("cmdDeactivate", kDeactivate, [this] { Press(EditingMode::Deactivating); });
     cmdCancelOperation = AddButton("cmdCancelOperation", texts.Cancel, [this] { cmdCancelOperation_Click(); });
     cmdQuit = AddButton("cmdQuit", texts.Quit, [this] { reject(); });
-    for (QPushButton* button : {cmdAdd, cmdModify, cmdDeactivate, cmdCancelOperation, cmdQuit})
+}
+
+void TwoPressForm::LayCommands(const std::vector<QPushButton*>& further)
+{
+    LayFoot({cmdQuit, cmdCancelOperation}, {});
+    for (QPushButton* button : further)
+        LayFoot({button});
+    LayFoot({cmdDeactivate, cmdModify, cmdAdd});
+    idleOnly_ = further;
+    idleOnly_.push_back(cmdQuit);
+    for (QPushButton* button : findChildren<QPushButton*>()) // Enter presses the main button, wherever the focus is
         button->setAutoDefault(false);
-    idleOnly_ = {cmdQuit};
 }
 
 void TwoPressForm::Press(EditingMode mode)

@@ -46,6 +46,9 @@ protected:
     /// Enables fields and lists as the mode asks.
     virtual void EnableControls() = 0;
 
+    /// Lays the foot: the ways out at the left; at the right `further` commands, which cannot be pressed in a mode, and
+    /// those of every such form, Add last. Called when the page is complete.
+    void LayCommands(const std::vector<QPushButton*>& further = {});
     /// Shows which buttons can be pressed now, and which one is the main button.
     void ShowMode();
     virtual void cmdCancelOperation_Click();
@@ -55,13 +58,13 @@ protected:
     QPushButton* cmdDeactivate;
     QPushButton* cmdCancelOperation;
     QPushButton* cmdQuit;
-    std::vector<QPushButton*> idleOnly_; ///< the buttons besides that cannot be pressed in a mode
 
 private:
     void Press(EditingMode mode);
     void ShowButton(QPushButton* button, EditingMode its, const Text& caption);
 
     const Text save_;
+    std::vector<QPushButton*> idleOnly_; ///< the buttons that cannot be pressed in a mode
     EditingMode mode_ = EditingMode::Idle;
 };
 

@@ -53,7 +53,7 @@ frmUnit::frmUnit(const UnitKind& kind, QWidget* parent) : EditingForm(kind.FormN
     fields_ = MakeCard(column);
     fields_->setMinimumWidth(kFieldsWidth);
     Page()->addWidget(fields_, 1);
-    LayFoot({cmdAdd, cmdModify, cmdDeactivate}, {cmdCancelOperation, cmdQuit});
+    LayCommands();
     cmdCancelOperation_Click();
 }
 
@@ -78,8 +78,6 @@ QHBoxLayout* frmUnit::Names()
     names->setSpacing(kCardGap);
     names->addLayout(Captioned(kind_.Texts.EnglishNameLabel, txtEnglishName), 1);
     names->insertLayout(SessionState.English ? 1 : 0, Captioned(kind_.Texts.FrenchNameLabel, txtFrenchName), 1);
-    if (!SessionState.English)
-        setTabOrder(txtFrenchName, txtEnglishName);
     return names;
 }
 

@@ -30,6 +30,13 @@ protected:
         EXPECT_FALSE(LeaveTotal(record, day));
     }
 
+    void Refuses(const QString& control, const QString& text)
+    {
+        const Fault fault = CheckSchedule(record).value_or(Fault{"none", "none"});
+        EXPECT_EQ(fault.Control, control);
+        EXPECT_EQ(fault.Text, text);
+    }
+
     QString Total(int day) const { return record.TotalHours[day] + ":" + record.TotalMinutes[day]; }
 
     House house;
@@ -131,12 +138,10 @@ TEST_F(WorkScheduleTest, AHalfWithOneTimeIsNotSaved)
 {
     Pick(kMonday, {"08:00", "12:00", "", "16:00"});
     Pick(kTuesday, {"08:00"});
-    user.WillAnswer("ERROR:", "OK", "Monday's schedule (second half of the day) is incomplete!");
-    EXPECT_EQ(CheckSchedule(record)->Control, "cboSecondHalfStartTime(1)");
+    Refuses("cboSecondHalfStartTime(1)", "Monday's schedule (second half of the day) is incomplete!");
     PickTime(record, SecondStart, kMonday, "13:00");
     SessionState.English = false;
-    user.WillAnswer("ERREUR:", "OK", "L'horaire de travail de Mardi (première moitié de la journée) est incomplet!");
-    EXPECT_EQ(CheckSchedule(record)->Control, "cboFirstHalfEndTime(2)");
+    Refuses("cboFirstHalfEndTime(2)", "L'horaire de travail de Mardi (première moitié de la journée) est incomplet!");
 }
 
 TEST_F(WorkScheduleTest, TheRegularDayKeepsItsLoadedLengthAsAStartingPoint)
@@ -161,7 +166,7 @@ TEST_F(WorkScheduleTest, TypedTotalsThatDifferAreListedAndAskedAboutOnce)
     const QString list = "Weekday\t\tTime entered\t\tTime calculated\r\nMonday\t\t07:30\t\t08:00\r\n"
                          "Tuesday\t\t05:00\t\t00:00\r\n\r\nFor your information";
     user.WillAnswer("WARNING:", "No", list);
-    EXPECT_EQ(CheckSchedule(record)->Tab, EmployeeTab::Schedule);
+    Refuses(kScheduleTab, "");
     user.WillAnswer("WARNING:", "Yes", list);
     EXPECT_FALSE(CheckSchedule(record));
     EXPECT_FALSE(CheckSchedule(record)) << "not again in this operation";
@@ -187,8 +192,8 @@ TEST_F(WorkScheduleTest, AWeekWithoutHoursIsIrregularOrRefused)
     EXPECT_EQ(record.HoursWorkedDaily, 0);
 
     record.IrregularHours = false;
-    user.WillAnswer("ERROR:", "OK", "You must specify the employee's weekly schedule!");
-    EXPECT_EQ(CheckSchedule(record)->Tab, EmployeeTab::Schedule);
+    Refuses(kScheduleTab, "You must specify the employee's weekly schedule! If the employee works irregular hours, "
+                          "check the box reserved to that effect.");
     Pick(kMonday, {"08:00", "12:00"});
     record.IrregularHours = true;
     EXPECT_FALSE(CheckSchedule(record)) << "the box is no lock: a time picked afterwards counts";

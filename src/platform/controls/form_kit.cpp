@@ -23,7 +23,7 @@ static void LoadResources()
 namespace
 {
 constexpr int kPageMargin = 16;
-constexpr int kCardMargin = 14;
+constexpr int kCardMargin = 14; ///< also of a tab's page
 constexpr int kGap = 9;
 constexpr int kEntryHeight = 22;
 constexpr double kFontPoints = 10;
@@ -117,6 +117,14 @@ QVBoxLayout* PageLayout(QWidget* form)
     return layout;
 }
 
+QVBoxLayout* TabLayout(QWidget* page)
+{
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(kCardMargin, kCardMargin, kCardMargin, kCardMargin);
+    layout->setSpacing(kCardMargin);
+    return layout;
+}
+
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
 {
     auto* row = new QHBoxLayout;
@@ -193,6 +201,8 @@ QPushButton* AsMainButton(QPushButton* button)
 void SetMainButton(QPushButton* button, bool main)
 {
     button->setDefault(main);
+    if (main == (button->property("look") == "main"))
+        return;
     button->setProperty("look", main ? "main" : "");
     button->style()->unpolish(button);
     button->style()->polish(button);

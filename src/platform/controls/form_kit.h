@@ -26,6 +26,8 @@ inline QString ArrayName(const QString& name, int index)
 
 /// The form's outermost layout, with the margins and gaps that all forms share; cards and the button row go into it.
 QVBoxLayout* PageLayout(QWidget* form);
+/// The outermost layout of a tab's page.
+QVBoxLayout* TabLayout(QWidget* page);
 /// Controls side by side, the rest of the row empty.
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls);
 /// Controls one below the other, `gap` pixels apart.

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include <functional>
+#include <vector>
+
+/// A list with room for `characters` that may also show a text which it does not offer, and that is not completed while
+/// somebody types.
+QComboBox* EntryCombo(const QString& name, int characters);
+/// The lists offer the same entries, which are kept once for all of them. None is chosen.
+void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries);
+
+/// Shows a text and the entry that reads so; an empty text for none.
+void ShowText(QComboBox* combo, const QString& text);
+/// Sets a text only when it differs, so that the cursor stays.
+void ShowText(QLineEdit* field, const QString& text);
+
+/// A list box whose mark a person may move but not take away.
+class ChoiceList : public QListWidget
+{
+public:
+    /// Calls `chosen` with the row that is marked, also when a person clicks on the one that was marked already.
+    void OnChoice(const std::function<void(int row)>& chosen);
+
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    bool told_ = false; ///< the press that a click ends has moved the mark, and that was told
+};
