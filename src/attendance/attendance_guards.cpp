@@ -48,11 +48,10 @@ Omission FindOmission(const AttendanceEntry& entry)
 void ReadTimeUsed(DataControl& datAbsence, AttendanceEntry& entry)
 {
     const Connection connection(datAbsence);
-    for (Recordset sums = datAbsence.Select(
+    for (const Recordset& sums : datAbsence.Select(
              "SELECT Submitted, SUM(TotalDuration) AS Used FROM Attendance WHERE CategoryID = ? AND EmployeeID = ? AND "
              "CancelledDate = 0 AND Submitted IN (0, 1) GROUP BY Submitted",
-             entry.SelectedCategoryID, entry.EmployeeID);
-         !sums.AtEnd(); sums.MoveNext())
+             entry.SelectedCategoryID, entry.EmployeeID))
         sums.Take("Used", sums.Long("Submitted") == 1 ? entry.TimePending : entry.TimeUsed);
 }
 
@@ -155,14 +154,13 @@ QMap<int, QString> OtherRecordLines(DataControl& datAbsence, const AttendanceEnt
     const Connection connection(datAbsence);
     const auto [first, last] = std::minmax_element(entry.Dates.begin(), entry.Dates.end());
     QMap<int, QString> lines;
-    for (Recordset rows = datAbsence.Select(
+    for (const Recordset& rows : datAbsence.Select(
              "SELECT Attendance.RecordDate, Attendance.RecordID, Attendance.StartTime, Attendance.EndTime, "
              "Attendance.TotalDuration, Categories.CategoryFrenchName, Categories.CategoryEnglishName FROM Attendance, "
              "Categories WHERE Attendance.CategoryID = Categories.RecordID AND Attendance.EmployeeID = ? AND "
              "Attendance.RecordDate BETWEEN ? AND ? AND Attendance.CancelledDate = 0 AND Attendance.RecordID <> ? "
              "ORDER BY Attendance.RecordID",
-             entry.EmployeeID, *first, *last, entry.RecordToModify);
-         !rows.AtEnd(); rows.MoveNext())
+             entry.EmployeeID, *first, *last, entry.RecordToModify))
         if (const int date = rows.Long("RecordDate"); !lines.contains(date))
             lines.insert(date, OtherRecordLine(rows));
     return lines;

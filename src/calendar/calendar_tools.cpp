@@ -1,5 +1,6 @@
 #include "calendar/calendar_tools.h"
 
+#include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/texts.h"
@@ -29,11 +30,10 @@ QString NotOnWeekday(int weekday)
     return SessionState.English ? name + "s!" : name.toLower() + "!";
 }
 
-QString RecordLine(const Recordset& record)
+QString RecordLine(const AttendanceRow& record)
 {
-    return T("From: ", "De: ") + DurationText(record.Single("StartTime")) + T("  To: ", "  À: ") +
-           DurationText(record.Single("EndTime")) + T("  Duration: ", "  Durée: ") +
-           DurationText(record.Single("Duration"));
+    return T("From: ", "De: ") + DurationText(record.StartTime) + T("  To: ", "  À: ") + DurationText(record.EndTime) +
+           T("  Duration: ", "  Durée: ") + DurationText(record.Duration);
 }
 } // namespace
 
@@ -319,13 +319,11 @@ int CalendarTools::RecordOnDate(int date, bool pending)
 {
     std::vector<std::pair<QString, int>> lines;
     const Connection connection(host_.Data());
-    for (Recordset record =
-             host_.Data().Select("SELECT * FROM Attendance WHERE RecordDate = ? AND EmployeeID = ? AND CategoryID = ? "
-                                 "AND Submitted = ? AND "
-                                 "CancelledDate = 0",
-                                 date, SessionState.EmployeeID, SessionState.SelectedCategoryID, pending ? 1 : 0);
-         !record.AtEnd(); record.MoveNext())
-        lines.emplace_back(RecordLine(record), record.Long("RecordID"));
+    for (const auto& record : Where<AttendanceRow>(
+             host_.Data(),
+             "RecordDate = ? AND EmployeeID = ? AND CategoryID = ? AND Submitted = ? AND CancelledDate = 0", date,
+             SessionState.EmployeeID, SessionState.SelectedCategoryID, pending ? 1 : 0))
+        lines.emplace_back(RecordLine(record), record.RecordID);
     if (lines.empty())
         return 0;
     return lines.size() == 1 ? lines.front().second : host_.SelectAttendanceRecord(lines);

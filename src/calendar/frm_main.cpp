@@ -115,10 +115,7 @@ void frmMain::LoadCategories()
 
 void frmMain::LoadEmployeeInfo()
 {
-    if (SessionState.SQL_Server)
-        LoadEmployeeInfo_SQL(datAbsence);
-    else
-        LoadEmployeeInfo_ACCESS(datAbsence);
+    ::LoadEmployeeInfo(datAbsence);
 }
 
 void frmMain::DisplayNames()
@@ -127,22 +124,11 @@ void frmMain::DisplayNames()
 }
 
 /// One query for the total and one for the records, however many days the year has.
-QVector<CalendarRecord> frmMain::LoadAttendance_ACCESS()
-{
-    total_ = TotalForTheYear(datAbsence);
-    return RecordsOfTheYear(datAbsence);
-}
-
-QVector<CalendarRecord> frmMain::LoadAttendance_SQL()
-{
-    total_ = 0;
-    return {};
-}
-
 void frmMain::LoadDates()
 {
     const Connection connection(datAbsence);
-    const QVector<CalendarRecord> records = SessionState.SQL_Server ? LoadAttendance_SQL() : LoadAttendance_ACCESS();
+    total_ = TotalForTheYear(datAbsence);
+    const QVector<CalendarRecord> records = RecordsOfTheYear(datAbsence);
     holidays_ = LoadHolidays(datAbsence);
     const bool inDays = SessionState.EmployeeID != 0 && total_ != 0;
     header_->ShowTotal(DurationText(total_, inDays ? SessionState.HoursWorkedDaily : 0));

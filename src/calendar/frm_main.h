@@ -59,8 +59,6 @@ private:
     void OpenEditor();
 
     void LoadCategories();
-    QVector<CalendarRecord> LoadAttendance_ACCESS();
-    QVector<CalendarRecord> LoadAttendance_SQL();
     void LoadEmployeeInfo();
     void ReloadCalendar();
     void ReloadIfAsked();

@@ -64,7 +64,7 @@ bool ChangeYear(DataControl& datAbsence, Neighbour direction, const std::functio
     return true;
 }
 
-void LoadEmployeeInfo_ACCESS(DataControl& datAbsence)
+void LoadEmployeeInfo(DataControl& datAbsence)
 {
     Session& s = SessionState;
     const Connection connection(datAbsence);
@@ -76,9 +76,4 @@ void LoadEmployeeInfo_ACCESS(DataControl& datAbsence)
     s.EmployeeDepartmentID = employee->DepartmentID;
     s.EmployeeGroupID = employee->GroupID;
     TakeSchedule(*employee, s);
-}
-
-void LoadEmployeeInfo_SQL(DataControl& datAbsence)
-{
-    const Connection connection(datAbsence);
 }

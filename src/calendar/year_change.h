@@ -17,6 +17,4 @@ enum class Neighbour
 bool ChangeYear(DataControl& datAbsence, Neighbour direction, const std::function<bool(int, const QString&)>& logIn);
 
 /// The schedule and units of the employee shown, for the checks of dates.
-void LoadEmployeeInfo_ACCESS(DataControl& datAbsence);
-/// The server back end loads nothing.
-void LoadEmployeeInfo_SQL(DataControl& datAbsence);
+void LoadEmployeeInfo(DataControl& datAbsence);

@@ -50,51 +50,40 @@ struct EmployeeRow : SecurityProfile, WorkSchedule
     double LoggedIn = 0; ///< moment of the last log-in, 0 none
 };
 
-inline const std::vector<Column<EmployeeRow>> kEmployeeColumns = {COLUMN(EmployeeRow, RecordID),
-                                                                  COLUMN(EmployeeRow, FiscalYear),
-                                                                  COLUMN(EmployeeRow, OrganizationID),
-                                                                  COLUMN(EmployeeRow, DepartmentID),
-                                                                  COLUMN(EmployeeRow, GroupID),
-                                                                  COLUMN(EmployeeRow, FamilyName),
-                                                                  COLUMN(EmployeeRow, FirstName),
-                                                                  COLUMN(EmployeeRow, EmployeeID),
-                                                                  COLUMN(EmployeeRow, AddressLine1),
-                                                                  COLUMN(EmployeeRow, City),
-                                                                  COLUMN(EmployeeRow, ProvinceState),
-                                                                  COLUMN(EmployeeRow, Country),
-                                                                  COLUMN(EmployeeRow, PhoneHome),
-                                                                  COLUMN(EmployeeRow, PhoneOffice),
-                                                                  COLUMN(EmployeeRow, DateOfBirth),
-                                                                  COLUMN(EmployeeRow, DateOfHire),
-                                                                  COLUMN(EmployeeRow, DateEntered),
-                                                                  COLUMN(EmployeeRow, EnteredBy),
-                                                                  COLUMN(EmployeeRow, DeactivatedDate),
-                                                                  COLUMN(EmployeeRow, DeactivatedBy),
-                                                                  COLUMN(EmployeeRow, ReasonForDeactivation),
-                                                                  COLUMN(EmployeeRow, EmployeeType),
-                                                                  COLUMN(EmployeeRow, HourlyRate),
-                                                                  COLUMN(EmployeeRow, PreviousID),
-                                                                  COLUMN(EmployeeRow, IsAllowedToCarryOverVacation),
-                                                                  COLUMN(EmployeeRow, IsAllowedToCarryOverTimeBanked),
-                                                                  COLUMN(EmployeeRow, Comment),
-                                                                  COLUMN(EmployeeRow, EMailAddress),
-                                                                  COLUMN(EmployeeRow, Username),
-                                                                  COLUMN(EmployeeRow, Password),
-                                                                  COLUMN(EmployeeRow, HoursWorkedDaily),
-                                                                  COLUMN(EmployeeRow, ModifiedBy),
-                                                                  COLUMN(EmployeeRow, ModifiedDate),
-                                                                  COLUMN(EmployeeRow, LoginID),
-                                                                  COLUMN(EmployeeRow, ReportTo),
-                                                                  COLUMN(EmployeeRow, Title),
-                                                                  COLUMN(EmployeeRow, Gender),
-                                                                  COLUMN(EmployeeRow, Language),
-                                                                  COLUMN(EmployeeRow, LoggedIn)};
+inline const std::vector<Column<EmployeeRow>> kEmployeePerson = {
+    COLUMN(EmployeeRow, RecordID),     COLUMN(EmployeeRow, FiscalYear),    COLUMN(EmployeeRow, OrganizationID),
+    COLUMN(EmployeeRow, DepartmentID), COLUMN(EmployeeRow, GroupID),       COLUMN(EmployeeRow, FamilyName),
+    COLUMN(EmployeeRow, FirstName),    COLUMN(EmployeeRow, EmployeeID),    COLUMN(EmployeeRow, AddressLine1),
+    COLUMN(EmployeeRow, City),         COLUMN(EmployeeRow, ProvinceState), COLUMN(EmployeeRow, Country),
+    COLUMN(EmployeeRow, PhoneHome),    COLUMN(EmployeeRow, PhoneOffice)};
+inline const std::vector<Column<EmployeeRow>> kEmployeeEmployment = {
+    COLUMN(EmployeeRow, DateOfBirth),
+    COLUMN(EmployeeRow, DateOfHire),
+    COLUMN(EmployeeRow, DateEntered),
+    COLUMN(EmployeeRow, EnteredBy),
+    COLUMN(EmployeeRow, DeactivatedDate),
+    COLUMN(EmployeeRow, DeactivatedBy),
+    COLUMN(EmployeeRow, ReasonForDeactivation),
+    COLUMN(EmployeeRow, EmployeeType),
+    COLUMN(EmployeeRow, HourlyRate),
+    COLUMN(EmployeeRow, PreviousID),
+    COLUMN(EmployeeRow, IsAllowedToCarryOverVacation),
+    COLUMN(EmployeeRow, IsAllowedToCarryOverTimeBanked),
+    COLUMN(EmployeeRow, Comment),
+    COLUMN(EmployeeRow, EMailAddress)};
+inline const std::vector<Column<EmployeeRow>> kEmployeeFurther = {
+    COLUMN(EmployeeRow, Username),   COLUMN(EmployeeRow, Password),     COLUMN(EmployeeRow, HoursWorkedDaily),
+    COLUMN(EmployeeRow, ModifiedBy), COLUMN(EmployeeRow, ModifiedDate), COLUMN(EmployeeRow, LoginID),
+    COLUMN(EmployeeRow, ReportTo),   COLUMN(EmployeeRow, Title),        COLUMN(EmployeeRow, Gender),
+    COLUMN(EmployeeRow, Language),   COLUMN(EmployeeRow, LoggedIn)};
 /// Those that bear another name than their member.
-inline const std::vector<Column<EmployeeRow>> kRenamedEmployeeColumns = {
+inline const std::vector<Column<EmployeeRow>> kEmployeeRenamed = {
     {"AddressLine2", &EmployeeRow::PostalCode},
     {"AttendanceApprovedBy_Main", &EmployeeRow::ApprovedByMain},
     {"AttendanceApprovedBy_Backup", &EmployeeRow::ApprovedByBackup}};
 
 template <>
 inline const Table<EmployeeRow> kTable<EmployeeRow> = {
-    "Employees", Joined(kEmployeeColumns, kRenamedEmployeeColumns, kRights, kDayLengths, kClockTimes), Twin::Tried};
+    "Employees",
+    Joined(kEmployeePerson, kEmployeeEmployment, kEmployeeFurther, kEmployeeRenamed, kRights, kDayLengths, kClockTimes),
+    Twin::Tried};

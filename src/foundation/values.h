@@ -21,7 +21,3 @@ constexpr float kMidnight = 1e-7F;
 
 /// The first 15 characters of the log-in name, as the "who" columns hold it.
 QString UserStamp();
-inline QString Who()
-{
-    return UserStamp();
-}
