@@ -61,7 +61,7 @@ frmSelectEmployee::frmSelectEmployee(QWidget* parent, Purpose purpose)
     lblChoice = AsFigure(MakeLabel("lblChoice"));
     cmdSelect = AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); });
     LayFoot({lblChoice}, {AddWayOut({"&Quit", "&Quitter"}, "cmdQuit"), cmdSelect});
-    resize(kOpeningSize);
+    SetSize(kOpeningSize);
     LoadListBoxes();
 }
 
