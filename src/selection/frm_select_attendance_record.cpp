@@ -23,7 +23,7 @@ frmSelectAttendanceRecord::frmSelectAttendanceRecord(const std::vector<std::pair
     connect(lstRecords, &QListWidget::itemDoubleClicked, this, &frmSelectAttendanceRecord::cmdSelect_Click);
     Page()->addWidget(MakeCard(Stack(kRecordListGap, {WrappedLabel("lblInstructions", kChooseRecord), lstRecords})));
     LayFoot({AddWayOut(), AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); })});
-    resize(kSize);
+    SetSize(kSize);
 }
 
 /// The current line counts, also when its mark was taken away.

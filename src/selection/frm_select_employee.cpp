@@ -61,7 +61,7 @@ frmSelectEmployee::frmSelectEmployee(QWidget* parent, Purpose purpose)
     lblChoice = AsFigure(MakeLabel("lblChoice"));
     cmdSelect = AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); });
     LayFoot({lblChoice}, {AddWayOut({"&Quit", "&Quitter"}, "cmdQuit"), cmdSelect});
-    resize(kOpeningSize);
+    SetSize(kOpeningSize);
     LoadListBoxes();
 }
 
@@ -69,7 +69,7 @@ frmSelectEmployee::frmSelectEmployee(QWidget* parent, Purpose purpose)
 void frmSelectEmployee::AddList(QGridLayout* content, ReachList list)
 {
     const auto& [control, head] = kListTexts[Index(list)];
-    auto* box = lists_[Index(list)] = Named<QListWidget>(control);
+    auto* box = lists_[Index(list)] = Named<ChoiceList>(control);
     box->setMinimumWidth(kListWidth);
     const bool isUnit = list != ReachList::Employees;
     if (isUnit)
@@ -77,8 +77,7 @@ void frmSelectEmployee::AddList(QGridLayout* content, ReachList list)
     const int row = isUnit ? 1 + 2 * static_cast<int>(list) : 1;
     content->addWidget(AsHead(LabelOf(box, head)), row, isUnit ? 0 : 1);
     content->addWidget(box, row + 1, isUnit ? 0 : 1, isUnit ? 1 : 5, 1);
-    connect(box, &QListWidget::itemSelectionChanged, this, [this, list] { Choose(list); });
-    connect(box, &QListWidget::itemClicked, this, [this, list] { Choose(list); });
+    box->OnChoice([this, list](int entry) { Choose(list, entry); });
     connect(box, &QListWidget::itemDoubleClicked, this, &frmSelectEmployee::cmdSelect_Click);
 }
 
@@ -103,14 +102,11 @@ void frmSelectEmployee::LoadList(ReachList list)
         box->addItem(entry.Listed);
 }
 
-void frmSelectEmployee::Choose(ReachList list)
+void frmSelectEmployee::Choose(ReachList list, int entry)
 {
-    QListWidget* box = lists_[Index(list)];
     if (Loading)
         return;
-    if (box->selectedItems().isEmpty())
-        return HighlightChoice(list); // a choice is changed, never taken away
-    choice_ = entries_[Index(list)][box->row(box->selectedItems().first())].Selection;
+    choice_ = entries_[Index(list)][entry].Selection;
     for (const ReachList below : kLists)
         if (below > list)
             LoadList(below);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/frm_base.h"
+#include "platform/controls/entry_lists.h"
 #include "selection/employee_reach.h"
 
 /// Lets the user choose a unit or an employee among those that his rights reach. Choosing an entry narrows the lists
@@ -25,7 +26,7 @@ private:
     void AddList(QGridLayout* content, ReachList list);
     void LoadListBoxes();
     void LoadList(ReachList list);
-    void Choose(ReachList list);
+    void Choose(ReachList list, int entry);
     void HighlightChoice(ReachList upTo);
     void NameStartingUnit();
     void ShowChoice();
@@ -36,7 +37,7 @@ private:
     EmployeeSelection choice_;
     EmployeeSelection chosen_;
     std::array<QVector<ReachEntry>, kReachLists> entries_;
-    std::array<QListWidget*, kReachLists> lists_; ///< lstOrganizations, lstDepartments, lstGroups, lstEmployees
+    std::array<ChoiceList*, kReachLists> lists_; ///< lstOrganizations, lstDepartments, lstGroups, lstEmployees
     QLabel* lblChoice;
     QPushButton* cmdSelect;
 };

@@ -69,7 +69,7 @@ frmSetUpWizard::frmSetUpWizard(std::function<void()> startNormally, QWidget* par
     cmdPrevious = AddButton("cmdPrevious", kPrevious, [this] { cmdPrevious_Click(); });
     cmdNext = AddMainButton("cmdNext", kNext, [this] { cmdNext_Click(); });
     LayFoot({cmdCancel}, {cmdPrevious, cmdNext});
-    resize(kSize);
+    SetSize(kSize);
     GoToStep(1);
 }
 

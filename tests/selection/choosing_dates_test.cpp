@@ -17,7 +17,11 @@ protected:
     ChoosingDates() { house.Company().LogIn("ADMIN"); }
 
     static int Day(int month, int day) { return SerialOfDate({2026, month, day}); }
-    static DateList Dates() { return SessionState.AttendanceDates; }
+    DateList Dates()
+    {
+        EXPECT_EQ(SessionState.AttendanceDates, user.The<frmSelectDates>().Dates());
+        return user.The<frmSelectDates>().Dates();
+    }
     void WorksMondayToThursday()
     {
         SessionState.HasSchedule = true;
@@ -92,6 +96,7 @@ TEST_F(ChoosingDates, WeekdaysAreMondayToFridayUnlessChanged)
 {
     user.Opens<frmSelectWeekdays>().Checks("chkWeekday(5)", false).Checks("chkWeekday(0)").Clicks("cmdOK");
     EXPECT_THAT(SessionState.SelectedWeekdays, ElementsAre(1, 1, 1, 1, 1, 0, 0));
+    EXPECT_EQ(user.The<frmSelectWeekdays>().Weekdays(), SessionState.SelectedWeekdays);
     user.Opens<frmSelectWeekdays>();
     for (int day = 1; day < 6; ++day)
         user.Checks(QString("chkWeekday(%1)").arg(day), false);
