@@ -4,7 +4,7 @@
 #include "attendance/frm_attendance.h"
 #include "attendance/frm_attendance_pages.h"
 #include "foundation/common_services.h"
-#include "foundation/not_yet.h"
+#include "foundation/forms.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -52,7 +52,7 @@ bool frmAttendance::FindApprovers()
         if (doors_.ShowGetApprovedBy)
             doors_.ShowGetApprovedBy(entry_);
         else
-            TellNotYet("frmGetApprovedBy");
+            TellNotYet();
     }
     if (entry_.FirstApprover == 0)
         return false;
