@@ -1,6 +1,5 @@
 #pragma once
 
-#include "attendance/attendance_doors.h"
 #include "calendar/calendar_tools.h"
 #include "calendar/frm_main_menus.h"
 #include "calendar/minute_work.h"
@@ -97,7 +96,6 @@ private:
     YearCalendar calendar_;
     QVector<Holiday> holidays_;
     CalendarTools tools_{*this};
-    AttendanceDoors attendanceDoors_;
     MinuteWork minuteWork_;
     float total_ = 0;
     bool CalendarLoaded = false;

@@ -126,7 +126,7 @@ void frmMain::RefreshDate(int date)
 /// The calendar keeps what it shows, and follows to another employee only when records were written for him.
 void frmMain::ShowAttendance(const AttendanceJob& job)
 {
-    if (const auto written = EnterAttendance(job, attendanceDoors_, this)) {
+    if (const auto written = EnterAttendance(job, this)) {
         const bool another = written->EmployeeID != SessionState.EmployeeID;
         static_cast<CalendarSelection&>(SessionState) = *written;
         if (another)

@@ -3,6 +3,7 @@
 #include <functional>
 
 class DataControl;
+struct AttendanceEntry;
 class QWidget;
 
 /// What a lower floor opens of the floors above it.
@@ -13,6 +14,8 @@ struct Forms
     std::function<void()> ShowMain;
     std::function<void(DataControl&)> UpgradeProbes; ///< looks for an older database at each log-in
     std::function<void(QWidget* parent)> ShowEmployeesList;
+    std::function<void(AttendanceEntry&)> ShowGetApprovedBy;       ///< finds a FirstApprover for a request
+    std::function<void(const AttendanceEntry&)> SendRequestNotice; ///< tells the approvers of a written request
 };
 
 /// Filled by WireForms and by the start of the program. A form that is not there is not available in this version.
