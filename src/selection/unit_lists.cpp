@@ -15,12 +15,12 @@ const Level& LevelOf(UnitList list)
 /// The rows that the user's position lets him see. His own unit is found in whatever year it is.
 Recordset SelectUnits(DataControl& datAbsence, UnitList list)
 {
-    static constexpr const char* kUnits[] = {"RecordID AS OrganizationID, 0 AS DepartmentID",
-                                             "OrganizationID, RecordID AS DepartmentID",
-                                             "OrganizationID, DepartmentID"};
+    static constexpr const char* kUnitColumns[] = {"RecordID AS OrganizationID, 0 AS DepartmentID",
+                                                   "OrganizationID, RecordID AS DepartmentID",
+                                                   "OrganizationID, DepartmentID"};
     const Level& level = LevelOf(list);
     const QString select = QStringLiteral("SELECT RecordID, %1, %2 AS Name FROM %3s WHERE ")
-                               .arg(kUnits[static_cast<std::size_t>(list)], NameColumn(level.Name), level.Name);
+                               .arg(kUnitColumns[static_cast<std::size_t>(list)], NameColumn(level.Name), level.Name);
     const QString order = " ORDER BY Name ASC";
     if (level.Unit() != 0)
         return datAbsence.Select(select + "RecordID = ?" + order, level.Unit());
