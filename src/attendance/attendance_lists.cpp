@@ -1,6 +1,7 @@
 #include "attendance/attendance_records.h"
 #include "foundation/connection.h"
 #include "foundation/levels.h"
+#include "foundation/names.h"
 #include "foundation/texts.h"
 
 #include <algorithm>
@@ -67,11 +68,11 @@ Recordset SelectWithin(DataControl& datAbsence, AttendanceEntry& entry, const Le
 QVector<ListEntry> EmployeeItems(Recordset people, bool located)
 {
     QVector<ListEntry> items;
-    for (; !people.AtEnd(); people.MoveNext()) {
-        QString text = people.Text("FamilyName").trimmed() + ", " + people.Text("FirstName").trimmed();
-        if (located && !people.IsNull("Location"))
-            text += " / " + people.Text("Location").trimmed().left(kLocationWidth).rightJustified(kLocationWidth);
-        items << ListEntry{text, people.Long("RecordID")};
+    for (const Recordset& person : people) {
+        QString text = ListedName(person);
+        if (located && !person.IsNull("Location"))
+            text += " / " + person.Text("Location").trimmed().left(kLocationWidth).rightJustified(kLocationWidth);
+        items << ListEntry{text, person.Long("RecordID")};
     }
     return items;
 }
@@ -117,7 +118,7 @@ QVector<ListEntry> LoadCategories(DataControl& datAbsence, AttendanceEntry& entr
     const Connection connection(datAbsence);
     QVector<ListEntry> items = {{T("(All categories)", "(Toutes les catégories)"), 0}};
     entry.TimeClaimedCategoryID = 0;
-    for (Recordset rows = SelectCategories(datAbsence, entry.EmployeeDepartmentID); !rows.AtEnd(); rows.MoveNext()) {
+    for (const Recordset& rows : SelectCategories(datAbsence, entry.EmployeeDepartmentID)) {
         const int category = rows.Long("RecordID");
         items << ListEntry{rows.Text(SessionState.English ? "CategoryEnglishName" : "CategoryFrenchName").trimmed(),
                            category};

@@ -2,6 +2,7 @@
 
 #include "foundation/connection.h"
 #include "foundation/levels.h"
+#include "foundation/names.h"
 #include "foundation/rows.h"
 #include "foundation/texts.h"
 
@@ -50,17 +51,12 @@ QString WholeStatement(const Block& block)
                              "ORDER BY Employees.FamilyName ASC, Employees.FirstName ASC";
 }
 
-QString NameOf(const Recordset& employee)
-{
-    return employee.Text("FamilyName").trimmed() + ", " + employee.Text("FirstName").trimmed();
-}
-
 QString Listed(const Recordset& employee)
 {
     if (!employee.Columns().contains("Location"))
-        return NameOf(employee);
+        return ListedName(employee);
     const QString location = employee.Text("Location").left(kLocationWidth).trimmed();
-    return location.leftJustified(kLocationWidth) + " / " + NameOf(employee);
+    return location.leftJustified(kLocationWidth) + " / " + ListedName(employee);
 }
 } // namespace
 
@@ -74,9 +70,8 @@ QVector<Approver> LoadApprovedBy_ACCESS(DataControl& datAbsence, const EmployeeR
     const Connection connection(datAbsence);
     QVector<Approver> approvers;
     for (const Block& block : BlocksOf(record))
-        for (Recordset employee =
-                 datAbsence.Select(WholeStatement(block), block.UnitID, SessionState.FiscalYearID, record.RecordID);
-             !employee.AtEnd(); employee.MoveNext())
+        for (const Recordset& employee :
+             datAbsence.Select(WholeStatement(block), block.UnitID, SessionState.FiscalYearID, record.RecordID))
             approvers.append({employee.Long("RecordID"), Listed(employee)});
     return approvers;
 }
@@ -97,5 +92,5 @@ QString ApproverName(DataControl& datAbsence, int recordID)
     const Connection connection(datAbsence);
     if (!datAbsence.Read("SELECT FamilyName, FirstName FROM Employees WHERE RecordID = ?", recordID))
         return {};
-    return NameOf(datAbsence.Records);
+    return ListedName(datAbsence.Records);
 }

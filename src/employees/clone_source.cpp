@@ -4,6 +4,7 @@
 #include "employees/work_schedule_rules.h"
 #include "foundation/connection.h"
 #include "foundation/levels.h"
+#include "foundation/names.h"
 #include "foundation/session_rows.h"
 
 namespace
@@ -41,9 +42,8 @@ Recordset SelectInReach(DataControl& datAbsence)
 
 QString SourceListed(const Recordset& row)
 {
-    const QString name = row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed();
     const QString location = row.Text("Location").trimmed();
-    return location.isEmpty() ? name : location + " / " + name;
+    return location.isEmpty() ? ListedName(row) : location + " / " + ListedName(row);
 }
 
 void TakeWorkplace(const EmployeeRow& source, EmployeeRecord& record)
@@ -68,7 +68,7 @@ QVector<CloneSource> LoadCloneSources(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     QVector<CloneSource> sources;
-    for (Recordset row = SelectInReach(datAbsence); !row.AtEnd(); row.MoveNext())
+    for (const Recordset& row : SelectInReach(datAbsence))
         sources.append({row.Long("RecordID"), SourceListed(row)});
     return sources;
 }

@@ -1,7 +1,5 @@
 #include "foundation/levels.h"
 
-#include "foundation/texts.h"
-
 #include <algorithm>
 
 Scope WidestScope(Access access, const char* Level::*column)
@@ -11,9 +9,4 @@ Scope WidestScope(Access access, const char* Level::*column)
     if (widest == kLevelTable.begin())
         return {"? = 0", 0};
     return {QLatin1String((*widest).*column) + QLatin1String(" = ?"), widest->Unit()};
-}
-
-QString NameColumn(const char* kind)
-{
-    return QLatin1String(kind) + T("EnglishName", "FrenchName");
 }

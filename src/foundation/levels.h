@@ -78,6 +78,3 @@ struct Scope
 /// Whom the session's user reaches: the widest level at which he holds the right and stands in a unit; himself when
 /// there is none. The condition is on `column`, such as &Level::Column.
 Scope WidestScope(Access access, const char* Level::*column);
-
-/// The column of a unit's name in the user's language; `kind` begins it, such as "Department".
-QString NameColumn(const char* kind);

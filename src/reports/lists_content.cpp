@@ -3,6 +3,7 @@
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/levels.h"
+#include "foundation/names.h"
 #include "foundation/texts.h"
 #include "reference/category_list.h"
 #include "reference/employees_list.h"
@@ -40,8 +41,7 @@ QStringList EmployeeRow(const Recordset& row)
     QStringList cells;
     for (const char* unit : {"Org", "Dept", "Groupe"})
         cells << row.Text(unit).trimmed();
-    return cells << row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed() << row.Text("LoginID")
-                 << row.Text("Password");
+    return cells << ListedName(row) << row.Text("LoginID") << row.Text("Password");
 }
 } // namespace
 
@@ -54,13 +54,12 @@ ReferenceList ListOfCategories(DataControl& datAbsence)
                        {}};
     const QString visible = SessionState.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0";
     const Connection connection(datAbsence);
-    for (Recordset row =
-             datAbsence.Select(QLatin1String("SELECT ") + CategoryNameColumn() +
-                                   ", RequiresMonitoring, StandardEntitlement, "
-                                   "CarryOverAtYearEnd FROM Categories WHERE FiscalYear = ? AND Active = 1" +
-                                   visible + " ORDER BY Categories." + CategoryNameColumn() + " ASC",
-                               SessionState.FiscalYearID);
-         !row.AtEnd(); row.MoveNext())
+    for (const Recordset& row :
+         datAbsence.Select(QLatin1String("SELECT ") + CategoryNameColumn() +
+                               ", RequiresMonitoring, StandardEntitlement, "
+                               "CarryOverAtYearEnd FROM Categories WHERE FiscalYear = ? AND Active = 1" +
+                               visible + " ORDER BY Categories." + CategoryNameColumn() + " ASC",
+                           SessionState.FiscalYearID))
         list.Rows.append(CategoryRow(row));
     return list;
 }
@@ -75,8 +74,7 @@ ReferenceList ListOfEmployees(DataControl& datAbsence)
     const Connection connection(datAbsence);
     ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
     const auto [reach, unit] = WidestScope(Access::Read, &Level::ListColumn);
-    for (Recordset row = datAbsence.Select(EmployeesQuery(reach), SessionState.FiscalYearID, unit); !row.AtEnd();
-         row.MoveNext())
+    for (const Recordset& row : datAbsence.Select(EmployeesQuery(reach), SessionState.FiscalYearID, unit))
         list.Rows.append(EmployeeRow(row));
     return list;
 }

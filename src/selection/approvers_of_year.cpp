@@ -1,7 +1,7 @@
 #include "selection/approvers_of_year.h"
 
 #include "foundation/connection.h"
-#include "foundation/levels.h"
+#include "foundation/names.h"
 #include "reference/employees_list.h"
 
 namespace
@@ -22,7 +22,7 @@ QVector<ListedApprover> LoadApproversList(DataControl& datAbsence)
     ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
     const QStringList units = {NameColumn("Org"), NameColumn("Dept"), NameColumn("Group")};
     QVector<ListedApprover> approvers;
-    for (Recordset row = datAbsence.Select(
+    for (const Recordset& row : datAbsence.Select(
              "SELECT EmplID, Employees_List.FamilyName, Employees_List.FirstName, " + units.join(", ") +
                  " FROM Employees_List, Employees WHERE Employees_List.EmplID = Employees.RecordID "
                  "AND Employees.IsAuthorizedToApprove = 1 AND Employees.DeactivatedDate = 0 AND "
@@ -30,9 +30,7 @@ QVector<ListedApprover> LoadApproversList(DataControl& datAbsence)
                  "= ? "
                  "ORDER BY Employees_List." +
                  units.join(", Employees_List.") + ", Employees_List.FamilyName, Employees_List.FirstName",
-             SessionState.FiscalYearID);
-         !row.AtEnd(); row.MoveNext())
-        approvers.append({row.Long("EmplID"), row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed(),
-                          Place(row, units)});
+             SessionState.FiscalYearID))
+        approvers.append({row.Long("EmplID"), ListedName(row), Place(row, units)});
     return approvers;
 }

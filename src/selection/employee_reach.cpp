@@ -2,7 +2,7 @@
 
 #include "foundation/connection.h"
 #include "foundation/levels.h"
-#include "foundation/texts.h"
+#include "foundation/names.h"
 
 #include <algorithm>
 
@@ -70,15 +70,14 @@ QVector<ReachEntry> Units(DataControl& datAbsence, ReachList list, const Employe
     const Level& level = LevelOf(list);
     const UnitQuery query = QueryOf(list);
     QVector<ReachEntry> entries;
-    for (Recordset row =
-             datAbsence.Select(Fill("SELECT {units}, {name} AS Name FROM {kind}s WHERE FiscalYear = ?1 AND {rows}"
-                                    "(?4 = 0 OR RecordID = ?4) ORDER BY Name ASC",
-                                    {{"units", query.Units},
-                                     {"name", NameColumn(level.Name)},
-                                     {"kind", level.Name},
-                                     {"rows", query.Rows}}),
-                               SessionState.FiscalYearID, within.OrganizationID, within.DepartmentID, OnlyUnit(level));
-         !row.AtEnd(); row.MoveNext())
+    for (const Recordset& row :
+         datAbsence.Select(Fill("SELECT {units}, {name} AS Name FROM {kind}s WHERE FiscalYear = ?1 AND {rows}"
+                                "(?4 = 0 OR RecordID = ?4) ORDER BY Name ASC",
+                                {{"units", query.Units},
+                                 {"name", NameColumn(level.Name)},
+                                 {"kind", level.Name},
+                                 {"rows", query.Rows}}),
+                           SessionState.FiscalYearID, within.OrganizationID, within.DepartmentID, OnlyUnit(level)))
         entries.append({row.Text("Name"), SelectionOf(row, 0, row.Text("Name"))});
     return entries;
 }
@@ -86,17 +85,14 @@ QVector<ReachEntry> Units(DataControl& datAbsence, ReachList list, const Employe
 QVector<ReachEntry> Employees(DataControl& datAbsence, const EmployeeSelection& within)
 {
     QVector<ReachEntry> entries;
-    for (Recordset row = datAbsence.Select(
+    for (const Recordset& row : datAbsence.Select(
              "SELECT RecordID, OrganizationID, DepartmentID, GroupID, FamilyName, FirstName FROM Employees "
              "WHERE FiscalYear = ?1 AND DeactivatedDate = 0 AND (?2 = 0 OR OrganizationID = ?2) AND "
              "(?3 = 0 OR DepartmentID = ?3) AND (?4 = 0 OR GroupID = ?4) AND (?5 = 0 OR RecordID = ?5) "
              "ORDER BY FamilyName ASC, FirstName ASC",
              SessionState.FiscalYearID, within.OrganizationID, within.DepartmentID, within.GroupID,
-             ReachesAUnit() ? 0 : SessionState.UserID);
-         !row.AtEnd(); row.MoveNext()) {
-        const QString first = row.Text("FirstName").trimmed();
-        const QString family = row.Text("FamilyName").trimmed();
-        entries.append({family + ", " + first, SelectionOf(row, row.Long("RecordID"), first + " " + family)});
+             ReachesAUnit() ? 0 : SessionState.UserID)) {
+        entries.append({ListedName(row), SelectionOf(row, row.Long("RecordID"), FullName(row))});
     }
     return entries;
 }

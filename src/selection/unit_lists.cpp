@@ -2,6 +2,7 @@
 
 #include "foundation/connection.h"
 #include "foundation/levels.h"
+#include "foundation/names.h"
 
 #include <algorithm>
 
@@ -45,7 +46,7 @@ QVector<Unit> UnitsByPosition(DataControl& datAbsence, UnitList list, int organi
 {
     const Connection connection(datAbsence);
     QVector<Unit> units;
-    for (Recordset row = SelectUnits(datAbsence, list); !row.AtEnd(); row.MoveNext()) {
+    for (const Recordset& row : SelectUnits(datAbsence, list)) {
         const Unit unit{row.Long("RecordID"), row.Text("Name").trimmed(), row.Long("OrganizationID"),
                         row.Long("DepartmentID")};
         if (IsWithin(unit, list, organizationID, departmentID))
