@@ -2,6 +2,7 @@
 
 #include "attendance/frm_attendance.h"
 #include "calendar/frm_main.h"
+#include "calendar/frm_program.h"
 #include "foundation/connection.h"
 #include "foundation/frm_about.h"
 #include "foundation/frm_change_password.h"
@@ -91,32 +92,21 @@ void Tour::PhotoMessage(const Message& message)
 
 void Tour::Start()
 {
-    const auto showMain = [this] {
-        main_ = std::make_unique<frmMain>();
-        main_->show();
-        main_->Form_Load();
-        main_->timAbsence_Timer();
-    };
-    bool configured = false;
-    const auto showWizard = [this, &configured] {
-        frmSetUpWizard wizard([&configured] { configured = true; });
-        user_.WhenOpens<frmSetUpWizard>([this](frmSetUpWizard&) { WorkWizard(); });
-        ShowModal(wizard);
-    };
-    main_.reset();
-    frmSplashScreen splash({showWizard, [] {}, showMain});
-    splash.show();
-    user_.Works(splash);
-    Photo("splash");
-    splash.Form_Activate();
-    if (main_)
-        user_.Works(*main_);
+    program_ = std::make_unique<Program>();
+    program_->Start();
+    while (!program_->Main())
+        QApplication::processEvents();
+    main_ = program_->Main();
+    main_->timAbsence_Timer();
+    user_.Works(*main_);
 }
 
 void Tour::SetUpWorkstation()
 {
     Say("An empty folder: the wizard sets the workstation up");
-    Start();
+    user_.Opens<frmSplashScreen>();
+    Photo("splash");
+    user_.Leaves().WhenOpens<frmSetUpWizard>([this](frmSetUpWizard&) { WorkWizard(); });
 }
 
 void Tour::WorkWizard()

@@ -7,6 +7,7 @@
 #include <memory>
 
 class frmMain;
+class Program;
 
 /// An employee whom the tour enters.
 struct NewEmployee
@@ -64,6 +65,7 @@ private:
     const bool english_;
     House house_;
     User user_;
-    std::unique_ptr<frmMain> main_;
+    std::unique_ptr<Program> program_;
+    frmMain* main_ = nullptr; ///< the program's
     int messages_ = 0;
 };

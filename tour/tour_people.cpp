@@ -225,6 +225,6 @@ void Tour::ListEmployees()
         Photo("lists_categories");
         user_.Clicks("cmdOK");
     });
-    frmLists categories(ListKind::Categories, main_.get());
+    frmLists categories(ListKind::Categories, main_);
     ShowModal(categories);
 }

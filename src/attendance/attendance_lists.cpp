@@ -1,57 +1,61 @@
 #include "attendance/attendance_records.h"
 #include "foundation/connection.h"
+#include "foundation/levels.h"
+#include "foundation/names.h"
 #include "foundation/texts.h"
+
+#include <algorithm>
 
 namespace
 {
 constexpr int kLocationWidth = 20;
 
-/// One of the ways in which rights reach employees.
-struct Reach
+/// The widest level at which the user creates records for others; empty for none. An organization counts without being
+/// a unit of the user's: he then finds those who have none either.
+const Level* CreatingLevel()
 {
-    bool Holds;
-    QString Location; ///< expression of the column Location, empty for none
-    QString Join;
-    QString Filter;
-    QString Order;
-};
-
-QString ApprovedOr(const char* column, int unit)
-{
-    return QStringLiteral(" AND (Employees.%1 = %2 OR Employees.AttendanceApprovedBy_Main = %3 OR "
-                          "Employees.AttendanceApprovedBy_Backup = %3)")
-        .arg(QLatin1String(column))
-        .arg(unit)
-        .arg(SessionState.UserID);
+    const auto counts = [](const Level& level) {
+        return level.IsHeld(Access::Create) && (&level == &kOrganizationLevel || level.HasUnit());
+    };
+    const auto* found = std::find_if(&kGlobalLevel, &kIndividualLevel, counts);
+    return found == &kIndividualLevel ? nullptr : found;
 }
 
-/// In the order in which the rights are tested.
-QVector<Reach> Reaches()
+/// The level whose names tell where an employee stands; empty below the organization, where it goes without saying.
+const Level* LocationLevel(const Level& reach)
 {
-    const Session& s = SessionState;
-    const QString organization = T("Organizations.OrganizationEnglishName", "Organizations.OrganizationFrenchName");
-    const QString department = T("Departments.DepartmentEnglishName", "Departments.DepartmentFrenchName");
-    // The departments stand in the order of their English names in both languages; that is kept.
-    return {{s.GlobalLevelCreate == 1, organization,
-             " LEFT JOIN Organizations ON Employees.OrganizationID = Organizations.RecordID", "", organization + ", "},
-            {s.OrganizationLevelCreate == 1, department,
-             " LEFT JOIN Departments ON Employees.DepartmentID = Departments.RecordID",
-             ApprovedOr("OrganizationID", s.UserOrganizationID), "Departments.DepartmentEnglishName, "},
-            {s.DepartmentLevelCreate == 1 && s.UserDepartmentID != 0, "", "",
-             ApprovedOr("DepartmentID", s.UserDepartmentID), ""},
-            {s.GroupLevelCreate == 1 && s.UserGroupID != 0, "", "", ApprovedOr("GroupID", s.UserGroupID), ""}};
+    return &reach > &kOrganizationLevel ? nullptr : &reach + 1;
 }
 
-QString EmployeesWithin(const Reach& reach)
+/// Whoever creates records for a unit also does so for those whose requests he approves.
+QString UnitFilter(const Level& reach)
 {
-    const QString location = reach.Location.isEmpty() ? QString() : ", " + reach.Location + " AS Location";
+    return &reach == &kGlobalLevel ? QString()
+                                   : QStringLiteral(" AND (%1 = %2 OR Employees.AttendanceApprovedBy_Main = %3 OR "
+                                                    "Employees.AttendanceApprovedBy_Backup = %3)")
+                                         .arg(reach.Column)
+                                         .arg(reach.Unit())
+                                         .arg(SessionState.UserID);
+}
+
+QString EmployeesWithin(const Level& reach)
+{
+    QString location, join, order;
+    if (const Level* level = LocationLevel(reach)) {
+        const QString table = QLatin1String(level->Name) + "s";
+        const QString name = table + "." + NameColumn(level->Name);
+        location = ", " + name + " AS Location";
+        join = QStringLiteral(" LEFT JOIN %1 ON %2 = %1.RecordID").arg(table, level->Column);
+        // The departments stand in the order of their English names in both languages; that is kept.
+        order = (level == &kDepartmentLevel ? "Departments.DepartmentEnglishName" : name) + ", ";
+    }
     const QString notOneself = SessionState.SelfLevelCreate == 1 ? "" : " AND Employees.RecordID <> ?";
     return "SELECT Employees.RecordID, Employees.FamilyName, Employees.FirstName" + location + " FROM Employees" +
-           reach.Join + " WHERE Employees.FiscalYear = ? AND Employees.DeactivatedDate = 0" + notOneself +
-           reach.Filter + " ORDER BY " + reach.Order + "Employees.FamilyName, Employees.FirstName";
+           join + " WHERE Employees.FiscalYear = ? AND Employees.DeactivatedDate = 0" + notOneself + UnitFilter(reach) +
+           " ORDER BY " + order + "Employees.FamilyName, Employees.FirstName";
 }
 
-Recordset SelectWithin(DataControl& datAbsence, AttendanceEntry& entry, const Reach& reach)
+Recordset SelectWithin(DataControl& datAbsence, AttendanceEntry& entry, const Level& reach)
 {
     const Session& s = SessionState;
     if (s.SelfLevelCreate == 1)
@@ -64,11 +68,11 @@ Recordset SelectWithin(DataControl& datAbsence, AttendanceEntry& entry, const Re
 QVector<ListEntry> EmployeeItems(Recordset people, bool located)
 {
     QVector<ListEntry> items;
-    for (; !people.AtEnd(); people.MoveNext()) {
-        QString text = people.Text("FamilyName").trimmed() + ", " + people.Text("FirstName").trimmed();
-        if (located && !people.IsNull("Location"))
-            text += " / " + people.Text("Location").trimmed().left(kLocationWidth).rightJustified(kLocationWidth);
-        items << ListEntry{text, people.Long("RecordID")};
+    for (const Recordset& person : people) {
+        QString text = ListedName(person);
+        if (located && !person.IsNull("Location"))
+            text += " / " + person.Text("Location").trimmed().left(kLocationWidth).rightJustified(kLocationWidth);
+        items << ListEntry{text, person.Long("RecordID")};
     }
     return items;
 }
@@ -80,7 +84,9 @@ Recordset SelectCategories(DataControl& datAbsence, int department)
     const QString end = (s.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0 ") +
                         T(" ORDER BY Categories.CategoryEnglishName", " ORDER BY Categories.CategoryFrenchName");
     if (department == 0)
-        return datAbsence.Select("SELECT * FROM Categories WHERE FiscalYear = ? AND Active = 1 AND IsPublic = 1" + end,
+        return datAbsence.Select("SELECT RecordID, CategoryEnglishName, CategoryFrenchName, SystemName FROM Categories "
+                                 "WHERE FiscalYear = ? AND Active = 1 AND IsPublic = 1" +
+                                     end,
                                  s.FiscalYearID);
     return datAbsence.Select(
         "SELECT Categories.RecordID, Categories.CategoryEnglishName, Categories.CategoryFrenchName, "
@@ -97,9 +103,8 @@ std::optional<QVector<ListEntry>> LoadRecords(DataControl& datAbsence, Attendanc
 {
     const Connection connection(datAbsence);
     if (entry.Kind != AttendanceKind::Submit) {
-        for (const Reach& reach : Reaches())
-            if (reach.Holds)
-                return EmployeeItems(SelectWithin(datAbsence, entry, reach), !reach.Location.isEmpty());
+        if (const Level* reach = CreatingLevel())
+            return EmployeeItems(SelectWithin(datAbsence, entry, *reach), LocationLevel(*reach) != nullptr);
         if (SessionState.SelfLevelCreate != 1)
             return std::nullopt;
     }
@@ -113,7 +118,7 @@ QVector<ListEntry> LoadCategories(DataControl& datAbsence, AttendanceEntry& entr
     const Connection connection(datAbsence);
     QVector<ListEntry> items = {{T("(All categories)", "(Toutes les catégories)"), 0}};
     entry.TimeClaimedCategoryID = 0;
-    for (Recordset rows = SelectCategories(datAbsence, entry.EmployeeDepartmentID); !rows.AtEnd(); rows.MoveNext()) {
+    for (const Recordset& rows : SelectCategories(datAbsence, entry.EmployeeDepartmentID)) {
         const int category = rows.Long("RecordID");
         items << ListEntry{rows.Text(SessionState.English ? "CategoryEnglishName" : "CategoryFrenchName").trimmed(),
                            category};

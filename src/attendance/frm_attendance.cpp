@@ -17,8 +17,7 @@ constexpr Text kActions[] = {{"&Add new attendance record(s)", "&Ajouter nouveau
                              {"&Record modifications", "En&registrer modifications"}}; // in the order of AttendanceKind
 } // namespace
 
-frmAttendance::frmAttendance(const AttendanceJob& job, const AttendanceDoors& doors, QWidget* parent)
-    : FormBase("frmAttendance", parent), entry_(job), doors_(doors)
+frmAttendance::frmAttendance(const AttendanceJob& job, QWidget* parent) : FormBase("frmAttendance", parent), entry_(job)
 {
     BuildControls();
     ConnectControls();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "attendance/attendance_doors.h"
+#include "attendance/attendance_entry.h"
 #include "foundation/frm_base.h"
 
 #include <functional>
@@ -15,7 +15,7 @@ class QTabWidget;
 class frmAttendance : public FormBase
 {
 public:
-    explicit frmAttendance(const AttendanceJob& job, const AttendanceDoors& doors = {}, QWidget* parent = nullptr);
+    explicit frmAttendance(const AttendanceJob& job, QWidget* parent = nullptr);
     ~frmAttendance() override;
 
     /// What has been entered so far, the employee with his name as CurrentSelection once records are written.
@@ -68,7 +68,6 @@ private:
     void cmdQuit_Click();
 
     AttendanceEntry entry_;
-    const AttendanceDoors doors_;
     bool durationChanged_ = false; ///< since a duration box was last left
     bool updated_ = false;
     bool mayAdd_ = true;
@@ -81,5 +80,4 @@ private:
 };
 
 /// Opens the entry form for a job. Returns the employee for whom records were written, nothing when none were.
-std::optional<CalendarSelection> EnterAttendance(const AttendanceJob& job, const AttendanceDoors& doors,
-                                                 QWidget* parent);
+std::optional<CalendarSelection> EnterAttendance(const AttendanceJob& job, QWidget* parent);

@@ -4,7 +4,7 @@
 #include "attendance/frm_attendance.h"
 #include "attendance/frm_attendance_pages.h"
 #include "foundation/common_services.h"
-#include "foundation/not_yet.h"
+#include "foundation/forms.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -48,12 +48,8 @@ bool frmAttendance::FindApprovers()
 {
     if (entry_.Kind != AttendanceKind::Submit)
         return true;
-    if (entry_.FirstApprover == 0) {
-        if (doors_.ShowGetApprovedBy)
-            doors_.ShowGetApprovedBy(entry_);
-        else
-            TellNotYet("frmGetApprovedBy");
-    }
+    if (entry_.FirstApprover == 0)
+        OpenAbove(FormsAbove.ShowGetApprovedBy, entry_);
     if (entry_.FirstApprover == 0)
         return false;
     GetApprovalNames(datAbsence, entry_);
@@ -81,8 +77,8 @@ bool frmAttendance::SubmitAttendance()
     if (!ConfirmSubmission(entry_))
         return false;
     ::SubmitAttendance(datAbsence, entry_);
-    if (doors_.SendRequestNotice)
-        doors_.SendRequestNotice(entry_);
+    if (FormsAbove.SendRequestNotice)
+        FormsAbove.SendRequestNotice(entry_);
     TellSubmitted(entry_);
     return true;
 }
@@ -116,10 +112,9 @@ void frmAttendance::cmdQuit_Click()
     done(updated_ ? Accepted : Rejected);
 }
 
-std::optional<CalendarSelection> EnterAttendance(const AttendanceJob& job, const AttendanceDoors& doors,
-                                                 QWidget* parent)
+std::optional<CalendarSelection> EnterAttendance(const AttendanceJob& job, QWidget* parent)
 {
-    frmAttendance form(job, doors, parent);
+    frmAttendance form(job, parent);
     if (ShowModal(form) != QDialog::Accepted)
         return std::nullopt;
     return form.Entry();

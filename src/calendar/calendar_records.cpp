@@ -7,7 +7,7 @@
 
 namespace
 {
-std::pair<QString, int> Scope()
+std::pair<QString, int> ShownUnit()
 {
     const Session& s = SessionState;
     if (s.EmployeeID != 0)
@@ -28,7 +28,7 @@ const char* kTimesOfRecord =
 
 ScopeFilter CalendarScope()
 {
-    const auto [scope, id] = Scope();
+    const auto [scope, id] = ShownUnit();
     ScopeFilter filter{scope, id, SessionState.SelectedCategoryID};
     filter.Sql += filter.Category > 0 ? " AND Attendance.CategoryID = ?2" : " AND ?2 = 0";
     if (SessionState.AccessToRestrictedCategory == 0)

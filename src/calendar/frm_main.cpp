@@ -1,6 +1,5 @@
 #include "calendar/frm_main.h"
 
-#include "calendar/access_rules.h"
 #include "calendar/frm_main_calendar.h"
 #include "calendar/frm_main_header.h"
 #include "calendar/frm_main_legend.h"
@@ -26,7 +25,6 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
 {
     BuildControls();
     ConnectControls();
-    HandDownForms();
 }
 
 void frmMain::BuildControls()
@@ -34,7 +32,7 @@ void frmMain::BuildControls()
     setObjectName("frmMain");
     setWindowIcon(PictureIcon("app"));
     resize(1280, 860);
-    menus_ = std::make_unique<MainMenus>(menuBar(), MenuCommands());
+    menus_ = std::make_unique<MainMenus>(menuBar(), [this](const Command& command) { Run(command); });
     toolBar_ = new ToolBar;
     header_ = new MainHeader;
     pane_ = new CalendarPane;
@@ -62,9 +60,7 @@ void frmMain::BuildControls()
 
 void frmMain::ConnectControls()
 {
-    toolBar_->Hovered = [this](const QString& tool) { hoveredTool_ = tool; };
-    toolBar_->Clicked = [this] { ToolClicked(); };
-    header_->YearChanged = [this](Neighbour direction) { ChangeToYear(direction); };
+    toolBar_->Chosen = header_->YearChosen = [this](const Command& command) { Run(command); };
     header_->CategoryChosen = [this](int category) { SelectCategory(category); };
     legend_->CategoryClicked = [this](int category) {
         header_->SelectCategory(category);
@@ -183,25 +179,21 @@ void frmMain::ReloadSelection()
 
 void frmMain::ActivateAllowedControls()
 {
-    for (const char* menu : {"mnuFile", "mnuReports", "mnuSchedule", "mnuSpecial", "mnuHelp"})
-        menus_->Action(menu)->setEnabled(true);
+    menus_->ActivateBar();
     if (tools_.IsSelecting())
         return;
     menus_->ActivateAllowed();
     header_->Activate(true);
     legend_->SetUsable(true);
-    for (const QString& tool : ToolBar::Tools())
-        toolBar_->SetTool(tool, IsShown(tool), IsAllowed(tool));
+    toolBar_->ActivateAllowed();
 }
 
 void frmMain::DeactivateAllControls(const QString& usableTool)
 {
-    toolBar_->HideZoom();
+    toolBar_->Deactivate(usableTool);
     menus_->Deactivate();
     header_->Activate(false);
     legend_->SetUsable(false);
-    for (const QString& tool : ToolBar::Tools())
-        toolBar_->SetTool(tool, IsShown(tool), tool == usableTool);
 }
 
 void frmMain::ChangeToYear(Neighbour direction)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "attendance/attendance_doors.h"
 #include "calendar/calendar_tools.h"
 #include "calendar/frm_main_menus.h"
 #include "calendar/minute_work.h"
@@ -34,7 +33,20 @@ public:
 
     void timAbsence_Timer();
     void timTimeOut_Timer();
+
+    // What the commands do.
     void cmdQuit_Click();
+    void mnuFileDatabaseLocation_Click();
+    void mnuSpecialDisplayApproved_Click();
+    void mnuSpecialDisplayPending_Click();
+    void mnuSpecialSwitchLanguage_Click();
+    void mnuSpecialUpdateAdminInfo_Click();
+    void imgUpdateSelection_Click();
+    void UseTool(const QString& tool);
+    void ChangeToYear(Neighbour direction);
+    /// Shows what a form may have changed. The window is busy only meanwhile: a form left open must not keep an idle
+    /// program alive.
+    void ReloadAfterEditing();
 
     bool Busy = false;      ///< a long command runs; timers stand still
     bool TimerBusy = false; ///< the timer itself runs a step
@@ -53,10 +65,7 @@ protected:
 private:
     void BuildControls();
     void ConnectControls();
-    static void HandDownForms();
-    MainMenus::Commands MenuCommands();
-    template <typename Form>
-    void OpenEditor();
+    void Run(const Command& command);
 
     void LoadCategories();
     void LoadEmployeeInfo();
@@ -69,13 +78,6 @@ private:
 
     void Form_KeyDown(int key);
     void RunMinuteWork();
-    void imgUpdateSelection_Click();
-    void ToolClicked();
-    void ChangeToYear(Neighbour direction);
-    void mnuSpecialDisplayApproved_Click();
-    void mnuSpecialDisplayPending_Click();
-    void mnuSpecialSwitchLanguage_Click();
-    void mnuFileDatabaseLocation_Click();
 
     DataControl& Data() override { return datAbsence; }
     bool NothingRecorded() const override { return total_ == 0; }
@@ -94,8 +96,6 @@ private:
     YearCalendar calendar_;
     QVector<Holiday> holidays_;
     CalendarTools tools_{*this};
-    QString hoveredTool_; ///< the image under the mouse, empty none
-    AttendanceDoors attendanceDoors_;
     MinuteWork minuteWork_;
     float total_ = 0;
     bool CalendarLoaded = false;

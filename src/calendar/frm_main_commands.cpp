@@ -4,20 +4,15 @@
 #include "calendar/frm_main_header.h"
 #include "calendar/frm_main_legend.h"
 #include "calendar/frm_main_tool_bar.h"
-#include "employees/frm_employees.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
-#include "foundation/frm_about.h"
-#include "foundation/frm_change_password.h"
+#include "foundation/forms.h"
 #include "foundation/frm_update_admin_info.h"
-#include "foundation/not_yet.h"
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
 #include "foundation/user_profile.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
-#include "reference/frm_unit.h"
-#include "reports/frm_lists.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
 #include "selection/frm_select_employee.h"
@@ -28,54 +23,20 @@ namespace
 {
 constexpr int kMinute = 60'000;
 constexpr int kShutDownSeconds = 60;
-
-template <typename Form>
-void Open(QWidget* parent)
-{
-    Form form(parent);
-    ShowModal(form);
-}
 } // namespace
 
-/// Opens a form that may change what the calendar and its lists show. The window is busy only with the reload: a form
-/// left open must not keep an idle program alive.
-template <typename Form>
-void frmMain::OpenEditor()
+void frmMain::Run(const Command& command)
 {
-    Open<Form>(this);
+    if (command.Opens)
+        command.Opens(*this);
+    else
+        TellNotYet();
+}
+
+void frmMain::ReloadAfterEditing()
+{
     const LoadingGuard busy(Busy);
     ReloadSelection();
-}
-
-/// Hands the floors below the forms that stand above them.
-void frmMain::HandDownForms()
-{
-    frmEmployees::ShowEmployeesList = [](QWidget* parent) {
-        frmLists list(ListKind::Employees, parent);
-        ShowModal(list);
-    };
-}
-
-MainMenus::Commands frmMain::MenuCommands()
-{
-    return {
-        {"mnuFileOrganizations", [this] { OpenEditor<frmOrganizations>(); }},
-        {"mnuFileDepartments", [this] { OpenEditor<frmDepartments>(); }},
-        {"mnuFileGroups", [this] { OpenEditor<frmGroups>(); }},
-        {"mnuFileEmployees", [this] { OpenEditor<frmEmployees>(); }},
-        {"mnuFileDatabaseLocation", [this] { mnuFileDatabaseLocation_Click(); }},
-        {"mnuFileExit", [this] { cmdQuit_Click(); }},
-        {"mnuSpecialDisplayApproved", [this] { mnuSpecialDisplayApproved_Click(); }},
-        {"mnuSpecialDisplayPending", [this] { mnuSpecialDisplayPending_Click(); }},
-        {"mnuSpecialSwitchLanguage", [this] { mnuSpecialSwitchLanguage_Click(); }},
-        {"mnuSpecialChangePassword", [this] { Open<frmChangePassword>(this); }},
-        {"mnuSpecialUpdateAdminInfo",
-         [this] {
-             Open<frmUpdateAdminInfo>(this);
-             LoadAdministratorInfo(datAbsence);
-         }},
-        {"mnuHelpAbout", [this] { Open<frmAbout>(this); }},
-    };
 }
 
 void frmMain::mnuFileDatabaseLocation_Click()
@@ -118,23 +79,23 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
     ReloadCalendar();
 }
 
-void frmMain::ToolClicked()
+void frmMain::mnuSpecialUpdateAdminInfo_Click()
 {
-    if (hoveredTool_ == "imgUpdateSelection")
-        imgUpdateSelection_Click();
-    else if (hoveredTool_ == "imgApprove")
-        TellNotYet("frmApproval");
-    else
-        tools_.imgZoom_Click(hoveredTool_);
+    frmUpdateAdminInfo form(this);
+    ShowModal(form);
+    LoadAdministratorInfo(datAbsence);
+}
+
+void frmMain::UseTool(const QString& tool)
+{
+    tools_.imgZoom_Click(tool);
 }
 
 void frmMain::imgUpdateSelection_Click()
 {
     frmSelectEmployee form(this);
-    if (ShowModal(form) != QDialog::Accepted)
-        return;
-    const LoadingGuard busy(Busy);
-    ReloadSelection();
+    if (ShowModal(form) == QDialog::Accepted)
+        ReloadAfterEditing();
 }
 
 void frmMain::ShowHint(const QString& hint)
@@ -165,7 +126,7 @@ void frmMain::RefreshDate(int date)
 /// The calendar keeps what it shows, and follows to another employee only when records were written for him.
 void frmMain::ShowAttendance(const AttendanceJob& job)
 {
-    if (const auto written = EnterAttendance(job, attendanceDoors_, this)) {
+    if (const auto written = EnterAttendance(job, this)) {
         const bool another = written->EmployeeID != SessionState.EmployeeID;
         static_cast<CalendarSelection&>(SessionState) = *written;
         if (another)
@@ -189,7 +150,7 @@ int frmMain::SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& 
 
 void frmMain::RemoveMarkedRecords(const QVector<int>& /*records*/)
 {
-    TellNotYet("imgRemove_Click");
+    TellNotYet();
 }
 
 void frmMain::DisplayDailyAttendance(int date)

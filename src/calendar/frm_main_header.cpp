@@ -1,6 +1,5 @@
 #include "calendar/frm_main_header.h"
 
-#include "calendar/access_rules.h"
 #include "foundation/texts.h"
 #include "platform/controls/form_kit.h"
 #include "reference/category_list.h"
@@ -9,17 +8,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-
-namespace
-{
-QPushButton* YearButton(const QString& name, const QString& picture)
-{
-    auto* button = Named<QPushButton>(name);
-    button->setProperty("look", "arrow");
-    button->setIcon(PictureIcon(picture));
-    return button;
-}
-} // namespace
 
 MainHeader::MainHeader(QWidget* parent) : QWidget(parent)
 {
@@ -48,16 +36,14 @@ QFrame* MainHeader::BuildYearCard()
     lblFiscalYear = AsFigure(Named<QLabel>("lblFiscalYear"));
     lblFiscalYear->setAlignment(Qt::AlignCenter);
     lblFiscalYear->setMinimumWidth(110);
-    cmdPreviousYear = YearButton("cmdPreviousYear", "previous");
-    cmdNextYear = YearButton("cmdNextYear", "next");
+    for (const Command* command : CommandsIn(Place::Years))
+        years_.push_back({*command, YearButton(*command)});
     lblCurrentSelection = AsCaption(Named<QLabel>("lblCurrentSelection"));
     lblCurrentSelection_DISPLAY = AsFigure(Named<QLabel>("lblCurrentSelection_DISPLAY"));
     lblCategories = AsCaption(Named<QLabel>("lblCategories"));
     cboCategories = Named<QComboBox>("cboCategories");
     cboCategories->setMinimumWidth(240);
     lblCategories->setBuddy(cboCategories);
-    connect(cmdPreviousYear, &QPushButton::clicked, this, [this] { YearChanged(Neighbour::Previous); });
-    connect(cmdNextYear, &QPushButton::clicked, this, [this] { YearChanged(Neighbour::Next); });
     connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);
 
     auto* grid = new QGridLayout;
@@ -65,14 +51,23 @@ QFrame* MainHeader::BuildYearCard()
     grid->setColumnStretch(4, 1);
     grid->setColumnMinimumWidth(3, 16);
     grid->addWidget(lblFiscalYearCaption, 0, 0, 1, 3);
-    grid->addWidget(cmdPreviousYear, 1, 0);
+    grid->addWidget(years_.front().Button, 1, 0);
     grid->addWidget(lblFiscalYear, 1, 1);
-    grid->addWidget(cmdNextYear, 1, 2);
+    grid->addWidget(years_.back().Button, 1, 2);
     grid->addWidget(lblCurrentSelection, 0, 4);
     grid->addWidget(lblCurrentSelection_DISPLAY, 1, 4);
     grid->addWidget(lblCategories, 0, 5);
     grid->addWidget(cboCategories, 1, 5);
     return MakeCard(grid);
+}
+
+QPushButton* MainHeader::YearButton(const Command& command)
+{
+    auto* button = Named<QPushButton>(command.Name);
+    button->setProperty("look", "arrow");
+    button->setIcon(PictureIcon(command.Picture));
+    connect(button, &QPushButton::clicked, this, [this, &command] { YearChosen(command); });
+    return button;
 }
 
 QFrame* MainHeader::BuildFigureCard(QLabel* caption, QLabel* figure)
@@ -90,10 +85,10 @@ void MainHeader::LoadCaptions()
     lblCategories->setText(T("Ca&tegory", "Ca&tégorie"));
     lblTotalForTheYear->setText(T("Total for the year", "Total pour l'année"));
     lblTimeBanked->setText(T("Time bank", "Banque de temps"));
-    cmdPreviousYear->setToolTip(T("Previous fiscal year", "Année fiscale précédente"));
-    cmdNextYear->setToolTip(T("Next fiscal year", "Année fiscale suivante"));
-    for (QPushButton* button : {cmdPreviousYear, cmdNextYear})
+    for (const auto& [command, button] : years_) {
+        button->setToolTip(T(command.Tip));
         button->setAccessibleName(button->toolTip());
+    }
 }
 
 void MainHeader::LoadCategories(DataControl& datAbsence)
@@ -161,6 +156,6 @@ void MainHeader::ShowTimeOut(const QString& announcement)
 void MainHeader::Activate(bool active)
 {
     cboCategories->setEnabled(active);
-    cmdPreviousYear->setEnabled(active && IsAllowed("cmdPreviousYear"));
-    cmdNextYear->setEnabled(active && IsAllowed("cmdNextYear"));
+    for (const auto& [command, button] : years_)
+        button->setEnabled(active && command.Allowed.Holds());
 }

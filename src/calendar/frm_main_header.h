@@ -1,10 +1,9 @@
 #pragma once
 
-#include "calendar/year_change.h"
+#include "calendar/frm_main_command_table.h"
+#include "platform/dao/dao.h"
 
 #include <QWidget>
-
-#include <functional>
 
 class QComboBox;
 class QFrame;
@@ -18,7 +17,7 @@ class MainHeader : public QWidget
 public:
     explicit MainHeader(QWidget* parent = nullptr);
 
-    std::function<void(Neighbour)> YearChanged;
+    std::function<void(const Command&)> YearChosen;
     std::function<void(int categoryID)> CategoryChosen;
 
     void LoadCaptions();
@@ -33,14 +32,20 @@ public:
     void Activate(bool active);
 
 private:
+    struct Year
+    {
+        const Command& Of;
+        QPushButton* Button;
+    };
+
     QFrame* BuildYearCard();
+    QPushButton* YearButton(const Command& command);
     QFrame* BuildFigureCard(QLabel* caption, QLabel* figure);
     void cboCategories_Click();
 
     QLabel* lblFiscalYearCaption = nullptr;
     QLabel* lblFiscalYear = nullptr;
-    QPushButton* cmdPreviousYear = nullptr;
-    QPushButton* cmdNextYear = nullptr;
+    std::vector<Year> years_; ///< the way to the previous and to the next one
     QLabel* lblCurrentSelection = nullptr;
     QLabel* lblCurrentSelection_DISPLAY = nullptr;
     QLabel* lblCategories = nullptr;

@@ -1,32 +1,32 @@
 #pragma once
 
-#include <QHash>
-#include <QString>
-
-#include <functional>
+#include "calendar/frm_main_command_table.h"
 
 class QAction;
 class QMenuBar;
 
-/// The menus of the main window. Every entry bears its name; what an entry does is told by the window, and an entry
-/// whose form is still to come says so.
+/// The menus of the main window. Every entry bears its command's name and hands the command to `run` when it is chosen.
 class MainMenus
 {
 public:
-    using Commands = QHash<QString, std::function<void()>>;
+    using Run = std::function<void(const Command&)>;
 
-    MainMenus(QMenuBar* bar, const Commands& commands);
+    MainMenus(QMenuBar* bar, const Run& run);
 
     void LoadCaptions();
     /// Disables all menus while a command is in progress.
     void Deactivate();
-    /// Enables the menus, and every entry by its access rule.
+    /// Enables the menus, and every entry by its rule.
     void ActivateAllowed();
-    QAction* Action(const QString& name) const { return actions_.value(name); }
+    /// Enables just these menus of the bar.
+    void ActivateBar();
 
 private:
-    void AddEntries(QMenuBar* bar, const Commands& commands);
-    QAction* AddEntry(const QString& name, const Commands& commands);
+    struct Item
+    {
+        const Command& Of;
+        QAction* Action;
+    };
 
-    QHash<QString, QAction*> actions_;
+    std::vector<Item> items_;
 };

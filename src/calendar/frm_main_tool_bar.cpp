@@ -1,6 +1,5 @@
 #include "calendar/frm_main_tool_bar.h"
 
-#include "foundation/texts.h"
 #include "platform/controls/form_kit.h"
 
 #include <QEvent>
@@ -12,35 +11,6 @@ namespace
 constexpr int kIconSize = 24;
 constexpr int kZoomedIconSize = 32;
 constexpr int kToolWidth = 96;
-
-struct ToolEntry
-{
-    const char* Name;
-    const char* Picture;
-    const char* English;
-    const char* French;
-    const char* EnglishTip;
-    const char* FrenchTip;
-    bool EndsGroup;
-};
-
-constexpr ToolEntry kTools[] = {
-    {"imgCreateSingle", "tool-create-single", "One date", "Une date", "New attendance record on one date",
-     "Nouvelle absence à une date", false},
-    {"imgCreateMultiple", "tool-create-multiple", "Several dates", "Plusieurs dates",
-     "New attendance records on dates marked one by one", "Nouvelles absences à des dates choisies une à une", false},
-    {"imgCreateConsecutive", "tool-create-consecutive", "A period", "Une période",
-     "New attendance records on consecutive dates", "Nouvelles absences à des dates consécutives", true},
-    {"imgSubmit", "tool-submit", "Request", "Demande", "Submit a request for leave", "Soumettre une demande de congé",
-     true},
-    {"imgModify", "tool-modify", "Modify", "Modifier", "Modify an attendance record", "Modifier une absence", false},
-    {"imgRemove", "tool-remove", "Remove", "Supprimer", "Remove attendance records", "Supprimer des absences", true},
-    {"imgApprove", "tool-approve", "Approve", "Approuver", "Approve or deny requests for leave",
-     "Approuver ou refuser des demandes de congé", false},
-    {"imgUpdateSelection", "tool-select-employee", "Employee", "Employé",
-     "Select the employee or unit shown on the calendar", "Choisir l'employé ou l'unité dont le calendrier est affiché",
-     false},
-};
 
 void AddGroupLine(QHBoxLayout* row)
 {
@@ -58,95 +28,90 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
     setObjectName("fraToolBar");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 8, 4);
-    for (const ToolEntry& tool : kTools) {
-        const QString name = tool.Name;
-        Slot& slot = slots_[name];
-        slot.Image = MakeImage(name, tool.Picture);
-        slot.Image->installEventFilter(this);
-        connect(slot.Image, &QToolButton::clicked, this, [this, name] {
-            Hovered(name);
-            Clicked();
-        });
-        slot.Disabled = MakeImage(name + "_DISABLED", tool.Picture);
-        slot.Disabled->setEnabled(false);
-        slot.Disabled->hide();
-        row->addWidget(slot.Image);
-        row->addWidget(slot.Disabled);
-        if (tool.EndsGroup)
+    for (const Command* command : CommandsIn(Place::ToolBar)) {
+        if (command->AfterLine)
             AddGroupLine(row);
+        const Tool tool{*command, MakeImage(*command, command->Name), MakeImage(*command, command->Name + "_DISABLED")};
+        tool.Image->installEventFilter(this);
+        connect(tool.Image, &QToolButton::clicked, this, [this, command] { Chosen(*command); });
+        tool.Disabled->setEnabled(false);
+        tool.Disabled->hide();
+        row->addWidget(tool.Image);
+        row->addWidget(tool.Disabled);
+        tools_.push_back(tool);
     }
     row->addStretch();
 
-    imgZoom = MakeImage("imgZoom", {});
+    imgZoom = MakeImage(tools_.front().Of, "imgZoom");
     imgZoom->setParent(this);
     imgZoom->setIconSize(QSize(kZoomedIconSize, kZoomedIconSize));
     imgZoom->setFocusPolicy(Qt::NoFocus);
     imgZoom->hide();
-    connect(imgZoom, &QToolButton::clicked, this, [this] { Clicked(); });
+    connect(imgZoom, &QToolButton::clicked, this, [this] { Chosen(*hovered_); });
 }
 
-QToolButton* ToolBar::MakeImage(const QString& name, const QString& picture)
+QToolButton* ToolBar::MakeImage(const Command& command, const QString& name)
 {
     auto* image = Named<QToolButton>(name);
     image->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     image->setIconSize(QSize(kIconSize, kIconSize));
     image->setMinimumWidth(kToolWidth);
     image->setAutoRaise(true);
-    if (!picture.isEmpty())
-        image->setIcon(PictureIcon(picture));
+    image->setIcon(PictureIcon(command.Picture));
     return image;
-}
-
-QStringList ToolBar::Tools()
-{
-    QStringList names;
-    for (const ToolEntry& tool : kTools)
-        names << tool.Name;
-    return names;
 }
 
 void ToolBar::LoadCaptions()
 {
-    for (const ToolEntry& tool : kTools)
-        for (QToolButton* image : {slots_[tool.Name].Image, slots_[tool.Name].Disabled}) {
-            image->setText(T(tool.English, tool.French));
-            image->setToolTip(T(tool.EnglishTip, tool.FrenchTip));
+    for (const Tool& tool : tools_)
+        for (QToolButton* image : {tool.Image, tool.Disabled}) {
+            image->setText(T(tool.Of.Caption));
+            image->setToolTip(T(tool.Of.Tip));
         }
 }
 
-void ToolBar::SetTool(const QString& tool, bool shown, bool enabled)
+void ToolBar::ActivateAllowed()
 {
-    Slot& slot = slots_.at(tool);
-    slot.Image->setVisible(shown && enabled);
-    slot.Disabled->setVisible(shown && !enabled);
+    for (const Tool& tool : tools_)
+        SetTool(tool, tool.Of.Allowed.Holds());
 }
 
-void ToolBar::ShowZoom(QToolButton* image)
-{
-    imgZoom->setText(image->text());
-    imgZoom->setIcon(image->icon());
-    imgZoom->setToolTip(image->toolTip());
-    imgZoom->setGeometry(image->geometry());
-    imgZoom->show();
-    imgZoom->raise();
-    Hovered(image->objectName());
-}
-
-void ToolBar::HideZoom()
+void ToolBar::Deactivate(const QString& usableTool)
 {
     imgZoom->hide();
-    Hovered({});
+    for (const Tool& tool : tools_)
+        SetTool(tool, tool.Of.Name == usableTool);
+}
+
+void ToolBar::SetTool(const Tool& tool, bool enabled)
+{
+    const bool shown = tool.Of.Shown.Holds();
+    tool.Image->setVisible(shown && enabled);
+    tool.Disabled->setVisible(shown && !enabled);
+}
+
+void ToolBar::ShowZoom(const Tool& tool)
+{
+    hovered_ = &tool.Of;
+    imgZoom->setText(tool.Image->text());
+    imgZoom->setIcon(tool.Image->icon());
+    imgZoom->setToolTip(tool.Image->toolTip());
+    imgZoom->setGeometry(tool.Image->geometry());
+    imgZoom->show();
+    imgZoom->raise();
 }
 
 bool ToolBar::eventFilter(QObject* target, QEvent* event)
 {
     if (event->type() == QEvent::Enter)
-        ShowZoom(static_cast<QToolButton*>(target));
+        for (const Tool& tool : tools_)
+            if (tool.Image == target)
+                ShowZoom(tool);
     return QFrame::eventFilter(target, event);
 }
 
 void ToolBar::leaveEvent(QEvent* event)
 {
-    HideZoom();
+    imgZoom->hide();
     QFrame::leaveEvent(event);
 }

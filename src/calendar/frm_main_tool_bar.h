@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QFrame>
+#include "calendar/frm_main_command_table.h"
 
-#include <functional>
-#include <map>
+#include <QFrame>
 
 class QToolButton;
 
@@ -14,28 +13,31 @@ class ToolBar : public QFrame
 public:
     explicit ToolBar(QWidget* parent = nullptr);
 
-    std::function<void(const QString& tool)> Hovered; ///< the image under the mouse, empty when it left
-    std::function<void()> Clicked;                    ///< the hovered tool was clicked
+    std::function<void(const Command&)> Chosen; ///< a tool was clicked
 
     void LoadCaptions();
-    void SetTool(const QString& tool, bool shown, bool enabled);
-    void HideZoom();
-    static QStringList Tools();
+    /// Shows the tools that are to be seen, and enables them by their rules.
+    void ActivateAllowed();
+    /// Disables all tools but one, "" for none.
+    void Deactivate(const QString& usableTool);
 
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
-    struct Slot
+    struct Tool
     {
-        QToolButton* Image = nullptr;
-        QToolButton* Disabled = nullptr;
+        const Command& Of;
+        QToolButton* Image;
+        QToolButton* Disabled;
     };
 
-    QToolButton* MakeImage(const QString& name, const QString& picture);
-    void ShowZoom(QToolButton* image);
+    static QToolButton* MakeImage(const Command& command, const QString& name);
+    static void SetTool(const Tool& tool, bool enabled);
+    void ShowZoom(const Tool& tool);
 
-    std::map<QString, Slot> slots_;
+    std::vector<Tool> tools_;
+    const Command* hovered_ = nullptr; ///< the tool under imgZoom
     QToolButton* imgZoom = nullptr;
 };

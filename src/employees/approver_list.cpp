@@ -1,8 +1,9 @@
 #include "employees/approver_list.h"
 
 #include "foundation/connection.h"
+#include "foundation/levels.h"
+#include "foundation/names.h"
 #include "foundation/rows.h"
-#include "foundation/session_state.h"
 #include "foundation/texts.h"
 
 namespace
@@ -16,24 +17,29 @@ struct Block
     int UnitID = 0;
 };
 
+/// Those who stand in a unit of the record and in none below it, with the name of the unit that `location` tells.
+Block UnitBlock(const Level& unit, int unitID, const Level& location, const QString& noneBelow)
+{
+    return {Fill("SELECT Employees.FamilyName, Employees.FirstName, Employees.RecordID, {name} AS Location "
+                 "FROM Employees, {kind}s WHERE {id} = {kind}s.RecordID AND {column} = ?{none}",
+                 {{"name", location.Name + ("s." + NameColumn(location.Name))},
+                  {"kind", location.Name},
+                  {"id", location.Column},
+                  {"column", unit.Column},
+                  {"none", noneBelow}}),
+            unitID};
+}
+
 QVector<Block> BlocksOf(const EmployeeRecord& record)
 {
-    const QString select = "SELECT Employees.FamilyName, Employees.FirstName, Employees.RecordID, ";
-    const QString department = select + T("Departments.DepartmentEnglishName", "Departments.DepartmentFrenchName") +
-                               " AS Location FROM Employees, Departments WHERE Employees.DepartmentID = "
-                               "Departments.RecordID AND ";
-    const QString organization = select +
-                                 T("Organizations.OrganizationEnglishName", "Organizations.OrganizationFrenchName") +
-                                 " AS Location FROM Employees, Organizations WHERE Employees.OrganizationID = "
-                                 "Organizations.RecordID AND ";
     QVector<Block> blocks;
     if (record.GroupID != 0)
-        blocks.append({department + "Employees.GroupID = ?", record.GroupID});
+        blocks.append(UnitBlock(kGroupLevel, record.GroupID, kDepartmentLevel, ""));
     if (record.DepartmentID != 0)
-        blocks.append({department + "Employees.DepartmentID = ? AND Employees.GroupID = 0", record.DepartmentID});
+        blocks.append(UnitBlock(kDepartmentLevel, record.DepartmentID, kDepartmentLevel, " AND Employees.GroupID = 0"));
     if (record.OrganizationID != 0)
-        blocks.append(
-            {organization + "Employees.OrganizationID = ? AND Employees.DepartmentID = 0", record.OrganizationID});
+        blocks.append(UnitBlock(kOrganizationLevel, record.OrganizationID, kOrganizationLevel,
+                                " AND Employees.DepartmentID = 0"));
     blocks.append({"SELECT FamilyName, FirstName, RecordID FROM Employees WHERE GlobalLevelCreate = ?", 1});
     return blocks;
 }
@@ -45,17 +51,12 @@ QString WholeStatement(const Block& block)
                              "ORDER BY Employees.FamilyName ASC, Employees.FirstName ASC";
 }
 
-QString NameOf(const Recordset& employee)
-{
-    return employee.Text("FamilyName").trimmed() + ", " + employee.Text("FirstName").trimmed();
-}
-
 QString Listed(const Recordset& employee)
 {
     if (!employee.Columns().contains("Location"))
-        return NameOf(employee);
+        return ListedName(employee);
     const QString location = employee.Text("Location").left(kLocationWidth).trimmed();
-    return location.leftJustified(kLocationWidth) + " / " + NameOf(employee);
+    return location.leftJustified(kLocationWidth) + " / " + ListedName(employee);
 }
 } // namespace
 
@@ -69,9 +70,8 @@ QVector<Approver> LoadApprovedBy_ACCESS(DataControl& datAbsence, const EmployeeR
     const Connection connection(datAbsence);
     QVector<Approver> approvers;
     for (const Block& block : BlocksOf(record))
-        for (Recordset employee =
-                 datAbsence.Select(WholeStatement(block), block.UnitID, SessionState.FiscalYearID, record.RecordID);
-             !employee.AtEnd(); employee.MoveNext())
+        for (const Recordset& employee :
+             datAbsence.Select(WholeStatement(block), block.UnitID, SessionState.FiscalYearID, record.RecordID))
             approvers.append({employee.Long("RecordID"), Listed(employee)});
     return approvers;
 }
@@ -92,5 +92,5 @@ QString ApproverName(DataControl& datAbsence, int recordID)
     const Connection connection(datAbsence);
     if (!datAbsence.Read("SELECT FamilyName, FirstName FROM Employees WHERE RecordID = ?", recordID))
         return {};
-    return NameOf(datAbsence.Records);
+    return ListedName(datAbsence.Records);
 }

@@ -3,47 +3,47 @@
 #include "employees/security_profile_rules.h"
 #include "employees/work_schedule_rules.h"
 #include "foundation/connection.h"
+#include "foundation/levels.h"
+#include "foundation/names.h"
 #include "foundation/session_rows.h"
-#include "foundation/texts.h"
 
 namespace
 {
 /// The employees of one's own unit, whose location goes without saying.
-Recordset SelectOfUnit(DataControl& datAbsence, const char* column, int unit)
+Recordset SelectOfUnit(DataControl& datAbsence, const Level& level)
 {
     return datAbsence.Select(QStringLiteral("SELECT FamilyName, FirstName, RecordID, '' AS Location FROM Employees "
                                             "WHERE FiscalYear = ? AND %1 = ? ORDER BY FamilyName ASC, FirstName ASC")
-                                 .arg(column),
-                             SessionState.FiscalYearID, unit);
+                                 .arg(level.Column),
+                             SessionState.FiscalYearID, level.Unit());
 }
 
-/// The employees with the name of their unit; `kind` begins the names of its table and columns.
-Recordset SelectWithLocation(DataControl& datAbsence, const QString& kind, int organizationID)
+/// The employees of an organization, or of all when it is 0, with the name of their unit at that level.
+Recordset SelectWithLocation(DataControl& datAbsence, const Level& level, int organizationID)
 {
     return datAbsence.Select(
         QStringLiteral("SELECT Employees.FamilyName, Employees.FirstName, Employees.RecordID, %1s.%2 AS Location "
                        "FROM Employees, %1s WHERE Employees.%1ID = %1s.RecordID AND Employees.FiscalYear = ?1 AND "
                        "(?2 = 0 OR Employees.OrganizationID = ?2) "
                        "ORDER BY %1s.%2 ASC, Employees.FamilyName ASC, Employees.FirstName ASC")
-            .arg(kind, kind + T("EnglishName", "FrenchName")),
+            .arg(level.Name, NameColumn(level.Name)),
         SessionState.FiscalYearID, organizationID);
 }
 
+/// It is the position of the user that counts here, not his rights.
 Recordset SelectInReach(DataControl& datAbsence)
 {
-    if (SessionState.UserGroupID != 0)
-        return SelectOfUnit(datAbsence, "GroupID", SessionState.UserGroupID);
-    if (SessionState.UserDepartmentID != 0)
-        return SelectOfUnit(datAbsence, "DepartmentID", SessionState.UserDepartmentID);
-    return SelectWithLocation(datAbsence, SessionState.UserOrganizationID != 0 ? "Department" : "Organization",
-                              SessionState.UserOrganizationID);
+    for (const Level* own : {&kGroupLevel, &kDepartmentLevel})
+        if (own->Unit() != 0)
+            return SelectOfUnit(datAbsence, *own);
+    const int organization = kOrganizationLevel.Unit();
+    return SelectWithLocation(datAbsence, organization != 0 ? kDepartmentLevel : kOrganizationLevel, organization);
 }
 
 QString SourceListed(const Recordset& row)
 {
-    const QString name = row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed();
     const QString location = row.Text("Location").trimmed();
-    return location.isEmpty() ? name : location + " / " + name;
+    return location.isEmpty() ? ListedName(row) : location + " / " + ListedName(row);
 }
 
 void TakeWorkplace(const EmployeeRow& source, EmployeeRecord& record)
@@ -68,7 +68,7 @@ QVector<CloneSource> LoadCloneSources(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     QVector<CloneSource> sources;
-    for (Recordset row = SelectInReach(datAbsence); !row.AtEnd(); row.MoveNext())
+    for (const Recordset& row : SelectInReach(datAbsence))
         sources.append({row.Long("RecordID"), SourceListed(row)});
     return sources;
 }

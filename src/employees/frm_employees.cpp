@@ -10,6 +10,7 @@
 #include "employees/frm_employee_schedule_page.h"
 #include "employees/frm_transfer_employees.h"
 #include "employees/hourly_rate.h"
+#include "foundation/forms.h"
 #include "foundation/frm_input_box.h"
 #include "reference/employees_list.h"
 #include "selection/frm_select_employee.h"
@@ -92,8 +93,6 @@ void TellDeactivated(const EmployeeRecord& record)
          Face::Warning);
 }
 } // namespace
-
-std::function<void(QWidget*)> frmEmployees::ShowEmployeesList;
 
 frmEmployees::frmEmployees(QWidget* parent)
     : EditingForm("frmEmployees", parent, {{"Ca&ncel", "A&nnuler"}, {"&Close", "&Fermer"}, {}})
@@ -416,6 +415,5 @@ void frmEmployees::cmdListRecords_Click()
         const BusyPointer busy;
         ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
     }
-    if (ShowEmployeesList)
-        ShowEmployeesList(this);
+    OpenAbove(FormsAbove.ShowEmployeesList, this);
 }

@@ -17,9 +17,6 @@ public:
     explicit frmEmployees(QWidget* parent = nullptr);
     ~frmEmployees() override;
 
-    /// Shows the printable list of employees; set once by the program.
-    static std::function<void(QWidget*)> ShowEmployeesList;
-
 protected:
     void Form_Activate() override;
     bool Begin(EditingMode mode) override;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/employee_rights.h"
+#include "foundation/levels.h"
 
 #include <array>
 #include <vector>
@@ -8,14 +8,12 @@
 /// A check box of the security profile and the right that it stands for.
 struct ProfileBox
 {
-    const char* Name;
+    QString Name;
     Right Member;
 };
 
 /// The boxes of the employee file: fifteen of levels by kinds of access (viewing, adding, all), four single rights and
 /// five modules. The module of organizations has none and is never granted here.
-inline constexpr int kLevels = 5; ///< Global, Organization, Department, Group, Individual
-inline constexpr int kKinds = 3;  ///< ReadOnly, CreateOnly, Absolute
 extern const std::array<std::array<ProfileBox, kKinds>, kLevels> kLevelBoxes;
 extern const std::array<ProfileBox, 4> kSingleRightBoxes;
 extern const std::array<ProfileBox, 5> kModuleBoxes;
@@ -23,17 +21,9 @@ extern const std::array<ProfileBox, 5> kModuleBoxes;
 /// All of them, in that order.
 std::vector<ProfileBox> ProfileBoxes();
 
-/// Checking a box checks what its right includes, clearing it clears what includes it. Complete as it stands: what is
-/// moved along moves nothing further.
-struct Implication
-{
-    Right Box;
-    std::vector<Right> Checks;
-    std::vector<Right> Unchecks;
-};
-const std::vector<Implication>& Implications();
-
-/// A box was checked or cleared by the user.
+/// A box was checked or cleared by the user. Checking it checks what its right includes, clearing it clears what
+/// includes it: less access, and at the four upper levels the levels below. Whoever maintains categories sees the
+/// hidden ones.
 void ChangeRight(SecurityProfile& profile, Right box, bool granted);
 
 /// The boxes take over what a row says: whoever maintains categories sees the hidden ones whatever the row says, and

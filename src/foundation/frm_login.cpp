@@ -2,6 +2,7 @@
 
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/forms.h"
 #include "foundation/log_in.h"
 #include "platform/program.h"
 
@@ -14,8 +15,6 @@ constexpr int kNameLimit = 50;
 constexpr int kPasswordLimit = 15;
 constexpr int kFieldsWidth = 240;
 } // namespace
-
-std::function<void(DataControl&)> frmLogin::UpgradeProbes;
 
 frmLogin::frmLogin(int year, const QString& changingTo, QWidget* parent)
     : FormBase("frmLogin", parent), FiscalYearID(year), FiscalYearName(changingTo)
@@ -59,8 +58,8 @@ void frmLogin::cmdOK_Click()
 bool frmLogin::LogIn()
 {
     const Connection connection(datAbsence);
-    if (UpgradeProbes)
-        UpgradeProbes(datAbsence);
+    if (FormsAbove.UpgradeProbes)
+        FormsAbove.UpgradeProbes(datAbsence);
     if (!TakesUser()) {
         Tell(T("Access denied!...", "Accès refusé!..."),
              T("The username and password you specified are invalid!",

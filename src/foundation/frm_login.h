@@ -2,8 +2,6 @@
 
 #include "foundation/frm_base.h"
 
-#include <functional>
-
 /// The log-in, at the start and when the user moves to a year that has no record of him.
 class frmLogin : public FormBase
 {
@@ -11,9 +9,6 @@ public:
     /// The users of `year` (FiscalYears.RecordID) may enter. `changingTo` is its name when the user moves to it: Cancel
     /// then goes back; otherwise it ends the program.
     explicit frmLogin(int year, const QString& changingTo = {}, QWidget* parent = nullptr);
-
-    /// Looks for an older database at each log-in; set once by the program.
-    static std::function<void(DataControl&)> UpgradeProbes;
 
     void reject() override { cmdCancel_Click(); }
 

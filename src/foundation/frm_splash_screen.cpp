@@ -3,6 +3,7 @@
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/deployment.h"
+#include "foundation/forms.h"
 #include "foundation/frm_login.h"
 #include "foundation/start_up.h"
 #include "foundation/texts.h"
@@ -30,8 +31,7 @@ void EndWithoutFiscalYear()
 }
 } // namespace
 
-frmSplashScreen::frmSplashScreen(StartUpSteps steps, QWidget* parent)
-    : QDialog(parent, Qt::SplashScreen), steps_(std::move(steps))
+frmSplashScreen::frmSplashScreen(QWidget* parent) : QDialog(parent, Qt::SplashScreen)
 {
     setObjectName("frmSplashScreen");
     setWindowTitle("Tarvell");
@@ -52,7 +52,7 @@ void frmSplashScreen::Form_Activate()
     CleanUpProgramFolder();
     if (!LoadConfiguration()) {
         close();
-        return steps_.ShowSetUpWizard();
+        return FormsAbove.ShowSetUpWizard();
     }
     ConnectAndChooseYear();
     QFile::remove(NativePath(JoinPath(ProgramFolder(), "Restart.bat")));
@@ -61,7 +61,7 @@ void frmSplashScreen::Form_Activate()
     frmLogin login(SessionState.FiscalYearID, {}, this);
     ShowModal(login);
     const BusyPointer hourglass;
-    steps_.ShowMain();
+    FormsAbove.ShowMain();
     close();
 }
 
@@ -78,7 +78,7 @@ void frmSplashScreen::ConnectAndChooseYear()
 {
     const bool LocateNewDatabase = ConnectOrAskForAnotherDatabase(datAbsence);
     if (LocateNewDatabase)
-        LocateDatabase(datAbsence, steps_.ShowServerConnection);
+        LocateDatabase(datAbsence, [] { OpenAbove(FormsAbove.ShowServerConnection); });
     if (!ChooseCurrentFiscalYear(datAbsence))
         EndWithoutFiscalYear();
     FindNeighbouringYears(datAbsence);

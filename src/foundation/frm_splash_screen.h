@@ -4,22 +4,12 @@
 
 #include <QDialog>
 
-#include <functional>
-
-/// What the start needs of the floors above.
-struct StartUpSteps
-{
-    std::function<void()> ShowSetUpWizard;
-    std::function<void()> ShowServerConnection;
-    std::function<void()> ShowMain;
-};
-
 /// The first window: it reads the configuration, opens the database, chooses the fiscal year and hands over to log-in
 /// and main window.
 class frmSplashScreen : public QDialog
 {
 public:
-    explicit frmSplashScreen(StartUpSteps steps, QWidget* parent = nullptr);
+    explicit frmSplashScreen(QWidget* parent = nullptr);
 
     /// Runs the start; call it once the window is shown. It ends the program when there is nothing to work with.
     void Form_Activate();
@@ -28,6 +18,5 @@ private:
     bool LoadConfiguration();
     void ConnectAndChooseYear();
 
-    StartUpSteps steps_;
     DataControl datAbsence{"frmSplashScreen"};
 };

@@ -2,6 +2,8 @@
 
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/levels.h"
+#include "foundation/names.h"
 #include "foundation/texts.h"
 #include "reference/category_list.h"
 #include "reference/employees_list.h"
@@ -22,34 +24,16 @@ QStringList CategoryRow(const Recordset& category)
             category.Long("CarryOverAtYearEnd") == 1 ? T("Yes", "Oui") : T("No", "Non")};
 }
 
-/// The unit that a user below the global level sees, as a condition on the list; himself when his rights reach no
-/// unit or he stands in none.
-std::pair<QString, int> Reach()
-{
-    const Session& s = SessionState;
-    if (s.GlobalLevelRead == 1)
-        return {"? = 0", 0};
-    if (s.OrganizationLevelRead == 1 && s.UserOrganizationID != 0)
-        return {"Employees_List.OrgID = ?", s.UserOrganizationID};
-    if (s.DepartmentLevelRead == 1 && s.UserDepartmentID != 0)
-        return {"Employees_List.DeptID = ?", s.UserDepartmentID};
-    if (s.GroupLevelRead == 1 && s.UserGroupID != 0)
-        return {"Employees_List.GroupID = ?", s.UserGroupID};
-    return {"Employees_List.EmplID = ?", s.UserID};
-}
-
 QString EmployeesQuery(const QString& reach)
 {
-    return Fill("SELECT Employees_List.{org} AS Org, Employees_List.{dept} AS Dept, Employees_List.{group} AS Groupe, "
-                "Employees_List.FamilyName, Employees_List.FirstName, Employees.LoginID, Employees.Password "
-                "FROM Employees_List, Employees WHERE Employees_List.EmplID = Employees.RecordID "
-                "AND Employees_List.FiscalYear = ? AND {reach} ORDER BY Employees_List.{org} ASC, "
-                "Employees_List.{dept} ASC, Employees_List.{group} ASC, Employees_List.FamilyName ASC, "
-                "Employees_List.FirstName ASC",
-                {{"org", T("OrgEnglishName", "OrgFrenchName")},
-                 {"dept", T("DeptEnglishName", "DeptFrenchName")},
-                 {"group", T("GroupEnglishName", "GroupFrenchName")},
-                 {"reach", reach}});
+    return Fill(
+        "SELECT Employees_List.{org} AS Org, Employees_List.{dept} AS Dept, Employees_List.{group} AS Groupe, "
+        "Employees_List.FamilyName, Employees_List.FirstName, Employees.LoginID, Employees.Password "
+        "FROM Employees_List, Employees WHERE Employees_List.EmplID = Employees.RecordID "
+        "AND Employees_List.FiscalYear = ? AND {reach} ORDER BY Employees_List.{org} ASC, "
+        "Employees_List.{dept} ASC, Employees_List.{group} ASC, Employees_List.FamilyName ASC, "
+        "Employees_List.FirstName ASC",
+        {{"org", NameColumn("Org")}, {"dept", NameColumn("Dept")}, {"group", NameColumn("Group")}, {"reach", reach}});
 }
 
 QStringList EmployeeRow(const Recordset& row)
@@ -57,8 +41,7 @@ QStringList EmployeeRow(const Recordset& row)
     QStringList cells;
     for (const char* unit : {"Org", "Dept", "Groupe"})
         cells << row.Text(unit).trimmed();
-    return cells << row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed() << row.Text("LoginID")
-                 << row.Text("Password");
+    return cells << ListedName(row) << row.Text("LoginID") << row.Text("Password");
 }
 } // namespace
 
@@ -71,10 +54,12 @@ ReferenceList ListOfCategories(DataControl& datAbsence)
                        {}};
     const QString visible = SessionState.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0";
     const Connection connection(datAbsence);
-    for (Recordset row = datAbsence.Select("SELECT * FROM Categories WHERE FiscalYear = ? AND Active = 1" + visible +
-                                               " ORDER BY Categories." + CategoryNameColumn() + " ASC",
-                                           SessionState.FiscalYearID);
-         !row.AtEnd(); row.MoveNext())
+    for (const Recordset& row :
+         datAbsence.Select(QLatin1String("SELECT ") + CategoryNameColumn() +
+                               ", RequiresMonitoring, StandardEntitlement, "
+                               "CarryOverAtYearEnd FROM Categories WHERE FiscalYear = ? AND Active = 1" +
+                               visible + " ORDER BY Categories." + CategoryNameColumn() + " ASC",
+                           SessionState.FiscalYearID))
         list.Rows.append(CategoryRow(row));
     return list;
 }
@@ -88,9 +73,8 @@ ReferenceList ListOfEmployees(DataControl& datAbsence)
                        {}};
     const Connection connection(datAbsence);
     ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
-    const auto [reach, unit] = Reach();
-    for (Recordset row = datAbsence.Select(EmployeesQuery(reach), SessionState.FiscalYearID, unit); !row.AtEnd();
-         row.MoveNext())
+    const auto [reach, unit] = WidestScope(Access::Read, &Level::ListColumn);
+    for (const Recordset& row : datAbsence.Select(EmployeesQuery(reach), SessionState.FiscalYearID, unit))
         list.Rows.append(EmployeeRow(row));
     return list;
 }

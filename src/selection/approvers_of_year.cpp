@@ -1,7 +1,7 @@
 #include "selection/approvers_of_year.h"
 
 #include "foundation/connection.h"
-#include "foundation/texts.h"
+#include "foundation/names.h"
 #include "reference/employees_list.h"
 
 namespace
@@ -20,19 +20,17 @@ QVector<ListedApprover> LoadApproversList(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
-    const QStringList units = SessionState.English
-                                  ? QStringList{"OrgEnglishName", "DeptEnglishName", "GroupEnglishName"}
-                                  : QStringList{"OrgFrenchName", "DeptFrenchName", "GroupFrenchName"};
+    const QStringList units = {NameColumn("Org"), NameColumn("Dept"), NameColumn("Group")};
     QVector<ListedApprover> approvers;
-    for (Recordset row = datAbsence.Select(
-             "SELECT Employees_List.* FROM Employees_List, Employees WHERE Employees_List.EmplID = Employees.RecordID "
-             "AND Employees.IsAuthorizedToApprove = 1 AND Employees.DeactivatedDate = 0 AND Employees_List.FiscalYear "
-             "= ? "
-             "ORDER BY Employees_List." +
+    for (const Recordset& row : datAbsence.Select(
+             "SELECT EmplID, Employees_List.FamilyName, Employees_List.FirstName, " + units.join(", ") +
+                 " FROM Employees_List, Employees WHERE Employees_List.EmplID = Employees.RecordID "
+                 "AND Employees.IsAuthorizedToApprove = 1 AND Employees.DeactivatedDate = 0 AND "
+                 "Employees_List.FiscalYear "
+                 "= ? "
+                 "ORDER BY Employees_List." +
                  units.join(", Employees_List.") + ", Employees_List.FamilyName, Employees_List.FirstName",
-             SessionState.FiscalYearID);
-         !row.AtEnd(); row.MoveNext())
-        approvers.append({row.Long("EmplID"), row.Text("FamilyName").trimmed() + ", " + row.Text("FirstName").trimmed(),
-                          Place(row, units)});
+             SessionState.FiscalYearID))
+        approvers.append({row.Long("EmplID"), ListedName(row), Place(row, units)});
     return approvers;
 }

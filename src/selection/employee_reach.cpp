@@ -1,119 +1,111 @@
 #include "selection/employee_reach.h"
 
 #include "foundation/connection.h"
-#include "foundation/session_state.h"
-#include "foundation/texts.h"
+#include "foundation/levels.h"
+#include "foundation/names.h"
+
+#include <algorithm>
 
 namespace
 {
 /// Stands for a unit that no row has.
 constexpr int kNoUnit = -1;
 
-QString NameColumn(const char* kind)
+/// The level of the units in a list.
+const Level& LevelOf(ReachList list)
 {
-    return QLatin1String(kind) + T("EnglishName", "FrenchName");
+    return kLevelTable[static_cast<std::size_t>(list) + 1];
 }
 
-/// Without a unit of his own, a user whose rights end at that unit reaches only himself.
+/// The widest level that the user reads; the individual one when there is none above it.
+const Level& WidestRead()
+{
+    return *std::find_if(&kGlobalLevel, &kIndividualLevel,
+                         [](const Level& level) { return level.IsHeld(Access::Read); });
+}
+
+/// Without a unit of his own at his widest level, a user reaches only himself.
 bool ReachesAUnit()
 {
-    const Session& s = SessionState;
-    if (s.GlobalLevelRead == 1)
-        return true;
-    if (s.OrganizationLevelRead == 1)
-        return s.UserOrganizationID != 0;
-    if (s.DepartmentLevelRead == 1)
-        return s.UserDepartmentID != 0;
-    return s.GroupLevelRead == 1 && s.UserGroupID != 0;
+    const Level& widest = WidestRead();
+    return &widest != &kIndividualLevel && widest.HasUnit();
 }
 
 /// The one unit that a list is limited to: 0, all of them, for a user who reads the level above, otherwise his own.
-int OnlyUnit(int levelAbove, int ownUnit)
+int OnlyUnit(const Level& level)
 {
-    if (levelAbove == 1 && ReachesAUnit())
+    if ((&level)[-1].IsHeld(Access::Read) && ReachesAUnit())
         return 0;
-    return ownUnit > 0 ? ownUnit : kNoUnit;
+    return level.Unit() > 0 ? level.Unit() : kNoUnit;
 }
 
-template <typename MakeEntry>
-QVector<ReachEntry> Entries(Recordset row, MakeEntry makeEntry)
+/// How a list of units is read: the units that an entry selects, and which rows there are.
+struct UnitQuery
 {
+    const char* Units;
+    const char* Rows;
+};
+
+UnitQuery QueryOf(ReachList list)
+{
+    switch (list) {
+    case ReachList::Organizations:
+        return {"RecordID AS OrganizationID, 0 AS DepartmentID, 0 AS GroupID", ""};
+    case ReachList::Departments:
+        return {"OrganizationID, RecordID AS DepartmentID, 0 AS GroupID",
+                "Active = 1 AND (?2 = 0 OR OrganizationID = ?2) AND "};
+    default:
+        return {"OrganizationID, DepartmentID, RecordID AS GroupID",
+                "Active = 1 AND (?2 = 0 OR OrganizationID = ?2) AND (?3 = 0 OR DepartmentID = ?3) AND "};
+    }
+}
+
+EmployeeSelection SelectionOf(const Recordset& row, int employeeID, const QString& name)
+{
+    return {row.Long("OrganizationID"), row.Long("DepartmentID"), row.Long("GroupID"), employeeID, name};
+}
+
+QVector<ReachEntry> Units(DataControl& datAbsence, ReachList list, const EmployeeSelection& within)
+{
+    const Level& level = LevelOf(list);
+    const UnitQuery query = QueryOf(list);
     QVector<ReachEntry> entries;
-    for (; !row.AtEnd(); row.MoveNext())
-        entries.append(makeEntry(row));
+    for (const Recordset& row :
+         datAbsence.Select(Fill("SELECT {units}, {name} AS Name FROM {kind}s WHERE FiscalYear = ?1 AND {rows}"
+                                "(?4 = 0 OR RecordID = ?4) ORDER BY Name ASC",
+                                {{"units", query.Units},
+                                 {"name", NameColumn(level.Name)},
+                                 {"kind", level.Name},
+                                 {"rows", query.Rows}}),
+                           SessionState.FiscalYearID, within.OrganizationID, within.DepartmentID, OnlyUnit(level)))
+        entries.append({row.Text("Name"), SelectionOf(row, 0, row.Text("Name"))});
     return entries;
-}
-
-QVector<ReachEntry> Organizations(DataControl& datAbsence)
-{
-    const QString name = NameColumn("Organization");
-    const int only = OnlyUnit(SessionState.GlobalLevelRead, SessionState.UserOrganizationID);
-    return Entries(datAbsence.Select("SELECT * FROM Organizations WHERE FiscalYear = ? AND (? = 0 OR RecordID = ?) "
-                                     "ORDER BY " +
-                                         name + " ASC",
-                                     SessionState.FiscalYearID, only, only),
-                   [&name](const Recordset& row) {
-                       return ReachEntry{row.Text(name), {row.Long("RecordID"), 0, 0, 0, row.Text(name)}};
-                   });
-}
-
-QVector<ReachEntry> Departments(DataControl& datAbsence, const EmployeeSelection& within)
-{
-    const QString name = NameColumn("Department");
-    const int only = OnlyUnit(SessionState.OrganizationLevelRead, SessionState.UserDepartmentID);
-    return Entries(
-        datAbsence.Select("SELECT * FROM Departments WHERE FiscalYear = ? AND Active = 1 AND "
-                          "(? = 0 OR OrganizationID = ?) AND (? = 0 OR RecordID = ?) ORDER BY " +
-                              name + " ASC",
-                          SessionState.FiscalYearID, within.OrganizationID, within.OrganizationID, only, only),
-        [&name](const Recordset& row) {
-            return ReachEntry{row.Text(name), {row.Long("OrganizationID"), row.Long("RecordID"), 0, 0, row.Text(name)}};
-        });
-}
-
-QVector<ReachEntry> Groups(DataControl& datAbsence, const EmployeeSelection& within)
-{
-    const QString name = NameColumn("Group");
-    const int only = OnlyUnit(SessionState.DepartmentLevelRead, SessionState.UserGroupID);
-    return Entries(datAbsence.Select("SELECT * FROM Groups WHERE FiscalYear = ? AND Active = 1 AND "
-                                     "(? = 0 OR OrganizationID = ?) AND (? = 0 OR DepartmentID = ?) AND "
-                                     "(? = 0 OR RecordID = ?) ORDER BY " +
-                                         name + " ASC",
-                                     SessionState.FiscalYearID, within.OrganizationID, within.OrganizationID,
-                                     within.DepartmentID, within.DepartmentID, only, only),
-                   [&name](const Recordset& row) {
-                       return ReachEntry{row.Text(name),
-                                         {row.Long("OrganizationID"), row.Long("DepartmentID"), row.Long("RecordID"), 0,
-                                          row.Text(name)}};
-                   });
 }
 
 QVector<ReachEntry> Employees(DataControl& datAbsence, const EmployeeSelection& within)
 {
-    const int only = ReachesAUnit() ? 0 : SessionState.UserID;
-    return Entries(datAbsence.Select("SELECT RecordID, OrganizationID, DepartmentID, GroupID, FamilyName, FirstName "
-                                     "FROM Employees WHERE FiscalYear = ? AND DeactivatedDate = 0 AND "
-                                     "(? = 0 OR OrganizationID = ?) AND (? = 0 OR DepartmentID = ?) AND "
-                                     "(? = 0 OR GroupID = ?) AND (? = 0 OR RecordID = ?) "
-                                     "ORDER BY FamilyName ASC, FirstName ASC",
-                                     SessionState.FiscalYearID, within.OrganizationID, within.OrganizationID,
-                                     within.DepartmentID, within.DepartmentID, within.GroupID, within.GroupID, only,
-                                     only),
-                   [](const Recordset& row) {
-                       const QString first = row.Text("FirstName").trimmed();
-                       const QString family = row.Text("FamilyName").trimmed();
-                       return ReachEntry{family + ", " + first,
-                                         {row.Long("OrganizationID"), row.Long("DepartmentID"), row.Long("GroupID"),
-                                          row.Long("RecordID"), first + " " + family}};
-                   });
+    QVector<ReachEntry> entries;
+    for (const Recordset& row : datAbsence.Select(
+             "SELECT RecordID, OrganizationID, DepartmentID, GroupID, FamilyName, FirstName FROM Employees "
+             "WHERE FiscalYear = ?1 AND DeactivatedDate = 0 AND (?2 = 0 OR OrganizationID = ?2) AND "
+             "(?3 = 0 OR DepartmentID = ?3) AND (?4 = 0 OR GroupID = ?4) AND (?5 = 0 OR RecordID = ?5) "
+             "ORDER BY FamilyName ASC, FirstName ASC",
+             SessionState.FiscalYearID, within.OrganizationID, within.DepartmentID, within.GroupID,
+             ReachesAUnit() ? 0 : SessionState.UserID)) {
+        entries.append({ListedName(row), SelectionOf(row, row.Long("RecordID"), FullName(row))});
+    }
+    return entries;
 }
+
+using UnitMember = int EmployeeSelection::*;
+constexpr UnitMember kUnits[] = {&EmployeeSelection::OrganizationID, &EmployeeSelection::DepartmentID,
+                                 &EmployeeSelection::GroupID, &EmployeeSelection::EmployeeID};
 
 /// What is chosen never lifts the bounds that the user's rights set.
 EmployeeSelection Bounded(EmployeeSelection within)
 {
     const EmployeeSelection start = StartingUnit();
-    for (const auto unit :
-         {&EmployeeSelection::OrganizationID, &EmployeeSelection::DepartmentID, &EmployeeSelection::GroupID})
+    for (const UnitMember unit : kUnits)
         if (start.*unit != 0)
             within.*unit = start.*unit;
     return within;
@@ -122,52 +114,33 @@ EmployeeSelection Bounded(EmployeeSelection within)
 
 int IdInList(const EmployeeSelection& selection, ReachList list)
 {
-    const std::array<int, kReachLists> ids = {selection.OrganizationID, selection.DepartmentID, selection.GroupID,
-                                              selection.EmployeeID};
-    return ids[static_cast<std::size_t>(list)];
+    return selection.*kUnits[static_cast<std::size_t>(list)];
 }
 
 EmployeeSelection StartingUnit()
 {
-    const Session& s = SessionState;
     EmployeeSelection start;
-    if (s.GlobalLevelRead != 1)
-        start.OrganizationID = s.UserOrganizationID;
-    if (s.OrganizationLevelRead != 1)
-        start.DepartmentID = s.UserDepartmentID;
-    if (s.DepartmentLevelRead != 1)
-        start.GroupID = s.UserGroupID;
+    for (const Level* level = &kOrganizationLevel; level < &kIndividualLevel; ++level)
+        if (!level[-1].IsHeld(Access::Read))
+            start.*kUnits[level - &kOrganizationLevel] = level->Unit();
     return start;
 }
 
 QVector<ReachEntry> EntriesInReach(DataControl& datAbsence, ReachList list, const EmployeeSelection& within)
 {
     const Connection connection(datAbsence);
-    switch (list) {
-    case ReachList::Organizations:
-        return Organizations(datAbsence);
-    case ReachList::Departments:
-        return Departments(datAbsence, Bounded(within));
-    case ReachList::Groups:
-        return Groups(datAbsence, Bounded(within));
-    case ReachList::Employees:
-        return Employees(datAbsence, Bounded(within));
-    }
-    return {};
+    return list == ReachList::Employees ? Employees(datAbsence, Bounded(within))
+                                        : Units(datAbsence, list, Bounded(within));
 }
 
 bool MayBeShown(const EmployeeSelection& selection)
 {
-    const Session& s = SessionState;
-    const bool organization = s.GlobalLevelRead == 1 || s.OrganizationLevelRead == 1;
-    const bool department = organization || s.DepartmentLevelRead == 1;
     if (selection.EmployeeID != 0)
         return true;
-    if (selection.GroupID != 0)
-        return department || s.GroupLevelRead == 1;
-    if (selection.DepartmentID != 0)
-        return department;
-    return selection.OrganizationID != 0 && organization;
+    for (const ReachList list : {ReachList::Groups, ReachList::Departments, ReachList::Organizations})
+        if (IdInList(selection, list) != 0)
+            return &WidestRead() <= &LevelOf(list);
+    return false;
 }
 
 void ShowInCalendar(const EmployeeSelection& selection)

@@ -1,5 +1,6 @@
 #include "attendance/attendance_fixture.h"
 #include "attendance/frm_attendance.h"
+#include "foundation/forms.h"
 
 #include <QListWidget>
 #include <QTabBar>
@@ -24,7 +25,7 @@ const char* const kWholeRow =
 class FrmAttendance : public AttendanceTest
 {
 protected:
-    User& Opens() { return user.Opens<frmAttendance>(entry, doors); }
+    User& Opens() { return user.Opens<frmAttendance>(entry); }
 
     /// Opens the form on a record that is to be modified.
     void Modify(int record, int employee, const QString& systemName, const QDate& date)
@@ -36,8 +37,6 @@ protected:
     }
 
     const AttendanceEntry& Entered() { return user.The<frmAttendance>().Entry(); }
-
-    AttendanceDoors doors;
 
     QString Numbers(std::initializer_list<int> values)
     {
@@ -91,7 +90,7 @@ TEST_F(FrmAttendance, ARequestGoesToBothApproversAndBearsTheRoundedMoment)
     entry.Kind = AttendanceKind::Submit;
     SessionState.English = false;
     QStringList notice;
-    doors.SendRequestNotice = [&](const AttendanceEntry& sent) {
+    FormsAbove.SendRequestNotice = [&](const AttendanceEntry& sent) {
         notice = {sent.FirstApproverName,   sent.FirstApproverEMail, sent.SecondApproverName,
                   sent.SecondApproverEMail, sent.CategoryName,       sent.RequestedDates};
         EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 1) << "the notice follows the writing";
@@ -126,7 +125,7 @@ TEST_F(FrmAttendance, ARequestWithoutAnApproverAsksForOneAndEndsWithoutHim)
     user.WillAnswer("NOT AVAILABLE YET:", "OK").Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 0);
 
-    doors.ShowGetApprovedBy = [this](AttendanceEntry& request) { request.FirstApprover = marc; };
+    FormsAbove.ShowGetApprovedBy = [this](AttendanceEntry& request) { request.FirstApprover = marc; };
     Opens().Types("txtDurationInHours", "3");
     user.WillAnswer("REQUEST FOR APPROVAL:", "Yes", "Tue 03-03-2026\tDuration: 03:00\r\n")
         .WillAnswer("REQUEST SUBMITTED SUCCESSFULLY:", "OK", "has been sent to Marc Roy. If you do not receive")

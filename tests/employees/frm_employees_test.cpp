@@ -1,5 +1,6 @@
 #include "employees/employees_fixture.h"
 #include "employees/frm_clone_employee.h"
+#include "foundation/forms.h"
 #include "foundation/frm_input_box.h"
 #include "platform/clock.h"
 #include "selection/frm_get_approver_from_list.h"
@@ -547,9 +548,8 @@ TEST_F(FrmEmployees, TheListOfEmployeesIsRebuiltBeforeItIsShown)
     house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {marc});
     house.Sql("UPDATE FiscalYears SET ReloadEmployeesList = 1");
     int listed = -1;
-    frmEmployees::ShowEmployeesList = [&](QWidget*) { listed = CountOf("Employees_List"); };
+    FormsAbove.ShowEmployeesList = [&](QWidget*) { listed = CountOf("Employees_List"); };
     Opens().Clicks("cmdListRecords");
     EXPECT_EQ(listed, 2) << "deactivated employees are listed too";
-    frmEmployees::ShowEmployeesList = {};
 }
 } // namespace

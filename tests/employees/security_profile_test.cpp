@@ -23,7 +23,7 @@ QStringList Granted(const SecurityProfile& profile)
     QStringList names;
     for (const ProfileBox& box : ProfileBoxes())
         if (profile.*box.Member == 1)
-            names << QString(box.Name).mid(3);
+            names << box.Name.mid(3);
     return names;
 }
 
@@ -61,7 +61,7 @@ QStringList Open(bool modifying)
     QStringList names;
     for (const ProfileBox& box : ProfileBoxes())
         if (MayTick(box.Member, modifying))
-            names << QString(box.Name).mid(3);
+            names << box.Name.mid(3);
     return names;
 }
 } // namespace
@@ -74,7 +74,8 @@ TEST(SecurityProfile, EveryClickLeavesTheLevelsHoldingTogether)
         for (const ProfileBox& box : ProfileBoxes()) {
             SecurityProfile after = before;
             ChangeRight(after, box.Member, before.*box.Member == 0);
-            EXPECT_TRUE(HoldsTogether(after)) << box.Name << " of " << Granted(before).join(' ').toStdString();
+            EXPECT_TRUE(HoldsTogether(after))
+                << box.Name.toStdString() << " of " << Granted(before).join(' ').toStdString();
             EXPECT_NE(after.*box.Member, before.*box.Member);
         }
 }

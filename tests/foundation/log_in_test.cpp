@@ -1,5 +1,6 @@
 #include "foundation/connection.h"
 #include "foundation/deployment.h"
+#include "foundation/forms.h"
 #include "foundation/frm_login.h"
 #include "foundation/frm_splash_screen.h"
 #include "foundation/log_in.h"
@@ -23,9 +24,10 @@ protected:
 
     void Start()
     {
-        frmSplashScreen splash(
-            {[this] { shown << "wizard"; }, [this] { shown << "server"; }, [this] { shown << "main"; }});
-        splash.Form_Activate();
+        FormsAbove.ShowSetUpWizard = [this] { shown << "wizard"; };
+        FormsAbove.ShowServerConnection = [this] { shown << "server"; };
+        FormsAbove.ShowMain = [this] { shown << "main"; };
+        frmSplashScreen().Form_Activate();
     }
     void Types(const QString& name, const QString& password)
     {

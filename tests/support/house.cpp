@@ -1,5 +1,6 @@
 #include "support/house.h"
 
+#include "calendar/frm_program.h"
 #include "foundation/connection.h"
 #include "foundation/log_in.h"
 #include "foundation/session_rows.h"
@@ -85,6 +86,7 @@ House::House(const QString& folder)
         QDir().mkpath(folder_);
     }
     SessionState = Session();
+    WireForms();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::Canada));
     SetProgramFolder(folder_);
     for (const char* name : {"/Tarvell.mdb", "/Config.mdb"})

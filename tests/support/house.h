@@ -33,7 +33,8 @@ struct Person
     bool Scheduled = true; ///< Monday to Friday 8:30 to 12:00 and 13:00 to 16:30
 };
 
-/// A program folder of its own with the delivered empty databases, a fixed day and a session in its first state.
+/// A program folder of its own with the delivered empty databases, a fixed day, a session in its first state, and the
+/// floors wired as the program wires them.
 class House
 {
 public:

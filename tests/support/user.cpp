@@ -92,7 +92,7 @@ User& User::Types(const QString& name, const QString& text)
 
 User& User::Presses(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    QWidget* target = name.isEmpty() ? form_ : FindWidget(name);
+    QWidget* target = name.isEmpty() ? form_.data() : FindWidget(name);
     if (target)
         QTest::keyClick(target, key, modifiers);
     return *this;
@@ -251,7 +251,7 @@ int User::VisitForm(QDialog& form)
     }
     const auto work = visits_.front();
     visits_.pop_front();
-    QWidget* before = form_;
+    const QPointer<QWidget> before = form_;
     form.show();
     Works(form);
     work(form);

@@ -5,6 +5,7 @@
 #include "support/house.h"
 
 #include <QDialog>
+#include <QPointer>
 #include <QWidget>
 
 #include <deque>
@@ -90,7 +91,7 @@ private:
     int AnswerMessage(const Message& message);
     int VisitForm(QDialog& form);
 
-    QWidget* form_ = nullptr;
+    QPointer<QWidget> form_; ///< null once the program has closed and forgotten it
     std::unique_ptr<QWidget> owned_;
     std::deque<Answer> answers_;
     std::deque<QString> files_;
