@@ -6,6 +6,7 @@
 #include "calendar/frm_main_tool_bar.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/frm_captions.h"
 #include "foundation/frm_login.h"
 #include "foundation/log_in.h"
 #include "foundation/rows.h"
@@ -21,6 +22,11 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+namespace
+{
+constexpr QSize kSize(1280, 860);
+} // namespace
+
 frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
 {
     BuildControls();
@@ -31,7 +37,7 @@ void frmMain::BuildControls()
 {
     setObjectName("frmMain");
     setWindowIcon(PictureIcon("app"));
-    resize(1280, 860);
+    resize(FittingScreen(this, kSize));
     menus_ = std::make_unique<MainMenus>(menuBar(), [this](const Command& command) { Run(command); });
     toolBar_ = new ToolBar;
     header_ = new MainHeader;
@@ -81,12 +87,12 @@ void frmMain::Form_Load()
     Busy = true;
     LoadCaptions();
     LoadAdministratorInfo(datAbsence);
-    LoadCategories();
-    LoadEmployeeInfo();
+    header_->LoadCategories(datAbsence);
+    LoadEmployeeInfo(datAbsence);
     legend_->LoadLegend(datAbsence);
     Busy = false;
     ActivateAllowedControls();
-    DisplayNames();
+    header_->ShowNames();
     header_->ShowTotal(DurationText(0));
     pane_->Cover();
     timAbsence->start(1000);
@@ -97,26 +103,7 @@ void frmMain::LoadCaptions()
 {
     setWindowTitle(Fill(T("Tarvell   Session ID [{LoginID}]", "Tarvell   Identification: [{LoginID}]"),
                         {{"LoginID", SessionState.LoginID}}));
-    menus_->LoadCaptions();
-    toolBar_->LoadCaptions();
-    header_->LoadCaptions();
-    pane_->LoadCaptions();
-    legend_->LoadCaptions();
-}
-
-void frmMain::LoadCategories()
-{
-    header_->LoadCategories(datAbsence);
-}
-
-void frmMain::LoadEmployeeInfo()
-{
-    ::LoadEmployeeInfo(datAbsence);
-}
-
-void frmMain::DisplayNames()
-{
-    header_->ShowNames();
+    Retranslate(this);
 }
 
 /// One query for the total and one for the records, however many days the year has.
@@ -156,7 +143,7 @@ void frmMain::ReloadIfAsked()
     if (!SessionState.ReloadCalendar)
         return;
     SessionState.ReloadCalendar = false;
-    DisplayNames();
+    header_->ShowNames();
     ReloadCalendar();
 }
 
@@ -168,10 +155,10 @@ void frmMain::SelectCategory(int categoryID)
 
 void frmMain::ReloadSelection()
 {
-    LoadCategories();
+    header_->LoadCategories(datAbsence);
     legend_->LoadLegend(datAbsence);
-    LoadEmployeeInfo();
-    DisplayNames();
+    LoadEmployeeInfo(datAbsence);
+    header_->ShowNames();
     SessionState.ReloadCalendar = false;
     ReloadCalendar();
     ActivateAllowedControls();
@@ -229,14 +216,9 @@ void frmMain::closeEvent(QCloseEvent*)
 
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
-    Form_KeyDown(event->key());
-    QMainWindow::keyPressEvent(event);
-}
-
-void frmMain::Form_KeyDown(int key)
-{
-    if (key == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape)
         tools_.Abort();
+    QMainWindow::keyPressEvent(event);
 }
 
 bool frmMain::eventFilter(QObject* target, QEvent* event)

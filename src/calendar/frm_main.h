@@ -67,16 +67,12 @@ private:
     void ConnectControls();
     void Run(const Command& command);
 
-    void LoadCategories();
-    void LoadEmployeeInfo();
     void ReloadCalendar();
     void ReloadIfAsked();
     void SelectCategory(int categoryID);
     void ActivateAllowedControls();
     void DeactivateAllControls(const QString& usableTool = {});
-    void DisplayNames();
 
-    void Form_KeyDown(int key);
     void RunMinuteWork();
 
     DataControl& Data() override { return datAbsence; }
@@ -101,10 +97,10 @@ private:
     bool CalendarLoaded = false;
 
     std::unique_ptr<MainMenus> menus_;
-    ToolBar* toolBar_ = nullptr;
-    MainHeader* header_ = nullptr;
-    CalendarPane* pane_ = nullptr;
-    LegendPane* legend_ = nullptr;
-    QTimer* timAbsence = nullptr;
-    QTimer* timTimeOut = nullptr;
+    ToolBar* toolBar_;
+    MainHeader* header_;
+    CalendarPane* pane_;
+    LegendPane* legend_;
+    QTimer* timAbsence;
+    QTimer* timTimeOut;
 };

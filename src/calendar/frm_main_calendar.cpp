@@ -1,8 +1,7 @@
 #include "calendar/frm_main_calendar.h"
 
-#include "foundation/texts.h"
+#include "foundation/frm_captions.h"
 #include "platform/controls/flex_grid.h"
-#include "platform/controls/form_kit.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -41,6 +40,7 @@ void CalendarPane::BuildGrid()
 {
     flxCalendar = Named<FlexGrid>("flxCalendar", this);
     flxCalendar->SetSize(YearCalendar::kRows, YearCalendar::kCols);
+    SetAccessibleName(flxCalendar, {"Year calendar", "Calendrier de l'année"});
     flxCalendar->SetBordered(false);
     flxCalendar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     flxCalendar->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -70,10 +70,11 @@ void CalendarPane::BuildOverlays()
     pgrLoadingCalendar = Named<QProgressBar>("pgrLoadingCalendar");
     pgrLoadingCalendar->setTextVisible(false);
     pgrLoadingCalendar->setFixedWidth(320);
-    lblLoading = AsCaption(Named<QLabel>("lblLoading"));
+    const Text loading = {"Loading the calendar...", "Chargement du calendrier..."};
+    SetAccessibleName(pgrLoadingCalendar, loading);
     auto* cover = new QVBoxLayout(fraHideCalendar);
     cover->addStretch();
-    cover->addWidget(lblLoading, 0, Qt::AlignHCenter);
+    cover->addWidget(AsCaption(MakeLabel("lblLoading", loading)), 0, Qt::AlignHCenter);
     cover->addWidget(pgrLoadingCalendar, 0, Qt::AlignHCenter);
     cover->addStretch();
     fraHideCalendar->hide();
@@ -96,13 +97,6 @@ void CalendarPane::BuildOverlays()
     txtSelect->setFixedWidth(300);
     txtSelect->setAttribute(Qt::WA_TransparentForMouseEvents);
     txtSelect->hide();
-}
-
-void CalendarPane::LoadCaptions()
-{
-    flxCalendar->setAccessibleName(T("Year calendar", "Calendrier de l'année"));
-    lblLoading->setText(T("Loading the calendar...", "Chargement du calendrier..."));
-    pgrLoadingCalendar->setAccessibleName(lblLoading->text());
 }
 
 void CalendarPane::Show(const YearCalendar& calendar)

@@ -21,7 +21,6 @@ public:
 
     std::function<void(int date)> DateClicked; ///< a cell with a date was clicked
 
-    void LoadCaptions();
     void Show(const YearCalendar& calendar);
     void RefreshDate(const YearCalendar& calendar, int date);
 
@@ -48,7 +47,6 @@ private:
     FlexGrid* flxCalendar = nullptr;
     QFrame* fraHideCalendar = nullptr;
     QProgressBar* pgrLoadingCalendar = nullptr;
-    QLabel* lblLoading = nullptr;
     QFrame* fraShowRecords = nullptr;
     QLabel* lblRecordsDate = nullptr;
     QPlainTextEdit* txtAttendanceRecords = nullptr;

@@ -72,7 +72,7 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
         TellError(error);
     }
     const int category = SessionState.SelectedCategoryID;
-    LoadCategories();
+    header_->LoadCategories(datAbsence);
     header_->SelectCategory(category);
     SessionState.SelectedCategoryID = category;
     legend_->LoadLegend(datAbsence);

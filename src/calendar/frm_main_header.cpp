@@ -1,93 +1,70 @@
 #include "calendar/frm_main_header.h"
 
-#include "foundation/texts.h"
-#include "platform/controls/form_kit.h"
+#include "foundation/frm_captions.h"
 #include "reference/category_list.h"
 
-#include <QComboBox>
-#include <QGridLayout>
-#include <QLabel>
-#include <QPushButton>
+namespace
+{
+/// A small caption above a large figure.
+QFrame* FigureCard(const QString& name, const Text& caption, QLabel* figure)
+{
+    auto* column = new QVBoxLayout;
+    column->addWidget(AsCaption(MakeLabel(name, caption)));
+    column->addWidget(AsFigure(figure));
+    return MakeCard(column);
+}
+} // namespace
 
 MainHeader::MainHeader(QWidget* parent) : QWidget(parent)
 {
-    lblTotalForTheYear = Named<QLabel>("lblTotalForTheYear");
-    lblTotalForTheYear_DISPLAY = Named<QLabel>("lblTotalForTheYear_DISPLAY");
-    lblTimeBanked = Named<QLabel>("lblTimeBanked");
-    txtTimeBanked = Named<QLabel>("txtTimeBanked");
-    txtTimeOut = Named<QLabel>("txtTimeOut");
-    txtTimeOut->setWordWrap(true);
+    lblTotalForTheYear_DISPLAY = MakeLabel("lblTotalForTheYear_DISPLAY");
+    txtTimeBanked = MakeLabel("txtTimeBanked");
+    txtTimeOut = WrappedLabel("txtTimeOut");
     txtTimeOut->hide();
+    fraTimeBank = FigureCard("lblTimeBanked", {"Time bank", "Banque de temps"}, txtTimeBanked);
+    fraTimeBank->setObjectName("fraTimeBank");
 
     auto* cards = new QHBoxLayout(this);
     cards->setContentsMargins(0, 0, 0, 0);
     cards->setSpacing(12);
-    cards->addWidget(BuildYearCard(), 1);
+    cards->addWidget(YearCard(), 1);
     cards->addWidget(txtTimeOut);
-    cards->addWidget(BuildFigureCard(lblTotalForTheYear, lblTotalForTheYear_DISPLAY));
-    fraTimeBank = BuildFigureCard(lblTimeBanked, txtTimeBanked);
-    fraTimeBank->setObjectName("fraTimeBank");
+    cards->addWidget(
+        FigureCard("lblTotalForTheYear", {"Total for the year", "Total pour l'année"}, lblTotalForTheYear_DISPLAY));
     cards->addWidget(fraTimeBank);
 }
 
-QFrame* MainHeader::BuildYearCard()
+QFrame* MainHeader::YearCard()
 {
-    lblFiscalYearCaption = AsCaption(Named<QLabel>("lblFiscalYearCaption"));
-    lblFiscalYear = AsFigure(Named<QLabel>("lblFiscalYear"));
-    lblFiscalYear->setAlignment(Qt::AlignCenter);
-    lblFiscalYear->setMinimumWidth(110);
-    for (const Command* command : CommandsIn(Place::Years))
-        years_.push_back({*command, YearButton(*command)});
-    lblCurrentSelection = AsCaption(Named<QLabel>("lblCurrentSelection"));
-    lblCurrentSelection_DISPLAY = AsFigure(Named<QLabel>("lblCurrentSelection_DISPLAY"));
-    lblCategories = AsCaption(Named<QLabel>("lblCategories"));
-    cboCategories = Named<QComboBox>("cboCategories");
-    cboCategories->setMinimumWidth(240);
-    lblCategories->setBuddy(cboCategories);
-    connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);
-
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(10);
     grid->setColumnStretch(4, 1);
     grid->setColumnMinimumWidth(3, 16);
-    grid->addWidget(lblFiscalYearCaption, 0, 0, 1, 3);
-    grid->addWidget(years_.front().Button, 1, 0);
-    grid->addWidget(lblFiscalYear, 1, 1);
-    grid->addWidget(years_.back().Button, 1, 2);
-    grid->addWidget(lblCurrentSelection, 0, 4);
+    AddYears(grid);
+    lblCurrentSelection_DISPLAY = AsFigure(MakeLabel("lblCurrentSelection_DISPLAY"));
+    grid->addWidget(AsCaption(MakeLabel("lblCurrentSelection", {"Attendance of", "Absences de"})), 0, 4);
     grid->addWidget(lblCurrentSelection_DISPLAY, 1, 4);
-    grid->addWidget(lblCategories, 0, 5);
+    cboCategories = Named<QComboBox>("cboCategories");
+    cboCategories->setMinimumWidth(240);
+    connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);
+    grid->addWidget(AsCaption(LabelOf(cboCategories, {"Ca&tegory", "Ca&tégorie"})), 0, 5);
     grid->addWidget(cboCategories, 1, 5);
     return MakeCard(grid);
 }
 
-QPushButton* MainHeader::YearButton(const Command& command)
+/// The year between the ways to its neighbours.
+void MainHeader::AddYears(QGridLayout* grid)
 {
-    auto* button = Named<QPushButton>(command.Name);
-    button->setProperty("look", "arrow");
-    button->setIcon(PictureIcon(command.Picture));
-    connect(button, &QPushButton::clicked, this, [this, &command] { YearChosen(command); });
-    return button;
-}
-
-QFrame* MainHeader::BuildFigureCard(QLabel* caption, QLabel* figure)
-{
-    auto* column = new QVBoxLayout;
-    column->addWidget(AsCaption(caption));
-    column->addWidget(AsFigure(figure));
-    return MakeCard(column);
-}
-
-void MainHeader::LoadCaptions()
-{
-    lblFiscalYearCaption->setText(T("Fiscal year", "Année fiscale"));
-    lblCurrentSelection->setText(T("Attendance of", "Absences de"));
-    lblCategories->setText(T("Ca&tegory", "Ca&tégorie"));
-    lblTotalForTheYear->setText(T("Total for the year", "Total pour l'année"));
-    lblTimeBanked->setText(T("Time bank", "Banque de temps"));
-    for (const auto& [command, button] : years_) {
-        button->setToolTip(T(command.Tip));
-        button->setAccessibleName(button->toolTip());
+    lblFiscalYear = AsFigure(MakeLabel("lblFiscalYear"));
+    lblFiscalYear->setAlignment(Qt::AlignCenter);
+    lblFiscalYear->setMinimumWidth(110);
+    grid->addWidget(AsCaption(MakeLabel("lblFiscalYearCaption", {"Fiscal year", "Année fiscale"})), 0, 0, 1, 3);
+    grid->addWidget(lblFiscalYear, 1, 1);
+    for (const Command* command : CommandsIn(Place::Years)) {
+        auto* button = MakeArrow(command->Name, command->Picture, command->Tip);
+        connect(button, &QPushButton::clicked, this, [this, command] { YearChosen(*command); });
+        grid->addWidget(button, 1, years_.empty() ? 0 : 2);
+        years_.push_back({*command, button});
     }
 }
 

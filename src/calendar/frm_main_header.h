@@ -7,6 +7,7 @@
 
 class QComboBox;
 class QFrame;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 
@@ -20,7 +21,6 @@ public:
     std::function<void(const Command&)> YearChosen;
     std::function<void(int categoryID)> CategoryChosen;
 
-    void LoadCaptions();
     /// Fills the list of categories; the first entry stands for all of them.
     void LoadCategories(DataControl& datAbsence);
     void SelectCategory(int categoryID);
@@ -38,23 +38,17 @@ private:
         QPushButton* Button;
     };
 
-    QFrame* BuildYearCard();
-    QPushButton* YearButton(const Command& command);
-    QFrame* BuildFigureCard(QLabel* caption, QLabel* figure);
+    QFrame* YearCard();
+    void AddYears(QGridLayout* grid);
     void cboCategories_Click();
 
-    QLabel* lblFiscalYearCaption = nullptr;
-    QLabel* lblFiscalYear = nullptr;
+    QLabel* lblFiscalYear;
     std::vector<Year> years_; ///< the way to the previous and to the next one
-    QLabel* lblCurrentSelection = nullptr;
-    QLabel* lblCurrentSelection_DISPLAY = nullptr;
-    QLabel* lblCategories = nullptr;
-    QComboBox* cboCategories = nullptr;
-    QLabel* lblTotalForTheYear = nullptr;
-    QLabel* lblTotalForTheYear_DISPLAY = nullptr;
-    QFrame* fraTimeBank = nullptr;
-    QLabel* lblTimeBanked = nullptr;
-    QLabel* txtTimeBanked = nullptr;
-    QLabel* txtTimeOut = nullptr;
+    QLabel* lblCurrentSelection_DISPLAY;
+    QComboBox* cboCategories;
+    QLabel* lblTotalForTheYear_DISPLAY;
+    QFrame* fraTimeBank;
+    QLabel* txtTimeBanked;
+    QLabel* txtTimeOut;
     bool Loading = false;
 };

@@ -1,9 +1,8 @@
 #include "calendar/frm_main_legend.h"
 
 #include "calendar/year_calendar.h"
-#include "foundation/texts.h"
+#include "foundation/frm_captions.h"
 #include "platform/controls/flex_grid.h"
-#include "platform/controls/form_kit.h"
 #include "reference/category_list.h"
 
 #include <QHBoxLayout>
@@ -24,20 +23,13 @@ QString LabelStyle(int colorCode)
         .arg(color.name(), dark ? "white" : "#14213d", color.darker(115).name());
 }
 
-QLabel* ColorLabel(const QString& name, int colorCode)
+QLabel* ColorLabel(const QString& name, int colorCode, const Text& text)
 {
-    auto* label = Named<QLabel>(name);
+    auto* label = MakeLabel(name, text);
     label->setStyleSheet(LabelStyle(colorCode));
     return label;
 }
 
-QPushButton* ArrowButton(const QString& name, const QString& picture)
-{
-    auto* button = Named<QPushButton>(name);
-    button->setProperty("look", "arrow");
-    button->setIcon(PictureIcon(picture));
-    return button;
-}
 } // namespace
 
 LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
@@ -58,10 +50,9 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
         labels->addWidget(label);
         lblLegend.push_back(label);
     }
-    lblTimeBank = ColorLabel("lblTimeBank", CalendarColor::TimeBank);
-    lblMultiple = ColorLabel("lblMultiple", CalendarColor::SeveralCategories);
-    cmdPreviousCategories = ArrowButton("cmdPreviousCategories", "shift-left");
-    cmdNextCategories = ArrowButton("cmdNextCategories", "shift-right");
+    cmdPreviousCategories =
+        MakeArrow("cmdPreviousCategories", "shift-left", {"Previous categories", "Catégories précédentes"});
+    cmdNextCategories = MakeArrow("cmdNextCategories", "shift-right", {"Next categories", "Catégories suivantes"});
     connect(cmdPreviousCategories, &QPushButton::clicked, this, [this] { Shift(-1); });
     connect(cmdNextCategories, &QPushButton::clicked, this, [this] { Shift(1); });
 
@@ -71,18 +62,9 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
     all->addWidget(fraLegend, 1);
     all->addWidget(cmdNextCategories);
     all->addSpacing(12);
-    all->addWidget(lblTimeBank);
-    all->addWidget(lblMultiple);
-}
-
-void LegendPane::LoadCaptions()
-{
-    lblTimeBank->setText(T("Time bank", "Banque de temps"));
-    lblMultiple->setText(T("Several categories", "Plusieurs catégories"));
-    cmdPreviousCategories->setToolTip(T("Previous categories", "Catégories précédentes"));
-    cmdNextCategories->setToolTip(T("Next categories", "Catégories suivantes"));
-    for (QPushButton* button : {cmdPreviousCategories, cmdNextCategories})
-        button->setAccessibleName(button->toolTip());
+    all->addWidget(ColorLabel("lblTimeBank", CalendarColor::TimeBank, {"Time bank", "Banque de temps"}));
+    all->addWidget(
+        ColorLabel("lblMultiple", CalendarColor::SeveralCategories, {"Several categories", "Plusieurs catégories"}));
 }
 
 void LegendPane::LoadLegend(DataControl& datAbsence)

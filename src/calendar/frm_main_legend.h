@@ -8,7 +8,6 @@
 #include <vector>
 
 class QHBoxLayout;
-class QLabel;
 class QPushButton;
 
 /// The legend below the calendar: one label per category in one row, which two buttons shift sideways, and the marks of
@@ -21,7 +20,6 @@ public:
     std::function<void(int categoryID)> CategoryClicked;
 
     void LoadLegend(DataControl& datAbsence);
-    void LoadCaptions();
     void SetUsable(bool usable);
 
 protected:
@@ -39,8 +37,6 @@ private:
     QWidget* row_ = nullptr;
     std::vector<QPushButton*> lblLegend;
     std::vector<int> categories_;
-    QLabel* lblTimeBank = nullptr;
-    QLabel* lblMultiple = nullptr;
     QPushButton* cmdPreviousCategories = nullptr;
     QPushButton* cmdNextCategories = nullptr;
     int offset_ = 0; ///< pixels that the row stands shifted to the left

@@ -1,5 +1,7 @@
 #include "calendar/frm_main_menus.h"
 
+#include "foundation/frm_captions.h"
+
 #include <QAction>
 #include <QHash>
 #include <QMenu>
@@ -16,18 +18,13 @@ MainMenus::MainMenus(QMenuBar* bar, const Run& run)
             menus[command->Name] = parent ? parent->addMenu(QString()) : bar->addMenu(QString());
         QAction* action = command->IsMenu ? menus[command->Name]->menuAction() : parent->addAction(QString());
         action->setObjectName(command->Name);
+        FollowLanguage(action, [action, command] { action->setText(T(command->Caption)); });
         action->setShortcut(command->Shortcut);
         action->setCheckable(command->Checked);
         if (!command->IsMenu)
             QObject::connect(action, &QAction::triggered, action, [run, command] { run(*command); });
         items_.push_back({*command, action});
     }
-}
-
-void MainMenus::LoadCaptions()
-{
-    for (const auto& [command, action] : items_)
-        action->setText(T(command.Caption));
 }
 
 void MainMenus::Deactivate()

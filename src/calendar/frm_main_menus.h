@@ -13,12 +13,11 @@ public:
 
     MainMenus(QMenuBar* bar, const Run& run);
 
-    void LoadCaptions();
     /// Disables all menus while a command is in progress.
     void Deactivate();
     /// Enables the menus, and every entry by its rule.
     void ActivateAllowed();
-    /// Enables just these menus of the bar.
+    /// Enables the menus of the bar, but for the blocked days, which follow their rule.
     void ActivateBar();
 
 private:

@@ -1,6 +1,6 @@
 #include "calendar/frm_main_tool_bar.h"
 
-#include "platform/controls/form_kit.h"
+#include "foundation/frm_captions.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -58,16 +58,9 @@ QToolButton* ToolBar::MakeImage(const Command& command, const QString& name)
     image->setMinimumWidth(kToolWidth);
     image->setAutoRaise(true);
     image->setIcon(PictureIcon(command.Picture));
+    SetCaption(image, command.Caption);
+    SetToolTip(image, command.Tip);
     return image;
-}
-
-void ToolBar::LoadCaptions()
-{
-    for (const Tool& tool : tools_)
-        for (QToolButton* image : {tool.Image, tool.Disabled}) {
-            image->setText(T(tool.Of.Caption));
-            image->setToolTip(T(tool.Of.Tip));
-        }
 }
 
 void ToolBar::ActivateAllowed()

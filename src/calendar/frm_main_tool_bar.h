@@ -15,7 +15,6 @@ public:
 
     std::function<void(const Command&)> Chosen; ///< a tool was clicked
 
-    void LoadCaptions();
     /// Shows the tools that are to be seen, and enables them by their rules.
     void ActivateAllowed();
     /// Disables all tools but one, "" for none.

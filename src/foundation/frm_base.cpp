@@ -2,7 +2,6 @@
 
 #include "foundation/common_services.h"
 
-#include <QScreen>
 #include <QScrollArea>
 #include <QShowEvent>
 #include <QTimer>
@@ -11,9 +10,6 @@
 
 namespace
 {
-/// Room for the window's frame and the desktop's bars.
-constexpr QSize kFrame(16, 48);
-
 /// A page whose lists give way before it has to be scrolled, also beside lines that are wrapped.
 class PageWidget : public QWidget
 {
@@ -56,7 +52,7 @@ FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbse
 
 QSize FormBase::sizeHint() const
 {
-    return (size_.isValid() ? size_ : QDialog::sizeHint()).boundedTo(screen()->availableSize() - kFrame);
+    return FittingScreen(this, size_.isValid() ? size_ : QDialog::sizeHint());
 }
 
 QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)

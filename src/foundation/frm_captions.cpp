@@ -115,6 +115,16 @@ QRadioButton* MakeOption(const QString& name, const Text& caption)
     return option;
 }
 
+QPushButton* MakeArrow(const QString& name, const QString& picture, const Text& tip)
+{
+    auto* button = Named<QPushButton>(name);
+    button->setProperty("look", "arrow");
+    button->setIcon(PictureIcon(picture));
+    SetToolTip(button, tip);
+    SetAccessibleName(button, tip);
+    return button;
+}
+
 QLineEdit* MakeField(const QString& name, KeyFilter filter, int limit)
 {
     auto* field = Named<QLineEdit>(name);

@@ -34,6 +34,9 @@ QPushButton* MakeButton(const QString& name, const Text& caption);
 QCheckBox* MakeCheckBox(const QString& name, const Text& caption);
 QRadioButton* MakeOption(const QString& name, const Text& caption);
 
+/// A small button with a picture; its tip names it.
+QPushButton* MakeArrow(const QString& name, const QString& picture, const Text& tip);
+
 inline constexpr int kUnlimited = 32767;
 /// A field of at most `limit` characters that takes what `filter` lets through.
 QLineEdit* MakeField(const QString& name, KeyFilter filter, int limit = kUnlimited);

@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QSvgRenderer>
 #include <QTabBar>
@@ -216,6 +217,12 @@ QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons)
     for (QPushButton* button : buttons)
         row->addWidget(button);
     return row;
+}
+
+QSize FittingScreen(const QWidget* window, const QSize& size)
+{
+    constexpr QSize kFrame(16, 48);
+    return size.boundedTo(window->screen()->availableSize() - kFrame);
 }
 
 int ShowModal(QDialog& form)

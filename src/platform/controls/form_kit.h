@@ -51,6 +51,9 @@ void SetMainButton(QPushButton* button, bool main);
 /// The row of buttons at a form's foot, pushed to the right: the main button last.
 QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons);
 
+/// As much of a size as the screen of `window` has room for, the window's frame and the desktop's bars left out.
+QSize FittingScreen(const QWidget* window, const QSize& size);
+
 /// Shows a form modally and returns its result code. Tests and the tour install a runner that works the form instead
 /// of waiting for a person; an empty runner brings the waiting back.
 int ShowModal(QDialog& form);

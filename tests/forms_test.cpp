@@ -1,0 +1,251 @@
+#include "attendance/frm_attendance.h"
+#include "calendar/frm_main.h"
+#include "calendar/frm_main_command_table.h"
+#include "employees/frm_clone_employee.h"
+#include "employees/frm_employees.h"
+#include "employees/frm_transfer_employees.h"
+#include "foundation/frm_about.h"
+#include "foundation/frm_base.h"
+#include "foundation/frm_change_password.h"
+#include "foundation/frm_input_box.h"
+#include "foundation/frm_login.h"
+#include "foundation/frm_update_admin_info.h"
+#include "platform/clock.h"
+#include "reference/frm_unit.h"
+#include "reports/frm_lists.h"
+#include "selection/frm_get_approver_from_list.h"
+#include "selection/frm_select_attendance_record.h"
+#include "selection/frm_select_dates.h"
+#include "selection/frm_select_employee.h"
+#include "selection/frm_select_period.h"
+#include "selection/frm_select_weekdays.h"
+#include "selection/period_choice.h"
+#include "setup/frm_set_up_wizard.h"
+#include "support/user.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QLabel>
+#include <QMap>
+#include <QPushButton>
+#include <QScreen>
+#include <QTabWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+EmployeeRecord newEmployee;
+
+using Maker = std::unique_ptr<QWidget> (*)();
+
+template <typename Form, auto... arguments>
+std::unique_ptr<QWidget> Make()
+{
+    return std::make_unique<Form>(arguments...);
+}
+
+/// Every form that can be opened by itself. A form that a command opens must be among them.
+const std::pair<const char*, Maker> kForms[] = {
+    {"frmMain",
+     [] {
+         auto main = std::make_unique<frmMain>();
+         main->Form_Load();
+         main->timAbsence_Timer();
+         return std::unique_ptr<QWidget>(std::move(main));
+     }},
+    {"frmOrganizations", Make<frmOrganizations>},
+    {"frmDepartments", Make<frmDepartments>},
+    {"frmGroups", Make<frmGroups>},
+    {"frmEmployees", Make<frmEmployees>},
+    {"frmCloneEmployee", [] { return std::unique_ptr<QWidget>(new frmCloneEmployee(newEmployee)); }},
+    {"frmTransferEmployees", Make<frmTransferEmployees>},
+    {"frmLists", Make<frmLists, ListKind::Categories>},
+    {"frmAttendance",
+     [] {
+         const AttendanceJob job{SessionState, AttendanceKind::Add, {SerialOfDate({2026, 12, 31})}};
+         return std::unique_ptr<QWidget>(new frmAttendance(job));
+     }},
+    {"frmSelectEmployee", Make<frmSelectEmployee>},
+    {"frmSelectDates", [] { return std::unique_ptr<QWidget>(new frmSelectDates(EntireYear(), SessionState)); }},
+    {"frmSelectPeriod", Make<frmSelectPeriod>},
+    {"frmSelectWeekdays", Make<frmSelectWeekdays>},
+    {"frmGetApproverFromList", [] { return std::unique_ptr<QWidget>(new frmGetApproverFromList("Marie Roy")); }},
+    {"frmSelectAttendanceRecord",
+     [] {
+         return std::unique_ptr<QWidget>(new frmSelectAttendanceRecord({{"1", 1}, {"2", 2}}));
+     }},
+    {"frmInputBox", [] { return std::unique_ptr<QWidget>(new frmInputBox(T("A", "B"), T("A", "B"))); }},
+    {"frmAbout", Make<frmAbout>},
+    {"frmChangePassword", Make<frmChangePassword>},
+    {"frmUpdateAdminInfo", Make<frmUpdateAdminInfo>},
+    {"frmLogin", [] { return std::unique_ptr<QWidget>(new frmLogin(1, "2027")); }},
+    {"frmSetUpWizard", [] { return std::unique_ptr<QWidget>(new frmSetUpWizard([] {})); }},
+};
+
+/// What reads the same in both languages, and who speaks both at once until a language is chosen.
+const QStringList kSameInFrench = {"OK",    "&OK",   "Tarvell", "Global",       "Minutes",
+                                   "Total", "ADMIN", "1 date",  "Version 1.2.0"};
+const QString kBilingual = "frmSetUpWizard";
+
+class Forms : public testing::Test
+{
+protected:
+    Forms()
+    {
+        house.Configured().Company();
+        house.Hire({"MARIE", "Marie", "Roy", "Production", "Assembly", {"IsAuthorizedToApprove"}});
+        house.LogIn("ADMIN");
+    }
+
+    QWidget& Open(Maker make)
+    {
+        form_ = make();
+        form_->show();
+        user.Works(*form_);
+        return *form_;
+    }
+
+    /// The texts of labels, buttons and tabs by what names their place; data and figures are left out.
+    static QMap<QString, QString> Captions(const QWidget& form)
+    {
+        QMap<QString, QString> captions = {{"title", form.windowTitle()}};
+        int place = 0;
+        for (const QWidget* control : form.findChildren<QWidget*>()) {
+            const QString where = QString::number(++place) + control->objectName();
+            if (const auto* label = qobject_cast<const QLabel*>(control))
+                captions[where] = label->text();
+            else if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+                captions[where] = button->text();
+            else if (const auto* tabs = qobject_cast<const QTabWidget*>(control))
+                for (int tab = 0; tab < tabs->count(); ++tab)
+                    captions[where + QString::number(tab)] = tabs->tabText(tab);
+        }
+        captions.removeIf([](const auto& caption) { return !caption.value().contains(QRegularExpression("\\pL")); });
+        return captions;
+    }
+
+    /// The names of labels and buttons whose text has not the room that it asks for.
+    static QStringList Clipped(const QWidget& form)
+    {
+        QStringList clipped;
+        for (const QWidget* control : form.findChildren<QWidget*>()) {
+            if (!control->isVisible())
+                continue;
+            if (const auto* label = qobject_cast<const QLabel*>(control); label && !label->text().isEmpty()) {
+                const bool fits = label->wordWrap() ? label->heightForWidth(label->width()) <= label->height()
+                                                    : label->sizeHint().width() <= label->width();
+                if (!fits)
+                    clipped << label->text();
+            }
+            if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+                if (button->sizeHint().width() > button->width())
+                    clipped << button->objectName();
+        }
+        return clipped;
+    }
+
+    /// The controls that a person reaches and a screen reader cannot name.
+    static QStringList Nameless(const QWidget& form)
+    {
+        QStringList nameless;
+        for (QWidget* control : form.findChildren<QWidget*>()) {
+            if (!control->isVisible() || control->focusPolicy() == Qt::NoFocus || control->focusProxy())
+                continue;
+            QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(control);
+            if (reader && reader->text(QAccessible::Name).trimmed().isEmpty() &&
+                !qobject_cast<const QTabWidget*>(control) && !control->inherits("QTabBar"))
+                nameless << control->metaObject()->className() + QString(" ") + control->objectName();
+        }
+        return nameless;
+    }
+
+    static bool FitsTheScreen(const QWidget& form)
+    {
+        const QSize screen = form.screen()->availableSize();
+        return form.frameGeometry().width() <= screen.width() && form.frameGeometry().height() <= screen.height();
+    }
+
+    House house;
+    User user;
+    std::unique_ptr<QWidget> form_;
+};
+
+TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndClipsNothing)
+{
+    for (const auto& [name, make] : kForms) {
+        SCOPED_TRACE(name);
+        QMap<QString, QString> english;
+        for (const bool inEnglish : {true, false}) {
+            SessionState.English = inEnglish;
+            const QWidget& form = Open(make);
+            EXPECT_EQ(form.objectName(), name);
+            EXPECT_EQ(Clipped(form), QStringList());
+            EXPECT_EQ(Nameless(form), QStringList());
+            EXPECT_TRUE(FitsTheScreen(form)) << form.frameGeometry().width() << "x" << form.frameGeometry().height();
+            const QMap<QString, QString> captions = Captions(form);
+            for (auto caption = captions.begin(); caption != captions.end() && name != kBilingual; ++caption)
+                EXPECT_TRUE(caption.value() != english.value(caption.key()) || kSameInFrench.contains(caption.value()))
+                    << qPrintable(caption.key()) << ": " << qPrintable(caption.value());
+            if (inEnglish)
+                english = captions;
+            form_.reset();
+        }
+    }
+}
+
+TEST_F(Forms, EscapeLeavesThem)
+{
+    const QStringList staying = {"frmMain", "frmSetUpWizard"}; // the wizard asks first
+    for (const auto& [name, make] : kForms) {
+        if (staying.contains(name))
+            continue;
+        QWidget& form = Open(make);
+        QTest::keyClick(&form, Qt::Key_Escape);
+        EXPECT_FALSE(form.isVisible()) << name;
+    }
+}
+
+/// Twice the letters, and the smallest screen: pages scroll, and the buttons at the foot can be reached.
+TEST_F(Forms, WithLettersTwiceAsLargeTheirButtonsStayOnTheScreen)
+{
+    const QFont font = QApplication::font();
+    QFont large = font;
+    large.setPointSizeF(2 * font.pointSizeF());
+    QApplication::setFont(large);
+    for (const auto& [name, make] : kForms) {
+        const QWidget& form = Open(make);
+        if (!dynamic_cast<const FormBase*>(&form))
+            continue;
+        EXPECT_TRUE(FitsTheScreen(form)) << name;
+        for (const auto* button : form.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly))
+            EXPECT_TRUE(!button->isVisible() || form.rect().contains(button->geometry()))
+                << name << " " << qPrintable(button->objectName());
+    }
+    form_.reset();
+    QApplication::setFont(font);
+}
+
+TEST_F(Forms, AllThatCommandsOpenAreWalked)
+{
+    QStringList opened;
+    SetModalRunner([&opened](const QDialog& form) {
+        opened << form.objectName();
+        return QDialog::Rejected;
+    });
+    SetMessagePresenter([](const Message&) { return MessageCode::Cancel; });
+    auto& main = dynamic_cast<frmMain&>(Open(kForms[0].second));
+    for (const Command& command : Commands())
+        if (command.Opens && command.In == Place::Menus)
+            try {
+                command.Opens(main);
+            } catch (const ProgramEnded&) {
+                EXPECT_EQ(command.Name, "mnuFileExit");
+            }
+    EXPECT_TRUE(opened.contains("frmEmployees"));
+    for (const auto& [name, make] : kForms)
+        opened.removeAll(name);
+    EXPECT_EQ(opened, QStringList());
+}
+} // namespace
