@@ -11,31 +11,21 @@ namespace
 TEST(NativePathTest, EachPartIsFoundWhateverItsLetterCase)
 {
     const QTemporaryDir root;
-    QDir(root.path()).mkpath("Données/2026");
-    QFile file(root.path() + "/Données/2026/Tarvell.mdb");
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    const QString found = root.path() + "/Données/2026/Tarvell.mdb";
-    EXPECT_EQ(NativePath(root.path() + "\\DONNÉES\\2026\\TARVELL.MDB"), found);
-    EXPECT_EQ(NativePath(root.path() + "/données\\2026//tarvell.mdb"), found);
-    EXPECT_EQ(NativePath(root.path() + "\\données\\2027\\New.mdb"), root.path() + "/Données/2027/New.mdb")
-        << "what is not there yet keeps its spelling inside the folder that is";
-    EXPECT_EQ(NativePath(JoinPath(root.path(), "Données")), root.path() + "/Données");
-    EXPECT_EQ(NativePath(""), "");
-
-    QFile capitals(root.path() + "/Données/2026/TARVELL.MDB");
-    ASSERT_TRUE(capitals.open(QIODevice::WriteOnly));
-    EXPECT_EQ(NativePath(root.path() + "\\Données\\2026\\TARVELL.MDB"), capitals.fileName())
-        << "the exact name goes before its likes";
-}
-
-TEST(NativePathTest, RelativePathsStayRelative)
-{
-    const QTemporaryDir root;
-    const QString before = QDir::currentPath();
-    QDir(root.path()).mkpath("Reports");
-    QDir::setCurrent(root.path());
-    EXPECT_EQ(NativePath("REPORTS\\march.txt"), "Reports/march.txt");
-    QDir::setCurrent(before);
+    const QString folder = root.path() + "/Données/2026/";
+    QDir().mkpath(folder);
+    WriteFile(folder + "Tarvell.mdb");
+    const std::pair<QString, QString> paths[] = {
+        {root.path() + "\\DONNÉES\\2026\\TARVELL.MDB", folder + "Tarvell.mdb"},
+        {root.path() + "/données\\2026//tarvell.mdb", folder + "Tarvell.mdb"},
+        // what is not there yet keeps its spelling inside the folder that is
+        {root.path() + "\\données\\2027\\New.mdb", root.path() + "/Données/2027/New.mdb"},
+        {JoinPath(root.path(), "Données"), root.path() + "/Données"},
+        {"", ""}};
+    for (const auto& [path, native] : paths)
+        EXPECT_EQ(NativePath(path), native);
+    WriteFile(folder + "TARVELL.MDB");
+    EXPECT_EQ(NativePath(folder + "TARVELL.MDB"), folder + "TARVELL.MDB") << "the exact name goes before its likes";
+    EXPECT_EQ(NativePath("..\\" + QDir::current().dirName().toUpper()), "../" + QDir::current().dirName());
 }
 
 /// Installed in a folder that users may not write, the program keeps its files with the user.
