@@ -14,7 +14,7 @@ protected:
 
 TEST_F(Records, AResultIsReadWholeAndWalkedToItsEnd)
 {
-    Recordset staff = database_->OpenRecordset("SELECT *, 'x' AS name FROM Staff ORDER BY RecordID");
+    Recordset staff = database_->OpenRecordset("SELECT *, 'x' AS Name FROM Staff ORDER BY RecordID");
     Recordset none = database_->OpenRecordset("SELECT * FROM Staff WHERE RecordID = 0");
     QStringList names;
     database_.reset();

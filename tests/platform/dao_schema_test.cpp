@@ -37,26 +37,17 @@ QString ForeignAnswer(const QString& file, const char* sql)
     return answer;
 }
 
-TEST_F(Schema, EveryTableIsDeliveredAndNearlyAllAreEmpty)
+TEST_F(Schema, NearlyAllTablesAreDeliveredEmpty)
 {
-    const QStringList others{"FiscalYears",
-                             "CategoriesDepartments",
-                             "CategoriesEmployees",
-                             "Employees_List",
-                             "Holidays",
-                             "BlockedDays",
-                             "Entitlements_Reproduction",
-                             "Messages",
-                             "ErrorLog",
-                             "AddressBook"};
-    for (const QString& table : others + kTwinned)
-        EXPECT_EQ(database->OpenRecordset("SELECT * FROM " + table).RecordCount(), 0) << qPrintable(table);
+    QStringList filled;
+    for (const Recordset& table : database->OpenRecordset("SELECT name FROM sqlite_master WHERE type = 'table'"))
+        if (!database->OpenRecordset("SELECT * FROM " + table.Text("name")).AtEnd())
+            filled << table.Text("name");
+    filled.sort();
+    EXPECT_EQ(filled.join(','), "FilePassword,SAC,WebSites,sqlite_sequence");
     EXPECT_EQ(house_.Rows("SELECT Status, (SELECT RecordID FROM WebSites) FROM SAC"), "U-NR-NOCP|1");
     const auto config = Database::Open(house_.Folder() + "/Config.mdb", kConfigPassword);
-    EXPECT_EQ(RowsOf(*config, "SELECT * FROM Configuration"), "");
-    EXPECT_EQ(config->Columns("Configuration").join(','),
-              "English,SQL_Server,IP_Address,Username,Password,DatabasePath,"
-              "DatabaseName,Configured,LastUpgradeDate");
+    EXPECT_TRUE(config->OpenRecordset("SELECT * FROM Configuration").AtEnd());
 }
 
 TEST_F(Schema, ARowCopiedByPositionIntoItsTwinKeepsEachValueInItsColumn)
@@ -109,25 +100,5 @@ TEST_F(Schema, ToolsWithAnotherOrderOfTextsStillReadTheFileSoundly)
     EXPECT_EQ(ForeignAnswer(house_.DatabaseFile(), "SELECT FamilyName FROM Employees WHERE FamilyName = 'eva'"),
               "Eva;");
     EXPECT_EQ(ForeignAnswer(house_.DatabaseFile(), "PRAGMA journal_mode"), "delete;");
-}
-
-/// A plan is what keeps the calendar quick on a million rows: one narrow index, and no walk over the whole table.
-TEST_F(Schema, TheCalendarsQueriesStayInsideAnIndex)
-{
-    const QString total =
-        "SELECT SUM(Attendance.TotalDuration) FROM Attendance, Categories WHERE Attendance.CategoryID = "
-        "Categories.RecordID AND Attendance.FiscalYear = ? AND Attendance.CancelledDate = 0 AND "
-        "Attendance.Submitted = 0";
-    const QString days = "SELECT DISTINCT Attendance.RecordDate, Attendance.CategoryID FROM Attendance WHERE "
-                         "Attendance.RecordDate BETWEEN ? AND 60000 AND Attendance.CancelledDate = 0 AND "
-                         "Attendance.Submitted = 0";
-    const char* scopes[] = {"", " AND Attendance.EmployeeID = 1", " AND Attendance.GroupID = 1",
-                            " AND Attendance.DepartmentID = 1", " AND Attendance.OrganizationID = 1"};
-    for (const QString scope : scopes)
-        for (const QString& sql : {total, days}) {
-            const Recordset plan = database->OpenRecordset("EXPLAIN QUERY PLAN " + sql + scope, {1});
-            EXPECT_TRUE(plan.Text("detail").startsWith("SEARCH Attendance USING COVERING INDEX"))
-                << qPrintable(sql + scope + "\n" + plan.Text("detail"));
-        }
 }
 } // namespace

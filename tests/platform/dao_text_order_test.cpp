@@ -27,7 +27,7 @@ TEST_F(TextOrder, EqualityIgnoresLetterCaseButNotAccents)
                                                          {"LOWER(Name) COLLATE BINARY = LCASE('ETE')", "Ete"}};
     for (const auto& [condition, names] : found)
         EXPECT_EQ(List(QStringLiteral("SELECT Name FROM Staff WHERE ") + condition), names);
-    EXPECT_EQ(List("SELECT COUNT(DISTINCT Name), UPPER(NULL) FROM Staff"), "2|");
+    EXPECT_EQ(List("SELECT COUNT(DISTINCT Name), UPPER(NULL) IS NULL FROM Staff"), "2|1");
     for (const auto& [one, other] : {std::pair("A2", "A²"), {"A", "A\x01"}, {"", " "}})
         EXPECT_NE(CompareTexts(one, other), 0) << "a sign that the collator takes for another is another";
 }

@@ -24,7 +24,10 @@ TEST_F(Transactions, WhateverLeavesTheScopeUndoesUnlessItIsKept)
             EXPECT_EQ(Names(), onFailure == Transaction::Undo ? "" : "Anne");
         }
     Transaction(*database, Transaction::KeepOnFailure).Commit();
-    EXPECT_FALSE(database->IsInTransaction());
+    {
+        const Transaction next(*database);
+        EXPECT_TRUE(database->IsInTransaction());
+    }
     Hire(*database, {"Benoît"});
     EXPECT_EQ(Names(), "Anne,Benoît") << "the database goes on";
 }

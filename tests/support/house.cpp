@@ -18,14 +18,9 @@
 
 namespace
 {
-std::function<void(const QString&)>& ComplaintHandler()
-{
-    static std::function<void(const QString&)> handler = [](const QString& text) {
-        qCritical("%s", qUtf8Printable(text));
-    };
-    return handler;
-}
-
+std::function<void(const QString&)> complaintHandler = [](const QString& text) {
+    qCritical("%s", qUtf8Printable(text));
+};
 QDateTime moment; // what the program takes for now
 
 /// What the company has besides the first rows of a new database.
@@ -52,12 +47,12 @@ const std::pair<QDate, const char*> kHolidays[] = {{{2026, 1, 1}, "New Year"},
 
 void SetComplaintHandler(std::function<void(const QString&)> handler)
 {
-    ComplaintHandler() = std::move(handler);
+    complaintHandler = std::move(handler);
 }
 
 void Complain(const QString& text)
 {
-    ComplaintHandler()(text);
+    complaintHandler(text);
 }
 
 QString House::DeliveredFolder()
