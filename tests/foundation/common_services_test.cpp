@@ -46,6 +46,10 @@ TEST_F(CommonServices, DaysAreTakenOutInWholesOfTheEmployeesDay)
         EXPECT_EQ(Shown(decimal, day), shown);
     SessionState.English = false;
     EXPECT_EQ(Shown("8", 7), "1 jours 01:00");
+    SessionState.DurationInDays = false;
+    SessionState.DurationText = "8";
+    FormatDuration();
+    EXPECT_EQ(SessionState.DurationText, "08:00");
     EXPECT_EQ(DurationText(16.5F), "16:30") << "whatever the session's day";
     EXPECT_EQ(DurationText(16.5F, 7.5F), "2 jours 01:30");
 }
@@ -117,6 +121,7 @@ TEST_F(CommonServices, LogsAreAppendedLineByLine)
     for (const bool server : {false, true}) {
         SessionState.SQL_Server = server;
         const Connection connection(datAbsence);
+        EXPECT_EQ(DefaultWorkspace().IsOpen(), !server);
     }
     SessionState.SQL_Server = false;
     const QString moment = "\t2026-03-02 09:00:00\tMBOUCHARD\t";

@@ -67,7 +67,7 @@ TEST_F(ServerTwin, AttendanceIsSentWithoutItsCosts)
     entry.EmployeeDepartmentID = 1;
     entry.FirstApprover = 4;
     entry.Comment = "flu ";
-    entry.StartTime = 8;
+    entry.StartTime = 8.3F;
     entry.EndTime = 10.5F;
     entry.Duration = entry.TotalDuration = 2.5F;
     SubmitAttendance(datAbsence, entry);
@@ -77,14 +77,14 @@ TEST_F(ServerTwin, AttendanceIsSentWithoutItsCosts)
 
     const TableShape& table = kTable<AttendanceRow>;
     const QString columns = table.Columns.mid(0, table.Columns.size() - table.FileOnly).join(", ");
-    const QString head =
-        "INSERT INTO Attendance (" + columns + ") VALUES (1, 3, 0, 1, 0, 2, 46083, 2.5, 8, 10.5, 1, 2.5, 0, 'flu', 0, ";
+    const QString head = "INSERT INTO Attendance (" + columns +
+                         ") VALUES (1, 3, 0, 1, 0, 2, 46083, 2.5, 8.3, 10.5, 1, 2.5, 0, 'flu', 0, ";
     const QString tail = ", 0, 0, '', 0, '', '', 'ADMIN', 46083, '', 0, '', 0)\n";
     EXPECT_EQ(sent.join('\n'),
               head + QStringLiteral("1, 46083.75, %1, 4, 0").arg(SessionState.UserID) + tail +
                   "INSERT INTO Attendance_Modifications (RecordID, " + columns +
                   ") SELECT * FROM Attendance WHERE RecordID = 7\n"
-                  "UPDATE Attendance SET CategoryID = 2, Duration = 2.5, StartTime = 8, EndTime = 10.5, "
+                  "UPDATE Attendance SET CategoryID = 2, Duration = 2.5, StartTime = 8.3, EndTime = 10.5, "
                   "TimeMultiplicator = 1, TotalDuration = 2.5, WholeDay = 0, Comment = 'flu', Justified = 0, "
                   "ModifiedBy = 'ADMIN', ModifiedDate = 46083 WHERE RecordID = 7\n" +
                   head + "0, 0, 0, 0, 0" + tail + "SELECT * FROM Employees WHERE RecordID = 3");

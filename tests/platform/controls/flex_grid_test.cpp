@@ -40,8 +40,9 @@ TEST_F(Grid, RowsKeepTheirCellsAndNumbersWhenOthersGo)
         grid.SetRowData(row, 100 + i);
         grid.SetCellForeColor(row, 1, i);
     }
-    grid.RemoveItem(2);
-    EXPECT_EQ(grid.Rows(), 4);
+    for (const int row : {2, 4, -1})
+        grid.RemoveItem(row);
+    EXPECT_EQ(grid.Rows(), 4) << "there is no row 4 any more";
     EXPECT_EQ(grid.TextMatrix(2, 2), "c3");
     EXPECT_EQ(grid.RowData(2), 103);
     EXPECT_EQ(grid.CellForeColor(2, 1), 3);
@@ -86,6 +87,12 @@ TEST_F(Grid, AnUpdateIsShownOnceWithItsHeightsMergesAndHiddenRows)
     EXPECT_TRUE(grid.updatesEnabled());
     grid.SetTextMatrix(300, 1, "later");
     EXPECT_EQ(changed.size(), 1) << "what changes afterwards is shown at once";
+    grid.BeginUpdate();
+    grid.SetRowHidden(grid.AddItem("dropped"), true);
+    grid.ClearRows();
+    grid.AddItem("in its place");
+    grid.EndUpdate();
+    EXPECT_FALSE(grid.isRowHidden(0));
 }
 
 TEST_F(Grid, CellsArePaintedInTheirOwnColours)
@@ -132,6 +139,7 @@ TEST_F(Grid, TheKeyboardWalksTheCellsPastSeparatorsAndPressesThem)
     for (int row = 0; row < 30; ++row)
         grid.SetCellLines(row, 2, false);
     grid.SetColHidden(3, true);
+    grid.SetRowHidden(1, true);
     Show();
     const auto press = [this](std::initializer_list<Qt::Key> keys) {
         for (const Qt::Key key : keys)
@@ -143,7 +151,7 @@ TEST_F(Grid, TheKeyboardWalksTheCellsPastSeparatorsAndPressesThem)
     press({Qt::Key_Right, Qt::Key_Up});
     EXPECT_EQ(std::pair(grid.Row(), grid.Col()), std::pair(0, 4)) << "the edge holds";
     press({Qt::Key_Down, Qt::Key_Return});
-    EXPECT_EQ(Clicked(), std::pair(1, 4));
+    EXPECT_EQ(Clicked(), std::pair(2, 4)) << "and the hidden row";
     press({Qt::Key_Up, Qt::Key_Left, Qt::Key_Enter});
     EXPECT_EQ(Clicked(), std::pair(0, 1));
     press({Qt::Key_Home, Qt::Key_PageDown});
