@@ -68,7 +68,7 @@ TEST_F(CommonServices, HoursAndMinutesGiveDecimalHoursAndLeaveTheText)
     for (const auto& [text, hours] : clock)
         EXPECT_FLOAT_EQ(ClockHours(text), hours) << qPrintable(text);
     const std::pair<float, QString> rounded[] = {
-        {2.675F, "2.68"}, {-2.675F, "-2.68"}, {0.004F, "0.00"}, {1e6F, "1000000.00"}};
+        {2.675F, "2.68"}, {-1.005F, "-1.01"}, {0.004F, "0.00"}, {1e6F, "1000000.00"}};
     for (const auto& [value, text] : rounded)
         EXPECT_EQ(FormatNumber(value, 2), text);
     const std::pair<QString, double> values[] = {{" 1 2.5x", 12.5}, {"-.5", -0.5}, {"x1", 0}, {"1e2", 100}};
@@ -110,6 +110,7 @@ TEST_F(CommonServices, MessagesCheckTheirRangesAndAnswerByCaption)
         AskWithList("TITRE:", "Texte", lines);
         EXPECT_EQ(seen.ScrollBar, lines == 10);
     }
+    EXPECT_EQ(SessionState.MessageTitle + SessionState.MessageText, "TITRE:Texte");
     SetMessagePresenter({});
 }
 
@@ -122,6 +123,8 @@ TEST_F(CommonServices, LogsAreAppendedLineByLine)
         SessionState.SQL_Server = server;
         const Connection connection(datAbsence);
         EXPECT_EQ(DefaultWorkspace().IsOpen(), !server);
+        DefaultWorkspace().Close();
+        EXPECT_EQ(datAbsence.Read("SELECT * FROM SAC"), !server) << "a lost connection is restored";
     }
     SessionState.SQL_Server = false;
     const QString moment = "\t2026-03-02 09:00:00\tMBOUCHARD\t";
@@ -143,6 +146,8 @@ TEST_F(CommonServices, DatesFollowTheFixedPatternsAndZeroShowsNothing)
     EXPECT_EQ(FormatDate(0, "dd-mmm-yyyy"), "");
     EXPECT_EQ(WeekdayName(WeekdayIndex(date)) + WeekdayName(WeekdayIndex(date - 1)), "MondaySunday");
     EXPECT_EQ(SerialOfDateTime({{2026, 3, 9}, {18, 0}}), 46090.75);
+    SessionState.LoginID = "A.NAME.OF.SEVENTEEN";
+    EXPECT_EQ(UserStamp(), "A.NAME.OF.SEVEN");
     EXPECT_EQ(ClockTexts().size(), 288);
     EXPECT_EQ(ClockTexts().first() + ClockTexts().last(), "00:0023:55");
 }

@@ -151,14 +151,18 @@ TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
         house.Today(year, month, day);
         ChooseCurrentFiscalYear(datAbsence);
         FindNeighbouringYears(datAbsence);
-        return SessionState.FiscalYearName + " after " + SessionState.PreviousFYName + " before " +
-               SessionState.NextFYName;
+        const Session& s = SessionState;
+        return QStringLiteral("%1 after %2 %3 before %4 %5")
+            .arg(s.FiscalYearName, QString::number(s.PreviousFYID), s.PreviousFYName, QString::number(s.NextFYID),
+                 s.NextFYName);
     };
-    EXPECT_EQ(chosen(2026, 4, 1), "2026 after  before 2027");
-    EXPECT_EQ(chosen(2025, 6, 1), "2026 after  before 2027");
-    EXPECT_EQ(chosen(2024, 12, 31), "2024 after 2023 before ");
-    EXPECT_EQ(chosen(2028, 3, 31), "2027 after 2026 before ");
-    EXPECT_EQ(chosen(2030, 1, 1), "2027 after 2026 before "); // the highest key among the past ones
+    EXPECT_EQ(chosen(2026, 4, 1), "2026 after 0  before 4 2027");
+    EXPECT_EQ(chosen(2025, 6, 1), "2026 after 0  before 4 2027");
+    EXPECT_EQ(chosen(2024, 12, 31), "2024 after 2 2023 before 0 ");
+    EXPECT_EQ(chosen(2028, 3, 31), "2027 after 3 2026 before 0 ");
+    EXPECT_EQ(chosen(2030, 1, 1), "2027 after 3 2026 before 0 "); // the highest key among the past ones
+    house.Sql("DELETE FROM FiscalYears");
+    EXPECT_FALSE(ChooseCurrentFiscalYear(datAbsence));
 }
 
 TEST_F(LogIn, AnExperiencedUserNeedsNoHint)
@@ -175,6 +179,9 @@ TEST_F(LogIn, AnExperiencedUserNeedsNoHint)
     };
     EXPECT_TRUE(hint("MAX(RecordID, 2)")) << "25 batches";
     EXPECT_FALSE(hint("RecordID"));
+    house.Hire({"LUC", "Luc", "Roy", "Production"});
+    house.LogIn("LUC");
+    EXPECT_TRUE(SessionState.ShowSelectHint) << "whoever may enter nothing is not counted";
     house.Sql("UPDATE Attendance SET EnteredBy = 'mbouchard'");
     EXPECT_TRUE(hint("RecordID")) << "another user's, to the letter";
 }

@@ -128,10 +128,10 @@ TEST_F(MessageBox, TheFaceFollowsAMomentAfterTheText)
 {
     for (int face = 0; face <= 8; ++face)
         Shows({.Text = "Text", .Picture = Face(face)}, [&](frmMessageBox& box) {
-            auto* image = box.findChild<QLabel*>("imgFace");
+            const auto* image = box.findChild<QLabel*>("imgFace");
+            const auto isShown = [&] { return image->isVisible() && !image->pixmap().isNull(); };
             EXPECT_EQ(user.Reads("txtMessage"), "Text");
-            QTest::qWait(30);
-            EXPECT_EQ(image->isVisible() && !image->pixmap().isNull(), face < 8) << "face " << face;
+            EXPECT_EQ(QTest::qWaitFor(isShown, face < 8 ? 5000 : 30), face < 8) << "face " << face;
             box.close();
         });
 }

@@ -11,10 +11,12 @@ protected:
 TEST_F(DatabasePlace, ANewDatabaseMovesToAnotherFolder)
 {
     const QString share = Folder("Réseau");
+    QFile::setPermissions(house.DatabaseFile(), QFile::ReadOwner);
     Open("optEnglish", "optNewAccessDatabase");
     user.WillAnswer("OPERATION SUCCESSFUL:", "OK", "Your database was moved to the specified directory.");
     Chooses(share + "/tarvell.mdb");
     EXPECT_EQ(user.Reads("lblDatabasePath"), share + "/Tarvell.mdb");
+    EXPECT_TRUE(QFile::permissions(share + "/Tarvell.mdb").testFlag(QFile::WriteOwner)) << "as delivered, or not";
 
     user.Clicks("cmdNext");
     EntersTheRest("2026", "January");

@@ -209,7 +209,7 @@ QString House::Cell(const QString& sql, const Values& values)
 
 int House::Number(const QString& sql, const Values& values)
 {
-    return Cell(sql, values).toInt();
+    return static_cast<int>(Cell(sql, values).toDouble());
 }
 
 int House::Sql(const QString& sql, const Values& values)

@@ -124,7 +124,9 @@ TEST_F(EntryFields, TheFocusSelectsTheWholeContentsSoThatTypingReplacesThem)
     QTest::keyClicks(line, "x");
     EXPECT_TRUE(line->hasSelectedText()) << "a dropped key leaves the selection";
     QTest::mouseClick(line, Qt::LeftButton, {}, QPoint(30, 8));
-    EXPECT_FALSE(line->hasSelectedText()) << "the second click sets the cursor";
+    QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(line, &back);
+    EXPECT_FALSE(line->hasSelectedText()) << "a second click sets the cursor, where it stays behind other windows";
 
     text->setFocus();
     QTest::keyClicks(text, "1x2");
