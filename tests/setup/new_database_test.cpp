@@ -138,7 +138,9 @@ TEST_F(NewServer, TheConnectionIsTestedTheRowsAreComposedAndTheWorkstationIsSetT
     EXPECT_FALSE(user.CanUse("cmdTestConnection"));
     user.Types("txtIPAddress", "10.0.0.7").Types("txtUserName", "tarvell").Types("txtPassword", "s3cret");
     EXPECT_FALSE(user.CanUse("cmdNext"));
-    user.Types("txtDatabaseName", "Absence");
+    user.Types("txtDatabaseName", "Absence").Types("txtPassword", "");
+    EXPECT_FALSE(user.CanUse("cmdNext"));
+    user.Types("txtPassword", "s3cret");
     for (int time = 0; time < 2; ++time)
         user.WillAnswer("DATABASE NOT EMPTY:", "OK", "EXISTING SQL Server database").Clicks("cmdTestConnection");
     EXPECT_EQ(house.ReadFile("Absence.dsn"),
