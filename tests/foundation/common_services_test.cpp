@@ -1,4 +1,5 @@
 #include "foundation/common_services.h"
+#include "foundation/connection.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
@@ -37,14 +38,19 @@ TEST_F(CommonServices, DecimalHoursShowAsHoursAndMinutes)
 
 TEST_F(CommonServices, DaysAreTakenOutInWholesOfTheEmployeesDay)
 {
-    EXPECT_EQ(Shown("16.5", 7.5F), "2 days 01:30");
-    EXPECT_EQ(Shown("0", 7.5F), "0 days 00:00");
-    EXPECT_EQ(Shown("-16.5", 7.5F), "-(2 days 01:30)");
-    EXPECT_EQ(Shown("7.5", 7.5F), "1 days 00:00");
+    const std::tuple<QString, float, QString> cases[] = {{"16.5", 7.5F, "2 days 01:30"},
+                                                         {"0", 7.5F, "0 days 00:00"},
+                                                         {"-16.5", 7.5F, "-(2 days 01:30)"},
+                                                         {"7.5", 7.5F, "1 days 00:00"}};
+    for (const auto& [decimal, day, shown] : cases)
+        EXPECT_EQ(Shown(decimal, day), shown);
     SessionState.English = false;
     EXPECT_EQ(Shown("8", 7), "1 jours 01:00");
-    SessionState.HoursWorkedDaily = 0;
-    EXPECT_EQ(DurationText(16.5F), "16:30");
+    SessionState.DurationInDays = false;
+    SessionState.DurationText = "8";
+    FormatDuration();
+    EXPECT_EQ(SessionState.DurationText, "08:00");
+    EXPECT_EQ(DurationText(16.5F), "16:30") << "whatever the session's day";
     EXPECT_EQ(DurationText(16.5F, 7.5F), "2 jours 01:30");
 }
 
@@ -58,9 +64,16 @@ TEST_F(CommonServices, HoursAndMinutesGiveDecimalHoursAndLeaveTheText)
     FormatDuration();
     EXPECT_EQ(SessionState.DurationText, "8");
     EXPECT_FLOAT_EQ(SessionState.DurationDecimal, 1);
-    EXPECT_EQ(ClockHours("00:00"), kMidnight);
-    EXPECT_FLOAT_EQ(ClockHours("13:45"), 13.75F);
-    EXPECT_EQ(ClockHours(""), 0);
+    const std::pair<QString, float> clock[] = {{"00:00", kMidnight}, {"13:45", 13.75F}, {"", 0}};
+    for (const auto& [text, hours] : clock)
+        EXPECT_FLOAT_EQ(ClockHours(text), hours) << qPrintable(text);
+    const std::pair<float, QString> rounded[] = {
+        {2.675F, "2.68"}, {-1.005F, "-1.01"}, {0.004F, "0.00"}, {1e6F, "1000000.00"}};
+    for (const auto& [value, text] : rounded)
+        EXPECT_EQ(FormatNumber(value, 2), text);
+    const std::pair<QString, double> values[] = {{" 1 2.5x", 12.5}, {"-.5", -0.5}, {"x1", 0}, {"1e2", 100}};
+    for (const auto& [text, value] : values)
+        EXPECT_EQ(Val(text), value) << qPrintable(text);
 }
 
 TEST_F(CommonServices, NamesAndPagesKeepTheirAccents)
@@ -85,18 +98,19 @@ TEST_F(CommonServices, MessagesCheckTheirRangesAndAnswerByCaption)
     EXPECT_EQ(answer(12, 11, {"Microsoft Access", "SQL Server"}), 9);
     EXPECT_EQ(seen.Picture, Face::Warning);
     EXPECT_EQ(seen.Captions, (QStringList{"Microsoft Access", "SQL Server"}));
-    EXPECT_EQ(answer(13, 8, {"A", "B", "Oui"}), MessageCode::Yes);
-    EXPECT_EQ(seen.Picture, Face(8));
+    for (const int face : {8, 10}) {
+        EXPECT_EQ(answer(13, face, {"A", "B", "Oui"}), MessageCode::Yes);
+        EXPECT_EQ(seen.Picture, Face(face));
+    }
     EXPECT_EQ(SessionState.MessageResult, MessageCode::Yes);
-    const std::pair<int, int> lastButtons[] = {{0, 1}, {2, 5}, {3, 2}, {4, 7}, {7, 5}, {8, 2}, {9, 7}, {10, 2}};
-    for (const auto& [set, result] : lastButtons)
-        EXPECT_EQ(answer(set, 0, {}), result) << set;
     SessionState.English = false;
     EXPECT_FALSE(Ask("TITRE:", "Texte"));
     EXPECT_EQ(seen.Captions, (QStringList{"Oui", "Non"}));
-    EXPECT_FALSE(seen.ScrollBar);
-    AskWithList("TITRE:", "Texte", 10);
-    EXPECT_TRUE(seen.ScrollBar);
+    for (const int lines : {9, 10}) {
+        AskWithList("TITRE:", "Texte", lines);
+        EXPECT_EQ(seen.ScrollBar, lines == 10);
+    }
+    EXPECT_EQ(SessionState.MessageTitle + SessionState.MessageText, "TITRE:Texte");
     SetMessagePresenter({});
 }
 
@@ -104,10 +118,19 @@ TEST_F(CommonServices, LogsAreAppendedLineByLine)
 {
     SessionState.LoginID = "MBOUCHARD";
     SessionState.ReloadCalendar = true;
-    LogConnection("frmMain", true);
-    LogConnection("frmMain", false);
-    EXPECT_EQ(house.ReadFile("Connections.log"), "frmMain\tTrue\t2026-03-02 09:00:00\tMBOUCHARD\tFalse\tTrue\r\n"
-                                                 "frmMain\tFalse\t2026-03-02 09:00:00\tMBOUCHARD\tFalse\tTrue\r\n");
+    DataControl datAbsence("frmMain");
+    for (const bool server : {false, true}) {
+        SessionState.SQL_Server = server;
+        const Connection connection(datAbsence);
+        EXPECT_EQ(DefaultWorkspace().IsOpen(), !server);
+        DefaultWorkspace().Close();
+        EXPECT_EQ(datAbsence.Read("SELECT * FROM SAC"), !server) << "a lost connection is restored";
+    }
+    SessionState.SQL_Server = false;
+    const QString moment = "\t2026-03-02 09:00:00\tMBOUCHARD\t";
+    EXPECT_EQ(house.ReadFile("Connections.log"), "frmMain\tTrue" + moment + "False\tTrue\r\nfrmMain\tFalse" + moment +
+                                                     "False\tTrue\r\nfrmMain\tTrue" + moment +
+                                                     "True\tTrue\r\nfrmMain\tFalse" + moment + "True\tTrue\r\n");
     LogEMailError("Subject", "True", "No mail program");
     EXPECT_EQ(house.ReadFile("EMailErrors.log"), "Subject\tTrue\tNo mail program\r\n");
     LogError(3021, "No current record.", "frmX", "Routine", "SELECT 'x'", 46083.5);
@@ -121,7 +144,11 @@ TEST_F(CommonServices, DatesFollowTheFixedPatternsAndZeroShowsNothing)
     EXPECT_EQ(FormatDate(date, "dd-mmm-yyyy"), "09-Mar-2026");
     EXPECT_EQ(FormatDate(date, "ddd dd-mm-yyyy"), "Mon 09-03-2026");
     EXPECT_EQ(FormatDate(0, "dd-mmm-yyyy"), "");
-    EXPECT_EQ(WeekdayIndex(date), 1);
-    EXPECT_EQ(WeekdayIndex(SerialOfDate({2026, 3, 8})), 0);
+    EXPECT_EQ(WeekdayName(WeekdayIndex(date)) + WeekdayName(WeekdayIndex(date - 1)), "MondaySunday");
+    EXPECT_EQ(SerialOfDateTime({{2026, 3, 9}, {18, 0}}), 46090.75);
+    SessionState.LoginID = "A.NAME.OF.SEVENTEEN";
+    EXPECT_EQ(UserStamp(), "A.NAME.OF.SEVEN");
+    EXPECT_EQ(ClockTexts().size(), 288);
+    EXPECT_EQ(ClockTexts().first() + ClockTexts().last(), "00:0023:55");
 }
 } // namespace

@@ -43,11 +43,10 @@ TEST_F(LogIn, TheStartReadsTheConfigurationCleansUpAndLogsTheUserIn)
 {
     house.Configured().Company();
     const int marie = Hired("MBOUCHARD", {"SelfLevelRead", "GroupLevelRead"});
-    house.Sql("UPDATE Employees SET Language = 1, AttendanceApprovedBy_Main = 1 WHERE RecordID = ?", {marie});
-    for (const char* name : {"/Initiate.bat", "/version.dat", "/Connections.log", "/Restart.bat", "/Errors.log"}) {
-        QFile leftOver(house.Folder() + name);
-        ASSERT_TRUE(leftOver.open(QIODevice::WriteOnly));
-    }
+    house.Sql("UPDATE Employees SET Language = 1, AttendanceApprovedBy_Main = 1, DepartmentID = 2 WHERE RecordID = ?",
+              {marie});
+    for (const char* name : {"/Initiate.bat", "/version.dat", "/Connections.log", "/Restart.bat", "/Errors.log"})
+        WriteFile(house.Folder() + name);
     user.WhenOpens<frmLogin>([this](frmLogin& login) {
         user.WillAnswer("Access denied!...", "OK", "The username and password you specified are invalid!");
         Types("mbouchard", "wrong");
@@ -58,13 +57,11 @@ TEST_F(LogIn, TheStartReadsTheConfigurationCleansUpAndLogsTheUserIn)
 
     EXPECT_EQ(shown, QStringList{"main"});
     const Session& s = SessionState;
-    EXPECT_EQ(s.LoginID, "MBOUCHARD");
-    EXPECT_EQ(s.UserID, marie);
-    EXPECT_EQ(s.EmployeeID, marie);
-    EXPECT_EQ(s.UserName, "Marie Bouchard");
-    EXPECT_EQ(s.TimeOutSeconds, 840);
-    EXPECT_EQ(s.UserApprovedBy, 1);
-    EXPECT_EQ(s.EmployeeGroupID, 1);
+    EXPECT_EQ(s.LoginID + " " + s.UserName + " " + s.CurrentSelection, "MBOUCHARD Marie Bouchard Marie Bouchard");
+    EXPECT_EQ((QList<int>{s.UserID, s.EmployeeID, s.UserApprovedBy, s.TimeOutSeconds}),
+              (QList<int>{marie, marie, 1, 840}));
+    EXPECT_EQ((QList<int>{s.UserOrganizationID, s.UserDepartmentID, s.UserGroupID}), (QList<int>{1, 2, 1}));
+    EXPECT_EQ((QList<int>{s.EmployeeOrganizationID, s.EmployeeDepartmentID, s.EmployeeGroupID}), (QList<int>{1, 2, 1}));
     EXPECT_EQ(s.GroupLevelRead, 1);
     EXPECT_EQ(s.GlobalLevelRead, 0);
     EXPECT_FALSE(s.English);
@@ -89,14 +86,16 @@ TEST_F(LogIn, AdminEntersAnyYearAndIsToldWhenItIsClosed)
 {
     house.Configured().Company();
     house.Sql("UPDATE FiscalYears SET ClosedDate = ?", {SerialOfDate({2026, 2, 27})});
+    house.Hire({"ADMIN", "Im", "Postor", "Production"});
     user.WhenOpens<frmLogin>([this](frmLogin&) {
+        user.WillAnswer("Access denied!...", "OK");
+        Types("admin", "pass");
         user.WillAnswer("FISCAL YEAR CLOSED:", "OK",
                         "Fiscal year 2026 was closed on Fri 27-Feb-2026.\r\n\r\nYou can no longer");
         Types("admin", "secret");
     });
     Start();
-    EXPECT_EQ(SessionState.UserName, "");
-    EXPECT_EQ(SessionState.CurrentSelection, "ADMIN");
+    EXPECT_EQ(SessionState.UserName + SessionState.CurrentSelection, "ADMIN");
     EXPECT_EQ(SessionState.TimeOutSeconds, 3540);
 }
 
@@ -117,34 +116,27 @@ TEST_F(LogIn, OnlyActiveEmployeesOfTheYearEnter)
     EXPECT_THROW(user.Clicks("cmdCancel"), ProgramEnded);
 }
 
-TEST_F(LogIn, MovingToAYearWithoutARecordCanBeCancelled)
-{
-    house.Configured().Company();
-    SessionState.LoginID = "MBOUCHARD";
-    user.Opens<frmLogin>(2, "2027");
-    EXPECT_EQ(user.Reads("lblInstructions"), "Your current user identification (MBOUCHARD) does not give you access to "
-                                             "fiscal year 2027. Please login under a different user identification.");
-    user.Clicks("cmdCancel");
-    EXPECT_FALSE(user.The<frmLogin>().isVisible());
-}
-
 TEST_F(LogIn, ALogInThatFailsLeavesTheSessionToTheUserBefore)
 {
     house.Configured().Company();
     const int marie = Hired("MBOUCHARD");
     house.LogIn("ADMIN");
-    house.Sql("UPDATE Employees SET Language = 1 WHERE RecordID = ?", {marie});
-    house.Sql("CREATE TRIGGER Refuse BEFORE UPDATE ON Employees BEGIN SELECT RAISE(ABORT, 'refused'); END");
-    const int administrator = SessionState.UserID;
-    user.Opens<frmLogin>(1, "2026").WillAnswer("AN ERROR HAS OCCURRED:", "OK");
-    Types("MBOUCHARD", "PASS");
-    user.WillAnswer("Access denied!...", "OK");
-    Types("MBOUCHARD", "WRONG");
+    house.Sql("UPDATE Employees SET Language = 1, FiscalYear = 2 WHERE RecordID = ?", {marie});
+    house.Refuses("UPDATE ON Employees");
+    user.Opens<frmLogin>(2, "2027");
+    EXPECT_EQ(user.Reads("lblInstructions"), "Your current user identification (ADMIN) does not give you access to "
+                                             "fiscal year 2027. Please login under a different user identification.");
+    const std::pair<const char*, const char*> attempts[] = {{"PASS", "AN ERROR HAS OCCURRED:"},
+                                                            {"WRONG", "Access denied!..."}};
+    for (const auto& [password, title] : attempts) {
+        user.WillAnswer(title, "OK");
+        Types("MBOUCHARD", password);
+        EXPECT_EQ(SessionState.LoginID + SessionState.UserPassword + SessionState.CurrentSelection, "ADMINSECRETADMIN");
+        EXPECT_EQ((QList<int>{SessionState.UserID, SessionState.GlobalLevelRead, SessionState.English}),
+                  (QList<int>{1, 1, 1}));
+    }
     user.Clicks("cmdCancel");
-    EXPECT_EQ(SessionState.UserID, administrator);
-    EXPECT_EQ(SessionState.LoginID, "ADMIN");
-    EXPECT_EQ(SessionState.GlobalLevelRead, 1);
-    EXPECT_TRUE(SessionState.English);
+    EXPECT_FALSE(user.The<frmLogin>().isVisible()) << "he stays where he was";
 }
 
 TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
@@ -159,30 +151,39 @@ TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
         house.Today(year, month, day);
         ChooseCurrentFiscalYear(datAbsence);
         FindNeighbouringYears(datAbsence);
-        return SessionState.FiscalYearName + " after " + SessionState.PreviousFYName + " before " +
-               SessionState.NextFYName;
+        const Session& s = SessionState;
+        return QStringLiteral("%1 after %2 %3 before %4 %5")
+            .arg(s.FiscalYearName, QString::number(s.PreviousFYID), s.PreviousFYName, QString::number(s.NextFYID),
+                 s.NextFYName);
     };
-    EXPECT_EQ(chosen(2026, 4, 1), "2026 after  before 2027");
-    EXPECT_EQ(chosen(2025, 6, 1), "2026 after  before 2027");
-    EXPECT_EQ(chosen(2024, 12, 31), "2024 after 2023 before ");
-    EXPECT_EQ(chosen(2028, 3, 31), "2027 after 2026 before ");
-    EXPECT_EQ(chosen(2030, 1, 1), "2027 after 2026 before "); // the highest key among the past ones
+    EXPECT_EQ(chosen(2026, 4, 1), "2026 after 0  before 4 2027");
+    EXPECT_EQ(chosen(2025, 6, 1), "2026 after 0  before 4 2027");
+    EXPECT_EQ(chosen(2024, 12, 31), "2024 after 2 2023 before 0 ");
+    EXPECT_EQ(chosen(2028, 3, 31), "2027 after 3 2026 before 0 ");
+    EXPECT_EQ(chosen(2030, 1, 1), "2027 after 3 2026 before 0 "); // the highest key among the past ones
+    house.Sql("DELETE FROM FiscalYears");
+    EXPECT_FALSE(ChooseCurrentFiscalYear(datAbsence));
 }
 
 TEST_F(LogIn, AnExperiencedUserNeedsNoHint)
 {
     house.Configured().Company();
     const int marie = Hired("MBOUCHARD", {"SelfLevelCreate"});
-    for (int day = 1; day <= 26; ++day) {
-        const int record = house.Record(marie, "Vacation", {2026, 3, 2}, 7);
-        house.Sql("UPDATE Attendance SET EnteredBy = 'MBOUCHARD', EnteredDate = ? WHERE RecordID = ?",
-                  {46000 + day / 2 * 2, record});
-    }
-    house.LogIn("MBOUCHARD");
-    EXPECT_TRUE(SessionState.ShowSelectHint);
-    house.Sql("UPDATE Attendance SET EnteredDate = RecordID");
-    house.LogIn("MBOUCHARD");
-    EXPECT_FALSE(SessionState.ShowSelectHint);
+    for (int day = 1; day <= 27; ++day)
+        house.Record(marie, "Vacation", {2026, 3, 2}, 7);
+    house.Sql("UPDATE Attendance SET EnteredBy = 'MBOUCHARD' WHERE RecordID < 27");
+    const auto hint = [this](const char* enteredDate) {
+        house.Sql(QStringLiteral("UPDATE Attendance SET EnteredDate = %1").arg(enteredDate));
+        house.LogIn("MBOUCHARD");
+        return SessionState.ShowSelectHint;
+    };
+    EXPECT_TRUE(hint("MAX(RecordID, 2)")) << "25 batches";
+    EXPECT_FALSE(hint("RecordID"));
+    house.Hire({"LUC", "Luc", "Roy", "Production"});
+    house.LogIn("LUC");
+    EXPECT_TRUE(SessionState.ShowSelectHint) << "whoever may enter nothing is not counted";
+    house.Sql("UPDATE Attendance SET EnteredBy = 'mbouchard'");
+    EXPECT_TRUE(hint("RecordID")) << "another user's, to the letter";
 }
 
 TEST_F(LogIn, WhatCannotBeReadIsToldAndEndsTheProgram)
@@ -191,61 +192,45 @@ TEST_F(LogIn, WhatCannotBeReadIsToldAndEndsTheProgram)
     user.WillAnswer("A FATAL ERROR HAS OCCURRED:", "OK", Deployment::SupportAddress);
     EXPECT_THROW(Start(), ProgramEnded);
 
-    QFile::remove(house.Folder() + "/Tarvell.mdb");
-    user.WillAnswer("FATAL ERROR:", "No", "3024: ");
-    user.WillAnswer("A FATAL ERROR HAS OCCURRED:", "OK");
+    QFile::remove(house.DatabaseFile());
+    user.WillAnswer("FATAL ERROR:", "No", "3024: ").WillAnswer("A FATAL ERROR HAS OCCURRED:", "OK");
     EXPECT_THROW(Start(), ProgramEnded);
 
-    QFile config(house.Folder() + "/Config.mdb");
-    ASSERT_TRUE(config.open(QIODevice::WriteOnly));
-    config.write("this is no database at all, and long enough to be looked at twice");
-    config.close();
+    WriteFile(house.Folder() + "/Config.mdb", "this is no database at all, and long enough to be looked at twice");
     user.WillAnswer("FATAL ERROR:", "OK", "3343: ");
     EXPECT_THROW(Start(), ProgramEnded);
 }
 
-TEST_F(LogIn, ALostDatabaseCanBeLookedForElsewhere)
-{
-    House other;
-    other.Company();
-    const QString elsewhere = other.Folder() + "/Tarvell.mdb";
-    House workstation;
-    workstation.Configured();
-    QFile::remove(workstation.Folder() + "/Tarvell.mdb");
-    user.WillAnswer("FATAL ERROR:", "Yes", "Do you wish to specify a new/different location for your database?")
-        .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
-        .WillChooseFile(workstation.Folder() + "/xtarvell.mdb")
-        .WillAnswer("OPERATION DENIED:", "OK", "«Tarvell.mdb»")
-        .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
-        .WillChooseFile(workstation.Folder() + "/tarvell.mdb")
-        .WillAnswer("OPERATION DENIED:", "OK", "Unable to connect to the selected database!")
-        .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
-        .WillChooseFile(elsewhere)
-        .WillAnswer("CONNECTION TO DATABASE SUCCESSFUL:", "Yes")
-        .WhenOpens<frmLogin>([this](frmLogin&) { Types("ADMIN", "SECRET"); });
-    Start();
-    EXPECT_EQ(shown, QStringList{"main"});
-    SessionState.DatabasePath.clear();
-    ASSERT_TRUE(ReadConfiguration());
-    EXPECT_EQ(SessionState.DatabasePath, other.Folder().replace('/', '\\').toUpper());
-}
-
-TEST_F(LogIn, ADatabaseFoundElsewhereServesTheRunThatCannotKeepIt)
+TEST_F(LogIn, ALostDatabaseCanBeLookedForElsewhereAndServesTheRunThatCannotKeepIt)
 {
     House other;
     other.Company();
     House workstation;
     workstation.Configured();
-    QFile::remove(workstation.Folder() + "/Tarvell.mdb");
-    Database::Open(workstation.Folder() + "/Config.mdb", kConfigPassword)
-        ->Execute("CREATE TRIGGER Refuse BEFORE UPDATE ON Configuration BEGIN SELECT RAISE(ABORT, 'refused'); END");
-    user.WillAnswer("FATAL ERROR:", "Yes")
-        .WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
-        .WillChooseFile(other.Folder() + "/Tarvell.mdb")
-        .WillAnswer("CONNECTION TO DATABASE SUCCESSFUL:", "Yes")
-        .WillAnswer("AN ERROR HAS OCCURRED:", "OK")
-        .WhenOpens<frmLogin>([this](frmLogin&) { Types("ADMIN", "SECRET"); });
+    QFile::remove(workstation.DatabaseFile());
+    const auto config = Database::Open(workstation.Folder() + "/Config.mdb", kConfigPassword);
+    config->Execute("CREATE TRIGGER Refusing BEFORE UPDATE ON Configuration BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    user.WillAnswer("FATAL ERROR:", "Yes", "Do you wish to specify a new/different location for your database?");
+    const std::pair<const char*, const char*> refused[] = {
+        {"/xtarvell.mdb", "«Tarvell.mdb»"}, {"/tarvell.mdb", "Unable to connect to the selected database!"}};
+    for (const auto& [file, reason] : refused)
+        user.WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
+            .WillChooseFile(workstation.Folder() + file)
+            .WillAnswer("OPERATION DENIED:", "OK", reason);
+    const auto finds = [&]() -> User& {
+        return user.WillAnswer("SPECIFYING DATABASE TYPE:", "Microsoft Access")
+            .WillChooseFile(other.DatabaseFile())
+            .WillAnswer("CONNECTION TO DATABASE SUCCESSFUL:", "Yes")
+            .WhenOpens<frmLogin>([this](frmLogin&) { Types("ADMIN", "SECRET"); });
+    };
+    finds().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused");
     Start();
-    EXPECT_EQ(shown, QStringList{"main"});
+    config->Execute("DROP TRIGGER Refusing");
+    user.WillAnswer("FATAL ERROR:", "Yes");
+    finds();
+    Start();
+    EXPECT_EQ(shown, QStringList({"main", "main"}));
+    EXPECT_EQ(RowsOf(*config, "SELECT DatabasePath, DatabaseName, SQL_Server FROM Configuration"),
+              other.Folder().replace('/', '\\').toUpper() + "|Tarvell.mdb|0");
 }
 } // namespace

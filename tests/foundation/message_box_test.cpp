@@ -1,94 +1,60 @@
 #include "foundation/frm_message_box.h"
-#include "foundation/session_state.h"
 #include "platform/controls/form_kit.h"
+#include "support/user.h"
 
-#include <QApplication>
 #include <QScreen>
 #include <QTest>
 
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace
 {
-/// Shows real message boxes and works each with the function given.
+/// Real message boxes, each worked by the function given.
 class MessageBox : public testing::Test
 {
 protected:
     using Work = std::function<void(frmMessageBox&)>;
 
-    MessageBox()
-    {
-        SessionState = Session();
-        InstallMessageBox();
-        SetModalRunner([this](QDialog& dialog) {
-            dialog.show();
-            QApplication::setActiveWindow(&dialog);
-            QCoreApplication::processEvents();
-            work(dynamic_cast<frmMessageBox&>(dialog));
-            return dialog.result();
-        });
-    }
+    MessageBox() { InstallMessageBox(); }
 
-    ~MessageBox() override
+    int Shows(const Message& message, Work work)
     {
-        SessionState = Session();
-        SetModalRunner({});
-        SetMessagePresenter({});
-    }
-
-    int Shows(const Message& message, Work how)
-    {
-        work = std::move(how);
+        user.WhenOpens<frmMessageBox>(std::move(work));
         return ShowMessage(message);
     }
-    int Shows(int set, Work how) { return Shows({.Text = "Text", .Set = Buttons(set)}, std::move(how)); }
-
-    static QPushButton* Button(frmMessageBox& box, int position)
+    /// The code that a button of that message ends it with.
+    int CodeOf(const Message& message, int position)
     {
-        return box.findChild<QPushButton*>(ArrayName("cmdButton", position));
+        return Shows(message, [this, position](frmMessageBox&) { user.Clicks(ArrayName("cmdButton", position)); });
     }
-
-    static QList<QPushButton*> Visible(frmMessageBox& box)
+    int CodeOf(const Message& message, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QList<QPushButton*> buttons;
-        for (int position = 0; position < 4; ++position)
-            if (Button(box, position)->isVisible())
-                buttons.append(Button(box, position));
-        return buttons;
+        return Shows(message, [=, this](frmMessageBox& box) {
+            user.Presses("", key, modifiers);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 1000));
+        });
     }
+    static Message WithSet(int set) { return {.Text = "Text", .Set = Buttons(set)}; }
 
-    Work work;
+    House house;
+    User user;
 };
-
-void Click(QWidget* widget)
-{
-    QTest::mouseClick(widget, Qt::LeftButton);
-}
 } // namespace
 
 TEST_F(MessageBox, EachButtonOfEachSetEndsItWithItsCode)
 {
     using namespace MessageCode;
-    const QList<QList<int>> codes = {{OK},
-                                     {OK, Cancel},
-                                     {Abort, Retry, Ignore},
-                                     {Yes, No, Cancel},
-                                     {Yes, No},
-                                     {Retry, Cancel},
-                                     {OK, Cancel},
-                                     {Abort, Retry, Ignore},
-                                     {Yes, No, Cancel},
-                                     {Yes, No},
-                                     {Retry, Cancel}};
+    QList<QList<int>> codes = {{OK}};
+    for (int language = 0; language < 2; ++language)
+        codes += {{OK, Cancel}, {Abort, Retry, Ignore}, {Yes, No, Cancel}, {Yes, No}, {Retry, Cancel}};
     for (int set = 0; set < codes.size(); ++set)
-        for (int position = 0; position < codes[set].size(); ++position) {
-            const int code = Shows(set, [&](frmMessageBox& box) {
-                EXPECT_EQ(Visible(box).size(), codes[set].size()) << "set " << set;
-                Click(Button(box, position));
-            });
-            EXPECT_EQ(code, codes[set][position]) << "set " << set << ", button " << position;
-        }
+        for (int position = 0; position < codes[set].size(); ++position)
+            EXPECT_EQ(CodeOf(WithSet(set), position), codes[set][position]) << "set " << set << ", button " << position;
+    Shows(WithSet(2), [this](frmMessageBox& box) {
+        EXPECT_TRUE(user.CanUse("cmdButton(2)"));
+        EXPECT_FALSE(user.CanUse("cmdButton(3)"));
+        box.close();
+    });
 }
 
 TEST_F(MessageBox, CaptionsOfTheCallerDecideCodeWidthAndPlace)
@@ -97,115 +63,86 @@ TEST_F(MessageBox, CaptionsOfTheCallerDecideCodeWidthAndPlace)
     const QList<int> codes = {MessageCode::First, MessageCode::Second, MessageCode::Third, MessageCode::Cancel};
     for (int count = 1; count <= 4; ++count)
         for (int position = 0; position < count; ++position)
-            EXPECT_EQ(Shows({.Set = Buttons(10 + count), .Captions = captions.first(count)},
-                            [&](frmMessageBox& box) { Click(Button(box, position)); }),
+            EXPECT_EQ(CodeOf({.Set = Buttons(10 + count), .Captions = captions.first(count)}, position),
                       codes[position]);
 
     Shows({.Set = Buttons::Custom2, .Captions = {"A caption rather longer than most", "Short"}},
           [](frmMessageBox& box) {
-              const QRect left = Button(box, 0)->geometry(), right = Button(box, 1)->geometry();
+              const auto* first = box.findChild<QPushButton*>("cmdButton(0)");
+              const auto* second = box.findChild<QPushButton*>("cmdButton(1)");
+              const QRect left = first->geometry(), right = second->geometry();
               EXPECT_GE(left.width(), 33 * 125 / 15);
-              EXPECT_GE(right.width(), Button(box, 1)->sizeHint().width()) << "no caption is cut";
+              EXPECT_GE(right.width(), second->sizeHint().width()) << "no caption is cut";
               EXPECT_EQ(right.left() - left.right() - 1, 10) << "150 twips between them";
               EXPECT_NEAR(left.left(), box.width() - 1 - right.right(), 1) << "in the middle";
               EXPECT_EQ(box.frameGeometry().center(), box.screen()->geometry().center());
+              box.close();
           });
 }
 
-TEST_F(MessageBox, EscapeIsACancelWhateverTheButtons)
+TEST_F(MessageBox, EnterPressesTheDefaultButtonLettersTheOthersAndEscapeCancels)
 {
-    EXPECT_EQ(Shows(4, [](frmMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), MessageCode::Cancel);
-    EXPECT_EQ(Shows(0, [](frmMessageBox& box) { box.close(); }), MessageCode::Cancel);
-}
-
-TEST_F(MessageBox, EnterPressesTheDefaultButtonAndLettersTheOthers)
-{
-    const auto enter = [](frmMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); };
-    EXPECT_EQ(Shows(4, enter), MessageCode::Yes);
-    EXPECT_EQ(Shows({.Set = Buttons::YesNo, .DefaultButton = 1},
-                    [&](frmMessageBox& box) {
-                        EXPECT_TRUE(Button(box, 1)->hasFocus());
-                        enter(box);
-                    }),
-              MessageCode::No);
-    EXPECT_EQ(Shows({.DefaultButton = 1}, enter), MessageCode::OK) << "a default beyond the set is the last button";
-    EXPECT_EQ(Shows(7,
-                    [](frmMessageBox& box) {
-                        QTest::keyClick(&box, Qt::Key_G, Qt::AltModifier);
-                        EXPECT_TRUE(QTest::qWaitFor([&] { return !box.isVisible(); }, 1000));
-                    }),
-              MessageCode::Ignore)
-        << "the I is taken by Interrompre";
+    EXPECT_EQ(CodeOf(WithSet(4), Qt::Key_Escape), MessageCode::Cancel);
+    EXPECT_EQ(Shows(WithSet(0), [](frmMessageBox& box) { box.close(); }), MessageCode::Cancel);
+    EXPECT_EQ(CodeOf(WithSet(4), Qt::Key_Return), MessageCode::Yes);
+    EXPECT_EQ(CodeOf({.Set = Buttons::YesNo, .DefaultButton = 1}, Qt::Key_Return), MessageCode::No);
+    EXPECT_EQ(CodeOf({.DefaultButton = 1}, Qt::Key_Return), MessageCode::OK) << "beyond the set: the last button";
+    EXPECT_EQ(CodeOf(WithSet(7), Qt::Key_G, Qt::AltModifier), MessageCode::Ignore) << "the I is taken by Interrompre";
 }
 
 TEST_F(MessageBox, TheCheckBoxIsShownWhereAskedForAndRemembered)
 {
-    Shows(4, [](frmMessageBox& box) {
-        EXPECT_FALSE(box.findChild<QCheckBox*>("chkStopAsking")->isVisible());
+    SessionState.English = false;
+    const Message asking{.Set = Buttons::OuiNon, .ShowStopAsking = true};
+    Shows(asking, [this](frmMessageBox&) {
+        EXPECT_EQ(user.The<frmMessageBox>().findChild<QCheckBox*>("chkStopAsking")->text(),
+                  "Ne plus afficher ce message à l'avenir");
+        user.Checks("chkStopAsking");
+        EXPECT_TRUE(SessionState.MessageStopAsking);
+        EXPECT_TRUE(user.HasFocus("cmdButton(0)"));
+        user.Clicks("cmdButton(1)");
+    });
+    Shows(WithSet(4), [this](frmMessageBox& box) {
+        EXPECT_FALSE(user.CanUse("chkStopAsking"));
         box.close();
     });
-    for (const bool english : {true, false}) {
-        SessionState.English = english;
-        Shows({.Set = english ? Buttons::YesNo : Buttons::OuiNon, .ShowStopAsking = true}, [&](frmMessageBox& box) {
-            auto* check = box.findChild<QCheckBox*>("chkStopAsking");
-            EXPECT_EQ(check->text(),
-                      english ? "Do not show me this message any more" : "Ne plus afficher ce message à l'avenir");
-            check->setFocus();
-            QTest::keyClick(check, Qt::Key_Space);
-            EXPECT_TRUE(SessionState.MessageStopAsking);
-            EXPECT_TRUE(Button(box, 0)->hasFocus());
-            Click(Button(box, 1));
-        });
-        EXPECT_TRUE(SessionState.MessageStopAsking);
-    }
-    Shows({.ShowStopAsking = true}, [](frmMessageBox& box) { box.close(); });
-    EXPECT_FALSE(SessionState.MessageStopAsking) << "the next message starts unticked";
+    EXPECT_TRUE(SessionState.MessageStopAsking);
+    CodeOf(asking, 0);
+    EXPECT_FALSE(SessionState.MessageStopAsking) << "the next message that asks starts unticked";
 }
 
 TEST_F(MessageBox, ALongTextIsCutUnlessTheCallerAsksForTheScrollBar)
 {
     const QString text = QString("One line\tof many\r\n").repeated(60);
-    int height = 0;
-    Shows({.Text = text}, [&](frmMessageBox& box) {
-        auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
-        height = shown->height();
-        EXPECT_EQ(shown->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-        EXPECT_LT(height, 60 * shown->fontMetrics().lineSpacing());
-        EXPECT_EQ(shown->toPlainText().count('\n'), 60);
-        box.close();
-    });
-    Shows({.Text = text, .ScrollBar = true}, [&](frmMessageBox& box) {
-        auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
-        EXPECT_EQ(shown->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
-        EXPECT_EQ(shown->height(), height);
-        box.close();
-    });
+    for (const bool bar : {false, true})
+        Shows({.Text = text, .ScrollBar = bar}, [&](frmMessageBox& box) {
+            auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
+            EXPECT_EQ(shown->verticalScrollBarPolicy(), bar ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+            EXPECT_NEAR(shown->height(), 18 * shown->fontMetrics().lineSpacing(), 4);
+            EXPECT_EQ(shown->toPlainText().count('\n'), 60);
+            box.close();
+        });
 }
 
 TEST_F(MessageBox, TheFaceFollowsAMomentAfterTheText)
 {
     for (int face = 0; face <= 8; ++face)
         Shows({.Text = "Text", .Picture = Face(face)}, [&](frmMessageBox& box) {
-            auto* image = box.findChild<QLabel*>("imgFace");
-            EXPECT_EQ(box.findChild<QPlainTextEdit*>("txtMessage")->toPlainText(), "Text");
-            QTest::qWait(30);
-            EXPECT_EQ(image->isVisible() && !image->pixmap().isNull(), face < 8) << "face " << face;
+            const auto* image = box.findChild<QLabel*>("imgFace");
+            const auto isShown = [&] { return image->isVisible() && !image->pixmap().isNull(); };
+            EXPECT_EQ(user.Reads("txtMessage"), "Text");
+            EXPECT_EQ(QTest::qWaitFor(isShown, face < 8 ? 5000 : 30), face < 8) << "face " << face;
             box.close();
         });
 }
 
 TEST_F(MessageBox, TheInputBoxStaysForTheSessionWithItsContents)
 {
-    Shows({.UseInputBox = true}, [](frmMessageBox& box) {
-        auto* input = box.findChild<QLineEdit*>("txtMsgBxInputBox");
-        input->clear();
-        QTest::keyClicks(input, "l'an \"50%\" | A&B");
-        Click(Button(box, 0));
-    });
-    Shows(0, [](frmMessageBox& box) {
-        auto* input = box.findChild<QLineEdit*>("txtMsgBxInputBox");
-        EXPECT_TRUE(input->isVisible()) << "no later message hides it again";
-        EXPECT_EQ(input->text(), "l`an 50  AB");
+    Shows({.UseInputBox = true},
+          [this](frmMessageBox&) { user.Types("txtMsgBxInputBox", "l'an \"50%\" | A&B").Clicks("cmdButton(0)"); });
+    Shows(WithSet(0), [this](frmMessageBox& box) {
+        EXPECT_TRUE(user.CanUse("txtMsgBxInputBox")) << "no later message hides it again";
+        EXPECT_EQ(user.Reads("txtMsgBxInputBox"), "l`an 50  AB");
         box.close();
     });
 }

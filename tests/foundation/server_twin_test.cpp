@@ -4,11 +4,13 @@
 #include "employees/employee_rows.h"
 #include "employees/hourly_rate.h"
 #include "employees/transfer_employee.h"
+#include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
 #include "foundation/user_profile.h"
 #include "platform/dao/server.h"
 #include "reference/employees_list.h"
 #include "reference/unit_records.h"
+#include "reference/unit_row.h"
 #include "support/house.h"
 
 #include <gtest/gtest.h>
@@ -65,7 +67,7 @@ TEST_F(ServerTwin, AttendanceIsSentWithoutItsCosts)
     entry.EmployeeDepartmentID = 1;
     entry.FirstApprover = 4;
     entry.Comment = "flu ";
-    entry.StartTime = 8;
+    entry.StartTime = 8.3F;
     entry.EndTime = 10.5F;
     entry.Duration = entry.TotalDuration = 2.5F;
     SubmitAttendance(datAbsence, entry);
@@ -73,20 +75,16 @@ TEST_F(ServerTwin, AttendanceIsSentWithoutItsCosts)
     NewAttendance(datAbsence, entry);
     LoadEmployeeInfo(datAbsence, entry);
 
-    const QString columns =
-        "FiscalYear, EmployeeID, GroupID, DepartmentID, OrganizationID, CategoryID, RecordDate, Duration, StartTime, "
-        "EndTime, TimeMultiplicator, TotalDuration, WholeDay, Comment, Justified, Submitted, SubmittedDateTime, "
-        "SubmittedBy, SubmittedTo_First, SubmittedTo_Second, RequestStatus, ApprovedDateTime, ApprovedBy, "
-        "DeniedDateTime, DeniedBy, ApprovalRefusalMessage, EnteredBy, EnteredDate, ModifiedBy, ModifiedDate, "
-        "CancelledBy, CancelledDate";
-    const QString head =
-        "INSERT INTO Attendance (" + columns + ") VALUES (1, 3, 0, 1, 0, 2, 46083, 2.5, 8, 10.5, 1, 2.5, 0, 'flu', 0, ";
+    const TableShape& table = kTable<AttendanceRow>;
+    const QString columns = table.Columns.mid(0, table.Columns.size() - table.FileOnly).join(", ");
+    const QString head = "INSERT INTO Attendance (" + columns +
+                         ") VALUES (1, 3, 0, 1, 0, 2, 46083, 2.5, 8.3, 10.5, 1, 2.5, 0, 'flu', 0, ";
     const QString tail = ", 0, 0, '', 0, '', '', 'ADMIN', 46083, '', 0, '', 0)\n";
     EXPECT_EQ(sent.join('\n'),
               head + QStringLiteral("1, 46083.75, %1, 4, 0").arg(SessionState.UserID) + tail +
                   "INSERT INTO Attendance_Modifications (RecordID, " + columns +
                   ") SELECT * FROM Attendance WHERE RecordID = 7\n"
-                  "UPDATE Attendance SET CategoryID = 2, Duration = 2.5, StartTime = 8, EndTime = 10.5, "
+                  "UPDATE Attendance SET CategoryID = 2, Duration = 2.5, StartTime = 8.3, EndTime = 10.5, "
                   "TimeMultiplicator = 1, TotalDuration = 2.5, WholeDay = 0, Comment = 'flu', Justified = 0, "
                   "ModifiedBy = 'ADMIN', ModifiedDate = 46083 WHERE RecordID = 7\n" +
                   head + "0, 0, 0, 0, 0" + tail + "SELECT * FROM Employees WHERE RecordID = 3");
@@ -102,8 +100,7 @@ TEST_F(ServerTwin, UnitsAreMovedAndReactivated)
     ModifyUnit(datAbsence, kDepartments, unit);
     ReactivateUnit(datAbsence, kGroups, 1);
     AddUnit(datAbsence, kDepartments, unit);
-    const QString columns = "FiscalYear, OrganizationID, DepartmentFrenchName, DepartmentEnglishName, EnteredBy, "
-                            "EnteredDate, ModifiedBy, ModifiedDate, Active, PreviousID, DepartmentHead)";
+    const QString columns = kDepartmentRows.Columns.join(", ") + ")";
     EXPECT_EQ(sent.join('\n'),
               "INSERT INTO Departments_Modifications (RecordID, " + columns +
                   " SELECT * FROM Departments WHERE RecordID = 2\n"
@@ -112,9 +109,9 @@ TEST_F(ServerTwin, UnitsAreMovedAndReactivated)
                   "UPDATE Groups SET OrganizationID = 2 WHERE DepartmentID = 2\n"
                   "UPDATE Employees SET OrganizationID = 2 WHERE DepartmentID = 2\n"
                   "UPDATE FiscalYears SET ReloadEmployeesList = 1 WHERE RecordID = 1\n"
-                  "INSERT INTO Groups_Modifications (RecordID, FiscalYear, OrganizationID, DepartmentID, "
-                  "GroupFrenchName, GroupEnglishName, EnteredBy, EnteredDate, ModifiedBy, ModifiedDate, Active, "
-                  "PreviousID) SELECT * FROM Groups WHERE RecordID = 1\n"
+                  "INSERT INTO Groups_Modifications (RecordID, " +
+                  kGroupRows.Columns.join(", ") +
+                  ") SELECT * FROM Groups WHERE RecordID = 1\n"
                   "UPDATE Groups SET Active = 1, ModifiedBy = 'ADMIN', ModifiedDate = 46083 WHERE RecordID = 1\n"
                   "UPDATE Employees SET DeactivatedDate = 0, DeactivatedBy = '', ReasonForDeactivation = '' WHERE "
                   "GroupID = 1\n"

@@ -1,5 +1,6 @@
 #include "platform/engine_fixture.h"
 
+#include <QElapsedTimer>
 #include <QScopeGuard>
 
 #include <sqlite3.h>
@@ -10,6 +11,11 @@ namespace
 class Opening : public EngineTest
 {
 protected:
+    ~Opening() override
+    {
+        DataControl::Reconnect = {};
+        DefaultWorkspace().Close();
+    }
     int FailureOfOpening(const QString& name, const QString& password) const
     {
         return FailureOf([&] { Database::Open(File(name), password); });
@@ -18,25 +24,39 @@ protected:
 
 TEST_F(Opening, EachObstacleHasItsNumber)
 {
-    Write("letter.mdb", "Dear colleague, this is no database at all, whatever its name says. " + QByteArray(2000, 'x'));
-    Write("empty.mdb", "");
+    WriteFile(File("letter.mdb"),
+              "Dear colleague, this is no database at all, whatever its name says. " + QByteArray(2000, 'x'));
+    WriteFile(File("empty.mdb"));
     sqlite3* foreign = nullptr;
     sqlite3_open(qPrintable(File("foreign.mdb")), &foreign);
-    sqlite3_exec(foreign, "CREATE TABLE Songs (Title TEXT)", nullptr, nullptr, nullptr);
+    sqlite3_exec(foreign, "CREATE TABLE FilePassword (Salt TEXT, Hash TEXT)", nullptr, nullptr, nullptr);
     sqlite3_close(foreign);
 
-    EXPECT_EQ(FailureOfOpening("Staff.mdb", kPassword), 0);
-    EXPECT_EQ(FailureOfOpening("Staff.mdb", "sésame"), EngineError::WrongPassword);
-    EXPECT_EQ(FailureOfOpening("Staff.mdb", ""), EngineError::WrongPassword);
-    EXPECT_EQ(FailureOfOpening("missing.mdb", kPassword), EngineError::FileNotFound);
-    EXPECT_EQ(FailureOfOpening("", kPassword), EngineError::FileNotFound) << "a folder is no file";
-    for (const char* name : {"letter.mdb", "empty.mdb", "foreign.mdb"})
-        EXPECT_EQ(FailureOfOpening(name, kPassword), EngineError::ForeignFile) << name;
+    const std::tuple<const char*, const char*, int> cases[] = {
+        {"Staff.mdb", "Sésame", 0},
+        {"Staff.mdb", "sésame", EngineError::WrongPassword},
+        {"Staff.mdb", "", EngineError::WrongPassword},
+        {"missing.mdb", "Sésame", EngineError::FileNotFound},
+        {"", "Sésame", EngineError::FileNotFound}, // a folder is no file
+        {"letter.mdb", "Sésame", EngineError::ForeignFile},
+        {"empty.mdb", "Sésame", EngineError::ForeignFile},
+        {"foreign.mdb", "Sésame", EngineError::ForeignFile},
+    };
+    for (const auto& [name, password, number] : cases)
+        EXPECT_EQ(FailureOfOpening(name, password), number) << name;
     EXPECT_FALSE(QFile::exists(File("missing.mdb"))) << "opening makes no file";
+
+    EXPECT_EQ(FailureOf([this] { Database::Create(File("New.mdb"), "x", "CREATE TABLE A (B); CREATE TABLE A (B);"); }),
+              EngineError::TableExists);
+    EXPECT_FALSE(QFile::exists(File("New.mdb"))) << "a failed creation leaves no file";
+    Database::Create(File(), "new", "CREATE TABLE A (B);");
+    EXPECT_EQ(FailureOfOpening("Staff.mdb", "new"), 0) << "a new file takes the place of another";
 }
 
 TEST_F(Opening, AUserWithoutRightsIsToldSo)
 {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "the owner of the folder may write in it";
     chmod(qPrintable(folder_.path()), 0755);
     const auto failure = [this](mode_t mode, bool writing) {
         chmod(qPrintable(File()), mode);
@@ -44,13 +64,11 @@ TEST_F(Opening, AUserWithoutRightsIsToldSo)
             const int number = FailureOf([&] {
                 const auto database = Open();
                 if (writing)
-                    database->Execute("INSERT INTO Staff (Name) VALUES ('Anne')");
+                    Hire(*database, {"Anne"});
             });
             return number == 0 ? 0 : number - 3000;
         });
     };
-    if (geteuid() != 0)
-        GTEST_SKIP() << "the owner of the folder may write in it";
     EXPECT_EQ(failure(0600, false), EngineError::CannotOpen - 3000);
     EXPECT_EQ(failure(0644, false), 0) << "what may be read can be opened";
     EXPECT_EQ(failure(0644, true), EngineError::ReadOnly - 3000);
@@ -61,17 +79,22 @@ TEST_F(Opening, AUserWithoutRightsIsToldSo)
 TEST_F(Opening, AFileThatAnotherHoldsIsWaitedForAndThenReportedAsLocked)
 {
     const auto restore = qScopeGuard([wait = Database::LockWait] { Database::LockWait = wait; });
+    EXPECT_GE(Database::LockWait, 1000);
     Database::LockWait = 60;
     const auto other = Open();
     const auto mine = Open();
     other->Execute("BEGIN EXCLUSIVE");
+    QElapsedTimer waited;
+    waited.start();
     EXPECT_EQ(FailureOfOpening("Staff.mdb", kPassword), EngineError::Locked);
+    EXPECT_GE(waited.elapsed(), 60);
     EXPECT_EQ(FailureOf([&] { mine->OpenRecordset("SELECT * FROM Staff"); }), EngineError::Locked);
     other->Execute("COMMIT");
     other->Execute("BEGIN IMMEDIATE");
     EXPECT_EQ(List(*mine, "SELECT COUNT(*) FROM Staff"), "0") << "a writer does not keep readers out";
     EXPECT_EQ(FailureOf([&] { mine->Execute("DELETE FROM Staff"); }), EngineError::Locked);
     EXPECT_EQ(FailureOf([&] { Transaction mineToo(*mine); }), EngineError::Locked);
+    EXPECT_FALSE(mine->IsInTransaction());
 }
 
 TEST_F(Opening, BothSeparatorsAndAnyLetterCaseFindTheFile)
@@ -85,31 +108,24 @@ TEST_F(Opening, BothSeparatorsAndAnyLetterCaseFindTheFile)
     EXPECT_EQ(FailureOf([] { DefaultWorkspace().Current(); }), EngineError::ObjectNotSet);
 }
 
-TEST_F(Opening, AFileThatVanishesIsALostConnectionToReadersAndADiskErrorToWriters)
+TEST_F(Opening, AFullDiskADamagedFileAndAVanishedOneAreReportedAndCommittedRowsStay)
 {
-    const auto database = Open();
-    database->Execute("INSERT INTO Staff (Name) VALUES ('Anne')");
-    ASSERT_TRUE(QFile::remove(File()));
-    EXPECT_EQ(FailureOf([&] { database->OpenRecordset("SELECT * FROM Staff"); }), EngineError::ConnectionLost);
-    EXPECT_EQ(FailureOf([&] { database->Execute("UPDATE Staff SET Name = 'Zoé'"); }), EngineError::DiskError);
-}
-
-TEST_F(Opening, ADamagedFileAndAFullDiskAreReportedAndCommittedRowsStay)
-{
-    {
-        const auto database = Open();
-        database->Execute("INSERT INTO Staff (Name) VALUES ('Anne')");
-        database->Execute("PRAGMA max_page_count = 6");
-        const QString much(100000, 'x');
-        EXPECT_EQ(FailureOf([&] { database->Execute("INSERT INTO Staff (Name) VALUES (?)", {much}); }),
-                  EngineError::DiskFull);
-    }
+    auto database = Open();
+    Hire(*database, {"Anne"});
+    database->Execute("PRAGMA max_page_count = 6");
+    EXPECT_EQ(FailureOf([&] { Hire(*database, {QString(100000, 'x')}); }), EngineError::DiskFull);
     EXPECT_EQ(List("SELECT Name FROM Staff"), "Anne");
+
+    ASSERT_TRUE(QFile::rename(File(), File("Away.mdb")));
+    EXPECT_EQ(FailureOf([&] { database->OpenRecordset("SELECT * FROM Staff"); }), EngineError::ConnectionLost);
+    EXPECT_EQ(FailureOf([&] { Hire(*database, {"Zoé"}); }), EngineError::DiskError);
+    database.reset();
+
+    ASSERT_TRUE(QFile::rename(File("Away.mdb"), File()));
     QFile file(File());
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    const qint64 page = 4096;
-    for (qint64 at = page; at < file.size(); at += page) {
-        file.seek(at);
+    for (qint64 page = 4096; page < file.size(); page += 4096) {
+        file.seek(page);
         file.write(QByteArray(200, '\xee'));
     }
     file.close();
@@ -118,14 +134,9 @@ TEST_F(Opening, ADamagedFileAndAFullDiskAreReportedAndCommittedRowsStay)
 
 TEST_F(Opening, ALostConnectionIsRestoredOnceAndAMisspeltStatementIsTold)
 {
-    Open()->Execute("INSERT INTO Staff (Name) VALUES ('Anne')");
+    Hire(*Open(), {"Anne"});
     int restored = 0;
-    const auto restore = qScopeGuard([] {
-        DataControl::Reconnect = {};
-        DefaultWorkspace().Close();
-    });
     DataControl datAbsence("frmTest");
-    QString name = "before";
     EXPECT_FALSE(datAbsence.Read("SELECT * FROM Staff")) << "nothing is open and nobody can restore it";
 
     DataControl::Reconnect = [&](DataControl&) {
@@ -134,22 +145,23 @@ TEST_F(Opening, ALostConnectionIsRestoredOnceAndAMisspeltStatementIsTold)
     };
     EXPECT_TRUE(datAbsence.Read("SELECT * FROM Staff WHERE Name = ?", "ANNE"));
     EXPECT_EQ(restored, 1);
-    EXPECT_FALSE(datAbsence.Read("SELECT * FROM Staff WHERE Name = 'Zoé'"));
-    datAbsence.Take("Name", name);
-    EXPECT_EQ(name, "before");
+    EXPECT_EQ(datAbsence.Scalar<int>("SELECT Days FROM Staff"), 1);
+    EXPECT_EQ(datAbsence.Scalar<int>("SELECT Days FROM Staff WHERE Name = 'Zoé'"), 0);
     const std::pair<const char*, int> misspelt[] = {
         {"SELECT * FROM Nowhere", EngineError::NoSuchTable},
         {"SELECT Salary FROM Staff", EngineError::UnknownName},
         {"SELECT * FROM Staff WHERE RecordID = ?", EngineError::UnknownName},
         {"SELEKT", EngineError::StatementError}};
-    for (const auto& [sql, number] : misspelt)
+    for (const auto& [sql, number] : misspelt) {
         EXPECT_EQ(FailureOf([&] { datAbsence.Read(sql); }), number) << "no empty result: " << sql;
-    EXPECT_EQ(FailureOf([&] { datAbsence.Take("Salary", name); }), EngineError::NoSuchField);
-    EXPECT_EQ(restored, 1) << "a bad statement is no lost connection";
+        DefaultWorkspace().Close();
+        EXPECT_EQ(FailureOf([&] { datAbsence.Read(sql); }), number) << "nor after a new connection: " << sql;
+    }
+    EXPECT_EQ(restored, 5) << "a bad statement is no lost connection";
 
     DataControl::Reconnect = [&](DataControl&) { ++restored; };
     DefaultWorkspace().Close();
     EXPECT_FALSE(datAbsence.Read("SELECT * FROM Staff"));
-    EXPECT_EQ(restored, 2) << "a read is repeated once, not for ever";
+    EXPECT_EQ(restored, 6) << "a read is repeated once, not for ever";
 }
 } // namespace

@@ -7,70 +7,83 @@ namespace
 class Transactions : public EngineTest
 {
 protected:
-    static void Add(Database& database, const QString& name)
-    {
-        database.Execute("INSERT INTO Staff (Name) VALUES (?)", {name});
-    }
     QString Names() const { return List("SELECT Name FROM Staff"); }
+
+    std::unique_ptr<Database> database = Open();
 };
 
 TEST_F(Transactions, WhateverLeavesTheScopeUndoesUnlessItIsKept)
 {
-    const auto database = Open();
     for (const auto onFailure : {Transaction::Undo, Transaction::KeepOnFailure})
         try {
             Transaction transaction(*database, onFailure);
-            Add(*database, "Anne");
+            Hire(*database, {"Anne"});
             EXPECT_EQ(Names(), "") << "nothing is in the file before the end";
             throw std::logic_error("in the middle");
         } catch (const std::logic_error&) {
             EXPECT_EQ(Names(), onFailure == Transaction::Undo ? "" : "Anne");
         }
-    Add(*database, "Benoît");
+    Transaction(*database, Transaction::KeepOnFailure).Commit();
+    {
+        const Transaction next(*database);
+        EXPECT_TRUE(database->IsInTransaction());
+    }
+    Hire(*database, {"Benoît"});
     EXPECT_EQ(Names(), "Anne,Benoît") << "the database goes on";
 }
 
 TEST_F(Transactions, AnInnerOneEndsWithTheOuterOne)
 {
-    const auto database = Open();
     Transaction outer(*database);
-    Add(*database, "Anne");
+    Hire(*database, {"Anne"});
     {
         Transaction inner(*database);
-        Add(*database, "Benoît");
+        Hire(*database, {"Benoît"});
         inner.Commit();
     }
     {
         Transaction inner(*database);
-        Add(*database, "Chloé");
+        Hire(*database, {"Chloé"});
     }
     EXPECT_EQ(Names(), "");
+    EXPECT_TRUE(database->IsInTransaction());
     outer.Commit();
     EXPECT_EQ(Names(), "Anne,Benoît");
 }
 
 TEST_F(Transactions, AfterAFailureThatEndedItNothingMoreIsWrittenAndThatFailureIsTold)
 {
-    const auto database = Open();
     database->Execute("CREATE TABLE Strict (Name TEXT UNIQUE ON CONFLICT ROLLBACK)");
-    const auto addTwice = [&] {
-        for (int times = 0; times < 2; ++times)
-            database->Execute("INSERT INTO Strict VALUES ('Anne')");
-    };
     {
         Transaction outer(*database, Transaction::KeepOnFailure);
-        Add(*database, "Anne");
+        Hire(*database, {"Anne"});
         EXPECT_EQ(FailureOf([&] {
                       Transaction inner(*database);
-                      addTwice();
+                      for (int times = 0; times < 2; ++times)
+                          database->Execute("INSERT INTO Strict VALUES ('Anne')");
                   }),
                   EngineError::DuplicateKey);
-        EXPECT_EQ(FailureOf([&] { Add(*database, "Benoît"); }), EngineError::DuplicateKey);
+        EXPECT_EQ(FailureOf([&] { Hire(*database, {"Benoît"}); }), EngineError::DuplicateKey);
         EXPECT_EQ(FailureOf([&] { outer.Commit(); }), EngineError::DuplicateKey);
     }
     EXPECT_EQ(Names(), "");
-    Add(*database, "Chloé");
+    Hire(*database, {"Chloé"});
     EXPECT_EQ(Names(), "Chloé");
+}
+
+TEST_F(Transactions, ARollBackThatFailsHidesNothing)
+{
+    const Transaction outer(*database);
+    EXPECT_THROW(
+        {
+            const Transaction inner(*database);
+            database->Execute("RELEASE inner_transaction"); // there is nothing left to go back to
+            throw std::logic_error("in the middle");
+        },
+        std::logic_error);
+    EXPECT_EQ(FailureOf([&] { database->Execute("SELEKT"); }), EngineError::StatementError);
+    Hire(*database, {"Anne"});
+    EXPECT_EQ(List(*database, "SELECT Name FROM Staff"), "Anne") << "a failure that ended nothing leaves it open";
 }
 
 TEST_F(Transactions, ADatabaseClosedOrLostInTheMiddleKeepsNothing)
@@ -80,7 +93,7 @@ TEST_F(Transactions, ADatabaseClosedOrLostInTheMiddleKeepsNothing)
     DataControl datAbsence("frmTest");
     {
         Transaction transaction(datAbsence.Engine());
-        Add(datAbsence.Engine(), "Anne");
+        Hire(datAbsence.Engine(), {"Anne"});
         ASSERT_TRUE(QFile::rename(File(), File("Moved.mdb")));
         EXPECT_EQ(FailureOf([&] { datAbsence.Read("SELECT * FROM Staff"); }), EngineError::ConnectionLost)
             << "a new connection would not be the one that the transaction is open on";
@@ -90,12 +103,5 @@ TEST_F(Transactions, ADatabaseClosedOrLostInTheMiddleKeepsNothing)
     }
     DataControl::Reconnect = {};
     EXPECT_EQ(Names(), "");
-}
-
-TEST_F(Transactions, AFailedCreationLeavesNoFile)
-{
-    EXPECT_EQ(FailureOf([this] { Database::Create(File("New.mdb"), "x", "CREATE TABLE A (B); CREATE TABLE A (B);"); }),
-              EngineError::TableExists);
-    EXPECT_FALSE(QFile::exists(File("New.mdb")));
 }
 } // namespace

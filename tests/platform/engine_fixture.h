@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/dao/dao.h"
+#include "support/house.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -50,21 +50,18 @@ protected:
 
     QString File(const QString& name = "Staff.mdb") const { return folder_.path() + "/" + name; }
     std::unique_ptr<Database> Open() const { return Database::Open(File(), kPassword); }
-    void Write(const QString& name, const QByteArray& bytes) const
-    {
-        QFile file(File(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    /// The first column of a result, joined by commas.
+    /// A result as one text: records joined by commas, columns by "|".
     static QString List(Database& database, const QString& sql, const Values& values = {})
     {
-        QStringList cells;
-        for (const Recordset& rows : database.OpenRecordset(sql, values))
-            cells += rows.Text(rows.Columns().first());
-        return cells.join(',');
+        return RowsOf(database, sql, values).replace('\n', ',');
     }
-    QString List(const QString& sql, const Values& values = {}) const { return List(*Open(), sql, values); }
+    QString List(const QString& sql) const { return List(*Open(), sql); }
+    /// Adds a person, or several.
+    static void Hire(Database& database, const QStringList& names)
+    {
+        for (const QString& name : names)
+            database.Execute("INSERT INTO Staff (Name, Hours, Days) VALUES (?, 7.5, 1)", {name});
+    }
 
     const QString kPassword = QStringLiteral("Sésame");
     QTemporaryDir folder_;

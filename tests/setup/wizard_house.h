@@ -53,18 +53,22 @@ protected:
         QDir(house.Folder()).mkpath(name);
         return house.Folder() + "/" + name;
     }
+    /// All steps that follow, up to the last button.
+    void EntersTheRest(const QString& name, const QString& month)
+    {
+        EntersFiscalYear(name, month, "2026");
+        EntersCategories();
+        EntersAdministrator();
+    }
+    User& WillFinish()
+    {
+        return user.WillAnswer("CONFIRM:", "Yes").WillAnswer("CONFIGURATION COMPLETED SUCCESSFULLY:", "OK");
+    }
     QString Configuration()
     {
-        const auto config = Database::Open(house.Folder() + "/Config.mdb", kConfigPassword);
-        QStringList rows;
-        for (Recordset row = config->OpenRecordset("SELECT * FROM Configuration"); !row.AtEnd(); row.MoveNext()) {
-            QStringList cells;
-            for (const char* column : {"English", "SQL_Server", "IP_Address", "Username", "Password", "DatabasePath",
-                                       "DatabaseName", "Configured", "LastUpgradeDate"})
-                cells << row.Text(column);
-            rows << cells.join('|');
-        }
-        return rows.join('\n');
+        return RowsOf(*Database::Open(house.Folder() + "/Config.mdb", kConfigPassword),
+                      "SELECT English, SQL_Server, IP_Address, Username, Password, DatabasePath, DatabaseName, "
+                      "Configured, LastUpgradeDate FROM Configuration");
     }
     int RowsIn(const QString& path, const QString& table)
     {

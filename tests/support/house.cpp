@@ -1,13 +1,16 @@
 #include "support/house.h"
 
 #include "calendar/frm_program.h"
+#include "foundation/category_row.h"
 #include "foundation/connection.h"
+#include "foundation/employee_row.h"
 #include "foundation/log_in.h"
 #include "foundation/session_rows.h"
 #include "foundation/start_up.h"
 #include "platform/clock.h"
 #include "platform/dao/server.h"
 #include "platform/program.h"
+#include "setup/first_rows.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,65 +18,51 @@
 
 namespace
 {
-std::function<void(const QString&)>& ComplaintHandler()
-{
-    static std::function<void(const QString&)> handler = [](const QString& text) {
-        qCritical("%s", qUtf8Printable(text));
-    };
-    return handler;
-}
-
+std::function<void(const QString&)> complaintHandler = [](const QString& text) {
+    qCritical("%s", qUtf8Printable(text));
+};
 QDateTime moment; // what the program takes for now
 
-struct SystemCategory
-{
-    const char* SystemName;
-    const char* French;
-    const char* Code;
-    int Color;
-    int Absence;
-    int TimeBank;
-};
-
-constexpr SystemCategory kSystemCategories[] = {
-    {"Vacation", "Vacances", "V", 0xC0C000, 1, 0},
-    {"Sick", "Maladie", "S", 0xFFC0C0, 1, 0},
-    {"Personal time", "Temps personnel", "P", 0xFFFFC0, 1, 0},
-    {"Doctor appointments", "Rendez-vous médical", "D", 0x808000, 1, 0},
-    {"Time accumulated", "Temps accumulé", "", 0xC0C0C0, 0, 1},
-    {"Time claimed", "Temps réclamé", "", 0xC0C0C0, 1, 1},
-    {"Time paid", "Temps payé", "", 0xC0C0C0, 0, 1},
-    {"Time borrowed", "Temps emprunté", "", 0xC0C0C0, 1, 1},
-};
-
-QString ReadSource(const QString& name)
-{
-    QFile file(QStringLiteral(TARVELL_DATA_FOLDER) + "/" + name);
-    if (!file.open(QIODevice::ReadOnly))
-        Complain("cannot read " + file.fileName());
-    return QString::fromUtf8(file.readAll());
-}
+/// What the company has besides the first rows of a new database.
+const QString kCompany = R"(
+    UPDATE Employees SET EMailAddress = 'alice@example.org';
+    UPDATE Categories SET CategoryFrenchName = 'Vacances', CategoryCode = 'V' WHERE SystemName = 'Vacation';
+    UPDATE Categories SET CategoryFrenchName = 'Maladie', CategoryCode = 'S' WHERE SystemName = 'Sick';
+    UPDATE Categories SET CategoryFrenchName = 'Temps personnel', CategoryCode = 'P' WHERE SystemName = 'Personal time';
+    UPDATE Categories SET CategoryFrenchName = 'Rendez-vous médical', CategoryCode = 'D' WHERE RecordID = 4;
+    INSERT INTO Organizations (FiscalYear, Active, OrganizationEnglishName, OrganizationFrenchName)
+        VALUES (1, 1, 'Northern Works', 'Ateliers du Nord'), (1, 1, 'Southern Trade', 'Commerce du Sud');
+    INSERT INTO Departments (FiscalYear, Active, OrganizationID, DepartmentEnglishName, DepartmentFrenchName)
+        VALUES (1, 1, 1, 'Production', 'Fabrication'), (1, 1, 1, 'Sales', 'Ventes'), (1, 1, 2, 'Stores', 'Magasins');
+    INSERT INTO Groups (FiscalYear, Active, OrganizationID, DepartmentID, GroupEnglishName, GroupFrenchName)
+        VALUES (1, 1, 1, 1, 'Assembly', 'Assemblage');
+    INSERT INTO CategoriesDepartments (FiscalYear, CategoryID, DepartmentID, IsUsed)
+        SELECT 1, Categories.RecordID, Departments.RecordID, 1 FROM Departments, Categories ORDER BY 3, 2;
+)";
+const std::pair<QDate, const char*> kHolidays[] = {{{2026, 1, 1}, "New Year"},
+                                                   {{2026, 7, 1}, "Canada Day"},
+                                                   {{2026, 9, 7}, "Labour Day"},
+                                                   {{2026, 12, 25}, "Christmas"}};
 } // namespace
 
 void SetComplaintHandler(std::function<void(const QString&)> handler)
 {
-    ComplaintHandler() = std::move(handler);
+    complaintHandler = std::move(handler);
 }
 
 void Complain(const QString& text)
 {
-    ComplaintHandler()(text);
+    complaintHandler(text);
 }
 
 QString House::DeliveredFolder()
 {
-    static QTemporaryDir delivered;
-    static const bool made = [] {
-        Database::Create(delivered.path() + "/Tarvell.mdb", kDatabasePassword, ReadSource("tarvell.sql"));
-        Database::Create(delivered.path() + "/Config.mdb", kConfigPassword, ReadSource("config.sql"));
-        return true;
-    }();
-    Q_UNUSED(made);
+    static const QTemporaryDir delivered;
+    const QString data = QStringLiteral(TARVELL_DATA_FOLDER "/");
+    if (QDir(delivered.path()).isEmpty()) {
+        Database::Create(delivered.path() + "/Tarvell.mdb", kDatabasePassword, ::ReadFile(data + "tarvell.sql"));
+        Database::Create(delivered.path() + "/Config.mdb", kConfigPassword, ::ReadFile(data + "config.sql"));
+    }
     return delivered.path();
 }
 
@@ -122,83 +111,36 @@ House& House::Configured(bool english)
 
 House& House::Company()
 {
-    FiscalYear("2026", 2026);
-    SeedAdministrator();
-    return Units();
-}
-
-void House::SeedHolidays()
-{
-    const std::pair<QDate, const char*> holidays[] = {{{2026, 1, 1}, "New Year"},
-                                                      {{2026, 7, 1}, "Canada Day"},
-                                                      {{2026, 9, 7}, "Labour Day"},
-                                                      {{2026, 12, 25}, "Christmas"}};
-    for (const auto& [date, name] : holidays)
-        Sql("INSERT INTO Holidays (HolidayDate, HolidayName, EnteredBy, EnteredDate, CancelledDate) "
-            "VALUES (?, ?, 'ADMIN', ?, 0)",
+    SetUpChoices choices;
+    choices.FiscalYearName = "2026";
+    SetFiscalYear(choices, 2026, 1);
+    auto category = choices.Categories.begin();
+    for (const char* name : {"Vacation", "Sick", "Personal time", "Doctor appointments"})
+        *category++ = {.Name = name, .NoEntitlement = true};
+    choices.AdminFirstName = "Alice";
+    choices.AdminFamilyName = "Tremblay";
+    choices.AdminPassword = "SECRET";
+    DataControl datAbsence("House");
+    const Connection connection(datAbsence);
+    AddFirstRows(datAbsence, choices);
+    datAbsence.Engine().ExecuteScript(kCompany);
+    for (const auto& [date, name] : kHolidays)
+        Sql("INSERT INTO Holidays (HolidayDate, HolidayName, EnteredBy, EnteredDate) VALUES (?, ?, 'ADMIN', ?)",
             {SerialOfDate(date), name, ::Today()});
+    return *this;
 }
 
 int House::FiscalYear(const QString& name, int year, int month)
 {
     const QDate first(year, month, 1);
-    const int id = Insert("FiscalYears", {{"FiscalYearName", name},
-                                          {"CommencingDate", SerialOfDate(first)},
-                                          {"EndingDate", SerialOfDate(first.addYears(1)) - 1},
-                                          {"EnteredDate", ::Today()},
-                                          {"EnteredBy", "ADMIN"}});
-    SeedCategories(id);
+    const int id = Sql("INSERT INTO FiscalYears (FiscalYearName, CommencingDate, EndingDate, EnteredDate, EnteredBy) "
+                       "VALUES (?, ?, ?, ?, 'ADMIN')",
+                       {name, SerialOfDate(first), SerialOfDate(first.addYears(1)) - 1, ::Today()});
+    const QString columns = kTable<CategoryRow>.Columns.mid(1).join(", "); // the first one is the year
+    Sql(QStringLiteral("INSERT INTO Categories (FiscalYear, %1) SELECT ?, %1 FROM Categories WHERE FiscalYear = 1")
+            .arg(columns),
+        {id});
     return id;
-}
-
-void House::SeedCategories(int fiscalYear)
-{
-    for (const SystemCategory& category : kSystemCategories)
-        Insert("Categories", {{"FiscalYear", fiscalYear},
-                              {"SystemName", category.SystemName},
-                              {"CategoryEnglishName", category.SystemName},
-                              {"CategoryFrenchName", category.French},
-                              {"CategoryCode", category.Code},
-                              {"CategoryColorCode", QString::number(category.Color)},
-                              {"ConstitutesAnAbsence", category.Absence},
-                              {"TimeBankRelated", category.TimeBank},
-                              {"Active", 1},
-                              {"IsPublic", 1}});
-}
-
-void House::SeedAdministrator()
-{
-    QVariantMap admin{{"LoginID", "ADMIN"},
-                      {"Password", "SECRET"},
-                      {"FirstName", "Alice"},
-                      {"FamilyName", "Tremblay"},
-                      {"EMailAddress", "alice@example.org"},
-                      {"EnteredBy", "SYSTEM"}};
-    for (const auto& [column, member] : kRights)
-        admin[column] = 1;
-    Insert("Employees", admin);
-}
-
-House& House::Units()
-{
-    const auto unit = [this](const char* table, const QString& kind, const QString& english, const QString& french,
-                             QVariantMap above) {
-        above.insert(
-            {{"FiscalYear", 1}, {"Active", 1}, {kind + "EnglishName", english}, {kind + "FrenchName", french}});
-        return Insert(table, above);
-    };
-    const int works = unit("Organizations", "Organization", "Northern Works", "Ateliers du Nord", {});
-    const int trade = unit("Organizations", "Organization", "Southern Trade", "Commerce du Sud", {});
-    const int production = unit("Departments", "Department", "Production", "Fabrication", {{"OrganizationID", works}});
-    const int sales = unit("Departments", "Department", "Sales", "Ventes", {{"OrganizationID", works}});
-    const int stores = unit("Departments", "Department", "Stores", "Magasins", {{"OrganizationID", trade}});
-    unit("Groups", "Group", "Assembly", "Assemblage", {{"OrganizationID", works}, {"DepartmentID", production}});
-    for (const int department : {production, sales, stores})
-        Sql("INSERT INTO CategoriesDepartments (FiscalYear, CategoryID, DepartmentID, IsUsed) "
-            "SELECT 1, RecordID, ?, 1 FROM Categories WHERE FiscalYear = 1",
-            {department});
-    SeedHolidays();
-    return *this;
 }
 
 int House::Hire(const Person& person, int fiscalYear)
@@ -226,25 +168,20 @@ int House::Hire(const Person& person, int fiscalYear)
         employee[kDayLengths[day].Column] = 7;
         employee["HoursWorkedDaily"] = 7;
     }
-    return Insert("Employees", employee);
+    const QStringList marks(employee.size(), QStringLiteral("?"));
+    return Sql(
+        QStringLiteral("INSERT INTO Employees (%1) VALUES (%2)").arg(employee.keys().join(", "), marks.join(", ")),
+        employee.values());
 }
 
 int House::Record(int employee, const QString& systemName, const QDate& date, float hours, bool pending)
 {
-    const QString unit = "SELECT %1 FROM Employees WHERE RecordID = ?";
-    return Insert("Attendance", {{"FiscalYear", Number(unit.arg("FiscalYear"), {employee})},
-                                 {"EmployeeID", employee},
-                                 {"GroupID", Number(unit.arg("GroupID"), {employee})},
-                                 {"DepartmentID", Number(unit.arg("DepartmentID"), {employee})},
-                                 {"OrganizationID", Number(unit.arg("OrganizationID"), {employee})},
-                                 {"CategoryID", CategoryID(systemName, Number(unit.arg("FiscalYear"), {employee}))},
-                                 {"RecordDate", SerialOfDate(date)},
-                                 {"Duration", hours},
-                                 {"TimeMultiplicator", 1},
-                                 {"TotalDuration", hours},
-                                 {"Submitted", pending ? 1 : 0},
-                                 {"EnteredBy", "ADMIN"},
-                                 {"EnteredDate", ::Today()}});
+    return Sql("INSERT INTO Attendance (FiscalYear, EmployeeID, GroupID, DepartmentID, OrganizationID, CategoryID, "
+               "RecordDate, Duration, TimeMultiplicator, TotalDuration, Submitted, EnteredBy, EnteredDate) "
+               "SELECT Employees.FiscalYear, Employees.RecordID, GroupID, DepartmentID, OrganizationID, "
+               "Categories.RecordID, ?, ?, 1, ?, ?, 'ADMIN', ? FROM Employees, Categories WHERE Employees.RecordID = ? "
+               "AND SystemName = ? AND Categories.FiscalYear = Employees.FiscalYear",
+               {SerialOfDate(date), hours, hours, pending, ::Today(), employee, systemName});
 }
 
 House& House::LogIn(const QString& loginID)
@@ -260,27 +197,9 @@ House& House::LogIn(const QString& loginID)
     return *this;
 }
 
-int House::Insert(const char* table, const QVariantMap& values)
-{
-    const auto database = Database::Open(DatabaseFile(), kDatabasePassword);
-    const QStringList marks(values.size(), QStringLiteral("?"));
-    database->Execute(
-        QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, values.keys().join(", "), marks.join(", ")),
-        values.values());
-    return database->LastKey();
-}
-
 QString House::Rows(const QString& sql, const Values& values)
 {
-    const auto database = Database::Open(DatabaseFile(), kDatabasePassword);
-    QStringList lines;
-    for (const Recordset& rows : database->OpenRecordset(sql, values)) {
-        QStringList cells;
-        for (const QString& column : rows.Columns())
-            cells << rows.Text(column);
-        lines << cells.join('|');
-    }
-    return lines.join('\n');
+    return RowsOf(*Database::Open(DatabaseFile(), kDatabasePassword), sql, values);
 }
 
 QString House::Cell(const QString& sql, const Values& values)
@@ -290,12 +209,14 @@ QString House::Cell(const QString& sql, const Values& values)
 
 int House::Number(const QString& sql, const Values& values)
 {
-    return Cell(sql, values).toInt();
+    return static_cast<int>(Cell(sql, values).toDouble());
 }
 
-void House::Sql(const QString& sql, const Values& values)
+int House::Sql(const QString& sql, const Values& values)
 {
-    Database::Open(DatabaseFile(), kDatabasePassword)->Execute(sql, values);
+    const auto database = Database::Open(DatabaseFile(), kDatabasePassword);
+    database->Execute(sql, values);
+    return database->LastKey();
 }
 
 int House::CategoryID(const QString& systemName, int fiscalYear)
@@ -303,8 +224,32 @@ int House::CategoryID(const QString& systemName, int fiscalYear)
     return Number("SELECT RecordID FROM Categories WHERE SystemName = ? AND FiscalYear = ?", {systemName, fiscalYear});
 }
 
-QString House::ReadFile(const QString& name) const
+void House::Refuses(const QString& change)
 {
-    QFile file(Folder() + "/" + name);
+    Sql("CREATE TRIGGER Refusing BEFORE " + change + " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+}
+
+QString RowsOf(Database& database, const QString& sql, const Values& values)
+{
+    QStringList lines;
+    for (const Recordset& rows : database.OpenRecordset(sql, values)) {
+        QStringList cells;
+        for (const QString& column : rows.Columns())
+            cells << rows.Text(column);
+        lines << cells.join('|');
+    }
+    return lines.join('\n');
+}
+
+QString ReadFile(const QString& path)
+{
+    QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+        Complain("cannot write " + path);
 }

@@ -19,6 +19,13 @@ void Complain(const QString& text);
 struct ProgramEnded
 {};
 
+/// All cells of a result: columns joined by "|", records by "\n".
+QString RowsOf(Database& database, const QString& sql, const Values& values = {});
+/// Empty where there is no such file.
+QString ReadFile(const QString& path);
+/// Puts a file with these bytes in the place of what stands there.
+void WriteFile(const QString& path, const QByteArray& bytes = {});
+
 /// One employee of the test company. Rights are column names, each granted.
 struct Person
 {
@@ -52,9 +59,7 @@ public:
     /// Fiscal year 2026, the eight system categories, ADMIN (password SECRET), two organizations, three departments, a
     /// group, four holidays.
     House& Company();
-    /// The units, holidays and category links of that company in a year that stands already.
-    House& Units();
-    /// A further fiscal year from that first day, with its eight system categories. Returns its RecordID.
+    /// A further fiscal year from that first day, with the categories of the first one. Returns its RecordID.
     int FiscalYear(const QString& name, int year, int month = 1);
     /// An employee of 2026 (password PASS); returns the RecordID.
     int Hire(const Person& person, int fiscalYear = 1);
@@ -66,22 +71,19 @@ public:
     /// The first cell of a result as text, and as whole number; written and read with the engine alone.
     QString Cell(const QString& sql, const Values& values = {});
     int Number(const QString& sql, const Values& values = {});
-    /// All cells of a result: columns joined by "|", records by "\n".
     QString Rows(const QString& sql, const Values& values = {});
-    void Sql(const QString& sql, const Values& values = {});
+    /// Returns the RecordID of the record that it added.
+    int Sql(const QString& sql, const Values& values = {});
     int CategoryID(const QString& systemName, int fiscalYear = 1);
-    QString ReadFile(const QString& name) const;
+    /// From here on the database refuses a change such as "UPDATE ON Employees": the failure says "refused".
+    void Refuses(const QString& change);
+    QString ReadFile(const QString& name) const { return ::ReadFile(Folder() + "/" + name); }
 
     /// The empty databases, made once per process.
     static QString DeliveredFolder();
     QString DatabaseFile() const { return Folder() + "/Tarvell.mdb"; }
 
 private:
-    int Insert(const char* table, const QVariantMap& values);
-    void SeedCategories(int fiscalYear);
-    void SeedAdministrator();
-    void SeedHolidays();
-
     std::unique_ptr<QTemporaryDir> temporary_;
     QString folder_;
 };

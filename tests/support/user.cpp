@@ -6,24 +6,40 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QTest>
+
+#include <optional>
+
+namespace
+{
+/// The first of a queue, which goes; empty when there is none.
+template <typename T>
+std::optional<T> Next(std::deque<T>& queue)
+{
+    if (queue.empty())
+        return {};
+    const T first = std::move(queue.front());
+    queue.pop_front();
+    return first;
+}
+
+void ClickEntry(QAbstractItemView* list, const QModelIndex& entry, Qt::KeyboardModifier modifier)
+{
+    list->scrollTo(entry);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, modifier, list->visualRect(entry).center());
+}
+} // namespace
 
 User::User()
 {
     SetMessagePresenter([this](const Message& message) { return AnswerMessage(message); });
     SetModalRunner([this](QDialog& form) { return VisitForm(form); });
     SetFileChooser([this](const FileChoice& choice) {
-        if (files_.empty()) {
+        const auto path = Next(files_);
+        if (!path)
             Complain("unexpected file choice " + choice.Title);
-            return QString();
-        }
-        const QString path = files_.front();
-        files_.pop_front();
-        return path;
+        return path.value_or(QString());
     });
 }
 
@@ -66,49 +82,52 @@ QWidget* User::FindWidget(const QString& name) const
     return control;
 }
 
-template <typename Control>
-Control* User::Find(const QString& name) const
+QWidget* User::FindEnabled(const QString& name) const
 {
-    auto* control = dynamic_cast<Control*>(FindWidget(name));
-    if (!control)
-        Complain("another kind of control: " + name);
-    return control;
+    QWidget* control = FindWidget(name);
+    if (!control || control->isEnabled())
+        return control;
+    Complain("cannot use " + name);
+    return nullptr;
+}
+
+QAbstractItemModel* User::FindEntries(const QString& name) const
+{
+    QWidget* control = FindWidget(name);
+    if (auto* combo = dynamic_cast<QComboBox*>(control))
+        return combo->model();
+    if (auto* list = dynamic_cast<QListWidget*>(control))
+        return list->model();
+    Complain("no list: " + name);
+    return nullptr;
 }
 
 User& User::Types(const QString& name, const QString& text)
 {
-    QWidget* field = FindWidget(name);
-    if (!field || !field->isEnabled()) {
-        Complain("cannot type in " + name);
-        return *this;
+    if (QWidget* field = FindEnabled(name)) {
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(field, Qt::Key_Delete);
+        for (const QChar character : text)
+            QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(character), Qt::NoModifier);
     }
-    field->setFocus();
-    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(field, Qt::Key_Delete);
-    for (const QChar character : text)
-        QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(character), Qt::NoModifier);
     return *this;
 }
 
 User& User::Presses(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    QWidget* target = name.isEmpty() ? form_.data() : FindWidget(name);
-    if (target)
+    if (QWidget* target = name.isEmpty() ? form_.data() : FindWidget(name))
         QTest::keyClick(target, key, modifiers);
     return *this;
 }
 
 User& User::Clicks(const QString& name)
 {
-    QWidget* control = FindWidget(name);
-    if (!control || !control->isEnabled()) {
-        Complain("cannot click " + name);
-        return *this;
-    }
+    QWidget* control = FindEnabled(name);
     if (auto* button = dynamic_cast<QAbstractButton*>(control)) {
         button->setFocus();
         QTest::keyClick(button, Qt::Key_Space);
-    } else {
+    } else if (control) {
         QTest::mouseClick(control, Qt::LeftButton);
     }
     return *this;
@@ -116,50 +135,38 @@ User& User::Clicks(const QString& name)
 
 User& User::Checks(const QString& name, bool checked)
 {
-    auto* box = Find<QAbstractButton>(name);
-    if (box && box->isChecked() != checked)
-        Clicks(name);
-    return *this;
+    return Reads(name) == QString::number(checked) ? *this : Clicks(name);
 }
 
 User& User::Picks(const QString& name, const QString& entry)
 {
-    QWidget* control = FindWidget(name);
-    if (!control)
+    QWidget* control = FindEnabled(name);
+    const QAbstractItemModel* entries = control ? FindEntries(name) : nullptr;
+    if (!entries)
         return *this;
-    if (!control->isEnabled())
-        Complain("cannot pick from " + name);
-    if (auto* combo = dynamic_cast<QComboBox*>(control)) {
-        const int index = combo->findText(entry, Qt::MatchStartsWith | Qt::MatchCaseSensitive);
-        if (index < 0)
-            Complain("no entry " + entry + " in " + name + ": " + Entries(name).join(", "));
-        combo->setCurrentIndex(index);
-        emit combo->activated(index);
-    } else if (auto* list = dynamic_cast<QListWidget*>(control)) {
-        const auto found = list->findItems(entry, Qt::MatchStartsWith | Qt::MatchCaseSensitive);
-        if (found.isEmpty()) {
-            Complain("no entry " + entry + " in " + name + ": " + Entries(name).join(", "));
-            return *this;
-        }
-        list->scrollToItem(found.first());
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          list->visualItemRect(found.first()).center());
+    const QModelIndexList found =
+        entries->match(entries->index(0, 0), Qt::DisplayRole, entry, 1, Qt::MatchStartsWith | Qt::MatchCaseSensitive);
+    if (found.isEmpty()) {
+        Complain("no entry " + entry + " in " + name + ": " + Entries(name).join(", "));
+    } else if (auto* combo = dynamic_cast<QComboBox*>(control)) {
+        combo->setCurrentIndex(found.first().row());
+        emit combo->activated(found.first().row());
+    } else {
+        ClickEntry(dynamic_cast<QListWidget*>(control), found.first(), Qt::NoModifier);
     }
     return *this;
 }
 
 User& User::ClicksWithCtrl(const QString& name)
 {
-    if (auto* list = Find<QListWidget>(name); list && list->currentItem())
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
-                          list->visualItemRect(list->currentItem()).center());
+    if (auto* list = dynamic_cast<QListWidget*>(FindWidget(name)); list && list->currentItem())
+        ClickEntry(list, list->currentIndex(), Qt::ControlModifier);
     return *this;
 }
 
 User& User::LeavesField(const QString& name)
 {
-    QWidget* field = FindWidget(name);
-    if (field) {
+    if (QWidget* field = FindWidget(name)) {
         field->setFocus();
         QTest::keyClick(field, Qt::Key_Tab);
     }
@@ -168,33 +175,24 @@ User& User::LeavesField(const QString& name)
 
 QString User::Reads(const QString& name) const
 {
-    QWidget* control = FindWidget(name);
-    if (auto* combo = dynamic_cast<QComboBox*>(control))
-        return combo->currentText();
-    if (auto* list = dynamic_cast<QListWidget*>(control))
-        return list->currentItem() ? list->currentItem()->text() : QString();
-    if (auto* field = dynamic_cast<QLineEdit*>(control))
-        return field->text();
-    if (auto* text = dynamic_cast<QPlainTextEdit*>(control))
-        return text->toPlainText();
-    if (auto* label = dynamic_cast<QLabel*>(control))
-        return label->text();
-    if (auto* button = dynamic_cast<QAbstractButton*>(control))
-        return button->isCheckable() ? QString::number(button->isChecked()) : button->text();
+    const QWidget* control = FindWidget(name);
+    if (const auto* list = dynamic_cast<const QListWidget*>(control))
+        return list->currentIndex().data().toString();
+    if (const auto* button = dynamic_cast<const QAbstractButton*>(control); button && button->isCheckable())
+        return QString::number(button->isChecked());
+    for (const char* property : {"currentText", "plainText", "text"})
+        if (const QVariant text = control ? control->property(property) : QVariant(); text.isValid())
+            return text.toString();
     return {};
 }
 
 QStringList User::Entries(const QString& name) const
 {
-    QStringList entries;
-    QWidget* control = FindWidget(name);
-    if (auto* combo = dynamic_cast<QComboBox*>(control))
-        for (int index = 0; index < combo->count(); ++index)
-            entries << combo->itemText(index);
-    if (auto* list = dynamic_cast<QListWidget*>(control))
-        for (int index = 0; index < list->count(); ++index)
-            entries << list->item(index)->text();
-    return entries;
+    QStringList texts;
+    const QAbstractItemModel* entries = FindEntries(name);
+    for (int row = 0; entries && row < entries->rowCount(); ++row)
+        texts << entries->index(row, 0).data().toString();
+    return texts;
 }
 
 bool User::CanUse(const QString& name) const
@@ -227,34 +225,30 @@ int User::AnswerMessage(const Message& message)
     if (SeesMessage)
         SeesMessage(message);
     const QString shown = message.Title + "\n" + message.Text;
-    if (answers_.empty()) {
+    const auto answer = Next(answers_);
+    if (!answer) {
         Complain("unexpected message: " + shown);
         return MessageCode::Cancel;
     }
-    const Answer answer = answers_.front();
-    answers_.pop_front();
-    if (answer.Title != message.Title || !message.Text.contains(answer.Containing))
-        Complain("expected " + answer.Title + " / " + answer.Containing + ", came: " + shown);
-    const qsizetype position = message.Captions.indexOf(answer.Button);
-    if (position < 0) {
-        Complain("no button " + answer.Button + " on: " + shown);
-        return MessageCode::Cancel;
-    }
-    return ResultOfButton(answer.Button, static_cast<int>(position));
+    if (answer->Title != message.Title || !message.Text.contains(answer->Containing))
+        Complain("expected " + answer->Title + " / " + answer->Containing + ", came: " + shown);
+    const qsizetype position = message.Captions.indexOf(answer->Button);
+    if (position < 0)
+        Complain("no button " + answer->Button + " on: " + shown);
+    return position < 0 ? MessageCode::Cancel : ResultOfButton(answer->Button, static_cast<int>(position));
 }
 
 int User::VisitForm(QDialog& form)
 {
-    if (visits_.empty()) {
+    const auto work = Next(visits_);
+    if (!work) {
         Complain("unexpected form " + form.objectName());
         return QDialog::Rejected;
     }
-    const auto work = visits_.front();
-    visits_.pop_front();
     const QPointer<QWidget> before = form_;
     form.show();
     Works(form);
-    work(form);
+    (*work)(form);
     if (form.isVisible()) {
         Complain(form.objectName() + " was left open");
         form.close();

@@ -4,6 +4,7 @@
 #include "platform/program.h"
 #include "support/house.h"
 
+#include <QAbstractItemModel>
 #include <QDialog>
 #include <QPointer>
 #include <QWidget>
@@ -85,9 +86,9 @@ private:
         QString Containing;
     };
 
-    template <typename Control>
-    Control* Find(const QString& name) const;
     QWidget* FindWidget(const QString& name) const;
+    QWidget* FindEnabled(const QString& name) const;
+    QAbstractItemModel* FindEntries(const QString& name) const;
     int AnswerMessage(const Message& message);
     int VisitForm(QDialog& form);
 

@@ -10,29 +10,29 @@
 
 namespace
 {
-QPair<int, int> Cell(const QSignalSpy& spy)
+class Grid : public testing::Test
 {
-    return spy.isEmpty() ? qMakePair(-1, -1) : qMakePair(spy.last().at(0).toInt(), spy.last().at(1).toInt());
-}
+protected:
+    void Show()
+    {
+        grid.resize(400, 300);
+        grid.show();
+        QApplication::setActiveWindow(&grid);
+        grid.setFocus();
+        QCoreApplication::processEvents();
+    }
+    QColor Painted(const QPoint& place) { return grid.viewport()->grab().toImage().pixelColor(place); }
+    QColor Painted(int row, int col) { return Painted(grid.CellRect(row, col).topLeft() + QPoint(2, 2)); }
+    void Click(const QPoint& place) { QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place); }
+    std::pair<int, int> Clicked() const { return {clicks.last().at(0).toInt(), clicks.last().at(1).toInt()}; }
 
-void Show(FlexGrid& grid)
-{
-    grid.resize(400, 300);
-    grid.show();
-    QApplication::setActiveWindow(&grid);
-    grid.setFocus();
-    QCoreApplication::processEvents();
-}
-
-QColor Painted(FlexGrid& grid, int row, int col)
-{
-    return grid.viewport()->grab().toImage().pixelColor(grid.CellRect(row, col).topLeft() + QPoint(2, 2));
-}
+    FlexGrid grid;
+    QSignalSpy clicks{&grid, &FlexGrid::CellClicked};
+};
 } // namespace
 
-TEST(FlexGrid, RowsKeepTheirCellsAndNumbersWhenOthersGo)
+TEST_F(Grid, RowsKeepTheirCellsAndNumbersWhenOthersGo)
 {
-    FlexGrid grid;
     grid.SetSize(1, 3);
     grid.SetFixedRows(1);
     for (int i = 1; i <= 4; ++i) {
@@ -40,26 +40,28 @@ TEST(FlexGrid, RowsKeepTheirCellsAndNumbersWhenOthersGo)
         grid.SetRowData(row, 100 + i);
         grid.SetCellForeColor(row, 1, i);
     }
-    grid.RemoveItem(2);
-    EXPECT_EQ(grid.Rows(), 4);
+    for (const int row : {2, 4, -1})
+        grid.RemoveItem(row);
+    EXPECT_EQ(grid.Rows(), 4) << "there is no row 4 any more";
     EXPECT_EQ(grid.TextMatrix(2, 2), "c3");
     EXPECT_EQ(grid.RowData(2), 103);
     EXPECT_EQ(grid.CellForeColor(2, 1), 3);
     EXPECT_EQ(grid.CellBackColor(2, 1), -1);
 
-    grid.SetTextMatrix(9, 9, "outside");
-    EXPECT_EQ(grid.TextMatrix(9, 9), "");
+    for (const auto& [row, col] : {std::pair(9, 0), {0, 3}, {-1, 0}, {0, -1}, {4, 0}}) {
+        grid.SetTextMatrix(row, col, "outside");
+        EXPECT_EQ(grid.TextMatrix(row, col), "");
+    }
     grid.ClearRows();
     EXPECT_EQ(grid.Rows(), 1);
     EXPECT_EQ(grid.AddItem("x"), 1);
     EXPECT_EQ(grid.CellForeColor(1, 1), -1) << "a new row starts clean";
 }
 
-TEST(FlexGrid, AnUpdateIsShownOnceWithItsHeightsMergesAndHiddenRows)
+TEST_F(Grid, AnUpdateIsShownOnceWithItsHeightsMergesAndHiddenRows)
 {
-    FlexGrid grid;
     grid.SetSize(1, 4);
-    Show(grid);
+    Show();
     QSignalSpy inserted(grid.model(), &QAbstractItemModel::rowsInserted);
     QSignalSpy changed(grid.model(), &QAbstractItemModel::dataChanged);
     grid.BeginUpdate();
@@ -83,75 +85,78 @@ TEST(FlexGrid, AnUpdateIsShownOnceWithItsHeightsMergesAndHiddenRows)
     EXPECT_TRUE(grid.isRowHidden(7));
     EXPECT_EQ(grid.columnSpan(9, 0), 4);
     EXPECT_TRUE(grid.updatesEnabled());
+    grid.SetTextMatrix(300, 1, "later");
+    EXPECT_EQ(changed.size(), 1) << "what changes afterwards is shown at once";
+    grid.BeginUpdate();
+    grid.SetRowHidden(grid.AddItem("dropped"), true);
+    grid.ClearRows();
+    grid.AddItem("in its place");
+    grid.EndUpdate();
+    EXPECT_FALSE(grid.isRowHidden(0));
 }
 
-TEST(FlexGrid, CellsArePaintedInTheirOwnColours)
+TEST_F(Grid, CellsArePaintedInTheirOwnColours)
 {
-    FlexGrid grid;
     grid.SetSize(3, 3);
     grid.SetCellBackColor(1, 1, 0x80C0FF);
     grid.MergeCells(0, 0, 1, 3);
     grid.SetCellBackColor(0, 0, 0x800000);
-    Show(grid);
+    Show();
     grid.SelectCell(2, 2);
-    EXPECT_EQ(Painted(grid, 1, 1), QColor(255, 192, 128));
-    EXPECT_EQ(Painted(grid, 1, 2), QColor(Qt::white));
+    EXPECT_EQ(Painted(1, 1), QColor(255, 192, 128));
+    EXPECT_EQ(Painted(1, 2), QColor(Qt::white));
     EXPECT_EQ(grid.CellRect(0, 0).width(), grid.columnWidth(0) * 3);
-    const QColor merged = grid.viewport()->grab().toImage().pixelColor(grid.CellRect(1, 2).center().x(), 3);
-    EXPECT_EQ(merged, QColor(0, 0, 128));
+    EXPECT_EQ(Painted({grid.CellRect(1, 2).center().x(), 3}), QColor(0, 0, 128)) << "over all merged columns";
     grid.SetRowSelection(true);
-    EXPECT_NE(Painted(grid, 2, 0), QColor(Qt::white)) << "the current row is tinted";
+    EXPECT_NE(Painted(2, 0), QColor(Qt::white)) << "the current row is tinted";
     EXPECT_EQ(CodeOfColor(ColorOfCode(0x123456)), 0x123456);
 }
 
-TEST(FlexGrid, FixedRowsStayAtTheTopAndOnlyTheCellsBelowTakeClicks)
+TEST_F(Grid, FixedRowsStayAtTheTopAndOnlyTheCellsBelowTakeClicks)
 {
-    FlexGrid grid;
     grid.SetSize(1, 3);
     grid.SetRowHeight(0, 33);
     grid.SetFixedRows(1);
-    grid.BeginUpdate();
     for (int i = 1; i <= 100; ++i)
         grid.AddItem(QString::number(i));
-    grid.EndUpdate();
     grid.SetRowHidden(2, true);
-    Show(grid);
-    QSignalSpy clicks(&grid, &FlexGrid::CellClicked);
+    Show();
 
     EXPECT_EQ(grid.horizontalHeader()->height(), 33);
     QTest::mouseClick(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
     EXPECT_TRUE(clicks.isEmpty());
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, QPoint(150, grid.rowHeight(1) + 5));
-    EXPECT_EQ(Cell(clicks), qMakePair(3, 1)) << "the hidden row is passed over";
+    Click({150, grid.rowHeight(1) + 5});
+    EXPECT_EQ(Clicked(), std::pair(3, 1)) << "the hidden row is passed over";
     grid.verticalScrollBar()->setValue(grid.verticalScrollBar()->maximum());
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(100, 2).center());
-    EXPECT_EQ(Cell(clicks), qMakePair(100, 2));
+    Click(grid.CellRect(100, 2).center());
+    EXPECT_EQ(Clicked(), std::pair(100, 2));
     EXPECT_TRUE(grid.horizontalHeader()->isVisible());
 }
 
-TEST(FlexGrid, TheKeyboardWalksTheCellsPastSeparatorsAndPressesThem)
+TEST_F(Grid, TheKeyboardWalksTheCellsPastSeparatorsAndPressesThem)
 {
-    FlexGrid grid;
     grid.SetSize(30, 5);
     for (int row = 0; row < 30; ++row)
         grid.SetCellLines(row, 2, false);
     grid.SetColHidden(3, true);
-    Show(grid);
-    QSignalSpy clicks(&grid, &FlexGrid::CellClicked);
+    grid.SetRowHidden(1, true);
+    Show();
+    const auto press = [this](std::initializer_list<Qt::Key> keys) {
+        for (const Qt::Key key : keys)
+            QTest::keyClick(&grid, key);
+    };
     grid.SelectCell(0, 1);
-    QTest::keyClick(&grid, Qt::Key_Right);
-    QTest::keyClick(&grid, Qt::Key_Space);
-    EXPECT_EQ(Cell(clicks), qMakePair(0, 4)) << "separator and hidden column are passed over";
-    QTest::keyClick(&grid, Qt::Key_Right);
-    QTest::keyClick(&grid, Qt::Key_Up);
-    EXPECT_EQ(qMakePair(grid.Row(), grid.Col()), qMakePair(0, 4)) << "the edge holds";
-    QTest::keyClick(&grid, Qt::Key_Down);
-    QTest::keyClick(&grid, Qt::Key_Return);
-    EXPECT_EQ(Cell(clicks), qMakePair(1, 4));
-    QTest::keyClick(&grid, Qt::Key_Home);
+    press({Qt::Key_Right, Qt::Key_Space});
+    EXPECT_EQ(Clicked(), std::pair(0, 4)) << "separator and hidden column are passed over";
+    press({Qt::Key_Right, Qt::Key_Up});
+    EXPECT_EQ(std::pair(grid.Row(), grid.Col()), std::pair(0, 4)) << "the edge holds";
+    press({Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(Clicked(), std::pair(2, 4)) << "and the hidden row";
+    press({Qt::Key_Up, Qt::Key_Left, Qt::Key_Enter});
+    EXPECT_EQ(Clicked(), std::pair(0, 1));
+    press({Qt::Key_Home, Qt::Key_PageDown});
     EXPECT_EQ(grid.Col(), 0);
-    QTest::keyClick(&grid, Qt::Key_PageDown);
     EXPECT_GT(grid.Row(), 3);
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(grid.Row(), 2).center());
-    EXPECT_EQ(clicks.size(), 2) << "a separator takes no click";
+    Click(grid.CellRect(grid.Row(), 2).center());
+    EXPECT_EQ(clicks.size(), 3) << "a separator takes no click";
 }
