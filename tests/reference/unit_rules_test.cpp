@@ -43,7 +43,7 @@ TEST_F(UnitRules, ANameLeftEmptyTakesTheOtherLanguages)
 
 TEST_F(UnitRules, ANameIsUsedOncePerYearAndLanguageExceptByGroups)
 {
-    house.Sql("UPDATE Departments SET Active = 0 WHERE RecordID = 2");
+    house.Sql("UPDATE Departments SET Active = 0, DepartmentEnglishName = ' Sales ' WHERE RecordID = 2");
     EXPECT_EQ(Fault(kDepartments, Named("SALES ", "Autre")),
               "txtEnglishName: The English name you specified for the department has already been used in fiscal year "
               "2026!");

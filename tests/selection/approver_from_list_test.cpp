@@ -3,7 +3,10 @@
 
 using testing::ElementsAre;
 
-TEST_F(CompanyTest, ApproversOfTheWholeYearStandUnderTheirUnitsInTheUsersLanguage)
+class ApproverFromList : public CompanyTest
+{};
+
+TEST_F(ApproverFromList, ApproversOfTheWholeYearStandUnderTheirUnitsInTheUsersLanguage)
 {
     house.Hire({"FRED", "Fred", "Fox", "Production", "Assembly"});
     house.Sql("UPDATE Employees SET IsAuthorizedToApprove = 1 WHERE LoginID <> 'BRUNO'");

@@ -67,6 +67,7 @@ TEST_F(Reach, EachLevelOpensTheListsBelowIt)
     }
     EXPECT_EQ(Listed({1, 1, 1, 0, {}}),
               "Northern Works Southern Trade / Production Sales / Assembly Paint / Anna Bruno");
+    EXPECT_EQ(Listed({1, 2, 0, 0, {}}), "Northern Works Southern Trade / Production Sales /  / Dan");
 }
 
 TEST_F(Reach, ALevelWithoutItsUnitReachesOnlyOneself)
