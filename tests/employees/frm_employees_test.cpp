@@ -2,6 +2,7 @@
 #include "employees/employees_fixture.h"
 #include "employees/frm_clone_employee.h"
 #include "employees/frm_transfer_employees.h"
+#include "foundation/forms.h"
 #include "foundation/frm_input_box.h"
 #include "selection/frm_get_approver_from_list.h"
 #include "selection/frm_select_period.h"
@@ -194,7 +195,8 @@ TEST_F(FrmEmployees, ATemplateBringsWorkplaceScheduleApproverAndRights)
 
 TEST_F(FrmEmployees, AModifiedEmployeeIsAuditedAndHisRateReachesBackAsFarAsTold)
 {
-    house.Sql("UPDATE Employees SET PreviousID = 99, EMailAddress = ' c@example.org ', EmployeeType = 3, "
+    house.Sql("UPDATE Employees SET PreviousID = 99, EMailAddress = ' c@example.org ', EmployeeType = 3, DateOfBirth = "
+              "29280, "
               "IsAllowedToCarryOverVacation = 1 WHERE RecordID = ?",
               {chris});
     for (const QDate& date : {QDate(2026, 3, 31), QDate(2026, 4, 1)})
@@ -211,7 +213,7 @@ TEST_F(FrmEmployees, AModifiedEmployeeIsAuditedAndHisRateReachesBackAsFarAsTold)
                              "cboSecondHalfEndTime(5)", "txtTotalHours(5)"}),
               "20.55|c@example.org|CHRIS||" + kMarc + "|16:30|7");
     house.Sql("UPDATE Employees SET GroupID = 0, ReportTo = 7, Title = 'Mr', LoggedIn = 1 WHERE RecordID = ?", {chris});
-    user.Types("txtHourlyRate", "25.5").Types("txtCity", "Laval");
+    user.Types("txtHourlyRate", "25.5").Types("txtCity", "Laval").Types("cboBirthDay", "");
     user.WhenOpens<frmSelectPeriod>(
         [this](frmSelectPeriod&) { user.Picks("cboFrom", "Wed 01-Apr-2026").Clicks("cmdOK"); });
     user.WillConfirm("Modify the selected employee record as follows?\r\n\r\nName and ID:\t\tChris Davis     \r\n"
@@ -226,11 +228,12 @@ TEST_F(FrmEmployees, AModifiedEmployeeIsAuditedAndHisRateReachesBackAsFarAsTold)
 
     const QString columns =
         "SELECT City, ROUND(HourlyRate, 2), PreviousID, DeactivatedBy, ModifiedBy, ModifiedDate, Password, "
-        "HoursWorkedDaily, EmployeeType, IsAllowedToCarryOverVacation, GroupID, ReportTo, Title, LoggedIn FROM ";
+        "HoursWorkedDaily, DateOfBirth, EmployeeType, IsAllowedToCarryOverVacation, GroupID, ReportTo, Title, LoggedIn "
+        "FROM ";
     EXPECT_EQ(house.Rows(columns + "Employees WHERE RecordID = ?", {chris}),
-              "Laval|25.5|0| |ADMIN|46083|PASS|7|0|0|0|7|Mr|1")
+              "Laval|25.5|0| |ADMIN|46083|PASS|7|0|0|0|0|7|Mr|1")
         << "what somebody else changed meanwhile stays";
-    EXPECT_EQ(house.Rows(columns + "Employees_Modifications"), "|20.55|99|||0|PASS|7|3|1|0|7|Mr|1");
+    EXPECT_EQ(house.Rows(columns + "Employees_Modifications"), "|20.55|99|||0|PASS|7|29280|3|1|0|7|Mr|1");
     const QString costs = "SELECT HourlyRate, UnitCost, ExtendedCost FROM Attendance ORDER BY RecordDate";
     EXPECT_EQ(house.Rows(costs), "|0|0\n25.50|2550|36975\n|0|0");
     EXPECT_EQ(SessionState.HoursWorkedDaily, 6);
@@ -494,11 +497,10 @@ TEST_F(FrmEmployees, TheListAndTheTransferAreOpenedFromHereUnlessTheYearHasNoUni
     house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {marc});
     house.Sql("UPDATE FiscalYears SET ReloadEmployeesList = 1");
     QWidget* parent = nullptr;
-    frmEmployees::ShowEmployeesList = [&](QWidget* form) { parent = form; };
+    FormsAbove.ShowEmployeesList = [&](QWidget* form) { parent = form; };
     Opens().Clicks("cmdListRecords");
     EXPECT_EQ(parent, &user.The<frmEmployees>());
     EXPECT_EQ(CountOf("Employees_List"), 2) << "rebuilt before it is shown, with the deactivated employees";
-    frmEmployees::ShowEmployeesList = {};
     user.WhenOpens<frmTransferEmployees>([this](frmTransferEmployees&) {
         user.Picks("lstFromEmployee", "Davis").Picks("lstToDepartment", "Sales").WillConfirm().WillBeDone();
         user.Clicks("cmdProcess").Clicks("cmdQuit");

@@ -103,7 +103,7 @@ TEST_F(FrmUnits, AModifiedOrganizationLeavesItsOldSelfInTheAuditTwin)
     EXPECT_EQ(ListFlag(), 1);
 }
 
-TEST_F(FrmUnits, ADeactivatedOrganizationTakesItsDepartmentsAndGroupsAlongOnceNobodyWorksThere)
+TEST_F(FrmUnits, AnOrganizationIsClosedWithAllBelowItOnceNobodyWorksThereAndBroughtBackWithAll)
 {
     house.Sql("UPDATE Organizations SET Active = 0 WHERE RecordID = 2");
     user.Opens<frmOrganizations>();
@@ -125,27 +125,21 @@ TEST_F(FrmUnits, ADeactivatedOrganizationTakesItsDepartmentsAndGroupsAlongOnceNo
     EXPECT_EQ(Units(false), "O1 O2 D1 D2 G1");
     EXPECT_EQ(house.Rows("SELECT RecordID, Active FROM Organizations_Modifications"), "1|1");
     EXPECT_EQ(ListFlag(), 1);
-}
 
-TEST_F(FrmUnits, AReactivatedOrganizationBringsAllBackThatWasBelowIt)
-{
+    house.Sql("UPDATE FiscalYears SET ReloadEmployeesList = 0");
     SessionState.English = false;
-    DismissEverybody();
-    for (const char* table : {"Organizations", "Departments", "Groups"})
-        house.Sql(QStringLiteral("UPDATE %1 SET Active = 0").arg(table));
     user.Opens<frmOrganizations>();
     user.WillAnswer("ORGANISATION INACTIVE:", "Non", "Souhaitez-vous réactiver «Ateliers du Nord»?")
         .Picks("cboRecords", "Ateliers du Nord");
     ExpectIdle();
-    EXPECT_EQ(Units(true), "");
-
-    user.Clicks("cmdModify");
-    user.WillAnswer("ORGANISATION INACTIVE:", "Oui",
+    EXPECT_EQ(Units(true), "D3");
+    user.Clicks("cmdModify")
+        .WillAnswer("ORGANISATION INACTIVE:", "Oui",
                     "réactivez en même temps tous les départements, groupes et employés")
         .Picks("cboRecords", "Ateliers du Nord");
     EXPECT_EQ(user.Reads("txtFrenchName"), "Ateliers du Nord");
     EXPECT_TRUE(user.CanUse("cmdModify")) << "the modification goes on";
-    EXPECT_EQ(Units(true), "O1 D1 D2 G1");
+    EXPECT_EQ(Units(true), "O1 D1 D2 D3 G1");
     EXPECT_EQ(house.Rows("SELECT LoginID, DeactivatedDate, DeactivatedBy, ReasonForDeactivation FROM Employees "
                          "WHERE LoginID >= 'D'"),
               "DAN|0||\nEVA|46000|ADMIN|Retired");
@@ -203,8 +197,14 @@ TEST_F(FrmUnits, AMovedDepartmentTakesItsGroupsAndEmployeesAlongOrNothingIsMoved
     EXPECT_EQ(Places(), "211 211 210 120 230");
 }
 
-TEST_F(FrmUnits, AMovedGroupFollowsItsNewDepartmentIntoTheOtherOrganization)
+TEST_F(FrmUnits, GroupsMayShareANameAndMoveIntoTheOtherOrganization)
 {
+    user.Opens<frmGroups>().Clicks("cmdAdd").Types("txtEnglishName", "Assembly").Picks("lstDepartments", "Stores");
+    user.WillConfirm("Group English name: Assembly\r\nGroup French name:  Assembly")
+        .WillBeDone("The new group has been added to your database.")
+        .Clicks("cmdAdd");
+    EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentID, GroupFrenchName FROM Groups WHERE RecordID = 2"),
+              "2|3|Assembly");
     SessionState.English = false;
     user.Opens<frmGroups>().Clicks("cmdModify").Picks("cboRecords", "Assemblage").Picks("lstDepartments", "Magasins");
     user.WillConfirm()
@@ -214,25 +214,14 @@ TEST_F(FrmUnits, AMovedGroupFollowsItsNewDepartmentIntoTheOtherOrganization)
                     "«Magasins».\r\n\r\nSouhaitez-vous effectuer cette modification?")
         .WillBeDone()
         .Clicks("cmdModify");
-    EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentID FROM Groups"), "2|3");
+    EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentID FROM Groups"), "2|3\n2|3");
     EXPECT_EQ(Places(), "231 231 110 120 230");
     EXPECT_EQ(ListFlag(), 1);
-}
 
-TEST_F(FrmUnits, GroupsOfTwoDepartmentsMayShareANameAndEachIsDeactivatedAlone)
-{
-    user.Opens<frmGroups>().Clicks("cmdAdd").Types("txtEnglishName", "Assembly").Picks("lstDepartments", "Stores");
-    user.WillConfirm("Group English name: Assembly\r\nGroup French name:  Assembly")
-        .WillBeDone("The new group has been added to your database.")
-        .Clicks("cmdAdd");
-    EXPECT_EQ(house.Rows("SELECT OrganizationID, DepartmentID, GroupFrenchName FROM Groups WHERE RecordID = 2"),
-              "2|3|Assembly");
     DismissEverybody();
-    user.Picks("cboRecords", "Assembly").Clicks("cmdDeactivate");
-    user.WillAnswer("WARNING:", "Yes", "Are you sure you want to deactivate «Assembly»?")
-        .WillBeDone("group and all associated employee records have been deactivated.")
-        .Clicks("cmdDeactivate");
-    EXPECT_EQ(Units(false), "G1");
+    user.Clicks("cmdDeactivate").Picks("cboRecords", "Assemblage");
+    user.WillAnswer("MISE EN GARDE:", "Oui", "«Assemblage»").WillBeDone().Clicks("cmdDeactivate");
+    EXPECT_EQ(Units(false), "G1") << "each is deactivated alone";
 }
 
 TEST_F(FrmUnits, AFormWithoutAUnitAboveSaysSoAndCloses)

@@ -15,7 +15,11 @@ class ChoosingDates : public CompanyTest
 protected:
     static int Day(int month, int day, int year = 2026) { return SerialOfDate({year, month, day}); }
     static QString Shown(int month, int day) { return QLocale().toString(QDate(2026, month, day), "ddd dd-MMM-yyyy"); }
-    static DateList Dates() { return SessionState.AttendanceDates; }
+    DateList Dates()
+    {
+        EXPECT_EQ(SessionState.AttendanceDates, user.The<frmSelectDates>().Dates());
+        return user.The<frmSelectDates>().Dates();
+    }
     User& Opens()
     {
         SessionState.AttendanceDates = {1};
@@ -79,6 +83,7 @@ TEST_F(ChoosingDates, WeekdaysAreMondayToFridayUnlessChanged)
 {
     user.Opens<frmSelectWeekdays>().Checks("chkWeekday(5)", false).Checks("chkWeekday(0)").Clicks("cmdOK");
     EXPECT_THAT(SessionState.SelectedWeekdays, ElementsAre(1, 1, 1, 1, 1, 0, 0));
+    EXPECT_EQ(user.The<frmSelectWeekdays>().Weekdays(), SessionState.SelectedWeekdays);
     user.Opens<frmSelectWeekdays>();
     for (int day = 1; day < 6; ++day)
         user.Checks(QString("chkWeekday(%1)").arg(day), false);
