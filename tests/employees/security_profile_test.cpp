@@ -81,13 +81,18 @@ TEST(SecurityProfile, AClickMovesNoMoreThanItMust)
     ChangeRight(profile, RightOf("Global_Absolute"), true);
     ChangeRight(profile, RightOf("Global_Absolute"), false);
     EXPECT_EQ(Granted(profile).split(' ').size(), 11) << "nothing else goes";
+    for (const bool granted : {true, false})
+        ChangeRight(profile, RightOf("Individual_ReadOnly"), granted);
+    EXPECT_EQ(Granted(profile).split(' ').size(), 11) << "the individual level stands by itself";
     ChangeRight(profile, RightOf("Individual_Absolute"), true);
     ChangeRight(profile, RightOf("Group_ReadOnly"), false);
     EXPECT_EQ(Granted(profile), "Individual_ReadOnly Individual_CreateOnly Individual_Absolute");
     ChangeRight(profile, RightOf("Individual_ReadOnly"), false);
-    ChangeRight(profile, RightOf("ModuleCategories"), true);
     ChangeRight(profile, RightOf("ModuleCategories"), false);
-    EXPECT_EQ(Granted(profile), "ViewHiddenCategories") << "whoever keeps categories sees the hidden ones";
+    EXPECT_EQ(Granted(profile), "");
+    ChangeRight(profile, RightOf("ModuleCategories"), true);
+    EXPECT_EQ(Granted(profile), "ViewHiddenCategories ModuleCategories")
+        << "whoever keeps categories sees the hidden ones";
 
     SecurityProfile loaded;
     loaded.AccessToCategoriesModule = loaded.AccessToOrganizationsModule = 1;
@@ -102,6 +107,7 @@ TEST(SecurityProfile, NobodyGivesWhatHeHasNotGot)
     SessionState.LoginID = "MARC";
     const std::pair<Right, const char*> opened[] = {
         {&SecurityProfile::GroupLevelRead, "Group_ReadOnly"},
+        {&SecurityProfile::GroupLevelModify, "Group_Absolute Individual_Absolute"},
         {&SecurityProfile::DepartmentLevelCreate, "Department_CreateOnly Individual_CreateOnly"},
         {&SecurityProfile::OrganizationLevelModify, "Organization_Absolute Individual_Absolute"},
         {&SecurityProfile::GlobalLevelModify, ""},
