@@ -337,8 +337,7 @@ TEST_F(FrmEmployees, ADeactivatedEmployeeIsClosedInBothYearsWithHisEntitlements)
     EXPECT_EQ(house.Rows("SELECT RecordID, DeactivatedDate FROM Employees_Modifications"), "3|0");
     EXPECT_EQ(ListFlag(), 1);
 
-    house.Sql("CREATE TRIGGER Failing BEFORE UPDATE ON Employees WHEN OLD.FiscalYear = 2 "
-              "BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
+    house.Refuses("UPDATE ON Employees WHEN OLD.FiscalYear = 2");
     DeactivateEmployee(datAbsence, chris, "again");
     EXPECT_EQ(house.Rows(closed), "46083|ADMIN|again\n46083|ADMIN|l`école") << "the next year may fail";
 }
@@ -396,27 +395,26 @@ TEST_F(FrmEmployees, ASupervisorWorksInHisUnitAndGivesOnlyWhatHeHas)
 
 TEST_F(FrmEmployees, AFailureLeavesNothingWrittenAndTheFormAsTyped)
 {
-    house.Sql("CREATE TRIGGER Failing BEFORE INSERT ON Entitlements WHEN NEW.CategoryID = 3 "
-              "BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
+    house.Refuses("INSERT ON Entitlements WHEN NEW.CategoryID = 3");
     house.Sql("DROP TABLE Employees_Modifications");
     const int employees = CountOf("Employees");
     Opens();
     StartsAdding(true).Picks("lstDepartments", "Sales"); // where nobody approves, and no approver is asked for
     user.Types("txtName", "Lee").Types("txtFirstName", "Ann").Types("txtEMail", "a@example.org");
     OnTab(kProfile).Types("txtUserName", "lee").Types("txtPassword", "x");
-    user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk trouble").Clicks("cmdAdd");
+    user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused").Clicks("cmdAdd");
     EXPECT_EQ(CountOf("Employees") + CountOf("Entitlements"), employees);
     EXPECT_EQ(user.ReadsAll({"txtName", "txtUserName"}), "Lee|LEE");
     EXPECT_FALSE(user.CanUse("cmdModify"));
-    house.Sql("DROP TRIGGER Failing");
+    house.Sql("DROP TRIGGER Refusing");
     user.WillConfirm().WillBeDone().Clicks("cmdAdd");
     EXPECT_EQ(CountOf("Employees") + CountOf("Entitlements"), employees + 1 + 4);
 
     Starts("cmdModify", "Lee").Types("txtCity", "Laval").WillConfirm().WillBeDone().Clicks("cmdModify");
     EXPECT_EQ(EmployeeCell("City", 4), "Laval") << "the save goes on without its copy";
-    house.Sql("CREATE TRIGGER Failing BEFORE UPDATE ON Employees BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
+    house.Refuses("UPDATE ON Employees");
     Starts("cmdModify", "Lee").Types("txtCity", "Gaspé");
-    user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk trouble").Clicks("cmdModify");
+    user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused").Clicks("cmdModify");
     EXPECT_EQ(user.Reads("txtCity"), "Gaspé");
     EXPECT_TRUE(user.CanUse("txtCity") && user.CanUse("cmdModify") && !user.CanUse("cmdAdd"));
 }

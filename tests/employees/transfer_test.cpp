@@ -48,11 +48,11 @@ TEST_F(Transferring, TheEmployeeMovesWithHisFutureRecordsAndTheFormIsReadyForThe
 
     user.Opens<frmTransferEmployees>().Picks("lstFromEmployee", "Abel").Picks("lstToDepartment", "Stores");
     EXPECT_EQ(user.ReadsAll({"lstFromGroup", "lstToOrganization"}), "Assembly|Southern Trade");
-    house.Sql("CREATE TRIGGER Failing BEFORE UPDATE ON FiscalYears BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
-    user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk trouble").Clicks("cmdProcess");
+    house.Refuses("UPDATE ON FiscalYears");
+    user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused").Clicks("cmdProcess");
     EXPECT_EQ(Place("Employees", anna) + Place("Attendance", tomorrow), "1|1|11|1|1");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Employees_Modifications"), 0);
-    house.Sql("DROP TRIGGER Failing"); // the choice stays for another try
+    house.Sql("DROP TRIGGER Refusing"); // the choice stays for another try
     user.WillConfirm("Do you wish to transfer Abel, Anna from:\r\n\r\nOrganization:\tNorthern Works\r\n"
                      "Department:\tProduction\r\nGroup:\tAssembly\r\n\r\nTO:\r\n\r\nOrganization:\tSouthern Trade\r\n"
                      "Department:\tStores\r\n")

@@ -180,10 +180,10 @@ TEST_F(FrmUnits, AMovedDepartmentTakesItsGroupsAndEmployeesAlongOrNothingIsMoved
     user.WillConfirm("Record the following modifications?\r\n\r\nDepartment English name: Plant")
         .WillAnswer("WARNING:", "No", moving)
         .Clicks("cmdModify");
-    house.Sql("CREATE TRIGGER Full BEFORE UPDATE ON Employees BEGIN SELECT RAISE(ABORT, 'disk is full'); END");
+    house.Refuses("UPDATE ON Employees");
     user.WillConfirm()
         .WillAnswer("WARNING:", "Yes", moving)
-        .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk is full")
+        .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused")
         .Clicks("cmdModify");
     EXPECT_EQ(user.ReadsAll({"txtEnglishName", "lstOrganizations"}), "Plant|Southern Trade");
     EXPECT_TRUE(user.CanUse("cmdModify") && user.CanUse("cmdCancelOperation") && !user.CanUse("cmdAdd"));
@@ -191,7 +191,7 @@ TEST_F(FrmUnits, AMovedDepartmentTakesItsGroupsAndEmployeesAlongOrNothingIsMoved
     EXPECT_EQ(Places(), "111 111 110 120 230");
     EXPECT_EQ(ListFlag(), 0);
 
-    house.Sql("DROP TRIGGER Full");
+    house.Sql("DROP TRIGGER Refusing");
     user.WillConfirm().WillAnswer("WARNING:", "Yes", moving).WillBeDone().Clicks("cmdModify");
     EXPECT_EQ(house.Rows(tree), "2|Plant\n2|1\n1|Production");
     EXPECT_EQ(Places(), "211 211 210 120 230");
