@@ -1,5 +1,4 @@
 #include "employees/approver_list.h"
-#include "employees/employee_deactivation.h"
 #include "employees/employee_rows.h"
 #include "employees/employee_summary.h"
 #include "employees/employees_fixture.h"
@@ -12,14 +11,13 @@ namespace
 class EmployeeRows : public EmployeesTest
 {
 protected:
-    QStringList Approvers(const EmployeeRecord& record)
+    QString Approvers(const EmployeeRecord& record)
     {
         QStringList listed;
         for (const Approver& approver : LoadApprovedBy(datAbsence, record))
             listed << approver.Listed;
-        return listed;
+        return listed.join('\n');
     }
-
     EmployeeRecord Loaded(int employee)
     {
         EmployeeRecord record;
@@ -28,39 +26,37 @@ protected:
         return record;
     }
 };
-} // namespace
 
 TEST_F(EmployeeRows, ARowComesBackAsItWasWritten)
 {
     EmployeeRecord record = Loaded(chris);
-    record.LoginID = "COPY";
+    record.LoginID = "COPY_OF_A_LONG_NAME";
     record.NewPassword = "NEW";
     record.FirstHalfStart[0] = kMidnight;
     record.HoursWorked[0] = 7.33333F;
     record.HoursWorkedDaily = 6.7F;
-    record.DateOfHire = SerialOfDate({2019, 12, 31});
-    record.Hire = {"2019", "12", "31"};
-    record.DateOfBirth = SerialOfDate({1980, 2, 29});
-    record.Birth = {"", "2", "29"}; // the year was emptied again
+    record.DateOfHire = record.DateOfBirth = SerialOfDate({1980, 2, 29});
+    record.Birth = {"1980", "2", "29"};
+    record.Hire = {"", "2", "29"}; // the year was emptied again
     record.DepartmentLevelRead = record.AccessToEmployeesModule = record.AccessToOrganizationsModule = 1;
     record.SelfLevelRead = 0;
+    record.GroupLevelRead = 2;
     AddEmployee(datAbsence, record);
 
-    const EmployeeRecord read = Loaded(house.Number("SELECT MAX(RecordID) FROM Employees"));
-    for (const auto& [column, member] : kRights)
-        EXPECT_EQ(read.*member, member == &SecurityProfile::AccessToOrganizationsModule ? 0
-                                : member == &SecurityProfile::SelfLevelRead             ? 1
-                                                                                        : record.*member)
-            << column;
+    const int added = house.Number("SELECT MAX(RecordID) FROM Employees");
+    EXPECT_EQ(house.Rows("SELECT Username, DateOfHire, DepartmentLevelRead, AccessToEmployeesModule, "
+                         "AccessToOrganizationsModule, SelfLevelRead, GroupLevelRead FROM Employees WHERE RecordID = ?",
+                         {added}),
+              "COPY_OF_A_LONG_|0|1|1|0|1|0");
+    const EmployeeRecord read = Loaded(added);
     for (const auto& [column, member, day] : kClockTimes)
         EXPECT_EQ((read.*member)[day], (record.*member)[day]) << column;
     for (const auto& [column, member, day] : kDayLengths)
         EXPECT_EQ((read.*member)[day], (record.*member)[day]) << column;
     EXPECT_EQ(read.HoursWorkedDaily, 6.7F);
-    EXPECT_EQ(read.TotalHours[0] + ":" + read.TotalMinutes[0], "7:20");
-    EXPECT_EQ(read.Hire.Year + read.Hire.Month + read.Hire.Day + read.Birth.Year, "20191231");
-    EXPECT_EQ(read.Password + read.NewPassword, "NEW");
-    EXPECT_EQ(read.HourlyRateText, "20.55");
+    EXPECT_EQ((QStringList{read.TotalHours[0], read.TotalMinutes[0], read.Birth.Year, read.Birth.Month, read.Birth.Day,
+                           read.Hire.Year, read.Password, read.NewPassword, read.HourlyRateText}),
+              (QStringList{"7", "20", "1980", "2", "29", "", "NEW", "", "20.55"}));
     EXPECT_FALSE(HasNewRate(read));
     EXPECT_EQ(std::count(read.HoursSpecified.begin(), read.HoursSpecified.end(), true), 0);
 }
@@ -68,22 +64,21 @@ TEST_F(EmployeeRows, ARowComesBackAsItWasWritten)
 TEST_F(EmployeeRows, NullFieldsOfOldRowsStayEmpty)
 {
     house.Sql("UPDATE Employees SET LoginID = NULL, Username = ' OLDNAME ', HourlyRate = NULL, DateOfBirth = NULL, "
-              "MONDAY_FirstHalfStart = NULL, Comment = NULL, CanViewComments = NULL WHERE RecordID = ?",
+              "MONDAY_FirstHalfStart = NULL, Comment = NULL, SelfLevelRead = NULL WHERE RecordID = ?",
               {chris});
-    const EmployeeRecord record = Loaded(chris);
-    EXPECT_EQ(record.LoginID, "OLDNAME");
-    EXPECT_EQ(record.HourlyRateText, "0.00");
-    EXPECT_EQ(record.Birth.Year, "");
+    EmployeeRecord record = Loaded(chris);
+    EXPECT_EQ(record.LoginID + record.HourlyRateText + record.Birth.Year + record.Comment, "OLDNAME0.00");
     EXPECT_EQ(record.FirstHalfStart[1], 0);
-    EmployeeRecord none;
-    none.RecordID = 9999;
-    EXPECT_FALSE(LoadEmployeeRecord_ACCESS(datAbsence, none));
+    EXPECT_EQ(record.SelfLevelRead, 1) << "everybody sees his own records";
+    record.RecordID = 9999;
+    EXPECT_FALSE(LoadEmployeeRecord_ACCESS(datAbsence, record));
+    EXPECT_EQ(record.FamilyName, "") << "nothing is left of the employee before";
 }
 
 TEST_F(EmployeeRows, ApproversComeFromTheGroupUpwardsAndFromThoseWhoReachEverybody)
 {
     const QStringList may = {"IsAuthorizedToApprove"};
-    house.Hire({"GINA", "Gina", "Zola", "Production", "Assembly", may});
+    house.Hire({"BERT", "Bert", "Abel", "Production", "Assembly", may});
     house.Hire({"BEN", "Ben", "Abel", "Production", "Assembly", may});
     const int boss = house.Hire({"BOSS", "Ida", "Boss", "Production", "", may});
     house.Sql("UPDATE Employees SET DepartmentID = 0 WHERE RecordID = ?", {boss});
@@ -93,47 +88,67 @@ TEST_F(EmployeeRows, ApproversComeFromTheGroupUpwardsAndFromThoseWhoReachEverybo
     house.Hire({"NOT", "No", "Body", "Production", "Assembly", {"GlobalLevelCreate"}});
     const int gone = house.Hire({"GONE", "Al", "Gone", "Production", "Assembly", may});
     house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {gone});
+    house.Hire({"NEXT", "Ned", "Next", "Production", "Assembly", may}, house.FiscalYear("2027", 2027));
 
-    const QString head = "Production           / Roy, Marc";
     EmployeeRecord record = Loaded(chris);
-    EXPECT_EQ(Approvers(record), (QStringList{"Production           / Abel, Ben", "Production           / Zola, Gina",
-                                              head, "A very long name of  / Boss, Ida", "Globe, Gus"}));
+    const QString above = "A very long name of  / Boss, Ida\nGlobe, Gus";
+    EXPECT_EQ(Approvers(record), "Production           / Abel, Ben\nProduction           / Abel, Bert\n"
+                                 "Production           / Roy, Marc\n" +
+                                     above);
     record.RecordID = marc;
     record.GroupID = 0;
-    EXPECT_EQ(Approvers(record), (QStringList{"A very long name of  / Boss, Ida", "Globe, Gus"})) << "never himself";
+    EXPECT_EQ(Approvers(record), above) << "never himself";
     SessionState.English = false;
-    EXPECT_EQ(Approvers(Loaded(chris)).at(2), "Fabrication          / Roy, Marc");
+    EXPECT_TRUE(Approvers(Loaded(chris)).contains("\nFabrication          / Roy, Marc\n"));
     EXPECT_EQ(ApproverName(datAbsence, marc), "Roy, Marc");
 }
 
 TEST_F(EmployeeRows, NamesakesAndLogInsAreLookedForWhateverTheirCase)
 {
     EmployeeRecord record = Loaded(chris);
-    record.LoginID = " admin ";
-    EXPECT_TRUE(IsLoginIDTaken(datAbsence, record));
-    record.LoginID = "marc";
-    EXPECT_TRUE(IsLoginIDTaken(datAbsence, record));
+    EXPECT_FALSE(IsLoginIDTaken(datAbsence, record)) << "his own";
+    house.Sql("UPDATE Employees SET LoginID = 'ROOT' WHERE LoginID = 'ADMIN'");
+    for (const char* taken : {" admin ", "marc"}) {
+        record.LoginID = taken;
+        EXPECT_TRUE(IsLoginIDTaken(datAbsence, record)) << taken;
+    }
     house.Sql("UPDATE Employees SET FiscalYear = 2 WHERE RecordID = ?", {marc});
     EXPECT_FALSE(IsLoginIDTaken(datAbsence, record)) << "names are unique within a year";
-    record.FamilyName = "DAVIS";
-    EXPECT_FALSE(HasNamesake(datAbsence, record, true));
-    EXPECT_TRUE(HasNamesake(datAbsence, record, false));
-    record.DepartmentID = 2;
-    EXPECT_FALSE(HasNamesake(datAbsence, record, false));
-    record.DepartmentID = 0;
-    EXPECT_TRUE(HasNamesake(datAbsence, record, false)) << "in the whole organization";
+
+    const auto meets = [&](const QString& firstName, int organization, int department, bool modifying = false) {
+        record.FamilyName = "DAVIS";
+        record.FirstName = firstName;
+        record.OrganizationID = organization;
+        record.DepartmentID = department;
+        return HasNamesake(datAbsence, record, modifying);
+    };
+    EXPECT_TRUE(meets("chris", 1, 1));
+    EXPECT_TRUE(meets("chris", 1, 0)) << "in the whole organization";
+    EXPECT_FALSE(meets("chris", 1, 1, true) || meets("chris", 1, 2) || meets("chris", 2, 0) || meets("carl", 1, 1));
+    for (const char* change : {"DeactivatedDate = 46000", "DeactivatedDate = 0, FiscalYear = 2"}) {
+        house.Sql(QStringLiteral("UPDATE Employees SET %1 WHERE RecordID = ?").arg(change), {chris});
+        EXPECT_FALSE(meets("chris", 1, 1)) << change;
+    }
 }
 
 TEST_F(EmployeeRows, WithoutADepartmentThePublicCategoriesAreMonitored)
 {
-    house.Sql("UPDATE Categories SET RequiresMonitoring = 1, IsPublic = 0 WHERE FiscalYear = 1");
-    house.Sql("UPDATE Categories SET IsPublic = 1 WHERE SystemName IN ('Sick', 'Vacation')");
-    house.Sql("UPDATE Categories SET Active = 0 WHERE SystemName = 'Vacation'");
+    house.Sql("UPDATE Categories SET RequiresMonitoring = 1, IsPublic = SystemName <> 'Doctor appointments', "
+              "Restricted = SystemName = 'Personal time', "
+              "Active = SystemName <> 'Vacation' WHERE FiscalYear = 1");
     SessionState.English = false;
     EmployeeRecord record;
     record.OrganizationID = 1;
     EXPECT_EQ(AddEmployee(datAbsence, record), QStringList{"Maladie"});
-    EXPECT_EQ(house.Rows("SELECT Active FROM Entitlements ORDER BY CategoryID"), "0\n1\n0\n0");
+    EXPECT_EQ(house.Rows("SELECT Active FROM Entitlements ORDER BY CategoryID"), "0\n1\n1\n0");
+    house.Sql("UPDATE Categories SET StandardEntitlement = 5 WHERE SystemName = 'Sick'");
+    EXPECT_EQ(AddEmployee(datAbsence, record), QStringList()) << "a standard needs no reminder";
+
+    house.Sql("WITH RECURSIVE N (I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 1100) INSERT INTO Categories "
+              "(FiscalYear, CategoryFrenchName, TimeBankRelated, Active, IsPublic, RequiresMonitoring, Restricted, "
+              "StandardEntitlement) SELECT 1, I, 0, 1, 1, 1, 0, 0 FROM N");
+    EXPECT_EQ(AddEmployee(datAbsence, record).size(), 25) << "reminders end there";
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Entitlements"), 4 + 4 + 1000);
 }
 
 TEST_F(EmployeeRows, TheSummarySpeaksTheUsersLanguage)
@@ -141,17 +156,18 @@ TEST_F(EmployeeRows, TheSummarySpeaksTheUsersLanguage)
     SessionState.English = false;
     EmployeeRecord record = Loaded(chris);
     record.EmployeeID = " 12 ";
-    record.GlobalLevelCreate = record.GroupLevelModify = record.SelfLevelModify = 1;
-    const QString profile = "Profil de sécurité par niveau (0 = Aucun, 1 = Lecture, 2 = Ajoût, 3 = Absolu):\r\n"
-                            "Global = 2\r\nOrganisation = 0\r\nDépartement = 0\r\nGroupe = 3\r\nIndividuel = 3";
+    record.GlobalLevelCreate = record.GroupLevelModify = record.DepartmentLevelRead = 1;
+    const QString end = "\r\nNom d'usager/mot-clé:\tCHRIS, \r\n"
+                        "Profil de sécurité par niveau (0 = Aucun, 1 = Lecture, 2 = Ajoût, 3 = Absolu):\r\n"
+                        "Global = 2\r\nOrganisation = 0\r\nDépartement = 1\r\nGroupe = 3\r\nIndividuel = 1";
     EXPECT_EQ(EmployeeSummary(record, {"Ateliers du Nord", {}, {}}, false),
               "Souhaitez-vous ajouter l'employé(e) suivant(e) à votre banque de données?\r\n\r\n"
               "Nom et identification:\t\tChris Davis     12\r\nOrganisation:\t\tAteliers du Nord\r\n"
-              "Heures travaillées:\t\tLun - 07:00, Mar - 07:00, Mer - 07:00, \r\n\t\t\tJeu - 07:00, Ven - 07:00\r\n"
-              "Nom d'usager/mot-clé:\tCHRIS, \r\n" +
-                  profile);
+              "Heures travaillées:\t\tLun - 07:00, Mar - 07:00, Mer - 07:00, \r\n\t\t\tJeu - 07:00, Ven - 07:00" +
+                  end);
     record.IrregularHours = true;
+    record.SelfLevelRead = 0; // the individual level never shows none
     EXPECT_TRUE(EmployeeSummary(record, {}, true)
-                    .contains("comme suit?\r\n\r\nNom et identification:\t\tChris Davis     12\r\n"
-                              "Cet(te) employé(e) travaille selon un horaire irrégulier.\r\nNom d'usager"));
+                    .endsWith("12\r\nCet(te) employé(e) travaille selon un horaire irrégulier." + end));
 }
+} // namespace

@@ -1,8 +1,9 @@
+#include "employees/employee_deactivation.h"
 #include "employees/employees_fixture.h"
 #include "employees/frm_clone_employee.h"
+#include "employees/frm_transfer_employees.h"
 #include "foundation/forms.h"
 #include "foundation/frm_input_box.h"
-#include "platform/clock.h"
 #include "selection/frm_get_approver_from_list.h"
 #include "selection/frm_select_period.h"
 
@@ -21,74 +22,60 @@ enum Tab
     kModules
 };
 
-/// What stands in the row that FillsInJeanMarc and SavesJeanMarc leave.
-QStringList JeanMarcsRow(int employee, int approver)
-{
-    return {"RecordID=" + QString::number(employee),
-            "FiscalYear=1",
-            "OrganizationID=1",
-            "DepartmentID=1",
-            "GroupID=1",
-            "FamilyName=O`brien-Smith",
-            "FirstName=Jean-Marc",
-            "EmployeeID=E12",
-            "AddressLine1=12, Elm St.",
-            "AddressLine2=H2X 1Y4",
-            "City=Laval",
-            "ProvinceState=Québec1",
-            "Country=Canada",
-            "PhoneHome=514-5550101",
-            "PhoneOffice=514555-0102",
-            "DateOfBirth=" + QString::number(SerialOfDate({1980, 2, 29})),
-            "DateEntered=46083",
-            "EnteredBy=ADMIN",
-            "DeactivatedBy= ",
-            "ReasonForDeactivation= ",
-            "HourlyRate=31.5",
-            "AttendanceApprovedBy_Main=" + QString::number(approver),
-            "HoursWorkedMonday=7",
-            "HoursWorkedTuesday=7",
-            "MONDAY_FirstHalfStart=1.0000000116860974e-07",
-            "MONDAY_FirstHalfEnd=4",
-            "MONDAY_SecondHalfStart=5",
-            "MONDAY_SecondHalfEnd=8",
-            "AccessToRestrictedCategory=1",
-            "GroupLevelRead=1",
-            "GroupLevelCreate=1",
-            "SelfLevelRead=1",
-            "AccessToCategoriesModule=1",
-            "Comment=Don`t call",
-            "EMailAddress=jm@example.org",
-            "Username=JEANMARCOBRIEN-",
-            "Password=SECRET7",
-            "HoursWorkedDaily=7",
-            "CanViewComments=1",
-            "LoginID=JEANMARCOBRIEN-SMITH"};
-}
+/// Some of what is entered, with the tab on which it stands.
+const std::pair<Tab, const char*> kEntries[] = {{kGeneral, "txtName"},
+                                                {kSchedule, "cboFirstHalfStartTime(1)"},
+                                                {kProfile, "txtUserName"},
+                                                {kProfile, "txtPassword"},
+                                                {kProfile, "cboApprovedBy_SecondLevel"},
+                                                {kProfile, "cmdGetApprover1FromList"},
+                                                {kProfile, "chkGroup_ReadOnly"},
+                                                {kModules, "chkModuleGroups"}};
+
+/// The row of the new employee: what is neither 0 nor empty.
+const QString kJeanMarcsRow =
+    "RecordID=4|FiscalYear=1|OrganizationID=1|DepartmentID=1|GroupID=1|FamilyName=O`brien-Smith|FirstName=Jean-Marc|"
+    "EmployeeID=E12|AddressLine1=12, Elm St.|AddressLine2=H2X 1Y4|City=Laval|ProvinceState=Québec1|Country=Canada|"
+    "PhoneHome=514-5550101|PhoneOffice=514555-0102|DateOfBirth=29280|DateEntered=46083|EnteredBy=ADMIN|"
+    "DeactivatedBy= |ReasonForDeactivation= |HourlyRate=31.5|AttendanceApprovedBy_Main=2|HoursWorkedMonday=7|"
+    "HoursWorkedTuesday=7|MONDAY_FirstHalfStart=1.0000000116860974e-07|MONDAY_FirstHalfEnd=4|MONDAY_SecondHalfStart=5|"
+    "MONDAY_SecondHalfEnd=8|AccessToRestrictedCategory=1|GroupLevelRead=1|GroupLevelCreate=1|SelfLevelRead=1|"
+    "AccessToCategoriesModule=1|Comment=Don`t call|EMailAddress=jm@example.org|Username=JEANMARCOBRIEN-|"
+    "Password=SECRET7|HoursWorkedDaily=7|CanViewComments=1|LoginID=JEANMARCOBRIEN-SMITH";
+
+const QString kMarc = "Production           / Roy, Marc";
 
 class FrmEmployees : public EmployeesTest
 {
 protected:
     User& Opens() { return user.Opens<frmEmployees>(); }
-    QTabWidget& Tabs() { return *user.The<frmEmployees>().findChild<QTabWidget*>("sstEmployees"); }
     User& OnTab(int tab)
     {
-        Tabs().setCurrentIndex(tab);
+        user.The<frmEmployees>().findChild<QTabWidget*>("sstEmployees")->setCurrentIndex(tab);
         return user;
     }
-
-    /// Opens the Add mode without a template.
-    User& StartsAdding()
+    /// How many of kEntries the user can enter.
+    int Enterable()
     {
-        user.WhenOpens<frmCloneEmployee>([this](frmCloneEmployee&) { user.Clicks("cmdNewEmployee"); });
+        return static_cast<int>(std::count_if(std::begin(kEntries), std::end(kEntries), [this](const auto& entry) {
+            return OnTab(entry.first).CanUse(entry.second);
+        }));
+    }
+    /// Opens the Add mode, with Chris as a template or without one.
+    User& StartsAdding(bool likeChris = false)
+    {
+        user.WhenOpens<frmCloneEmployee>([this, likeChris](frmCloneEmployee&) {
+            if (likeChris)
+                user.Picks("lstCloneEmployees", "Northern Works / Davis");
+            user.Clicks(likeChris ? "cmdCloneEmployee" : "cmdNewEmployee");
+        });
         return user.Clicks("cmdAdd");
     }
-    User& StartsModifying(const QString& familyName)
+    User& Starts(const QString& command, const QString& familyName)
     {
         WillChoose(familyName);
-        return user.Clicks("cmdModify");
+        return user.Clicks(command);
     }
-
     void PicksDay(int day, const QStringList& times)
     {
         const char* const lists[] = {"cboFirstHalfStartTime", "cboFirstHalfEndTime", "cboSecondHalfStartTime",
@@ -96,9 +83,13 @@ protected:
         for (int i = 0; i < times.size(); ++i)
             user.Picks(QStringLiteral("%1(%2)").arg(lists[i]).arg(day), times[i]);
     }
-
-    /// "Column=value" of all that is neither 0 nor empty.
-    QStringList Filled(const QString& table, int recordID)
+    User& WillGiveReason(const QString& reason, const char* button)
+    {
+        return user.WhenOpens<frmInputBox>(
+            [this, reason, button](frmInputBox&) { user.Types("txtInput", reason).Clicks(button); });
+    }
+    /// "Column=value" of all in a row that is neither 0 nor empty.
+    QString Filled(const QString& table, int recordID)
     {
         QStringList filled;
         const QStringList columns =
@@ -108,24 +99,13 @@ protected:
             if (!value.isEmpty() && value != "0")
                 filled << column + "=" + value;
         }
-        return filled;
-    }
-
-    /// Vacation without, sickness with a standard; a hidden category, and one that the department does not use.
-    void MonitorsCategories()
-    {
-        house.Sql("UPDATE Categories SET RequiresMonitoring = 1 WHERE FiscalYear = 1 AND TimeBankRelated = 0");
-        house.Sql("UPDATE Categories SET StandardEntitlement = 37.5, CarryOverAtYearEnd = 1 WHERE RecordID = ?",
-                  {house.CategoryID("Sick")});
-        house.Sql("UPDATE Categories SET Restricted = 1 WHERE RecordID = ?", {house.CategoryID("Personal time")});
-        house.Sql("UPDATE CategoriesDepartments SET IsUsed = 0 WHERE CategoryID = ? AND DepartmentID = 1",
-                  {house.CategoryID("Doctor appointments")});
+        return filled.join('|');
     }
     /// Types what the filters, the defaults of the schedule and the rights make something else of.
     void FillsInJeanMarc()
     {
         user.Picks("lstOrganizations", "Southern Trade").Picks("lstDepartments", "Production");
-        EXPECT_EQ(user.Reads("lstOrganizations") + user.Reads("lstGroups"), "Northern Works");
+        EXPECT_EQ(user.ReadsAll({"lstOrganizations", "lstGroups"}), "Northern Works|");
         user.Picks("lstGroups", "Assembly");
         user.Types("txtName", "o'brien-smith 2").Types("txtFirstName", "jean-MARC").Types("txtEmployeeID", "E#12");
         user.Types("txtHourlyRate", "$31.5").Types("txtAddressLine1", "12, \"Elm\" St.").Types("txtCity", "Laval");
@@ -138,77 +118,75 @@ protected:
         PicksDay(1, {"00:00", "04:00", "05:00", "08:00"});
         user.Types("txtTotalHours(2)", "7").LeavesField("txtTotalHours(2)");
         OnTab(kProfile).Types("txtUserName", "jeanmarc obrien-smith").Types("txtPassword", "secret7");
-        user.Picks("cboApprovedBy_FirstLevel", "Production           / Roy, Marc");
-        user.Checks("chkGroup_CreateOnly").Checks("chkViewComments");
+        user.Picks("cboApprovedBy_FirstLevel", kMarc).Checks("chkGroup_CreateOnly").Checks("chkViewComments");
         OnTab(kModules).Checks("chkModuleCategories");
     }
-    /// The second press, with all that it asks and tells.
-    void SavesJeanMarc()
-    {
-        user.WillAnswer("WARNING:", "Yes", "Tuesday\t\t07:00\t\t00:00\r\n")
-            .WillAnswer(
-                "CONFIRM:", "Yes",
-                "Add the following employee record to your database?\r\n\r\n"
-                "Name and ID:\t\tJean-Marc O`brien-Smith     E12\r\nOrganization:\t\tNorthern Works\r\n"
-                "Department:\t\tProduction\r\nGroup:      \t\tAssembly\r\nHours worked:      \t\tMon - 07:00, Tue - "
-                "07:00\r\nUsername and password:\tJEANMARCOBRIEN-SMITH, SECRET7\r\nSecurity profile by level")
-            .WillAnswer("REMINDER:", "OK", "for the following categorie(s):\r\n\r\n - Vacation\r\n")
-            .WillAnswer("REMINDER:", "OK",
-                        "The next fiscal year (2027) having already been created, you will now be required to create "
-                        "Jean-Marc O`brien-Smith in the new year yourself.")
-            .WillAnswer("OPERATION COMPLETED:", "OK", "The new employee has been added to your database.")
-            .Clicks("cmdAdd");
-    }
 
-    int NewestEmployee() { return house.Number("SELECT MAX(RecordID) FROM Employees"); }
     int CountOf(const QString& table) { return house.Number("SELECT COUNT(*) FROM " + table); }
+    int ListFlag() { return house.Number("SELECT ReloadEmployeesList FROM FiscalYears WHERE RecordID = 1"); }
 };
 
 TEST_F(FrmEmployees, ANewEmployeeIsWrittenWithAllThatWasTypedAndHisEntitlements)
 {
     house.FiscalYear("2027", 2027);
-    MonitorsCategories();
+    house.Sql(
+        "UPDATE Categories SET RequiresMonitoring = 1, Restricted = SystemName = 'Personal time', "
+        "StandardEntitlement = CASE SystemName WHEN 'Sick' THEN 37.5 ELSE 0 END, CarryOverAtYearEnd = SystemName = "
+        "'Sick' WHERE FiscalYear = 1");
+    house.Sql("UPDATE CategoriesDepartments SET IsUsed = 0 WHERE CategoryID = ? AND DepartmentID = 1",
+              {house.CategoryID("Doctor appointments")});
     house.LogIn("ADMIN");
-
     Opens();
     EXPECT_EQ(user.Reads("txtFiscalYear"), "2026");
-    EXPECT_FALSE(user.CanUse("txtName") || user.CanUse("lstOrganizations") || user.CanUse("cmdCancelOperation"));
+    EXPECT_EQ(Enterable(), 0);
     StartsAdding();
     EXPECT_TRUE(user.HasFocus("txtName"));
     EXPECT_FALSE(user.CanUse("cmdModify") || user.CanUse("cmdQuit") || user.CanUse("cmdTransfer"));
+    EXPECT_EQ(Enterable(), std::size(kEntries));
+    OnTab(kGeneral);
     FillsInJeanMarc();
-    SavesJeanMarc();
+    user.WillAnswer("WARNING:", "Yes", "Tuesday\t\t07:00\t\t00:00\r\n")
+        .WillConfirm(
+            "Add the following employee record to your database?\r\n\r\n"
+            "Name and ID:\t\tJean-Marc O`brien-Smith     E12\r\nOrganization:\t\tNorthern Works\r\n"
+            "Department:\t\tProduction\r\nGroup:      \t\tAssembly\r\nHours worked:      \t\tMon - 07:00, Tue - "
+            "07:00\r\nUsername and password:\tJEANMARCOBRIEN-SMITH, SECRET7\r\nSecurity profile by level")
+        .WillAnswer("REMINDER:", "OK", "for the following categorie(s):\r\n\r\n - Vacation\r\n")
+        .WillAnswer("REMINDER:", "OK",
+                    "The next fiscal year (2027) having already been created, you will now be required to create "
+                    "Jean-Marc O`brien-Smith in the new year yourself.")
+        .WillBeDone("The new employee has been added to your database.")
+        .Clicks("cmdAdd");
 
-    const int employee = NewestEmployee();
-    EXPECT_EQ(Filled("Employees", employee), JeanMarcsRow(employee, marc));
+    EXPECT_EQ(Filled("Employees", 4), kJeanMarcsRow);
     EXPECT_EQ(house.Rows("SELECT SystemName, AnnualEntitlement, MayBeCarriedOver, Entitlements.Active, CarriedOver, "
                          "Entitlements.FiscalYear, EnteredBy, EnteredDate, Comment FROM Entitlements JOIN Categories "
-                         "ON CategoryID = Categories.RecordID WHERE EmployeeID = ? ORDER BY CategoryID",
-                         {employee}),
+                         "ON CategoryID = Categories.RecordID WHERE EmployeeID = 4 ORDER BY CategoryID"),
               "Vacation|0|0|1|0|1|ADMIN|46083|SYSTEM GENERATED\nSick|37.5|1|1|0|1|ADMIN|46083|SYSTEM GENERATED\n"
               "Personal time|0|0|1|0|1|ADMIN|46083|SYSTEM GENERATED\n"
               "Doctor appointments|0|0|0|0|1|ADMIN|46083|SYSTEM GENERATED");
-    EXPECT_EQ(house.Number("SELECT ReloadEmployeesList FROM FiscalYears WHERE RecordID = 1"), 1);
-    EXPECT_EQ(user.Reads("txtName") + user.Reads("cboFirstHalfStartTime(1)") + user.Reads("txtUserName"), "");
-    EXPECT_EQ(user.Reads("chkModuleCategories") + user.Reads("chkIndividual_ReadOnly"), "01");
+    EXPECT_EQ(ListFlag(), 1);
+    EXPECT_EQ(user.ReadsAll({"txtName", "cboFirstHalfStartTime(1)", "txtUserName", "cboApprovedBy_FirstLevel",
+                             "chkModuleCategories", "chkIndividual_ReadOnly"}),
+              "||||0|1");
     EXPECT_TRUE(user.CanUse("cmdModify") && user.CanUse("cmdQuit"));
 }
 
 TEST_F(FrmEmployees, ATemplateBringsWorkplaceScheduleApproverAndRights)
 {
-    house.Sql("UPDATE Employees SET AccessToCategoriesModule = 1, GroupLevelRead = 1 WHERE RecordID = ?", {chris});
-    Opens().WhenOpens<frmCloneEmployee>([this](frmCloneEmployee&) {
-        user.Picks("lstCloneEmployees", "Northern Works / Davis").Clicks("cmdCloneEmployee");
-    });
-    user.Clicks("cmdAdd");
-    EXPECT_EQ(user.Reads("lstDepartments") + user.Reads("lstGroups"), "ProductionAssembly");
-    EXPECT_EQ(user.Reads("cboApprovedBy_FirstLevel"), "Production           / Roy, Marc");
-    EXPECT_EQ(user.Reads("chkGroup_ReadOnly") + user.Reads("chkModuleCategories") +
-                  user.Reads("chkViewHiddenCategories"),
-              "111");
-    EXPECT_EQ(user.Reads("txtName") + user.Reads("txtUserName") + user.Reads("txtHourlyRate"), "");
+    const int stella = house.Hire({"STELLA", "Stella", "Stone", "Stores", "", {"IsAuthorizedToApprove"}});
+    house.Sql("UPDATE Employees SET AccessToCategoriesModule = 1, GroupLevelRead = 1, AttendanceApprovedBy_Backup = ? "
+              "WHERE RecordID = ?",
+              {stella, chris});
+    Opens();
+    StartsAdding(true);
+    EXPECT_EQ(user.ReadsAll({"lstDepartments", "lstGroups", "cboApprovedBy_FirstLevel", "cboApprovedBy_SecondLevel",
+                             "chkGroup_ReadOnly", "chkModuleCategories", "chkViewHiddenCategories"}),
+              "Production|Assembly|" + kMarc + "||1|1|1")
+        << "an approver from outside the unit is not shown";
+    EXPECT_EQ(user.ReadsAll({"txtName", "txtUserName", "txtHourlyRate"}), "||");
     OnTab(kSchedule).Picks("cboSecondHalfEndTime(1)", "18:00");
-    EXPECT_EQ(user.Reads("txtTotalHours(1)") + user.Reads("txtTotalMinutes(1)"), "70") << "totals count as typed";
+    EXPECT_EQ(user.ReadsAll({"txtTotalHours(1)", "txtTotalMinutes(1)"}), "7|0") << "totals count as typed";
     user.Presses("", Qt::Key_Escape);
     EXPECT_TRUE(user.CanUse("cmdAdd") && user.CanUse("cmdModify")) << "Escape ends the operation first";
     user.Presses("", Qt::Key_Escape);
@@ -217,53 +195,58 @@ TEST_F(FrmEmployees, ATemplateBringsWorkplaceScheduleApproverAndRights)
 
 TEST_F(FrmEmployees, AModifiedEmployeeIsAuditedAndHisRateReachesBackAsFarAsTold)
 {
-    house.Sql("UPDATE Employees SET PreviousID = 99, EMailAddress = ' c@example.org ' WHERE RecordID = ?", {chris});
+    house.Sql("UPDATE Employees SET PreviousID = 99, EMailAddress = ' c@example.org ', EmployeeType = 3, DateOfBirth = "
+              "29280, "
+              "IsAllowedToCarryOverVacation = 1 WHERE RecordID = ?",
+              {chris});
     for (const QDate& date : {QDate(2026, 3, 31), QDate(2026, 4, 1)})
         house.Record(chris, "Sick", date, 7.25F);
+    house.Record(marc, "Sick", {2026, 5, 1}, 7);
+    house.Sql("UPDATE Attendance SET TotalDuration = 2 * Duration");
     SessionState.EmployeeID = marc;
     SessionState.HoursWorkedDaily = 6;
     Opens();
-    StartsModifying("Davis");
+    Starts("cmdModify", "Davis");
     EXPECT_EQ(SessionState.EmployeeID, marc) << "the calendar keeps its employee";
     EXPECT_FALSE(user.CanUse("lstOrganizations") || user.CanUse("cmdAdd"));
-    EXPECT_EQ(user.Reads("txtHourlyRate") + user.Reads("txtEMail"), "20.55c@example.org");
-    EXPECT_EQ(user.Reads("txtUserName") + user.Reads("txtPassword"), "CHRIS");
-    EXPECT_EQ(user.Reads("cboApprovedBy_FirstLevel"), "Production           / Roy, Marc");
-    EXPECT_EQ(user.Reads("cboSecondHalfEndTime(5)") + " " + user.Reads("txtTotalHours(5)"), "16:30 7");
-    user.Types("txtHourlyRate", "25.5").Types("txtCity", "Laval");
+    EXPECT_EQ(user.ReadsAll({"txtHourlyRate", "txtEMail", "txtUserName", "txtPassword", "cboApprovedBy_FirstLevel",
+                             "cboSecondHalfEndTime(5)", "txtTotalHours(5)"}),
+              "20.55|c@example.org|CHRIS||" + kMarc + "|16:30|7");
+    house.Sql("UPDATE Employees SET GroupID = 0, ReportTo = 7, Title = 'Mr', LoggedIn = 1 WHERE RecordID = ?", {chris});
+    user.Types("txtHourlyRate", "25.5").Types("txtCity", "Laval").Types("cboBirthDay", "");
     user.WhenOpens<frmSelectPeriod>(
         [this](frmSelectPeriod&) { user.Picks("cboFrom", "Wed 01-Apr-2026").Clicks("cmdOK"); });
-    user.WillAnswer(
-            "CONFIRM:", "Yes",
-            "Modify the selected employee record as follows?\r\n\r\nName and ID:\t\tChris Davis     \r\n"
-            "Organization:\t\tNorthern Works\r\nDepartment:\t\tProduction\r\nGroup:      \t\tAssembly\r\n"
-            "Hours worked:      \t\tMon - 07:00, Tue - 07:00, Wed - 07:00, \r\n\t\t\tThu - 07:00, Fri - 07:00\r\n"
-            "Username and password:\tCHRIS, \r\n")
+    user.WillConfirm("Modify the selected employee record as follows?\r\n\r\nName and ID:\t\tChris Davis     \r\n"
+                     "Organization:\t\tNorthern Works\r\nDepartment:\t\tProduction\r\nGroup:      \t\tAssembly\r\n"
+                     "Hours worked:      \t\tMon - 07:00, Tue - 07:00, Wed - 07:00, \r\n\t\t\tThu - 07:00, Fri - "
+                     "07:00\r\nUsername and password:\tCHRIS, \r\n")
         .WillAnswer("New hourly rate specified:", "Yes",
                     " » Previous rate:\t20.55\r\n » New rate:\t\t25.50\r\n\r\nDo you wish to apply this hourly rate "
                     "retroactively to the attendance records entered so far in fiscal year 2026?")
-        .WillAnswer("OPERATION COMPLETED:", "OK", "All modifications have been recorded.")
+        .WillBeDone("All modifications have been recorded.")
         .Clicks("cmdModify");
 
     const QString columns =
         "SELECT City, ROUND(HourlyRate, 2), PreviousID, DeactivatedBy, ModifiedBy, ModifiedDate, Password, "
-        "HoursWorkedDaily FROM ";
-    EXPECT_EQ(house.Rows(columns + "Employees WHERE RecordID = ?", {chris}), "Laval|25.5|0| |ADMIN|46083|PASS|7");
-    EXPECT_EQ(house.Rows(columns + "Employees_Modifications WHERE RecordID = ?", {chris}), "|20.55|99|||0|PASS|7");
-    EXPECT_EQ(house.Rows("SELECT HourlyRate, UnitCost, ExtendedCost FROM Attendance ORDER BY RecordDate"),
-              "|0|0\n25.50|2550|18488");
+        "HoursWorkedDaily, DateOfBirth, EmployeeType, IsAllowedToCarryOverVacation, GroupID, ReportTo, Title, LoggedIn "
+        "FROM ";
+    EXPECT_EQ(house.Rows(columns + "Employees WHERE RecordID = ?", {chris}),
+              "Laval|25.5|0| |ADMIN|46083|PASS|7|0|0|0|0|7|Mr|1")
+        << "what somebody else changed meanwhile stays";
+    EXPECT_EQ(house.Rows(columns + "Employees_Modifications"), "|20.55|99|||0|PASS|7|29280|3|1|0|7|Mr|1");
+    const QString costs = "SELECT HourlyRate, UnitCost, ExtendedCost FROM Attendance ORDER BY RecordDate";
+    EXPECT_EQ(house.Rows(costs), "|0|0\n25.50|2550|36975\n|0|0");
     EXPECT_EQ(SessionState.HoursWorkedDaily, 6);
+    EXPECT_EQ(ListFlag(), 1);
 
     house.Today(2026, 3, 9);
-    StartsModifying("Davis").Types("txtHourlyRate", "30");
-    user.WillAnswer("CONFIRM:", "Yes")
-        .WillAnswer("New hourly rate specified:", "No")
-        .WillAnswer("OPERATION COMPLETED:", "OK")
-        .Clicks("cmdModify");
+    Starts("cmdModify", "Davis").Types("txtHourlyRate", "30");
+    user.WhenOpens<frmSelectPeriod>([this](frmSelectPeriod&) { user.Clicks("cmdCancel"); });
+    user.WillConfirm().WillAnswer("New hourly rate specified:", "Yes").WillBeDone().Clicks("cmdModify");
     EXPECT_EQ(house.Rows("SELECT City, ROUND(HourlyRate, 2), ModifiedDate FROM Employees_Modifications ORDER BY ID"),
               "|20.55|0\nLaval|25.5|46083")
         << "each copy is the row before its change";
-    EXPECT_EQ(house.Cell("SELECT MAX(UnitCost) FROM Attendance"), "2550");
+    EXPECT_EQ(house.Rows(costs), "|0|0\n25.50|2550|36975\n|0|0") << "no date, no costs";
     EXPECT_EQ(EmployeeCell("DateEntered", chris), "46090");
 }
 
@@ -273,55 +256,50 @@ TEST_F(FrmEmployees, TheChecksComeInOrderAndShowTheirField)
     house.Sql("UPDATE Employees SET GlobalLevelCreate = 1 WHERE RecordID = ?", {marc});
     Opens();
     StartsAdding();
-    const auto refused = [this](const QString& title, const QString& button, const QString& text, int tab,
-                                const QString& control) {
-        Tabs().setCurrentIndex(tab == kSchedule ? kGeneral : kSchedule);
-        user.WillAnswer(title, button, text).Clicks("cmdAdd");
-        EXPECT_EQ(Tabs().currentIndex(), tab) << text.toStdString();
-        EXPECT_TRUE(control.isEmpty() || user.HasFocus(control)) << control.toStdString();
-        Tabs().setCurrentIndex(kGeneral);
+    const auto refused = [this](const QString& control, const QString& text, const QString& title = "ERROR:") {
+        OnTab(kModules);
+        user.WillAnswer(title, title == "ERROR:" ? "OK" : "No", text).Clicks("cmdAdd");
+        EXPECT_TRUE(user.CanUse(control) && (control.startsWith("cmd") || user.HasFocus(control)))
+            << text.toStdString();
     };
-    refused("ERROR:", "OK", "You must associate the employee to an organization!", kGeneral, "lstOrganizations");
+    refused("lstOrganizations", "You must associate the employee to an organization!");
     user.Picks("lstOrganizations", "Northern Works");
-    refused("ERROR:", "OK", "the employee's family name!", kGeneral, "txtName");
+    refused("txtName", "the employee's family name!");
     user.Types("txtName", "roy");
-    refused("ERROR:", "OK", "the employee's first name!", kGeneral, "txtFirstName");
+    refused("txtFirstName", "the employee's first name!");
     user.Types("txtFirstName", "marc");
-    user.Picks("cboBirthYear", "1981").Picks("cboBirthMonth", "2").Types("cboBirthDay", "x29");
-    refused("ERROR:", "OK", "The date of birth you specified is invalid!", kGeneral, "cboBirthYear");
-    user.Types("cboBirthDay", "28").Picks("cboHireMonth", "11").Picks("cboHireDay", "31").Types("cboHireYear", "2001");
-    refused("ERROR:", "OK", "The date of hire you specified is invalid!", kGeneral, "cboHireYear");
+    user.Types("cboBirthYear", "1800").Picks("cboBirthMonth", "2").Types("cboBirthDay", "x28");
+    refused("cboBirthYear", "The date of birth you specified is invalid!");
+    user.Picks("cboBirthYear", "1981")
+        .Picks("cboHireMonth", "11")
+        .Picks("cboHireDay", "31")
+        .Types("cboHireYear", "2001");
+    refused("cboHireYear", "The date of hire you specified is invalid!");
     user.Picks("cboHireDay", "30");
-    refused("ERROR:", "OK", "You must specify the employee's weekly schedule!", kSchedule, "");
+    refused("cmdAdd", "You must specify the employee's weekly schedule!");
     user.Picks("cboFirstHalfStartTime(6)", "08:00");
-    refused("ERROR:", "OK", "Saturday's schedule (first half of the day) is incomplete!", kSchedule,
-            "cboFirstHalfEndTime(6)");
+    refused("cboFirstHalfEndTime(6)", "Saturday's schedule (first half of the day) is incomplete!");
     user.Picks("cboFirstHalfEndTime(6)", "12:00");
-    refused("ERROR:", "OK", "According to this structure James Bond's username would be «JBOND».", kProfile,
-            "txtUserName");
-    for (const char* taken : {"admin", "chris"}) {
-        OnTab(kProfile).Types("txtUserName", taken);
-        refused("ERROR:", "OK", "The specified username has already been used!", kProfile, "txtUserName");
-    }
-    OnTab(kProfile).Types("txtUserName", "marc2");
-    refused("ERROR:", "OK", "You must specify a password for this employee!", kProfile, "txtPassword");
-    OnTab(kProfile).Types("txtPassword", "x").Checks("chkApprovalAuthority");
-    refused("CONFIRM:", "No", "You already have a Marc Roy in the same department! Proceed anyway?", kGeneral,
-            "txtName");
+    refused("txtUserName", "According to this structure James Bond's username would be «JBOND».");
+    user.Types("txtUserName", "chris");
+    refused("txtUserName", "The specified username has already been used!");
+    user.Types("txtUserName", "marc2");
+    refused("txtPassword", "You must specify a password for this employee!");
+    user.Types("txtPassword", "x").Checks("chkApprovalAuthority");
+    refused("txtName", "You already have a Marc Roy in the same department! Proceed anyway?", "CONFIRM:");
     user.Types("txtName", "royer");
-    refused("CONFIRM:", "No", "You did not associate Marc Royer to any department!", kGeneral, "lstDepartments");
-    user.WillAnswer("CONFIRM:", "Yes", "to any department!");
-    refused("ERROR:", "OK", "An e-mail address must be specified for any employee", kGeneral, "txtEMail");
+    refused("lstDepartments", "You did not associate Marc Royer to any department!", "CONFIRM:");
+    user.WillConfirm("to any department!");
+    refused("txtEMail", "An e-mail address must be specified for any employee");
     OnTab(kProfile).Checks("chkApprovalAuthority", false).Picks("cboApprovedBy_FirstLevel", "Roy, Marc");
-    refused("WARNING:", "No", "Unless you specify an e-mail address for Marc Royer, you will", kGeneral, "txtEMail");
+    refused("txtEMail", "Unless you specify an e-mail address for Marc Royer, you will", "WARNING:");
     OnTab(kProfile).Types("cboApprovedBy_FirstLevel", "R");
     EXPECT_EQ(user.Reads("cboApprovedBy_FirstLevel"), "") << "an approver is picked, not typed";
-    refused("WARNING:", "No", "who will be authorized to approve Marc Royer's requests", kProfile,
-            "cboApprovedBy_FirstLevel");
+    refused("cboApprovedBy_FirstLevel", "who will be authorized to approve Marc Royer's requests", "WARNING:");
     user.WillAnswer("WARNING:", "Yes").WillAnswer("CONFIRM:", "No", "Add the following").Clicks("cmdAdd");
-    user.WillAnswer("CONFIRM:", "Yes", "Add the following").WillAnswer("OPERATION COMPLETED:", "OK").Clicks("cmdAdd");
+    user.WillConfirm("Add the following").WillBeDone().Clicks("cmdAdd");
     EXPECT_EQ(house.Rows("SELECT DateOfBirth, DateOfHire, DepartmentID FROM Employees WHERE LoginID = 'MARC2'"),
-              QStringLiteral("%1|%2|0").arg(SerialOfDate({1981, 2, 28})).arg(SerialOfDate({2001, 11, 30})));
+              "29645|37225|0");
 }
 
 TEST_F(FrmEmployees, ADeactivatedEmployeeIsClosedInBothYearsWithHisEntitlements)
@@ -332,43 +310,36 @@ TEST_F(FrmEmployees, ADeactivatedEmployeeIsClosedInBothYearsWithHisEntitlements)
     for (const int employee : {chris, marc, next})
         house.Sql("INSERT INTO Entitlements (EmployeeID, Active) VALUES (?, 1)", {employee});
     Opens();
-    const auto startsDeactivating = [this] {
-        WillChoose("Davis");
-        user.Clicks("cmdDeactivate");
-    };
-    startsDeactivating();
+    Starts("cmdDeactivate", "Davis");
     EXPECT_EQ(user.Reads("txtFirstName"), "Chris");
-    EXPECT_FALSE(user.CanUse("txtName") || user.CanUse("cmdModify"));
+    EXPECT_FALSE(Enterable() > 0 || user.CanUse("cmdModify"));
     user.WillAnswer("CONFIRM:", "No", "Do you really wish to deactivate Chris Davis?").Clicks("cmdDeactivate");
     EXPECT_TRUE(user.CanUse("cmdModify"));
-
-    startsDeactivating();
-    user.WhenOpens<frmInputBox>([this](frmInputBox&) { user.Types("txtInput", "gone").Clicks("cmdCancel"); });
-    user.WillAnswer("CONFIRM:", "Yes")
+    Starts("cmdDeactivate", "Davis");
+    WillGiveReason("gone", "cmdCancel");
+    user.WillConfirm()
         .WillAnswer("OPERATION CANCELLED:", "OK", "You did not specify a reason for the deactivation of Chris Davis.")
         .Clicks("cmdDeactivate");
     EXPECT_EQ(EmployeeCell("DeactivatedDate", chris), "0");
 
     SessionState.English = false;
-    startsDeactivating();
-    user.WhenOpens<frmInputBox>([this](frmInputBox& box) {
-        EXPECT_EQ(box.windowTitle(), "Désactivation d'employé(e):");
-        user.Types("txtInput", "l'école").Clicks("cmdOK");
-    });
-    user.WillAnswer("VEUILLEZ CONFIRMER:", "Oui", "Souhaitez-vous vraiment désactiver Chris Davis?")
-        .WillAnswer("OPÉRATION COMPLÉTÉE:", "OK", "L'employé(e) sélectionné(e) a été désactivé(e).")
+    Starts("cmdDeactivate", "Davis");
+    WillGiveReason("l'école", "cmdOK");
+    user.WillConfirm("Souhaitez-vous vraiment désactiver Chris Davis?")
+        .WillBeDone("L'employé(e) sélectionné(e) a été désactivé(e).")
         .Clicks("cmdDeactivate");
-    for (const int employee : {chris, next})
-        EXPECT_EQ(house.Rows("SELECT DeactivatedDate, DeactivatedBy, ReasonForDeactivation FROM Employees WHERE "
-                             "RecordID = ?",
-                             {employee}),
-                  "46083|ADMIN|l`école");
+    const QString closed = "SELECT DeactivatedDate, DeactivatedBy, ReasonForDeactivation FROM Employees WHERE "
+                           "FirstName = 'Chris'";
+    EXPECT_EQ(house.Rows(closed), "46083|ADMIN|l`école\n46083|ADMIN|l`école");
     EXPECT_EQ(house.Rows("SELECT Active, ModifiedBy, ModifiedDate FROM Entitlements ORDER BY RecordID"),
               "0|ADMIN|46083\n1||0\n1||0")
         << "those of the next year stay";
-    EXPECT_EQ(house.Rows("SELECT RecordID, DeactivatedDate FROM Employees_Modifications"),
-              QString::number(chris) + "|0");
-    EXPECT_EQ(house.Number("SELECT ReloadEmployeesList FROM FiscalYears WHERE RecordID = 1"), 1);
+    EXPECT_EQ(house.Rows("SELECT RecordID, DeactivatedDate FROM Employees_Modifications"), "3|0");
+    EXPECT_EQ(ListFlag(), 1);
+
+    house.Refuses("UPDATE ON Employees WHEN OLD.FiscalYear = 2");
+    DeactivateEmployee(datAbsence, chris, "again");
+    EXPECT_EQ(house.Rows(closed), "46083|ADMIN|again\n46083|ADMIN|l`école") << "the next year may fail";
 }
 
 TEST_F(FrmEmployees, AnEmployeeWhomSomebodyElseDeactivatedMeanwhileIsNotWorkedOn)
@@ -403,22 +374,20 @@ TEST_F(FrmEmployees, ASupervisorWorksInHisUnitAndGivesOnlyWhatHeHas)
     StartsAdding();
     EXPECT_FALSE(user.CanUse("lstOrganizations") || user.CanUse("lstDepartments"));
     EXPECT_TRUE(user.CanUse("lstGroups"));
-    EXPECT_EQ(user.Reads("lstOrganizations") + user.Reads("lstDepartments"), "Northern WorksProduction");
+    EXPECT_EQ(user.ReadsAll({"lstOrganizations", "lstDepartments", "lstGroups"}), "Northern Works|Production|Assembly");
     user.WillAnswer("FOR YOUR INFORMATION:", "OK",
                     "The system administrator (Alice Tremblay) is the only user authorized to grant these privileges.");
     OnTab(kModules);
     EXPECT_FALSE(user.CanUse("chkModuleEmployees")) << "not even what he has himself";
     OnTab(kProfile);
-    EXPECT_TRUE(user.CanUse("chkDepartment_CreateOnly") && user.CanUse("chkIndividual_CreateOnly") &&
-                user.CanUse("chkApprovalAuthority") && user.CanUse("chkViewComments"));
-    EXPECT_FALSE(user.CanUse("chkDepartment_Absolute") || user.CanUse("chkGlobal_ReadOnly") ||
-                 user.CanUse("chkGenerateReports") || user.CanUse("chkIndividual_ReadOnly"));
+    EXPECT_TRUE(user.CanUse("chkDepartment_CreateOnly") && user.CanUse("chkViewComments"));
+    EXPECT_FALSE(user.CanUse("chkDepartment_Absolute") || user.CanUse("chkGenerateReports"));
     user.Checks("chkDepartment_CreateOnly").Clicks("cmdCancelOperation");
-    EXPECT_EQ(user.Reads("chkDepartment_CreateOnly") + user.Reads("chkGroup_CreateOnly"), "00");
+    EXPECT_EQ(user.ReadsAll({"chkDepartment_CreateOnly", "chkGroup_CreateOnly"}), "0|0");
 
-    StartsModifying("Davis");
-    OnTab(kProfile).Checks("chkGroup_ReadOnly");
-    user.WillAnswer("CONFIRM:", "Yes").WillAnswer("OPERATION COMPLETED:", "OK").Clicks("cmdModify");
+    Starts("cmdModify", "Davis");
+    EXPECT_TRUE(user.CanUse("txtName")) << "the first tab is shown";
+    OnTab(kProfile).Checks("chkGroup_ReadOnly").WillConfirm().WillBeDone().Clicks("cmdModify");
     EXPECT_EQ(EmployeeCell("GlobalLevelRead", chris) + EmployeeCell("GroupLevelRead", chris), "11")
         << "a right that cannot be ticked is written as it was";
     EXPECT_EQ(EmployeeCell("EnteredBy", chris), "MARC");
@@ -426,76 +395,69 @@ TEST_F(FrmEmployees, ASupervisorWorksInHisUnitAndGivesOnlyWhatHeHas)
 
 TEST_F(FrmEmployees, AFailureLeavesNothingWrittenAndTheFormAsTyped)
 {
-    house.Sql("CREATE TRIGGER Failing BEFORE INSERT ON Entitlements WHEN NEW.CategoryID = 3 "
-              "BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
+    house.Refuses("INSERT ON Entitlements WHEN NEW.CategoryID = 3");
     house.Sql("DROP TABLE Employees_Modifications");
     const int employees = CountOf("Employees");
-    Opens().WhenOpens<frmCloneEmployee>([this](frmCloneEmployee&) {
-        user.Picks("lstCloneEmployees", "Northern Works / Davis").Clicks("cmdCloneEmployee");
-    });
-    user.Clicks("cmdAdd").Types("txtName", "Lee").Types("txtFirstName", "Ann").Types("txtEMail", "a@example.org");
+    Opens();
+    StartsAdding(true).Picks("lstDepartments", "Sales"); // where nobody approves, and no approver is asked for
+    user.Types("txtName", "Lee").Types("txtFirstName", "Ann").Types("txtEMail", "a@example.org");
     OnTab(kProfile).Types("txtUserName", "lee").Types("txtPassword", "x");
-    user.WillAnswer("CONFIRM:", "Yes").WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk trouble").Clicks("cmdAdd");
-    EXPECT_EQ(CountOf("Employees"), employees);
-    EXPECT_EQ(CountOf("Entitlements"), 0);
-    EXPECT_EQ(user.Reads("txtName") + user.Reads("txtUserName"), "LeeLEE");
+    user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused").Clicks("cmdAdd");
+    EXPECT_EQ(CountOf("Employees") + CountOf("Entitlements"), employees);
+    EXPECT_EQ(user.ReadsAll({"txtName", "txtUserName"}), "Lee|LEE");
     EXPECT_FALSE(user.CanUse("cmdModify"));
-    house.Sql("DROP TRIGGER Failing");
-    user.WillAnswer("CONFIRM:", "Yes").WillAnswer("OPERATION COMPLETED:", "OK").Clicks("cmdAdd");
-    EXPECT_EQ(CountOf("Employees"), employees + 1);
-    EXPECT_EQ(CountOf("Entitlements"), 4);
+    house.Sql("DROP TRIGGER Refusing");
+    user.WillConfirm().WillBeDone().Clicks("cmdAdd");
+    EXPECT_EQ(CountOf("Employees") + CountOf("Entitlements"), employees + 1 + 4);
 
-    StartsModifying("Lee").Types("txtCity", "Laval");
-    user.WillAnswer("CONFIRM:", "Yes").WillAnswer("OPERATION COMPLETED:", "OK").Clicks("cmdModify");
-    EXPECT_EQ(EmployeeCell("City", NewestEmployee()), "Laval") << "the save goes on without its copy";
-    house.Sql("CREATE TRIGGER Failing BEFORE UPDATE ON Employees BEGIN SELECT RAISE(ABORT, 'disk trouble'); END");
-    StartsModifying("Lee").Types("txtCity", "Gaspé");
-    user.WillAnswer("CONFIRM:", "Yes").WillAnswer("AN ERROR HAS OCCURRED:", "OK", "disk trouble").Clicks("cmdModify");
+    Starts("cmdModify", "Lee").Types("txtCity", "Laval").WillConfirm().WillBeDone().Clicks("cmdModify");
+    EXPECT_EQ(EmployeeCell("City", 4), "Laval") << "the save goes on without its copy";
+    house.Refuses("UPDATE ON Employees");
+    Starts("cmdModify", "Lee").Types("txtCity", "Gaspé");
+    user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused").Clicks("cmdModify");
     EXPECT_EQ(user.Reads("txtCity"), "Gaspé");
-    EXPECT_TRUE(user.CanUse("txtCity") && user.CanUse("cmdModify"));
-    EXPECT_FALSE(user.CanUse("cmdAdd"));
+    EXPECT_TRUE(user.CanUse("txtCity") && user.CanUse("cmdModify") && !user.CanUse("cmdAdd"));
 }
 
 TEST_F(FrmEmployees, ApproversArePickedInTwoLevels)
 {
     const int stella = house.Hire({"STELLA", "Stella", "Stone", "Stores", "", {"IsAuthorizedToApprove"}});
     house.Sql("UPDATE FiscalYears SET ReloadEmployeesList = 1");
+    const auto approvers = [this] { return user.ReadsAll({"cboApprovedBy_FirstLevel", "cboApprovedBy_SecondLevel"}); };
     Opens();
     StartsAdding().Picks("lstDepartments", "Production");
     OnTab(kProfile);
-    const QString head = "Production           / Roy, Marc";
-    user.WillAnswer("ERROR:", "OK", "You must specify a first level of approval before specifying a second level")
-        .Picks("cboApprovedBy_SecondLevel", head);
-    EXPECT_EQ(user.Reads("cboApprovedBy_SecondLevel"), "");
+    user.WillBeRefused("You must specify a first level of approval before specifying a second level of approval!")
+        .Picks("cboApprovedBy_SecondLevel", kMarc);
+    EXPECT_EQ(approvers(), "|");
     EXPECT_TRUE(user.HasFocus("cboApprovedBy_FirstLevel"));
-    user.Picks("cboApprovedBy_FirstLevel", head);
-    user.WillAnswer("ERROR:", "OK", "The second level of approval cannot be the same as the first one!")
-        .Picks("cboApprovedBy_SecondLevel", head);
-    user.WhenOpens<frmGetApproverFromList>([this](frmGetApproverFromList& form) {
-        const QStringList entries = user.Entries("lstApprovers");
-        const auto stone =
-            std::find_if(entries.begin(), entries.end(), [](const QString& entry) { return entry.contains("Stone"); });
-        ASSERT_NE(stone, entries.end());
-        user.Picks("lstApprovers", *stone).Clicks("cmdSelect");
-        EXPECT_EQ(form.ApproverName(), "Stone, Stella");
-    });
-    user.Clicks("cmdGetApprover2FromList");
-    EXPECT_EQ(user.Reads("cboApprovedBy_SecondLevel"), "Stone, Stella");
+    user.Picks("cboApprovedBy_FirstLevel", kMarc);
+    user.WillBeRefused("The second level of approval cannot be the same as the first one!")
+        .Picks("cboApprovedBy_SecondLevel", kMarc);
     OnTab(kGeneral).Picks("lstGroups", "Assembly");
-    EXPECT_EQ(user.Reads("cboApprovedBy_FirstLevel") + user.Reads("cboApprovedBy_SecondLevel"), head + "Stone, Stella")
-        << "a group keeps the approvers";
-    user.Picks("lstDepartments", "Sales");
-    EXPECT_EQ(user.Reads("cboApprovedBy_FirstLevel") + user.Reads("cboApprovedBy_SecondLevel"), "");
+    EXPECT_EQ(approvers(), kMarc + "|") << "a group keeps the approvers, and a refused one is forgotten";
+    user.WhenOpens<frmGetApproverFromList>(
+        [this](frmGetApproverFromList&) { user.Picks("lstApprovers", "Stone, Stella").Clicks("cmdSelect"); });
+    OnTab(kProfile).Clicks("cmdGetApprover2FromList");
+    EXPECT_EQ(approvers(), kMarc + "|Stone, Stella");
+    OnTab(kGeneral).Picks("lstDepartments", "Sales");
+    EXPECT_EQ(approvers(), "|");
     user.Picks("lstOrganizations", "Northern Works");
-    EXPECT_EQ(user.Reads("lstOrganizations") + user.Reads("lstDepartments"), "Northern Works")
+    EXPECT_EQ(user.ReadsAll({"lstOrganizations", "lstDepartments"}), "Northern Works|")
         << "the organization alone, chosen once more";
     user.ClicksWithCtrl("lstOrganizations");
     EXPECT_EQ(user.The<frmEmployees>().findChild<QListWidget*>("lstOrganizations")->selectedItems().size(), 1);
     user.Clicks("cmdCancelOperation");
 
-    house.Sql("UPDATE Employees SET AttendanceApprovedBy_Main = ? WHERE RecordID = ?", {stella, chris});
-    StartsModifying("Davis");
-    EXPECT_EQ(user.Reads("cboApprovedBy_FirstLevel"), "Stone, Stella") << "from outside the unit";
+    house.Sql("UPDATE Employees SET AttendanceApprovedBy_Backup = ? WHERE RecordID = ?", {stella, chris});
+    Starts("cmdModify", "Davis");
+    EXPECT_EQ(approvers(), kMarc + "|Stone, Stella") << "from outside the unit";
+    user.Clicks("cmdCancelOperation");
+    EXPECT_EQ(approvers(), "|");
+    EXPECT_EQ(user.Entries("cboApprovedBy_FirstLevel"), QStringList());
+    Starts("cmdModify", "Roy");
+    EXPECT_EQ(approvers(), "|") << "not those of the employee before";
+    user.Clicks("cmdCancelOperation");
 }
 
 TEST_F(FrmEmployees, TheScheduleFillsInWhileThePersonTabsThroughIt)
@@ -509,47 +471,50 @@ TEST_F(FrmEmployees, TheScheduleFillsInWhileThePersonTabsThroughIt)
         user.LeavesField(list);
     EXPECT_TRUE(user.HasFocus("cboSecondHalfEndTime(2)"));
     user.LeavesField("cboSecondHalfEndTime(2)");
-    EXPECT_EQ(user.Reads("cboFirstHalfStartTime(2)") + user.Reads("cboSecondHalfEndTime(2)"), "08:0016:20");
-    EXPECT_EQ(user.Reads("txtTotalHours(2)") + ":" + user.Reads("txtTotalMinutes(2)"), "7:20");
-
+    EXPECT_EQ(user.ReadsAll(
+                  {"cboFirstHalfStartTime(2)", "cboSecondHalfEndTime(2)", "txtTotalHours(2)", "txtTotalMinutes(2)"}),
+              "08:00|16:20|7|20");
     user.Types("cboSecondHalfEndTime(2)", "1");
-    EXPECT_EQ(user.Reads("cboSecondHalfEndTime(2)") + user.Reads("txtTotalHours(2)"), "") << "typing clears";
+    EXPECT_EQ(user.ReadsAll({"cboSecondHalfEndTime(2)", "txtTotalHours(2)"}), "|") << "typing clears";
     user.Types("txtTotalHours(3)", "24").Presses("txtTotalHours(3)", Qt::Key_Return);
     EXPECT_TRUE(user.HasFocus("txtTotalHours(3)")) << "nothing is saved, nothing is asked";
     EXPECT_EQ(user.Reads("txtTotalHours(3)"), "");
     user.Types("txtTotalHours(3)", "24");
-    auto* cmdAdd = user.The<frmEmployees>().findChild<QPushButton*>("cmdAdd");
-    QTest::mouseClick(cmdAdd, Qt::LeftButton);
+    QTest::mouseClick(user.The<frmEmployees>().findChild<QPushButton*>("cmdAdd"), Qt::LeftButton);
     EXPECT_TRUE(user.HasFocus("txtTotalHours(3)")) << "nor by the mouse";
     EXPECT_EQ(user.Reads("txtTotalHours(3)"), "");
 
-    user.WillAnswer("CONFIRM:", "Yes", "will vary from one week to the next").Checks("chkIrregularHours");
-    EXPECT_EQ(user.Reads("cboFirstHalfStartTime(1)") + user.Reads("txtTotalHours(1)"), "");
+    user.WillConfirm("will vary from one week to the next").Checks("chkIrregularHours");
+    EXPECT_EQ(user.ReadsAll({"cboFirstHalfStartTime(1)", "txtTotalHours(1)"}), "|");
     EXPECT_TRUE(user.CanUse("cboFirstHalfStartTime(1)"));
     EXPECT_EQ(user.Entries("cboSecondHalfEndTime(6)").size(), 288);
 }
 
-TEST_F(FrmEmployees, AYearWithoutUnitsClosesTheForm)
-{
-    house.Sql("UPDATE Departments SET Active = 0");
-    SessionState.English = false;
-    user.WillAnswer("OPÉRATION REFUSÉE:", "OK", "créer au moins un département dans l'année fiscale 2026!");
-    Opens();
-    EXPECT_FALSE(user.The<frmEmployees>().isVisible());
-    user.Leaves();
-    house.Sql("UPDATE Organizations SET Active = 0");
-    user.WillAnswer("OPÉRATION REFUSÉE:", "OK", "créer au moins une organisation dans l'année fiscale 2026!");
-    Opens();
-    EXPECT_FALSE(user.The<frmEmployees>().isVisible());
-}
-
-TEST_F(FrmEmployees, TheListOfEmployeesIsRebuiltBeforeItIsShown)
+TEST_F(FrmEmployees, TheListAndTheTransferAreOpenedFromHereUnlessTheYearHasNoUnits)
 {
     house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {marc});
     house.Sql("UPDATE FiscalYears SET ReloadEmployeesList = 1");
-    int listed = -1;
-    FormsAbove.ShowEmployeesList = [&](QWidget*) { listed = CountOf("Employees_List"); };
+    QWidget* parent = nullptr;
+    FormsAbove.ShowEmployeesList = [&](QWidget* form) { parent = form; };
     Opens().Clicks("cmdListRecords");
-    EXPECT_EQ(listed, 2) << "deactivated employees are listed too";
+    EXPECT_EQ(parent, &user.The<frmEmployees>());
+    EXPECT_EQ(CountOf("Employees_List"), 2) << "rebuilt before it is shown, with the deactivated employees";
+    user.WhenOpens<frmTransferEmployees>([this](frmTransferEmployees&) {
+        user.Picks("lstFromEmployee", "Davis").Picks("lstToDepartment", "Sales").WillConfirm().WillBeDone();
+        user.Clicks("cmdProcess").Clicks("cmdQuit");
+    });
+    user.Clicks("cmdTransfer");
+    EXPECT_TRUE(user.HasFocus("cmdAdd"));
+    StartsAdding().Clicks("cmdCancelOperation"); // one employee is enough for a template
+
+    SessionState.English = false;
+    for (const auto& [table, missing] :
+         {std::pair("Departments", "un département"), {"Organizations", "une organisation"}}) {
+        house.Sql(QStringLiteral("UPDATE %1 SET Active = 0").arg(table));
+        user.WillAnswer("OPÉRATION REFUSÉE:", "OK",
+                        QStringLiteral("créer au moins %1 dans l'année fiscale 2026!").arg(missing));
+        Opens();
+        EXPECT_FALSE(user.The<frmEmployees>().isVisible());
+    }
 }
 } // namespace

@@ -1,76 +1,50 @@
 #include "reference/employees_list.h"
-#include "support/house.h"
-
-#include <gtest/gtest.h>
+#include "support/company_test.h"
 
 namespace
 {
-const char* const kNames = "SELECT FamilyName FROM Employees_List ORDER BY FamilyName";
+const char* const kNames = "SELECT FirstName FROM Employees_List ORDER BY FirstName";
 
-class EmployeesList : public testing::Test
+class EmployeesList : public CompanyTest
 {
 protected:
-    EmployeesList()
-    {
-        house.Configured().Company().LogIn("ADMIN");
-        chris = house.Hire({"CHRIS", "Chris", "Davis", "Production", "Assembly", {"CanViewComments"}, 0, 20.55F});
-        eve = house.Hire({"EVE", "Ève", "Émond", "Sales", "", {"AccessToRestrictedCategory"}});
-        gone = house.Hire({"GONE", "Guy", "Gone", "Sales"});
-        house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {gone});
-    }
-    int Flag() { return house.Number("SELECT ReloadEmployeesList FROM FiscalYears WHERE RecordID = 1"); }
-
-    House house;
-    DataControl datAbsence{"EmployeesList"};
-    int chris = 0;
-    int eve = 0;
-    int gone = 0;
+    EmployeesList() { Dismiss("BRUNO"); }
 };
 
 TEST_F(EmployeesList, BearsTheUnitsOfEachEmployeeInBothLanguages)
 {
-    house.Sql("UPDATE Employees SET DepartmentID = 0, EMailAddress = 'eve@example.org' WHERE RecordID = ?", {eve});
+    house.Sql(
+        "UPDATE Employees SET DepartmentID = 0, EMailAddress = 'dan@example.org', AccessToRestrictedCategory = 1, "
+        "HourlyRate = 20.55 WHERE LoginID = 'DAN'");
+    house.Sql("UPDATE Employees SET FiscalYear = 2 WHERE LoginID = 'EVA'");
+    house.Sql("INSERT INTO Employees_List (FiscalYear, FirstName) VALUES (1, 'Stale')");
     ReloadEmployeesList(datAbsence, ListedEmployees::ActiveOnly);
-
-    const QString rows = "1|1|1|1|%1|Northern Works|Ateliers du Nord|Production|Fabrication|Assembly|Assemblage|Davis|"
-                         "Chris|7||1|0|20.55\n"
-                         "1|1|0|0|%2|Northern Works|Ateliers du Nord|||||Émond|Ève|7|eve@example.org|0|1|20";
-    EXPECT_EQ(house.Rows("SELECT FiscalYear, OrgID, DeptID, GroupID, EmplID, OrgEnglishName, OrgFrenchName, "
-                         "DeptEnglishName, DeptFrenchName, GroupEnglishName, GroupFrenchName, FamilyName, FirstName, "
-                         "DailyHours, EMail, CanViewComments, CanViewHidden, ROUND(HourlyRate, 2) AS Rate "
-                         "FROM Employees_List ORDER BY EmplID"),
-              rows.arg(chris).arg(eve));
-}
-
-TEST_F(EmployeesList, HoldsTheDeactivatedOnlyWhenAllAreAskedForAndReplacesItsOwnYearAlone)
-{
-    house.Sql("INSERT INTO Employees_List (FiscalYear, FamilyName) VALUES (1, 'Stale'), (2, 'Zoe')");
-    ReloadEmployeesList(datAbsence, ListedEmployees::All);
-    EXPECT_EQ(house.Rows(kNames), "Davis\nÉmond\nGone\nZoe");
-    ReloadEmployeesList(datAbsence, ListedEmployees::ActiveOnly);
-    EXPECT_EQ(house.Rows(kNames), "Davis\nÉmond\nZoe");
+    EXPECT_EQ(
+        house.Rows("SELECT FiscalYear, OrgID, DeptID, GroupID, OrgEnglishName, OrgFrenchName, DeptEnglishName, "
+                   "DeptFrenchName, GroupEnglishName, GroupFrenchName, FamilyName, FirstName, DailyHours, EMail, "
+                   "CanViewComments, CanViewHidden, ROUND(HourlyRate, 2) AS Rate, EmplID - ? AS Employee "
+                   "FROM Employees_List ORDER BY EmplID",
+                   {anna}),
+        "1|1|1|1|Northern Works|Ateliers du Nord|Production|Fabrication|Assembly|Assemblage|Abel|Anna|7||0|0|20|0\n"
+        "1|1|1|0|Northern Works|Ateliers du Nord|Production|Fabrication|||Cote|Carla|7||0|0|20|2\n"
+        "1|1|0|0|Northern Works|Ateliers du Nord|||||Dube|Dan|7|dan@example.org|0|1|20.55|3");
 }
 
 TEST_F(EmployeesList, IsRebuiltOnceByWhoeverReadsItAfterAChange)
 {
+    house.Sql("INSERT INTO Employees_List (FiscalYear, FirstName) VALUES (2, 'Zoe')");
     ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::ActiveOnly);
-    EXPECT_EQ(house.Rows(kNames), "") << "nothing was flagged";
+    EXPECT_EQ(house.Rows(kNames), "Zoe") << "nothing was flagged";
+    EmployeesListToBeReloaded(datAbsence);
+    EXPECT_EQ(ListFlag(), 1);
+    ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
+    EXPECT_EQ(house.Rows(kNames), "Anna\nBruno\nCarla\nDan\nEva\nZoe") << "and the other year keeps its own";
+    EXPECT_EQ(ListFlag(), 0);
 
     EmployeesListToBeReloaded(datAbsence);
-    EXPECT_EQ(Flag(), 1);
-    ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::ActiveOnly);
-    EXPECT_EQ(house.Rows(kNames), "Davis\nÉmond");
-    EXPECT_EQ(Flag(), 0);
-}
-
-TEST_F(EmployeesList, StaysAsItWasWhenItCannotBeRebuilt)
-{
-    ReloadEmployeesList(datAbsence, ListedEmployees::All);
-    EmployeesListToBeReloaded(datAbsence);
-    house.Sql("CREATE TRIGGER Full BEFORE UPDATE ON FiscalYears BEGIN SELECT RAISE(ABORT, 'disk is full'); END");
-
+    house.Refuses("UPDATE ON FiscalYears");
     EXPECT_THROW(ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::ActiveOnly), RuntimeError);
-    EXPECT_EQ(house.Rows(kNames), "Davis\nÉmond\nGone");
-    EXPECT_EQ(Flag(), 1);
+    EXPECT_EQ(house.Rows(kNames), "Anna\nBruno\nCarla\nDan\nEva\nZoe") << "what cannot be rebuilt stays";
+    EXPECT_EQ(ListFlag(), 1);
 }
 } // namespace

@@ -1,15 +1,11 @@
 #include "reference/unit_records.h"
-#include "support/house.h"
-
-#include <gtest/gtest.h>
+#include "support/company_test.h"
 
 namespace
 {
-class UnitRules : public testing::Test
+class UnitRules : public CompanyTest
 {
 protected:
-    UnitRules() { house.Configured().Company().LogIn("ADMIN"); }
-
     UnitEntry Named(const QString& english, const QString& french, int parent = 1, int recordID = 0)
     {
         UnitEntry unit;
@@ -25,24 +21,21 @@ protected:
         const auto fault = ValidateRecord(datAbsence, kind, unit);
         return fault ? fault->Control + ": " + fault->Text : QString();
     }
-    QStringList Shown(const QVector<UnitItem>& items)
+    static QString Shown(const QVector<UnitItem>& items)
     {
         QStringList names;
         for (const UnitItem& item : items)
             names << item.Name + "/" + item.ParentName + (item.Active ? "" : " -");
-        return names;
+        return names.join(", ");
     }
-
-    House house;
-    DataControl datAbsence{"UnitRules"};
 };
 
 TEST_F(UnitRules, ANameLeftEmptyTakesTheOtherLanguages)
 {
-    UnitEntry unit = Named("  ", " Recherche ");
-    EXPECT_FALSE(ValidateRecord(datAbsence, kDepartments, unit));
-    EXPECT_EQ(unit.EnglishName + "|" + unit.FrenchName, "Recherche|Recherche");
-
+    for (UnitEntry unit : {Named("  ", " Recherche "), Named("Recherche", "")}) {
+        EXPECT_FALSE(ValidateRecord(datAbsence, kDepartments, unit));
+        EXPECT_EQ(unit.EnglishName + "|" + unit.FrenchName, "Recherche|Recherche");
+    }
     EXPECT_EQ(Fault(kDepartments, Named(" ", "")), "txtEnglishName: You must specify a name for the department!");
     SessionState.English = false;
     EXPECT_EQ(Fault(kGroups, Named("", "")), "txtFrenchName: Vous devez spécifier le nom du groupe!");
@@ -50,7 +43,7 @@ TEST_F(UnitRules, ANameLeftEmptyTakesTheOtherLanguages)
 
 TEST_F(UnitRules, ANameIsUsedOncePerYearAndLanguageExceptByGroups)
 {
-    house.Sql("UPDATE Departments SET Active = 0 WHERE RecordID = 2");
+    house.Sql("UPDATE Departments SET Active = 0, DepartmentEnglishName = ' Sales ' WHERE RecordID = 2");
     EXPECT_EQ(Fault(kDepartments, Named("SALES ", "Autre")),
               "txtEnglishName: The English name you specified for the department has already been used in fiscal year "
               "2026!");
@@ -71,17 +64,16 @@ TEST_F(UnitRules, ANameIsUsedOncePerYearAndLanguageExceptByGroups)
 TEST_F(UnitRules, AnOrganizationNeedsItsAddressAndTheOthersAUnitAbove)
 {
     UnitEntry unit = Named("Eastern Labs", "");
-    const QStringList expected = {
-        "txtAddressLine1: You must specify an address for the organization!",
-        "txtCity: You must specify a city for the organization!",
-        "txtState: You must specify a state or a province for the organization!",
-        "txtCountry: You must specify a country for the organization!",
-    };
-    for (const QString& fault : expected) {
-        EXPECT_EQ(Fault(kOrganizations, unit), fault);
-        for (int line = 0; line < kAddressLines; ++line)
-            if (fault.startsWith(kAddressFields[line].Control))
-                unit.Address[line] = "x";
+    for (const char* fault : {"txtAddressLine1: You must specify an address for the organization!",
+                              "txtCity: You must specify a city for the organization!",
+                              "txtState: You must specify a state or a province for the organization!",
+                              "txtCountry: You must specify a country for the organization!"}) {
+        for (const char* typed : {" ", "x"}) {
+            EXPECT_EQ(Fault(kOrganizations, unit), fault);
+            for (int line = 0; line < kAddressLines; ++line)
+                if (QString(fault).startsWith(kAddressFields[line].Control))
+                    unit.Address[line] = typed;
+        }
     }
     EXPECT_EQ(Fault(kOrganizations, unit), "");
     EXPECT_EQ(Fault(kDepartments, Named("Labs", "", 0)),
@@ -94,14 +86,14 @@ TEST_F(UnitRules, ListsFollowTheLanguageAndTheYear)
 {
     house.Sql("UPDATE Departments SET Active = 0 WHERE RecordID = 2");
     house.Sql("INSERT INTO Departments (FiscalYear, OrganizationID, DepartmentFrenchName, Active) VALUES "
-              "(2, 1, 'Autre', 1), (1, 2, 'Études', 1)");
+              "(2, 1, 'Autre', 1), (1, 2, 'Études', 1), (1, 1, 'Études', 1)");
     SessionState.English = false;
-    EXPECT_EQ(Shown(LoadUnitItems(datAbsence, kDepartments, ListedUnits::All)),
-              (QStringList{"Études/Commerce du Sud", "Fabrication/Ateliers du Nord", "Magasins/Commerce du Sud",
-                           "Ventes/Ateliers du Nord -"}));
-    EXPECT_EQ(LoadUnitItems(datAbsence, kDepartments, ListedUnits::ActiveOnly).size(), 3);
-    EXPECT_EQ(LoadParentItems(datAbsence, kGroups, 0).size(), 3);
-    EXPECT_EQ(Shown(LoadParentItems(datAbsence, kGroups, 2)).last(), "Ventes/Ateliers du Nord -")
-        << "where a group is now can be kept";
+    const QString active = "Études/Ateliers du Nord, Études/Commerce du Sud, Fabrication/Ateliers du Nord, "
+                           "Magasins/Commerce du Sud";
+    const QString inactive = ", Ventes/Ateliers du Nord -";
+    EXPECT_EQ(Shown(LoadUnitItems(datAbsence, kDepartments, ListedUnits::All)), active + inactive);
+    EXPECT_EQ(Shown(LoadUnitItems(datAbsence, kDepartments, ListedUnits::ActiveOnly)), active);
+    EXPECT_EQ(Shown(LoadParentItems(datAbsence, kGroups, 0)), active);
+    EXPECT_EQ(Shown(LoadParentItems(datAbsence, kGroups, 2)), active + inactive) << "where a group is now can be kept";
 }
 } // namespace

@@ -2,56 +2,55 @@
 #include "selection/consecutive_dates.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
+#include "selection/frm_select_period.h"
 #include "selection/frm_select_weekdays.h"
-#include "support/user.h"
+#include "support/company_test.h"
 
-#include <gmock/gmock.h>
-
-using testing::Contains;
 using testing::ElementsAre;
-using testing::Not;
 
-class ChoosingDates : public testing::Test
+namespace
+{
+class ChoosingDates : public CompanyTest
 {
 protected:
-    ChoosingDates() { house.Company().LogIn("ADMIN"); }
-
-    static int Day(int month, int day) { return SerialOfDate({2026, month, day}); }
+    static int Day(int month, int day, int year = 2026) { return SerialOfDate({year, month, day}); }
+    static QString Shown(int month, int day) { return QLocale().toString(QDate(2026, month, day), "ddd dd-MMM-yyyy"); }
     DateList Dates()
     {
         EXPECT_EQ(SessionState.AttendanceDates, user.The<frmSelectDates>().Dates());
         return user.The<frmSelectDates>().Dates();
     }
-    void WorksMondayToThursday()
+    User& Opens()
     {
-        SessionState.HasSchedule = true;
-        SessionState.HoursWorked = {0, 8, 8, 8, 8, 0, 0};
+        SessionState.AttendanceDates = {1};
+        user.Opens<frmSelectDates>(EntireYear(), SessionState);
+        EXPECT_THAT(Dates(), ElementsAre()) << "leaving the form gives no dates";
+        return user;
     }
-    User& PicksPeriod(int from, int to) { return user.Picks("cboFrom", Shown(from)).Picks("cboTo", Shown(to)); }
-    static QString Shown(int day) { return QLocale().toString(DateOfSerial(day), "ddd dd-MMM-yyyy"); }
-
-    House house;
-    User user;
+    void Chooses(const Period& period)
+    {
+        user.Clicks("cmdOK");
+        EXPECT_EQ(user.The<frmSelectPeriod>().PeriodStart(), period.Start);
+        EXPECT_EQ(user.The<frmSelectPeriod>().PeriodEnd(), period.End);
+    }
 };
 
-TEST_F(ChoosingDates, HolidaysAndDaysOffFallOut)
+TEST_F(ChoosingDates, HolidaysAndDaysOffFallOutUntilTheirBoxIsCleared)
 {
-    WorksMondayToThursday();
-    user.Opens<frmSelectDates>(EntireYear(), SessionState);
-    EXPECT_EQ(user.Reads("cboFrom"), Shown(Day(3, 2))) << "today, a Monday";
-    EXPECT_EQ(user.Reads("chkWeekday(5)"), "0") << "Friday is a day off";
-    PicksPeriod(Day(6, 30), Day(7, 6)).Checks("chkWeekday(5)");
-    EXPECT_EQ(user.Entries("cboTo").first(), Shown(Day(6, 30))) << "the end cannot precede the start";
+    SessionState.HasSchedule = true;
+    SessionState.HoursWorked = {0, 8, 8, 8, 8, 0, 0};
+    Opens();
+    EXPECT_EQ(user.ReadsAll({"cboFrom", "chkWeekday(4)", "chkWeekday(5)"}), Shown(3, 2) + "|1|0")
+        << "today, and Friday is a day off";
+    user.Picks("cboFrom", Shown(6, 29)).Picks("cboTo", Shown(7, 6)).Picks("cboFrom", Shown(6, 30));
+    EXPECT_EQ(user.Reads("cboTo"), Shown(7, 6)) << "an end that still fits is kept";
+    EXPECT_EQ(user.Entries("cboTo").first(), Shown(6, 30)) << "the end cannot precede the start";
+    user.Checks("chkWeekday(5)");
     EXPECT_EQ(user.Reads("lblCount"), "3 dates");
     user.Clicks("cmdOK");
     EXPECT_THAT(Dates(), ElementsAre(Day(6, 30), Day(7, 2), Day(7, 6)));
-}
 
-TEST_F(ChoosingDates, ClearingABoxWarnsAndThenLetsThemIn)
-{
-    WorksMondayToThursday();
-    user.Opens<frmSelectDates>(EntireYear(), SessionState);
-    PicksPeriod(Day(6, 30), Day(7, 3));
+    Opens().Picks("cboFrom", Shown(6, 30)).Picks("cboTo", Shown(7, 3));
     user.WillAnswer("WARNING:", "No", "even on statutory holidays!").Clicks("chkIgnoreHolidays");
     EXPECT_EQ(user.Reads("chkIgnoreHolidays"), "1");
     user.WillAnswer("WARNING:", "Yes", "even on statutory holidays!").Clicks("chkIgnoreHolidays");
@@ -63,33 +62,21 @@ TEST_F(ChoosingDates, ClearingABoxWarnsAndThenLetsThemIn)
 TEST_F(ChoosingDates, WithoutAScheduleEveryDayCountsAndAWeekdayIsNeeded)
 {
     SessionState.English = false;
-    SessionState.AttendanceDates = {1};
-    user.Opens<frmSelectDates>(EntireYear(), SessionState);
-    PicksPeriod(Day(3, 6), Day(3, 9));
+    Opens().Picks("cboFrom", Shown(3, 6)).Picks("cboTo", Shown(3, 9));
     for (int day = 0; day < 7; ++day)
-        user.Checks(QString("chkWeekday(%1)").arg(day), false);
+        user.Clicks(QString("chkWeekday(%1)").arg(day));
     user.WillAnswer("ERREUR!", "OK", "au moins une journée").Clicks("cmdOK");
     EXPECT_THAT(Dates(), ElementsAre());
     user.Checks("chkWeekday(0)").Checks("chkWeekday(6)").Clicks("cmdOK");
     EXPECT_THAT(Dates(), ElementsAre(Day(3, 7), Day(3, 8)));
-}
 
-TEST_F(ChoosingDates, LeavingTheFormGivesNoDates)
-{
-    SessionState.AttendanceDates = {1};
-    user.Opens<frmSelectDates>(EntireYear(), SessionState).Clicks("cmdCancel");
-    EXPECT_THAT(Dates(), ElementsAre());
-}
-
-TEST(ConsecutiveDatesRule, TheListEndsWithALeapYear)
-{
     ConsecutiveDates choice;
-    choice.From = SerialOfDate({2028, 1, 1});
-    choice.To = SerialOfDate({2029, 1, 31});
+    choice.From = Day(1, 1, 2028);
+    choice.To = Day(1, 31, 2029);
     choice.Weekdays.fill(true);
     const DateList dates = ChosenDates(choice, WorkSchedule(), {});
-    EXPECT_EQ(dates.size(), 366);
-    EXPECT_EQ(dates[365], SerialOfDate({2028, 12, 31}));
+    EXPECT_EQ(dates.size(), 366) << "the list ends with a leap year";
+    EXPECT_EQ(dates.last(), Day(12, 31, 2028));
 }
 
 TEST_F(ChoosingDates, WeekdaysAreMondayToFridayUnlessChanged)
@@ -100,18 +87,73 @@ TEST_F(ChoosingDates, WeekdaysAreMondayToFridayUnlessChanged)
     user.Opens<frmSelectWeekdays>();
     for (int day = 1; day < 6; ++day)
         user.Checks(QString("chkWeekday(%1)").arg(day), false);
-    user.WillAnswer("ERROR!", "OK", "at least one day of the week!").Clicks("cmdOK");
-    EXPECT_TRUE(user.The<frmSelectWeekdays>().isVisible());
-    user.Clicks("cmdCancel");
-    EXPECT_THAT(SessionState.SelectedWeekdays, Not(Contains(1)));
+    user.WillAnswer("ERROR!", "OK", "at least one day of the week!").Clicks("cmdOK").Clicks("cmdCancel");
+    EXPECT_THAT(SessionState.SelectedWeekdays, testing::Each(0));
 }
 
 TEST_F(ChoosingDates, ARecordOfTheDayIsChosenByItsLine)
 {
     const std::vector<std::pair<QString, int>> lines = {{"From: 08:30  To: 10:00  Duration: 01:30", 41},
                                                         {"From: 13:00  To: 15:00  Duration: 02:00", 57}};
-    user.Opens<frmSelectAttendanceRecord>(lines).Picks("lstRecords", "From: 13:00").Clicks("cmdSelect");
-    EXPECT_EQ(user.The<frmSelectAttendanceRecord>().SelectedRecordID(), 57);
-    user.Opens<frmSelectAttendanceRecord>(lines).Clicks("cmdCancel");
-    EXPECT_EQ(user.The<frmSelectAttendanceRecord>().SelectedRecordID(), 0);
+    for (const auto& [button, record] : {std::pair("cmdSelect", 57), {"cmdCancel", 0}}) {
+        user.Opens<frmSelectAttendanceRecord>(lines).Picks("lstRecords", "From: 13:00").Clicks(button);
+        EXPECT_EQ(user.The<frmSelectAttendanceRecord>().SelectedRecordID(), record);
+    }
 }
+
+TEST_F(ChoosingDates, APeriodIsTheYearAMonthOrTwoDatesThatFollowEachOther)
+{
+    user.Opens<frmSelectPeriod>();
+    EXPECT_EQ(user.ReadsAll({"optEntireYear", "cboTo"}), "1|" + Shown(12, 31));
+    EXPECT_EQ(user.Entries("cboFrom").size(), 365);
+    Chooses(EntireYear());
+
+    user.Opens<frmSelectPeriod>().Clicks("optMonth(1)");
+    EXPECT_EQ(user.ReadsAll({"cboTo", "optEntireYear"}), Shown(2, 28) + "|0");
+    user.Clicks("optEntireYear").Clicks("optMonth(3)");
+    Chooses({Day(4, 1), Day(4, 30)});
+
+    user.Opens<frmSelectPeriod>().Picks("cboFrom", Shown(6, 15)).Picks("cboTo", Shown(6, 20));
+    EXPECT_EQ(user.Reads("optEntireYear"), "0");
+    user.Picks("cboFrom", Shown(8, 1));
+    EXPECT_EQ(user.Reads("cboTo"), Shown(8, 1));
+    user.Picks("cboTo", Shown(5, 4));
+    EXPECT_EQ(user.Reads("cboFrom"), Shown(5, 4));
+    user.Picks("cboTo", Shown(5, 9));
+    Chooses({Day(5, 4), Day(5, 9)});
+
+    user.Opens<frmSelectPeriod>(PeriodMode::SingleDate);
+    EXPECT_FALSE(user.CanUse("cboTo") || user.CanUse("optEntireYear"));
+    EXPECT_EQ(user.Reads("cboFrom"), Shown(1, 1));
+    user.Picks("cboFrom", Shown(9, 7));
+    Chooses({Day(9, 7), Day(9, 7)});
+    user.Opens<frmSelectPeriod>().Presses("cboFrom", Qt::Key_Escape);
+    EXPECT_EQ(user.The<frmSelectPeriod>().PeriodStart() + user.The<frmSelectPeriod>().PeriodEnd(), 0);
+}
+
+TEST_F(ChoosingDates, TheMonthsOfAYearThatBeginsInJulyRunIntoTheNext)
+{
+    SessionState.CommencingDate = Day(7, 15);
+    SessionState.EndingDate = Day(7, 14, 2027);
+    EXPECT_EQ(MonthOfYear(0), (Period{Day(1, 1, 2027), Day(1, 31, 2027)}));
+    EXPECT_EQ(MonthOfYear(6), (Period{Day(7, 15), Day(7, 31)})) << "the beginning, not the end of the year";
+    EXPECT_EQ(MonthOfYear(11), (Period{Day(12, 1), Day(12, 31)}));
+    EXPECT_EQ(FirstPeriod(PeriodMode::Schedule), MonthOfYear(6)) << "today is not in that year";
+    SessionState.EndingDate = Day(12, 31);
+    user.Opens<frmSelectPeriod>();
+    EXPECT_FALSE(user.CanUse("optMonth(0)"));
+    EXPECT_TRUE(user.CanUse("optMonth(11)"));
+}
+
+TEST_F(ChoosingDates, AScheduleTakesThirtyOneDaysAndNotOneMore)
+{
+    SessionState.English = false;
+    user.Opens<frmSelectPeriod>(PeriodMode::Schedule);
+    EXPECT_EQ(user.Reads("optMonth(2)"), "1") << "the month of today";
+    EXPECT_FALSE(user.CanUse("optEntireYear"));
+    user.Picks("cboTo", Shown(4, 1)).WillBeRefused("ne peut excéder 31 jours!");
+    Chooses({});
+    user.Picks("cboFrom", Shown(3, 2));
+    Chooses({Day(3, 2), Day(4, 1)});
+}
+} // namespace

@@ -1,125 +1,120 @@
 #include "selection/employee_reach.h"
 #include "selection/frm_select_employee.h"
-#include "support/user.h"
+#include "selection/unit_lists.h"
+#include "support/company_test.h"
 
-#include <gmock/gmock.h>
+#include <QListWidget>
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
-/// Anna and Bruno assemble in Production, Carla works there without a group, Dan sells; Eva is with the other
-/// organization.
-class Reach : public testing::Test
+namespace
+{
+constexpr ReachList kLists[] = {ReachList::Organizations, ReachList::Departments, ReachList::Groups,
+                                ReachList::Employees};
+
+class Reach : public CompanyTest
 {
 protected:
-    Reach()
+    /// The four lists, "/" between them; of employees the first names.
+    QString Listed(const EmployeeSelection& within = {})
     {
-        house.Company();
-        anna = house.Hire({"ANNA", "Anna", "Abel", "Production", "Assembly", {}});
-        house.Hire({"BRUNO", "Bruno", "Bell", "Production", "Assembly", {}});
-        house.Hire({"CARLA", "Carla", "Cote", "Production", "", {}});
-        house.Hire({"DAN", "Dan", "Dube", "Sales", "", {}});
-        eva = house.Hire({"EVA", "Eva", "Ellis", "Stores", "", {}});
+        QStringList lists;
+        for (const ReachList list : kLists) {
+            QStringList names;
+            for (const ReachEntry& entry : EntriesInReach(datAbsence, list, within))
+                names << entry.Listed.section(", ", -1);
+            lists << names.join(' ');
+        }
+        return lists.join(" / ");
     }
-
-    void Grant(const QString& loginID, const QStringList& rights)
+    /// What the session shows in the calendar.
+    static QString Shown()
     {
-        for (const QString& right : rights)
-            house.Sql("UPDATE Employees SET " + right + " = 1 WHERE LoginID = ?", {loginID});
-        house.LogIn(loginID);
+        const Session& s = SessionState;
+        return QStringLiteral("%1|%2|%3|%4|%5")
+            .arg(s.EmployeeOrganizationID)
+            .arg(s.EmployeeDepartmentID)
+            .arg(s.EmployeeGroupID)
+            .arg(s.EmployeeID)
+            .arg(s.CurrentSelection);
     }
-
-    QStringList Listed(ReachList list, const EmployeeSelection& within = {})
-    {
-        QStringList names;
-        for (const ReachEntry& entry : EntriesInReach(datAbsence, list, within))
-            names << entry.Listed;
-        return names;
-    }
-
-    House house;
-    User user;
-    DataControl datAbsence{"test"};
-    int anna = 0;
-    int eva = 0;
 };
 
 TEST_F(Reach, EachLevelOpensTheListsBelowIt)
 {
-    Grant("ANNA", {"SelfLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Employees), ElementsAre("Abel, Anna"));
-    EXPECT_THAT(Listed(ReachList::Organizations), ElementsAre("Northern Works"));
-    Grant("ANNA", {"GroupLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Groups), ElementsAre("Assembly"));
-    EXPECT_THAT(Listed(ReachList::Employees), ElementsAre("Abel, Anna", "Bell, Bruno"));
-    Grant("ANNA", {"DepartmentLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Departments), ElementsAre("Production"));
-    EXPECT_THAT(Listed(ReachList::Employees), ElementsAre("Abel, Anna", "Bell, Bruno", "Cote, Carla"));
-    Grant("ANNA", {"OrganizationLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Departments), ElementsAre("Production", "Sales"));
-    EXPECT_THAT(Listed(ReachList::Employees), ElementsAre("Abel, Anna", "Bell, Bruno", "Cote, Carla", "Dube, Dan"));
-    Grant("ANNA", {"GlobalLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Organizations), ElementsAre("Northern Works", "Southern Trade"));
-    EXPECT_THAT(Listed(ReachList::Employees),
-                ElementsAre("Abel, Anna", "Bell, Bruno", "Cote, Carla", "Dube, Dan", "Ellis, Eva"));
+    const int next = house.FiscalYear("2027", 2027);
+    house.Hire({"NED", "Ned", "Next", "Production", "Assembly"}, next);
+    house.Sql("INSERT INTO Groups (FiscalYear, Active, OrganizationID, DepartmentID, GroupEnglishName) "
+              "VALUES (1, 1, 1, 1, 'Paint'), (1, 0, 1, 1, 'Old'), (2, 1, 1, 1, 'Later')");
+    house.Sql("INSERT INTO Departments (FiscalYear, Active, OrganizationID, DepartmentEnglishName) "
+              "VALUES (1, 0, 1, 'Closed'), (2, 1, 1, 'Later')");
+    house.Sql("INSERT INTO Organizations (FiscalYear, Active, OrganizationEnglishName) VALUES (2, 1, 'Later')");
+    house.Hire({"HUGO", "Hugo", "Hall", "Production", "Assembly"});
+    Dismiss("HUGO");
+    const std::pair<const char*, const char*> levels[] = {
+        {"SelfLevelRead", "Northern Works / Production / Assembly / Anna"},
+        {"GroupLevelRead", "Northern Works / Production / Assembly / Anna Bruno"},
+        {"DepartmentLevelRead", "Northern Works / Production / Assembly Paint / Anna Bruno Carla"},
+        {"OrganizationLevelRead", "Northern Works / Production Sales / Assembly Paint / Anna Bruno Carla Dan"},
+        {"GlobalLevelRead",
+         "Northern Works Southern Trade / Production Sales Stores / Assembly Paint / Anna Bruno Carla Dan Eva"}};
+    for (const auto& [right, lists] : levels) {
+        Grant("ANNA", {right});
+        EXPECT_EQ(Listed(), lists) << right;
+        const bool fixed = SessionState.OrganizationLevelRead != 1;
+        EXPECT_EQ(Listed(fixed ? EmployeeSelection{2, 3, 0, 0, {}} : EmployeeSelection()), lists)
+            << "a choice never widens the reach";
+    }
+    EXPECT_EQ(Listed({1, 1, 1, 0, {}}),
+              "Northern Works Southern Trade / Production Sales / Assembly Paint / Anna Bruno");
+    EXPECT_EQ(Listed({1, 2, 0, 0, {}}), "Northern Works Southern Trade / Production Sales /  / Dan");
 }
 
 TEST_F(Reach, ALevelWithoutItsUnitReachesOnlyOneself)
 {
     Grant("CARLA", {"GroupLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Employees), ElementsAre("Cote, Carla"));
-    EXPECT_THAT(Listed(ReachList::Groups), IsEmpty());
+    EXPECT_EQ(Listed(), "Northern Works / Production /  / Carla");
     house.Sql("UPDATE Employees SET DepartmentID = 0 WHERE LoginID = 'DAN'");
     Grant("DAN", {"DepartmentLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Employees), ElementsAre("Dube, Dan"));
-    EXPECT_THAT(Listed(ReachList::Groups), IsEmpty());
+    EXPECT_EQ(Listed(), "Northern Works /  /  / Dan");
+    house.Sql("UPDATE Employees SET OrganizationID = 0, DepartmentID = 0 WHERE LoginID = 'EVA'");
+    Grant("EVA", {"OrganizationLevelRead"});
+    EXPECT_EQ(Listed(), " /  /  / Eva");
 }
 
-TEST_F(Reach, WhatIsClosedIsNotListedAndAChoiceNeverWidensTheReach)
+TEST_F(Reach, TheUserNarrowsTheListsAndSelectsAnEmployeeOrAWholeUnit)
 {
-    house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE LoginID = 'BRUNO'");
-    house.Sql("UPDATE Departments SET Active = 0 WHERE DepartmentEnglishName = 'Sales'");
-    Grant("ANNA", {"GroupLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Employees, {2, 3, 0, 0, {}}), ElementsAre("Abel, Anna"));
-    Grant("ANNA", {"OrganizationLevelRead"});
-    EXPECT_THAT(Listed(ReachList::Departments), ElementsAre("Production"));
-    EXPECT_THAT(Listed(ReachList::Employees, {2, 0, 0, 0, {}}), testing::Not(testing::Contains("Ellis, Eva")));
-}
-
-TEST_F(Reach, TheUserNarrowsTheListsAndSelectsAnEmployee)
-{
-    house.LogIn("ADMIN");
     user.Opens<frmSelectEmployee>();
     EXPECT_FALSE(user.CanUse("cmdSelect"));
     user.Picks("lstOrganizations", "Northern Works");
     EXPECT_THAT(user.Entries("lstDepartments"), ElementsAre("Production", "Sales"));
     user.Picks("lstDepartments", "Production");
     EXPECT_THAT(user.Entries("lstEmployees"), ElementsAre("Abel, Anna", "Bell, Bruno", "Cote, Carla"));
-    user.Picks("lstEmployees", "Abel");
-    EXPECT_EQ(user.Reads("lblChoice"), "Anna Abel");
-    EXPECT_EQ(user.Reads("lstGroups"), "Assembly") << "the units above the employee stand out";
+    user.Picks("lstEmployees", "Abel").ClicksWithCtrl("lstEmployees");
+    EXPECT_EQ(user.The<frmSelectEmployee>().findChild<QListWidget*>("lstEmployees")->selectedItems().size(), 1);
+    EXPECT_EQ(user.ReadsAll({"lblChoice", "lstGroups"}), "Anna Abel|Assembly")
+        << "the units above the employee stand out";
     user.Clicks("cmdSelect");
+    EXPECT_EQ(Shown(), QStringLiteral("1|1|1|%1|Anna Abel").arg(anna));
 
-    EXPECT_EQ(SessionState.EmployeeID, anna);
-    EXPECT_EQ(SessionState.EmployeeOrganizationID, 1);
-    EXPECT_EQ(SessionState.EmployeeDepartmentID, 1);
-    EXPECT_EQ(SessionState.EmployeeGroupID, 1);
-    EXPECT_EQ(SessionState.CurrentSelection, "Anna Abel");
-}
-
-TEST_F(Reach, AWholeUnitLeavesTheIdsBelowItZero)
-{
-    house.LogIn("ADMIN");
     SessionState.English = false;
     user.Opens<frmSelectEmployee>().Picks("lstEmployees", "Abel").Picks("lstDepartments", "Ventes");
     EXPECT_EQ(user.Reads("lblChoice"), "Ventes");
     user.Presses("lstDepartments", Qt::Key_Return);
+    EXPECT_EQ(Shown(), "1|2|0|0|Ventes");
 
-    EXPECT_EQ(SessionState.EmployeeOrganizationID, 1);
-    EXPECT_EQ(SessionState.EmployeeDepartmentID, 2);
-    EXPECT_EQ(SessionState.EmployeeGroupID, 0);
-    EXPECT_EQ(SessionState.EmployeeID, 0);
-    EXPECT_EQ(SessionState.CurrentSelection, "Ventes");
+    SessionState.English = true;
+    user.Opens<frmSelectEmployee>(nullptr, frmSelectEmployee::Purpose::EmployeeRecord)
+        .Picks("lstDepartments", "Stores");
+    EXPECT_EQ(user.Reads("lblInstructions"),
+              "Select the employee record to be modified or deactivated from the following list");
+    EXPECT_FALSE(user.CanUse("cmdSelect")) << "for a record an employee is needed";
+    user.Picks("lstEmployees", "Ellis").Clicks("cmdSelect");
+    EXPECT_EQ(user.The<frmSelectEmployee>().ChosenEmployeeID(), eva);
+    EXPECT_EQ(user.The<frmSelectEmployee>().ChosenName(), "Eva Ellis");
+    user.Opens<frmSelectEmployee>().Picks("lstEmployees", "Ellis").Clicks("cmdQuit");
+    EXPECT_EQ(user.The<frmSelectEmployee>().ChosenEmployeeID(), 0);
+    EXPECT_EQ(Shown(), "1|2|0|0|Ventes") << "the calendar keeps its own";
 }
 
 TEST_F(Reach, AUnitAboveTheUsersLevelCannotBeShownWhole)
@@ -127,28 +122,49 @@ TEST_F(Reach, AUnitAboveTheUsersLevelCannotBeShownWhole)
     Grant("ANNA", {"GroupLevelRead"});
     user.Opens<frmSelectEmployee>();
     EXPECT_EQ(user.Reads("lblChoice"), "Assembly") << "his own group stands chosen from the start";
-    user.Picks("lstDepartments", "Production");
-    EXPECT_FALSE(user.CanUse("cmdSelect"));
-    EXPECT_THAT(user.Entries("lstEmployees"), ElementsAre("Abel, Anna", "Bell, Bruno"));
-    user.Picks("lstEmployees", "Bell").Clicks("cmdSelect");
-    EXPECT_EQ(SessionState.CurrentSelection, "Bruno Bell");
+    EXPECT_TRUE(user.CanUse("cmdSelect"));
+    for (const char* right : {"DepartmentLevelRead", "OrganizationLevelRead", ""}) {
+        user.Opens<frmSelectEmployee>().Picks("lstDepartments", "Production");
+        EXPECT_EQ(user.CanUse("cmdSelect"), SessionState.DepartmentLevelRead == 1);
+        user.Picks("lstOrganizations", "Northern Works");
+        EXPECT_EQ(user.CanUse("cmdSelect"), SessionState.OrganizationLevelRead == 1);
+        if (*right != 0)
+            Grant("ANNA", {right});
+    }
+    house.Sql("UPDATE Employees SET DepartmentLevelRead = 0 WHERE LoginID = 'ANNA'");
+    house.LogIn("ANNA");
+    user.Opens<frmSelectEmployee>().Picks("lstDepartments", "Sales");
+    EXPECT_TRUE(user.CanUse("cmdSelect")) << "the organization reaches its departments";
 }
 
-TEST_F(Reach, ForARecordAnEmployeeIsNeededAndTheCalendarKeepsItsOwn)
+TEST_F(Reach, TheUnitsOfAFormFollowTheUsersPositionAndLanguage)
 {
-    house.LogIn("ADMIN");
-    SessionState.EmployeeID = anna;
-    user.Opens<frmSelectEmployee>(nullptr, frmSelectEmployee::Purpose::EmployeeRecord);
-    EXPECT_EQ(user.Reads("lblInstructions"),
-              "Select the employee record to be modified or deactivated from the following list");
-    user.Picks("lstDepartments", "Stores");
-    EXPECT_FALSE(user.CanUse("cmdSelect"));
-    user.Picks("lstEmployees", "Ellis").Clicks("cmdSelect");
-    EXPECT_EQ(user.The<frmSelectEmployee>().ChosenEmployeeID(), eva);
-    EXPECT_EQ(user.The<frmSelectEmployee>().ChosenName(), "Eva Ellis");
-    EXPECT_EQ(SessionState.EmployeeID, anna);
-
-    user.Opens<frmSelectEmployee>().Picks("lstEmployees", "Ellis").Clicks("cmdQuit");
-    EXPECT_EQ(user.The<frmSelectEmployee>().ChosenEmployeeID(), 0);
-    EXPECT_EQ(SessionState.EmployeeID, anna);
+    house.Sql("INSERT INTO Groups (FiscalYear, Active, OrganizationID, DepartmentID, GroupEnglishName) "
+              "VALUES (1, 1, 2, 3, 'Yard'), (1, 1, 1, 2, 'Counter'), (2, 1, 1, 1, 'Next year'), (1, 0, 1, 1, 'Old')");
+    house.Sql("INSERT INTO Departments (FiscalYear, Active, OrganizationID, DepartmentEnglishName) "
+              "VALUES (1, 0, 1, 'Old'), (2, 1, 1, 'Next year')");
+    house.Sql("INSERT INTO Organizations (FiscalYear, Active, OrganizationEnglishName) VALUES (1, 0, 'Old')");
+    const auto names = [this](UnitList list, int organization = 0, int department = 0) {
+        QStringList units;
+        for (const Unit& unit : UnitsByPosition(datAbsence, list, organization, department))
+            units << unit.Name;
+        return units.join(", ");
+    };
+    const auto all = [&names] {
+        return names(UnitList::Organizations) + " / " + names(UnitList::Departments) + " / " + names(UnitList::Groups);
+    };
+    EXPECT_EQ(all(), "Northern Works, Southern Trade / Production, Sales, Stores / Assembly, Counter, Yard");
+    EXPECT_EQ(names(UnitList::Departments, 2) + names(UnitList::Groups, 1, 2) + names(UnitList::Groups, 0, 1),
+              "StoresCounterAssembly");
+    SessionState.UserOrganizationID = 1;
+    EXPECT_EQ(all(), "Northern Works / Production, Sales / Assembly, Counter");
+    SessionState.UserDepartmentID = 2;
+    EXPECT_EQ(all(), "Northern Works / Sales / Counter");
+    SessionState.UserDepartmentID = SessionState.UserGroupID = 1;
+    SessionState.English = false;
+    EXPECT_EQ(all(), "Ateliers du Nord / Fabrication / Assemblage");
+    const Unit group = FindUnit(UnitsByPosition(datAbsence, UnitList::Groups), 1);
+    EXPECT_EQ(group.OrganizationID * 10 + group.DepartmentID, 11);
+    EXPECT_EQ(FindUnit({{0, "no unit"}}, 0).Name, "");
 }
+} // namespace

@@ -1,6 +1,6 @@
 #include "support/user.h"
 
-#include "foundation/session_state.h"
+#include "foundation/texts.h"
 #include "platform/controls/form_kit.h"
 
 #include <QAbstractButton>
@@ -186,6 +186,14 @@ QString User::Reads(const QString& name) const
     return {};
 }
 
+QString User::ReadsAll(const QStringList& names) const
+{
+    QStringList contents;
+    for (const QString& name : names)
+        contents << Reads(name);
+    return contents.join('|');
+}
+
 QStringList User::Entries(const QString& name) const
 {
     QStringList texts;
@@ -211,6 +219,21 @@ User& User::WillAnswer(const QString& title, const QString& button, const QStrin
 {
     answers_.push_back({title, button, containing});
     return *this;
+}
+
+User& User::WillConfirm(const QString& containing)
+{
+    return WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui"), containing);
+}
+
+User& User::WillBeDone(const QString& containing)
+{
+    return WillAnswer(T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:"), "OK", containing);
+}
+
+User& User::WillBeRefused(const QString& containing)
+{
+    return WillAnswer(T("ERROR:", "ERREUR:"), "OK", containing);
 }
 
 User& User::WillChooseFile(const QString& path)

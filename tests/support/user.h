@@ -50,6 +50,7 @@ public:
 
     /// What stands in a control: text of fields and labels, current text of lists, "1"/"0" of check boxes.
     QString Reads(const QString& name) const;
+    QString ReadsAll(const QStringList& names) const; ///< the same of several controls, with "|" between them
     QStringList Entries(const QString& name) const;
     bool CanUse(const QString& name) const; ///< visible and enabled
     bool HasFocus(const QString& name) const;
@@ -57,6 +58,11 @@ public:
     /// The next message must bear this title; it is answered with the button of that caption. `containing` must stand
     /// in its text.
     User& WillAnswer(const QString& title, const QString& button, const QString& containing = {});
+    /// The messages around a change, in the language of the moment: the question before it, answered with Yes; what was
+    /// done; what is wrong.
+    User& WillConfirm(const QString& containing = {});
+    User& WillBeDone(const QString& containing = {});
+    User& WillBeRefused(const QString& containing = {});
     /// The next file choice returns this path.
     User& WillChooseFile(const QString& path);
     /// The next form that opens modally must be of that kind and is worked by `work`, which must close it.
