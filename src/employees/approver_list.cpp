@@ -62,11 +62,6 @@ QString Listed(const Recordset& employee)
 
 QVector<Approver> LoadApprovedBy(DataControl& datAbsence, const EmployeeRecord& record)
 {
-    return SessionState.SQL_Server ? LoadApprovedBy_SQL(record) : LoadApprovedBy_ACCESS(datAbsence, record);
-}
-
-QVector<Approver> LoadApprovedBy_ACCESS(DataControl& datAbsence, const EmployeeRecord& record)
-{
     const Connection connection(datAbsence);
     QVector<Approver> approvers;
     for (const Block& block : BlocksOf(record))
@@ -76,21 +71,10 @@ QVector<Approver> LoadApprovedBy_ACCESS(DataControl& datAbsence, const EmployeeR
     return approvers;
 }
 
-QVector<Approver> LoadApprovedBy_SQL(const EmployeeRecord& record)
-{
-    for (const Block& block : BlocksOf(record)) {
-        QString statement = WholeStatement(block);
-        for (const int value : {block.UnitID, SessionState.FiscalYearID, record.RecordID})
-            statement.replace(statement.indexOf('?'), 1, QString::number(value));
-        SendToServer(statement);
-    }
-    return {};
-}
-
 QString ApproverName(DataControl& datAbsence, int recordID)
 {
     const Connection connection(datAbsence);
-    if (!datAbsence.Read("SELECT FamilyName, FirstName FROM Employees WHERE RecordID = ?", recordID))
-        return {};
-    return ListedName(datAbsence.Records);
+    const Recordset found =
+        datAbsence.Select("SELECT FamilyName, FirstName FROM Employees WHERE RecordID = ?", recordID);
+    return found.AtEnd() ? QString() : ListedName(found);
 }

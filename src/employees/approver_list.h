@@ -16,9 +16,6 @@ struct Approver
 /// organization, and everybody with the global level; by name within each block. Never the employee himself. Somebody
 /// may stand in two blocks. Empty when nothing can be read.
 QVector<Approver> LoadApprovedBy(DataControl& datAbsence, const EmployeeRecord& record);
-QVector<Approver> LoadApprovedBy_ACCESS(DataControl& datAbsence, const EmployeeRecord& record);
-/// Composes the statements only.
-QVector<Approver> LoadApprovedBy_SQL(const EmployeeRecord& record);
 
 /// "Family, First" of an employee, wherever he works; empty when there is none.
 QString ApproverName(DataControl& datAbsence, int recordID);

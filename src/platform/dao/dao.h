@@ -241,15 +241,14 @@ private:
     bool open_ = true;
 };
 
-/// The data control of a form: it names the form in the connection log and holds the form's recordset. Where the server
-/// back end is chosen it reads nothing and sends what is written to the server.
+/// The data control of a form: it names the form in the connection log and is its way to the database. Where the
+/// server back end is chosen it reads nothing and sends what is written to the server.
 class DataControl
 {
 public:
     explicit DataControl(QString formName) : FormName(std::move(formName)) {}
 
     const QString FormName;
-    Recordset Records; ///< what Read found
 
     /// Reads with errors resumed: true when there is a first record. A lost connection (91, 3420) is restored through
     /// Reconnect and read once more, but not inside a transaction, which is over then: it throws there. A statement
@@ -257,8 +256,7 @@ public:
     template <typename... V>
     bool Read(const QString& sql, const V&... values)
     {
-        Records = ReadResumed(sql, {BoundValue(values)...});
-        return !Records.AtEnd();
+        return !ReadResumed(sql, {BoundValue(values)...}).AtEnd();
     }
     /// The same as a result of its own, empty after a failure.
     template <typename... V>
@@ -275,11 +273,6 @@ public:
         if (!found.AtEnd())
             found.Take(found.Columns().first(), value);
         return value;
-    }
-    template <typename T>
-    void Take(const QString& column, T& target) const
-    {
-        Records.Take(column, target);
     }
 
     /// Reads for writing: all failures are thrown.
