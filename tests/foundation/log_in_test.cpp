@@ -143,8 +143,8 @@ TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
 {
     house.FiscalYear("2024", 2024);
     house.FiscalYear("2023", 2023);
-    house.FiscalYear("2026", 2026, 4);
     house.FiscalYear("2027", 2027, 4);
+    house.FiscalYear("2026", 2026, 4);
     DataControl datAbsence("frmSplashScreen");
     const Connection connection(datAbsence);
     const auto chosen = [&](int year, int month, int day) {
@@ -156,11 +156,11 @@ TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
             .arg(s.FiscalYearName, QString::number(s.PreviousFYID), s.PreviousFYName, QString::number(s.NextFYID),
                  s.NextFYName);
     };
-    EXPECT_EQ(chosen(2026, 4, 1), "2026 after 0  before 4 2027");
-    EXPECT_EQ(chosen(2025, 6, 1), "2026 after 0  before 4 2027");
+    EXPECT_EQ(chosen(2026, 4, 1), "2026 after 0  before 3 2027");
+    EXPECT_EQ(chosen(2025, 6, 1), "2026 after 0  before 3 2027");
     EXPECT_EQ(chosen(2024, 12, 31), "2024 after 2 2023 before 0 ");
-    EXPECT_EQ(chosen(2028, 3, 31), "2027 after 3 2026 before 0 ");
-    EXPECT_EQ(chosen(2030, 1, 1), "2027 after 3 2026 before 0 "); // the highest key among the past ones
+    EXPECT_EQ(chosen(2028, 3, 31), "2027 after 4 2026 before 0 ");
+    EXPECT_EQ(chosen(2030, 1, 1), "2026 after 0  before 3 2027"); // the highest key among the past ones
     house.Sql("DELETE FROM FiscalYears");
     EXPECT_FALSE(ChooseCurrentFiscalYear(datAbsence));
 }

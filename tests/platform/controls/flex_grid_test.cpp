@@ -87,6 +87,7 @@ TEST_F(Grid, AnUpdateIsShownOnceWithItsHeightsMergesAndHiddenRows)
     EXPECT_TRUE(grid.updatesEnabled());
     grid.SetTextMatrix(300, 1, "later");
     EXPECT_EQ(changed.size(), 1) << "what changes afterwards is shown at once";
+    grid.ClearRows();
     grid.BeginUpdate();
     grid.SetRowHidden(grid.AddItem("dropped"), true);
     grid.ClearRows();
