@@ -40,6 +40,8 @@ protected:
             {house.CategoryID(systemName), employee, carriedOver, annual});
     }
 
+    void Cancel(int record) { house.Sql("UPDATE Attendance SET CancelledDate = 46000 WHERE RecordID = ?", {record}); }
+
     static QVector<QDate> DatesFrom(const QDate& first, int count)
     {
         QVector<QDate> dates;
