@@ -29,14 +29,6 @@ QComboBox* MakeList(const QString& name)
     list->setMaxVisibleItems(kEntriesShown);
     return list;
 }
-
-QVBoxLayout* TabPage(QWidget* page)
-{
-    auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    column->setSpacing(kGap);
-    return column;
-}
 } // namespace
 
 AttendanceGeneralPage::AttendanceGeneralPage()
@@ -47,7 +39,7 @@ AttendanceGeneralPage::AttendanceGeneralPage()
     chkSecondHalf = MakeCheckBox("chkSecondHalf", {"&Second half of the day", "S&econde moitié de la journée"});
     auto* parts = Row({chkWholeDay, chkFirstHalf, chkSecondHalf});
     parts->setSpacing(2 * kGap);
-    auto* page = TabPage(this);
+    auto* page = TabLayout(this);
     page->addLayout(PeopleAndDates(), 1);
     page->addLayout(Headed({"Why?", "Pourquoi?"}, cboCategories));
     page->addLayout(parts);
@@ -109,7 +101,7 @@ AttendanceAdditionalPage::AttendanceAdditionalPage()
     txtComment = Named<QPlainTextEdit>("txtComment");
     txtComment->setTabChangesFocus(true);
     FilterKeys(txtComment, KeyFilter::Comment);
-    auto* page = TabPage(this);
+    auto* page = TabLayout(this);
     page->addLayout(Captioned({"Hourly rate:", "Taux horaire:"}, txtHourlyRate));
     page->addWidget(chkJustified);
     page->addLayout(Headed({"Comment:", "Commentaire:"}, txtComment), 1);

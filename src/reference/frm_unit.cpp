@@ -62,7 +62,7 @@ void frmUnit::BuildList()
     cboRecords = Named<QComboBox>("cboRecords");
     cboRecords->setItemDelegate(new RemarkDelegate(NameOf, RemarkOf, cboRecords));
     cboRecords->setMaxVisibleItems(kEntriesShown);
-    cboRecords->setPlaceholderText(T(kind_.Texts.ListPrompt));
+    SetPlaceholder(cboRecords, kind_.Texts.ListPrompt);
     connect(cboRecords, &QComboBox::activated, this, &frmUnit::cboRecords_Click);
     auto* lblRecords = MakeLabel("lblRecords");
     lblRecords->setText(T(kind_.Texts.ListLabel, {{"FiscalYearName", SessionState.FiscalYearName}}));
