@@ -59,7 +59,7 @@ public:
     {
         user_.Clicks("cmdModify");
         if (user_.CanUse("cmdCancelOperation"))
-            Complain("the employee was not saved: " + user_.LastMessage());
+            Complain("the employee was not saved: " + SessionState.MessageText);
     }
 };
 

@@ -1,6 +1,7 @@
 #include "measuring.h"
 
 #include "raw_engine.h"
+#include "support/file_calls.h"
 #include "support/statement_trace.h"
 #include "yardstick.h"
 
@@ -22,6 +23,10 @@ struct Verdict
     double Floor;
     double Speed; ///< of this machine while it was measured: its yardstick by the reference's
     double Bar;
+    int Calls; ///< on the file, which is at hand
+
+    /// On a share whose every call takes so many milliseconds.
+    double OnAShare(double call) const { return Measured + Calls * call; }
 };
 
 std::vector<Verdict>& Verdicts()
@@ -67,6 +72,21 @@ QList<QByteArray> StatementsOf(Measured& measured)
     return statements;
 }
 
+/// Counted in the second of two rounds: the first one opens the file.
+int CallsOf(Measured& measured)
+{
+    FileCalls calls;
+    int count = 0;
+    for (int round = 0; round < 2; ++round) {
+        measured.Prepare();
+        calls.StartCounting();
+        measured.Work();
+        count = calls.All();
+        measured.CleanUp();
+    }
+    return count;
+}
+
 double StatementsFloor(Measured& measured, const QList<QByteArray>& statements)
 {
     return MillisecondsOf([&] {
@@ -108,7 +128,8 @@ void Measure(benchmark::State& state, const std::string& name, Measured& measure
     }
     const double least = Median(floors);
     const double speed = Median(yards) / Yardstick::kReference;
-    const Verdict verdict{name, Median(works), least, speed, bar.Floors * least + bar.Milliseconds * speed};
+    const Verdict verdict{
+        name, Median(works), least, speed, bar.Floors * least + bar.Milliseconds * speed, CallsOf(measured)};
     Verdicts().push_back(verdict);
     state.counters["median_ms"] = verdict.Measured;
     state.counters["floor_ms"] = verdict.Floor;
@@ -128,15 +149,20 @@ void Register(const char* name, BigCompany& company, Floor floor, const Bar& bar
 bool TellVerdicts()
 {
     int missed = 0;
-    std::printf("\n%-40s %10s %10s %10s %10s\n", "median, ms", "measured", "floor", "yardstick", "bar");
+    std::printf("\n%-40s %10s %10s %10s %10s %8s %8s %8s %8s\n", "median, ms", "measured", "floor", "yardstick", "bar",
+                "", "calls", "at 0.5", "at 5");
     for (const Verdict& verdict : Verdicts()) {
         const bool met = verdict.Measured <= verdict.Bar;
         missed += met ? 0 : 1;
-        std::printf("%-40s %10.2f %10.2f %9.2fx %10.2f  %s\n", verdict.Name.c_str(), verdict.Measured, verdict.Floor,
-                    verdict.Speed, verdict.Bar, met ? "met" : "MISSED");
+        std::printf("%-40s %10.2f %10.2f %9.2fx %10.2f %8s %8d %8.0f %8.0f\n", verdict.Name.c_str(), verdict.Measured,
+                    verdict.Floor, verdict.Speed, verdict.Bar, met ? "met" : "MISSED", verdict.Calls,
+                    verdict.OnAShare(0.5), verdict.OnAShare(5));
     }
     std::printf("%zu bars met, %d missed\n", Verdicts().size() - static_cast<std::size_t>(missed), missed);
     std::printf("yardstick: times the %.1f ms of the reference; the milliseconds of a bar are multiplied by it\n",
                 Yardstick::kReference);
+    std::printf(
+        "calls: on the database and its journal, the file being at hand; at 0.5 and 5: the time on a share whose "
+        "every call takes so many ms\n");
     return missed == 0;
 }

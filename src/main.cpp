@@ -1,6 +1,7 @@
 #include "calendar/frm_program.h"
 #include "foundation/common_services.h"
 #include "foundation/frm_message_box.h"
+#include "foundation/frm_waiting_notice.h"
 #include "platform/controls/file_dialog.h"
 #include "platform/controls/form_kit.h"
 #include "platform/dao/dao.h"
@@ -37,6 +38,7 @@ int main(int argc, char* argv[])
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyStyle();
     InstallMessageBox();
+    InstallWaitingNotice();
     InstallFileDialog();
     PrepareProgramFolder(QApplication::applicationDirPath() + "/delivered");
     Program program;

@@ -71,7 +71,10 @@ void Tour::Say(const QString& what) const
 
 void Tour::Photo(const QString& name)
 {
-    user_.Photographs(QStringLiteral("%1/%2_%3.png").arg(folder_, name, english_ ? "en" : "fr"));
+    for (int pass = 0; pass < 3; ++pass) // nested layouts settle one level at a time
+        QCoreApplication::processEvents();
+    if (!user_.The<QWidget>().grab().save(QStringLiteral("%1/%2_%3.png").arg(folder_, name, english_ ? "en" : "fr")))
+        Complain("cannot save the picture " + name);
 }
 
 void Tour::Choose(const char* menu)

@@ -9,8 +9,6 @@
 namespace
 {
 constexpr float kHoursOfDay = 24;
-constexpr int kMostHours = 23;
-constexpr int kMostMinutes = 59;
 
 void Negate(AttendanceEntry& entry)
 {
@@ -165,7 +163,6 @@ void FindDayParts(AttendanceEntry& entry)
     entry.FirstHalfEnabled = IsHalfTheSameOnAllDates(entry, &WorkSchedule::FirstHalfStart, &WorkSchedule::FirstHalfEnd);
     entry.SecondHalfEnabled =
         IsHalfTheSameOnAllDates(entry, &WorkSchedule::SecondHalfStart, &WorkSchedule::SecondHalfEnd);
-    entry.WholeDayEnabled = entry.FirstHalfEnabled && entry.SecondHalfEnabled;
 }
 
 void ChooseDayPart(AttendanceEntry& entry, DayPart part, bool checked)
@@ -214,20 +211,16 @@ void TypeDuration(AttendanceEntry& entry, const QString& hours, const QString& m
     entry.MinutesText = minutes;
 }
 
-bool AreHoursAccepted(const QString& hours)
+QString AttendanceEntry::*TakeDuration(AttendanceEntry& entry)
 {
-    return Val(hours) <= kMostHours;
-}
-
-bool AreMinutesAccepted(const QString& minutes)
-{
-    return Val(minutes) <= kMostMinutes;
-}
-
-void TakeDuration(AttendanceEntry& entry)
-{
+    for (const auto& [text, most] : {std::pair(&AttendanceEntry::HoursText, 23), {&AttendanceEntry::MinutesText, 59}})
+        if (Val(entry.*text) > most) {
+            (entry.*text).clear();
+            return text;
+        }
     entry.Duration = DecimalHours(static_cast<float>(Val(entry.HoursText)), static_cast<float>(Val(entry.MinutesText)));
     RecalculateTotalTime(entry);
+    return nullptr;
 }
 
 void ShowDuration(AttendanceEntry& entry, float hours)
@@ -243,7 +236,4 @@ void ClearEntryFields(AttendanceEntry& entry)
     ClearTimes(entry);
     ClearDurationTexts(entry);
     entry.Part = DayPart::None;
-    entry.Entitlement = 0;
-    entry.TimeUsed = 0;
-    entry.TimePending = 0;
 }

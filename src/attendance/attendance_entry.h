@@ -31,9 +31,21 @@ struct AttendanceJob : CalendarSelection
     bool ConflictsAccepted = false; ///< the user has been asked about other records of the date
 };
 
+/// What the category of an entry says, and where the employee stands in it. Decimal hours.
+struct CategoryFacts
+{
+    QString SystemName; ///< empty for a user category
+    int TimeBankRelated = 0;
+    int RequiresMonitoring = 0;
+    float Entitlement = 0; ///< carried over and annual; 0 no limit
+    float TimeUsed = 0;    ///< of the entitlement, approved
+    float TimePending = 0; ///< of the entitlement, waiting for approval
+    float TimeBanked = 0;  ///< balance of the bank when the category was chosen
+};
+
 /// The working values of a job: one record that is added on every date, submitted or modified, for an employee with his
 /// schedule. Times and durations are single-precision decimal hours; ids are RecordIDs, 0 none.
-struct AttendanceEntry : AttendanceJob, WorkSchedule
+struct AttendanceEntry : AttendanceJob, WorkSchedule, CategoryFacts
 {
     AttendanceEntry() = default;
     explicit AttendanceEntry(const AttendanceJob& job) : AttendanceJob(job) {}
@@ -57,13 +69,13 @@ struct AttendanceEntry : AttendanceJob, WorkSchedule
     QString HoursText;
     QString MinutesText;
     QString TotalTimeText;
-    bool WholeDayEnabled = false;
     bool FirstHalfEnabled = false;
     bool SecondHalfEnabled = false;
+    bool WholeDayEnabled() const { return FirstHalfEnabled && SecondHalfEnabled; }
 
     // The employee.
     QString EmployeeName;   ///< "FirstName FamilyName"
-    float EmployeeRate = 0; ///< money per hour; holds when HourlyRateText is empty
+    float EmployeeRate = 0; ///< money per hour, or a hidden rate of the record; holds when HourlyRateText is empty
     int FirstApprover = 0;
     int SecondApprover = 0;
     QString FirstApproverName;
@@ -72,16 +84,8 @@ struct AttendanceEntry : AttendanceJob, WorkSchedule
     QString SecondApproverEMail;
 
     // The category, SelectedCategoryID.
-    QString CategoryName; ///< as shown
-    QString SystemName;   ///< empty for a user category
-    int TimeBankRelated = 0;
-    int RequiresMonitoring = 0;
-    int ConstitutesAnAbsence = 0;
+    QString CategoryName;          ///< as shown
     int TimeClaimedCategoryID = 0; ///< of the list of categories, whatever is chosen
-    float Entitlement = 0;         ///< carried over and annual; 0 no limit
-    float TimeUsed = 0;            ///< of the entitlement, approved
-    float TimePending = 0;         ///< of the entitlement, waiting for approval
-    float TimeBanked = 0;          ///< balance of the bank when the category was chosen
 
     // What has been found out.
     bool Validated = false; ///< verdict of the guard that ran last
@@ -106,7 +110,7 @@ bool DrawsOnTimeBank(const AttendanceEntry& entry);
 /// category asks for. The text shows the total as it was before.
 void RecalculateTotalTime(AttendanceEntry& entry);
 
-/// Enables the halves of the day whose hours are the same on all selected dates; the whole day needs both.
+/// Enables the halves of the day whose hours are the same on all selected dates.
 void FindDayParts(AttendanceEntry& entry);
 
 /// A box was checked or cleared. Times come from the schedule of the first date.
@@ -118,14 +122,12 @@ void ChooseEndTime(AttendanceEntry& entry, const QString& text);
 
 /// A duration box was changed: the texts stand, and all that was known of times and durations is forgotten.
 void TypeDuration(AttendanceEntry& entry, const QString& hours, const QString& minutes);
-/// What a duration box may hold.
-bool AreHoursAccepted(const QString& hours);
-bool AreMinutesAccepted(const QString& minutes);
-/// A changed duration box was left: the texts become the duration.
-void TakeDuration(AttendanceEntry& entry);
+/// A changed duration box was left: the texts become the duration. The text that no day holds, above 23 hours or 59
+/// minutes, is emptied instead and told; null when there is none.
+QString AttendanceEntry::*TakeDuration(AttendanceEntry& entry);
 
 /// Hours and minutes boxes show a number of decimal hours.
 void ShowDuration(AttendanceEntry& entry, float hours);
 
-/// Another employee was chosen: times, durations, boxes and what was read of the entitlement are forgotten.
+/// Another employee was chosen: times, durations and boxes are forgotten.
 void ClearEntryFields(AttendanceEntry& entry);

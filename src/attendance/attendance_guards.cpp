@@ -3,6 +3,7 @@
 #include "attendance/record_lines.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/fault.h"
 #include "foundation/texts.h"
 
 #include <QMap>
@@ -21,14 +22,7 @@ QString Denied()
     return T("OPERATION DENIED!", "OPÉRATION REFUSÉE!");
 }
 
-/// The control that an incomplete entry must be mended in and the message about it.
-struct Omission
-{
-    const char* Field = nullptr;
-    QString Text;
-};
-
-Omission FindOmission(const AttendanceEntry& entry)
+Fault FaultIn(const AttendanceEntry& entry)
 {
     if (entry.EmployeeID == 0)
         return {"lstWho", T("You must select an employee from the list!",
@@ -170,10 +164,10 @@ QMap<int, QString> OtherRecordLines(DataControl& datAbsence, const AttendanceEnt
 void ValidateRecords(AttendanceEntry& entry)
 {
     entry.Validated = false;
-    const Omission omission = FindOmission(entry);
-    entry.FieldInError = omission.Field;
-    if (omission.Field)
-        return Tell(T("ERROR:", "ERREUR:"), omission.Text, Face::Warning);
+    const Fault fault = FaultIn(entry);
+    entry.FieldInError = fault.Control;
+    if (!fault.Text.isEmpty())
+        return Refuse(fault.Text);
     entry.Comment.replace('\n', ' ').replace('\r', ' ');
     entry.Validated = true;
 }

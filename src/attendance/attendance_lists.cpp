@@ -3,6 +3,7 @@
 #include "foundation/levels.h"
 #include "foundation/names.h"
 #include "foundation/texts.h"
+#include "reference/category_list.h"
 
 #include <algorithm>
 
@@ -76,27 +77,6 @@ QVector<ListEntry> EmployeeItems(Recordset people, bool located)
     }
     return items;
 }
-
-/// Departments use some of the categories; an employee without a department has the public ones.
-Recordset SelectCategories(DataControl& datAbsence, int department)
-{
-    const Session& s = SessionState;
-    const QString end = (s.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0 ") +
-                        T(" ORDER BY Categories.CategoryEnglishName", " ORDER BY Categories.CategoryFrenchName");
-    if (department == 0)
-        return datAbsence.Select("SELECT RecordID, CategoryEnglishName, CategoryFrenchName, SystemName FROM Categories "
-                                 "WHERE FiscalYear = ? AND Active = 1 AND IsPublic = 1" +
-                                     end,
-                                 s.FiscalYearID);
-    return datAbsence.Select(
-        "SELECT Categories.RecordID, Categories.CategoryEnglishName, Categories.CategoryFrenchName, "
-        "Categories.SystemName FROM Categories, CategoriesDepartments WHERE Categories.RecordID = "
-        "CategoriesDepartments.CategoryID AND CategoriesDepartments.IsUsed = 1 AND CategoriesDepartments.DepartmentID "
-        "= "
-        "? AND Categories.FiscalYear = ? AND Categories.Active = 1" +
-            end,
-        department, s.FiscalYearID);
-}
 } // namespace
 
 std::optional<QVector<ListEntry>> LoadRecords(DataControl& datAbsence, AttendanceEntry& entry)
@@ -115,15 +95,12 @@ std::optional<QVector<ListEntry>> LoadRecords(DataControl& datAbsence, Attendanc
 
 QVector<ListEntry> LoadCategories(DataControl& datAbsence, AttendanceEntry& entry)
 {
-    const Connection connection(datAbsence);
-    QVector<ListEntry> items = {{T("(All categories)", "(Toutes les catégories)"), 0}};
+    QVector<ListEntry> items = {{AllCategories(), 0}};
     entry.TimeClaimedCategoryID = 0;
-    for (const Recordset& rows : SelectCategories(datAbsence, entry.EmployeeDepartmentID)) {
-        const int category = rows.Long("RecordID");
-        items << ListEntry{rows.Text(SessionState.English ? "CategoryEnglishName" : "CategoryFrenchName").trimmed(),
-                           category};
-        if (rows.Text("SystemName").trimmed() == "Time claimed")
-            entry.TimeClaimedCategoryID = category;
+    for (const CategoryItem& category : LoadCategoryItems(datAbsence, entry.EmployeeDepartmentID)) {
+        items << ListEntry{category.Name, category.RecordID};
+        if (category.SystemName == "Time claimed")
+            entry.TimeClaimedCategoryID = category.RecordID;
     }
     return items;
 }

@@ -72,6 +72,12 @@ AttendanceRow EnteredRow(const AttendanceEntry& entry)
     return row;
 }
 
+void TakeApprover(const Recordset& person, QString& name, QString& address)
+{
+    name = FullName(person);
+    person.Take("EMailAddress", address);
+}
+
 AttendanceRow NewRow(const AttendanceEntry& entry)
 {
     AttendanceRow row = EnteredRow(entry);
@@ -87,7 +93,7 @@ AttendanceRow NewRow(const AttendanceEntry& entry)
 
 void AddOnEachDate(DataControl& datAbsence, const AttendanceEntry& entry, AttendanceRow row)
 {
-    InTransaction(
+    InOpenYear(
         datAbsence,
         [&] {
             for (const int date : entry.Dates) {
@@ -96,18 +102,6 @@ void AddOnEachDate(DataControl& datAbsence, const AttendanceEntry& entry, Attend
             }
         },
         Transaction::KeepOnFailure);
-}
-
-void ForgetCategory(AttendanceEntry& entry)
-{
-    entry.TimeBankRelated = 0;
-    entry.SystemName.clear();
-    entry.RequiresMonitoring = 0;
-    entry.ConstitutesAnAbsence = 0;
-    entry.Entitlement = 0;
-    entry.TimeUsed = 0;
-    entry.TimePending = 0;
-    entry.TimeBanked = 0;
 }
 } // namespace
 
@@ -127,13 +121,12 @@ void LoadEmployeeInfo(DataControl& datAbsence, AttendanceEntry& entry)
 
 void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry)
 {
-    ForgetCategory(entry);
+    static_cast<CategoryFacts&>(entry) = {};
     if (entry.SelectedCategoryID == 0)
         return;
     const Connection connection(datAbsence);
     if (const auto category = Find<CategoryRow>(datAbsence, entry.SelectedCategoryID)) {
         entry.TimeBankRelated = category->TimeBankRelated;
-        entry.ConstitutesAnAbsence = category->ConstitutesAnAbsence;
         entry.RequiresMonitoring = category->RequiresMonitoring;
         entry.SystemName = category->SystemName.trimmed();
     }
@@ -145,7 +138,7 @@ void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry)
             "AND EmployeeID = ?",
             entry.SelectedCategoryID, entry.EmployeeID);
     else if (entry.TimeBankRelated == 1)
-        entry.TimeBanked = TimeBankOfEmployee(datAbsence, entry.EmployeeID);
+        entry.TimeBanked = TimeBankOf(datAbsence, entry);
 }
 
 bool LacksEntitlement(const AttendanceEntry& entry)
@@ -167,7 +160,10 @@ void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry)
     entry.EndTime = record->EndTime;
     entry.Duration = record->Duration;
     entry.TotalDuration = record->TotalDuration;
-    entry.HourlyRateText = VisibleRate(static_cast<float>(Val(record->HourlyRate)));
+    const float rate = static_cast<float>(Val(record->HourlyRate));
+    entry.HourlyRateText = VisibleRate(rate);
+    if (entry.HourlyRateText.isEmpty())
+        entry.EmployeeRate = rate; // who may not see the rate does not change it
     if (entry.StartTime != 0) {
         entry.StartTimeText = DurationText(entry.StartTime);
         entry.EndTimeText = DurationText(entry.EndTime);
@@ -182,9 +178,10 @@ void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry)
     for (const Recordset& person : datAbsence.Select(
              "SELECT RecordID, FirstName, FamilyName, EMailAddress FROM Employees WHERE RecordID IN (?, ?)",
              entry.FirstApprover, entry.SecondApprover)) {
-        const bool first = person.Long("RecordID") == entry.FirstApprover;
-        (first ? entry.FirstApproverName : entry.SecondApproverName) = FullName(person);
-        person.Take("EMailAddress", first ? entry.FirstApproverEMail : entry.SecondApproverEMail);
+        if (person.Long("RecordID") == entry.FirstApprover)
+            TakeApprover(person, entry.FirstApproverName, entry.FirstApproverEMail);
+        if (person.Long("RecordID") == entry.SecondApprover) // who may be the same person
+            TakeApprover(person, entry.SecondApproverName, entry.SecondApproverEMail);
     }
 }
 
@@ -209,7 +206,7 @@ void SubmitAttendance(DataControl& datAbsence, const AttendanceEntry& entry)
 void ModifyAttendance(DataControl& datAbsence, const AttendanceEntry& entry)
 {
     const AttendanceRow row = EnteredRow(entry);
-    InTransaction(
+    InOpenYear(
         datAbsence, [&] { Change(datAbsence, entry.RecordToModify, Picked(row, kEntered)); },
         Transaction::KeepOnFailure);
 }

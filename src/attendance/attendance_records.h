@@ -1,16 +1,10 @@
 #pragma once
 
 #include "attendance/attendance_entry.h"
+#include "foundation/list_entry.h"
 #include "platform/dao/dao.h"
 
 #include <optional>
-
-/// An item of a list with the RecordID behind it.
-struct ListEntry
-{
-    QString Text;
-    int ItemData = 0;
-};
 
 /// The employees whom the user may enter records for, or the user alone for a request. Nothing at all: the user may add
 /// for nobody. The entry's employee is cleared when he is the user, who may not enter his own records.

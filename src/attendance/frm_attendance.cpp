@@ -39,9 +39,9 @@ void frmAttendance::BuildControls()
     sstAttendance = Named<QTabWidget>("sstAttendance");
     AddTab(sstAttendance, general_, {"General information", "Information générale"});
     AddTab(sstAttendance, additional_, {"Additional information", "Information additionnelle"});
-    cmdAddOrUpdate = AsMainButton(
-        AddButton("cmdAddOrUpdate", kActions[static_cast<int>(entry_.Kind)], [this] { cmdAddOrUpdate_Click(); }));
-    cmdQuit = AddButton("cmdQuit", {"&Close", "So&rtir"}, [this] { cmdQuit_Click(); });
+    cmdAddOrUpdate =
+        AddMainButton("cmdAddOrUpdate", kActions[static_cast<int>(entry_.Kind)], [this] { cmdAddOrUpdate_Click(); });
+    cmdQuit = AddWayOut({"&Close", "So&rtir"}, "cmdQuit");
     Page()->addWidget(sstAttendance, 1);
     LayFoot({cmdQuit, cmdAddOrUpdate});
     resize(kSize);
@@ -114,8 +114,7 @@ void frmAttendance::LoadEmployees()
 {
     const LoadingGuard loading(Loading);
     const auto employees = LoadRecords(datAbsence, entry_);
-    for (const ListEntry& employee : employees.value_or(QVector<ListEntry>()))
-        AddEntry(general_->lstWho, employee.Text, employee.ItemData);
+    AddEntries(general_->lstWho, employees.value_or(QVector<ListEntry>()));
     MarkEmployee();
     mayAdd_ = employees.has_value() && MayEnterForEmployee();
     SetButtonsEnabled(true);
@@ -145,7 +144,7 @@ void frmAttendance::LoadCategoryList()
     QComboBox* list = general_->cboCategories;
     list->clear();
     for (const ListEntry& category : LoadCategories(datAbsence, entry_))
-        list->addItem(category.Text, category.ItemData);
+        list->addItem(category.Text, category.RecordID);
     list->setCurrentIndex(std::max(list->findData(entry_.SelectedCategoryID), 0));
     EnterCategory();
 }
@@ -184,7 +183,7 @@ void frmAttendance::ShowEntry()
 
 void frmAttendance::ShowParts()
 {
-    general_->chkWholeDay->setEnabled(entry_.WholeDayEnabled);
+    general_->chkWholeDay->setEnabled(entry_.WholeDayEnabled());
     general_->chkFirstHalf->setEnabled(entry_.FirstHalfEnabled);
     general_->chkSecondHalf->setEnabled(entry_.SecondHalfEnabled);
     general_->chkWholeDay->setChecked(entry_.Part == DayPart::WholeDay);
@@ -224,6 +223,17 @@ void frmAttendance::lstWho_Click()
     if (employee == 0)
         return MarkEmployee();
     ReadForm();
+    if (!Attempt([&] { EnterEmployee(employee); })) {
+        entry_.EmployeeID = 0; // without his units and his rate he has to be chosen anew
+        MarkEmployee();
+    }
+    ShowEntry();
+    WarnOfMissingEntitlement();
+}
+
+/// The employee becomes that of the entry, which begins afresh.
+void frmAttendance::EnterEmployee(int employee)
+{
     const bool another = employee != entry_.EmployeeID;
     entry_.EmployeeID = employee;
     ClearEntryFields(entry_);
@@ -235,8 +245,6 @@ void frmAttendance::lstWho_Click()
     } else {
         ReadCategory(datAbsence, entry_);
     }
-    ShowEntry();
-    WarnOfMissingEntitlement();
 }
 
 /// Something was entered by the user; what the form itself puts into its controls is not.
@@ -254,7 +262,8 @@ void frmAttendance::cboCategories_Click(int index)
     if (index < 0)
         return;
     Change([this] {
-        EnterCategory();
+        if (!Attempt([this] { EnterCategory(); }))
+            return BlankCategory(); // without its limits it has to be chosen anew
         if (WarnOfMissingEntitlement())
             RecalculateTotalTime(entry_);
     });
@@ -303,25 +312,12 @@ bool frmAttendance::LeaveDurationBoxes()
         return true;
     durationChanged_ = false;
     ReadForm();
-    if (!AreHoursAccepted(entry_.HoursText)) {
-        entry_.HoursText.clear();
-        RefuseDuration(general_->txtDurationInHours);
-        return false;
-    }
-    if (!AreMinutesAccepted(entry_.MinutesText)) {
-        entry_.MinutesText.clear();
-        RefuseDuration(general_->txtDurationInMinutes);
-        return false;
-    }
-    TakeDuration(entry_);
+    const auto refused = TakeDuration(entry_);
     ShowEntry();
-    return true;
-}
-
-void frmAttendance::RefuseDuration(QWidget* box)
-{
-    ShowEntry();
-    KeepFocus(box);
+    if (refused)
+        KeepFocus(refused == &AttendanceEntry::HoursText ? general_->txtDurationInHours
+                                                         : general_->txtDurationInMinutes);
+    return !refused;
 }
 
 void frmAttendance::txtHourlyRate_LostFocus()

@@ -21,8 +21,6 @@ public:
     /// What has been entered so far, the employee with his name as CurrentSelection once records are written.
     const AttendanceEntry& Entry() const { return entry_; }
 
-    void reject() override { cmdQuit_Click(); }
-
 private:
     void BuildControls();
     void ConnectControls();
@@ -35,6 +33,7 @@ private:
     void MarkEmployee();
     bool IsModifying() const { return entry_.Kind == AttendanceKind::Modify; }
     bool MayEnterForEmployee();
+    void EnterEmployee(int employee);
     void LoadCategoryList();
     void EnterCategory();
     void Change(const std::function<void()>& change);
@@ -52,7 +51,6 @@ private:
     void lstMultiplicator_Click(int index);
     void Duration_Change();
     bool LeaveDurationBoxes();
-    void RefuseDuration(QWidget* box);
     void txtHourlyRate_LostFocus();
     void LimitComment();
 
@@ -65,11 +63,9 @@ private:
     bool ModifyAttendance();
     void FocusFieldInError();
     void SetButtonsEnabled(bool enabled);
-    void cmdQuit_Click();
 
     AttendanceEntry entry_;
     bool durationChanged_ = false; ///< since a duration box was last left
-    bool updated_ = false;
     bool mayAdd_ = true;
 
     QTabWidget* sstAttendance = nullptr;

@@ -17,15 +17,16 @@ void frmAttendance::cmdAddOrUpdate_Click()
     ReadForm();
     RecalculateTotalTime(entry_);
     SetButtonsEnabled(false);
-    if (!Attempt([this] { updated_ = PassesGuards() && FindApprovers() && Dispatch(); }))
+    bool updated = false;
+    if (!Attempt([&] { updated = PassesGuards() && FindApprovers() && Dispatch(); }))
         SessionState.ReloadCalendar = true; // the records written before the failure stay
     sstAttendance->setEnabled(true);
     SetButtonsEnabled(true);
-    if (!updated_)
+    if (!updated)
         return FocusFieldInError();
     entry_.CurrentSelection = entry_.EmployeeName;
     SessionState.ReloadCalendar = true;
-    cmdQuit_Click();
+    accept();
 }
 
 /// Some guards change what the form shows: the comment, the category.
@@ -105,11 +106,6 @@ void frmAttendance::SetButtonsEnabled(bool enabled)
 {
     cmdAddOrUpdate->setEnabled(enabled && mayAdd_);
     cmdQuit->setEnabled(enabled);
-}
-
-void frmAttendance::cmdQuit_Click()
-{
-    done(updated_ ? Accepted : Rejected);
 }
 
 std::optional<CalendarSelection> EnterAttendance(const AttendanceJob& job, QWidget* parent)

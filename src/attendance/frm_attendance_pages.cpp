@@ -34,9 +34,10 @@ QComboBox* MakeList(const QString& name)
 AttendanceGeneralPage::AttendanceGeneralPage()
 {
     cboCategories = MakeList("cboCategories");
-    chkWholeDay = MakeCheckBox("chkWholeDay", {"&Whole day", "&Toute la journée"});
-    chkFirstHalf = MakeCheckBox("chkFirstHalf", {"&First half of the day", "&Première moitié de la journée"});
-    chkSecondHalf = MakeCheckBox("chkSecondHalf", {"&Second half of the day", "S&econde moitié de la journée"});
+    chkWholeDay = MakeButton<QCheckBox>("chkWholeDay", {"&Whole day", "&Toute la journée"});
+    chkFirstHalf = MakeButton<QCheckBox>("chkFirstHalf", {"&First half of the day", "&Première moitié de la journée"});
+    chkSecondHalf =
+        MakeButton<QCheckBox>("chkSecondHalf", {"&Second half of the day", "S&econde moitié de la journée"});
     auto* parts = Row({chkWholeDay, chkFirstHalf, chkSecondHalf});
     parts->setSpacing(2 * kGap);
     auto* page = TabLayout(this);
@@ -97,7 +98,8 @@ AttendanceAdditionalPage::AttendanceAdditionalPage()
 {
     txtHourlyRate = MakeField("txtHourlyRate", KeyFilter::DecimalNumber);
     txtHourlyRate->setFixedWidth(kShortField);
-    chkJustified = MakeCheckBox("chkJustified", {"This absence is &justified", "Cette absence est &justifiée"});
+    chkJustified =
+        MakeButton<QCheckBox>("chkJustified", {"This absence is &justified", "Cette absence est &justifiée"});
     txtComment = Named<QPlainTextEdit>("txtComment");
     txtComment->setTabChangesFocus(true);
     FilterKeys(txtComment, KeyFilter::Comment);

@@ -1,7 +1,7 @@
 #include "attendance/record_lines.h"
 
 #include "foundation/common_services.h"
-#include "foundation/texts.h"
+#include "foundation/names.h"
 
 namespace
 {
@@ -10,7 +10,7 @@ constexpr int kCategoryWidth = 20;
 
 QString CategoryOfRow(const Recordset& row)
 {
-    return row.Text(SessionState.English ? "CategoryEnglishName" : "CategoryFrenchName").trimmed();
+    return row.Text(NameColumn("Category")).trimmed();
 }
 
 QString EntryLines(const AttendanceEntry& entry)

@@ -7,29 +7,20 @@
 
 namespace
 {
-std::pair<QString, int> ShownUnit()
+/// What follows "WHERE ..." in every calendar query: the employee, or else the unit shown; the chosen category; hidden
+/// categories; live records only; effective or pending ones. Its two values go in the place of its question marks.
+struct ScopeFilter
 {
-    const Session& s = SessionState;
-    if (s.EmployeeID != 0)
-        return {" AND Attendance.EmployeeID = ?1", s.EmployeeID};
-    if (s.EmployeeGroupID != 0)
-        return {" AND Attendance.GroupID = ?1", s.EmployeeGroupID};
-    if (s.EmployeeDepartmentID != 0)
-        return {" AND Attendance.DepartmentID = ?1", s.EmployeeDepartmentID};
-    if (s.EmployeeOrganizationID != 0)
-        return {" AND Attendance.OrganizationID = ?1", s.EmployeeOrganizationID};
-    return {" AND ?1 = 0", 0};
-}
-
-const char* kTimesOfRecord =
-    "SELECT Attendance.StartTime, Attendance.EndTime, Attendance.Duration, Attendance.TimeMultiplicator, "
-    "Attendance.TotalDuration, Attendance.Submitted, Categories.CategoryFrenchName, Categories.CategoryEnglishName";
-} // namespace
+    QString Sql;
+    int Scope = 0;    ///< id of the employee or unit, 0 the whole company
+    int Category = 0; ///< 0 all
+};
 
 ScopeFilter CalendarScope()
 {
-    const auto [scope, id] = ShownUnit();
-    ScopeFilter filter{scope, id, SessionState.SelectedCategoryID};
+    const auto [column, id] = SessionState.Narrowest();
+    ScopeFilter filter{{}, id, SessionState.SelectedCategoryID};
+    filter.Sql = column ? QStringLiteral(" AND Attendance.%1 = ?1").arg(QLatin1String(column)) : " AND ?1 = 0";
     filter.Sql += filter.Category > 0 ? " AND Attendance.CategoryID = ?2" : " AND ?2 = 0";
     if (SessionState.AccessToRestrictedCategory == 0)
         filter.Sql += " AND Categories.Restricted = 0";
@@ -37,6 +28,11 @@ ScopeFilter CalendarScope()
     filter.Sql += SessionState.ShowApproved ? " AND Attendance.Submitted = 0" : " AND Attendance.Submitted = 1";
     return filter;
 }
+
+const char* kTimesOfRecord =
+    "SELECT Attendance.StartTime, Attendance.EndTime, Attendance.Duration, Attendance.TimeMultiplicator, "
+    "Attendance.TotalDuration, Attendance.Submitted, Categories.CategoryFrenchName, Categories.CategoryEnglishName";
+} // namespace
 
 float TotalForTheYear(DataControl& datAbsence)
 {

@@ -5,16 +5,6 @@
 #include <QString>
 #include <QVector>
 
-/// What follows "WHERE ..." in every calendar query: the employee, or else the unit shown; the chosen category; hidden
-/// categories; live records only; effective or pending ones. Its two values go in the place of its question marks.
-struct ScopeFilter
-{
-    QString Sql;
-    int Scope = 0;    ///< id of the employee or unit, 0 the whole company
-    int Category = 0; ///< 0 all
-};
-ScopeFilter CalendarScope();
-
 /// One category on one date of the calendar. `Color` is 0xBBGGRR, 0 none.
 struct CalendarRecord
 {
@@ -22,6 +12,9 @@ struct CalendarRecord
     int CategoryID = 0;
     int Color = 0;
 };
+
+/// What the calendar shows is its scope: an employee or a unit, in a category or all of them, effective records or
+/// pending ones; never a cancelled one, nor one of a category that the user may not see.
 
 /// Total of the year within the scope, decimal hours; 0 for none.
 float TotalForTheYear(DataControl& datAbsence);

@@ -6,6 +6,8 @@
 #include "foundation/texts.h"
 #include "platform/clock.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 
 namespace
@@ -18,11 +20,6 @@ constexpr Text kDatesHint = {
     "«Escape» to abort the procedure.",
     "Cliquez sur les dates où vous souhaitez enregistrer des absences et cliquez ensuite sur l'icône active. Appuyez "
     "sur «Échap» pour annuler la procédure."};
-
-void Refuse(const Text& text)
-{
-    Tell(T("ERROR:", "ERREUR:"), T(text), Face::Warning);
-}
 
 QString NotOnWeekday(int weekday)
 {
@@ -140,12 +137,12 @@ void CalendarTools::Abort()
 bool CalendarTools::CanCreate()
 {
     if (SessionState.EmployeeID == 0)
-        Refuse({"You must first select an employee!", "Vous devez d'abord sélectionner un(e) employé(e)!"});
+        Refuse(T("You must first select an employee!", "Vous devez d'abord sélectionner un(e) employé(e)!"));
     else if (SessionState.CurrentSelection == "ADMIN")
-        Refuse({"The system administrator is not considered as an employee! You can only enter / submit attendance "
-                "records for employees within your organization.",
-                "L'administrateur du système, n'est pas considéré comme un employé! Vous ne pouvez enregistrer ou "
-                "soumettre des absences que pour les employés de votre entreprise."});
+        Refuse(T("The system administrator is not considered as an employee! You can only enter / submit attendance "
+                 "records for employees within your organization.",
+                 "L'administrateur du système, n'est pas considéré comme un employé! Vous ne pouvez enregistrer ou "
+                 "soumettre des absences que pour les employés de votre entreprise."));
     else
         return true;
     return false;
@@ -281,29 +278,30 @@ void CalendarTools::EnterMarkedDates()
     DateList dates = SessionState.MarkedDates;
     std::sort(dates.begin(), dates.end());
     if (dates.isEmpty())
-        return Refuse({"You must first select date(s) from the calendar!",
-                       "Vous devez d'abord sélectionner une ou plusieurs dates à l'intérieur du calendrier!"});
+        return Refuse(T("You must first select date(s) from the calendar!",
+                        "Vous devez d'abord sélectionner une ou plusieurs dates à l'intérieur du calendrier!"));
     Enter(dates);
 }
 
+/// A click on a date means nothing to this tool: it is not left in use, whatever fails.
 void CalendarTools::EnterPeriod()
 {
+    const auto end = qScopeGuard([this] { Abort(); });
     const DateList dates = host_.ShowSelectDates();
-    if (dates.isEmpty())
-        return End();
-    Enter(dates);
+    if (!dates.isEmpty())
+        Enter(dates);
 }
 
-/// Opens the entry form for what was picked, and ends the tool.
+/// Opens the entry form for what was picked, and ends the tool, also when the form cannot be opened.
 void CalendarTools::Enter(const DateList& dates, int recordToModify)
 {
+    const auto end = qScopeGuard([this] { End(); });
     Session& s = SessionState;
     s.AttendanceDates = dates;
     s.CreatingMultiple = tool_->Finish != nullptr;
     host_.ShowHint({});
     host_.ShowAttendance(
         {s, tool_->Kind, dates, s.SelectedCategoryID, recordToModify, s.EmployeeLocked, conflictsAccepted_});
-    End();
 }
 
 bool CalendarTools::MayChangeOwnRecords(const Text& refusal) const
@@ -317,16 +315,16 @@ bool CalendarTools::MayChangeOwnRecords(const Text& refusal) const
 /// The record of the shown employee and category on a date; the user chooses among several. 0: none.
 int CalendarTools::RecordOnDate(int date, bool pending)
 {
-    std::vector<std::pair<QString, int>> lines;
+    QVector<ListEntry> lines;
     const Connection connection(host_.Data());
     for (const auto& record : Where<AttendanceRow>(
              host_.Data(),
              "RecordDate = ? AND EmployeeID = ? AND CategoryID = ? AND Submitted = ? AND CancelledDate = 0", date,
              SessionState.EmployeeID, SessionState.SelectedCategoryID, pending ? 1 : 0))
-        lines.emplace_back(RecordLine(record), record.RecordID);
-    if (lines.empty())
+        lines.append({RecordLine(record), record.RecordID});
+    if (lines.isEmpty())
         return 0;
-    return lines.size() == 1 ? lines.front().second : host_.SelectAttendanceRecord(lines);
+    return lines.size() == 1 ? lines.first().RecordID : host_.SelectAttendanceRecord(lines);
 }
 
 void CalendarTools::SelectRecordToModify(int date)
@@ -356,9 +354,9 @@ void CalendarTools::SelectRecordsToCancel(int date)
 void CalendarTools::imgRemove_Click()
 {
     if (markedRecords_.empty())
-        return Refuse({"You must first select record(s) to be cancelled from the calendar!",
-                       "Vous devez d'abord sélectionner les enregistrements à être supprimés à l'intérieur du "
-                       "calendrier!"});
+        return Refuse(T("You must first select record(s) to be cancelled from the calendar!",
+                        "Vous devez d'abord sélectionner les enregistrements à être supprimés à l'intérieur du "
+                        "calendrier!"));
     QVector<int> records;
     for (const auto& [date, record] : markedRecords_)
         records << record;

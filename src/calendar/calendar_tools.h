@@ -2,6 +2,7 @@
 
 #include "attendance/attendance_entry.h"
 #include "calendar/year_calendar.h"
+#include "foundation/list_entry.h"
 #include "foundation/texts.h"
 
 #include <utility>
@@ -29,7 +30,7 @@ public:
     /// Lets the user choose dates of a period; none when he leaves.
     virtual DateList ShowSelectDates() = 0;
     /// The chosen record among several, 0 none.
-    virtual int SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines) = 0;
+    virtual int SelectAttendanceRecord(const QVector<ListEntry>& lines) = 0;
     virtual void RemoveMarkedRecords(const QVector<int>& records) = 0;
     /// Shows the records of the session's selection anew.
     virtual void ReloadSelection() = 0;

@@ -84,6 +84,7 @@ void frmMain::ConnectControls()
 void frmMain::Form_Load()
 {
     SessionState.ShowApproved = true;
+    const Connection connection(datAbsence);
     Busy = true;
     LoadCaptions();
     LoadAdministratorInfo(datAbsence);
@@ -126,12 +127,13 @@ void frmMain::RecalculateTimeBank()
     if (SessionState.EmployeeOrganizationID == 0)
         return header_->ShowTimeBank({});
     const Connection connection(datAbsence);
-    header_->ShowTimeBank(DurationText(TimeBankOfSelection(datAbsence)));
+    header_->ShowTimeBank(DurationText(TimeBankOf(datAbsence, SessionState)));
 }
 
 void frmMain::ReloadCalendar()
 {
     const BusyPointer hourglass;
+    const Connection connection(datAbsence);
     pane_->Cover();
     RecalculateTimeBank();
     LoadDates();
@@ -155,6 +157,7 @@ void frmMain::SelectCategory(int categoryID)
 
 void frmMain::ReloadSelection()
 {
+    const Connection connection(datAbsence);
     header_->LoadCategories(datAbsence);
     legend_->LoadLegend(datAbsence);
     LoadEmployeeInfo(datAbsence);
@@ -198,8 +201,7 @@ bool frmMain::LogIn(int year, const QString& name)
     const int user = SessionState.UserID;
     frmLogin login(year, name, this);
     ShowModal(login);
-    const bool LogInCancelled = SessionState.UserID == user;
-    return !LogInCancelled;
+    return SessionState.UserID != user;
 }
 
 void frmMain::cmdQuit_Click()

@@ -37,8 +37,7 @@ public:
     // What the commands do.
     void cmdQuit_Click();
     void mnuFileDatabaseLocation_Click();
-    void mnuSpecialDisplayApproved_Click();
-    void mnuSpecialDisplayPending_Click();
+    void DisplayRecords(bool approved); ///< or the pending ones
     void mnuSpecialSwitchLanguage_Click();
     void mnuSpecialUpdateAdminInfo_Click();
     void imgUpdateSelection_Click();
@@ -73,6 +72,7 @@ private:
     void ActivateAllowedControls();
     void DeactivateAllControls(const QString& usableTool = {});
 
+    void LookWhetherYearWasClosed();
     void RunMinuteWork();
 
     DataControl& Data() override { return datAbsence; }
@@ -83,7 +83,7 @@ private:
     void RefreshDate(int date) override;
     void ShowAttendance(const AttendanceJob& job) override;
     DateList ShowSelectDates() override;
-    int SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines) override;
+    int SelectAttendanceRecord(const QVector<ListEntry>& lines) override;
     void RemoveMarkedRecords(const QVector<int>& records) override;
     void ReloadSelection() override;
     void DisplayDailyAttendance(int date) override;

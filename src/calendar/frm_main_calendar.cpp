@@ -58,7 +58,7 @@ void CalendarPane::BuildGrid()
     flxCalendar->viewport()->installEventFilter(this);
     connect(flxCalendar, &FlexGrid::CellClicked, this, [this](int row, int col) {
         const int date = shown_ ? shown_->StoredDate(row, col) : 0;
-        if (date != 0 && DateClicked)
+        if (date != 0)
             DateClicked(date);
     });
     connect(flxCalendar, &FlexGrid::CellEntered, this, [this](int, int) { HideRecords(); });

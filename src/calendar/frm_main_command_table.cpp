@@ -7,8 +7,6 @@
 #include "platform/controls/form_kit.h"
 #include "reference/frm_unit.h"
 
-#include <algorithm>
-
 namespace
 {
 using P = SecurityProfile;
@@ -240,10 +238,10 @@ List SpecialMenu()
         {
             CheckedWhen(ShowsApproved, Entry("mnuSpecialDisplayApproved",
                                              {"Display &approved records", "&Afficher les absences approuvées"},
-                                             Everybody(), &frmMain::mnuSpecialDisplayApproved_Click)),
+                                             Everybody(), [](frmMain& main) { main.DisplayRecords(true); })),
             CheckedWhen(ShowsPending, Entry("mnuSpecialDisplayPending",
                                             {"Display &pending requests", "Afficher les &demandes non traitées"},
-                                            When(HasFileBackEnd), &frmMain::mnuSpecialDisplayPending_Click)),
+                                            When(HasFileBackEnd), [](frmMain& main) { main.DisplayRecords(false); })),
             Below(Entry("mnuSpecialSwitchLanguage", {"&Français", "En&glish"}, Everybody(),
                         &frmMain::mnuSpecialSwitchLanguage_Click, Qt::CTRL | Qt::Key_L)),
             Entry("mnuSpecialChangePassword", {"C&hange password...", "Changer de &mot-clé..."}, Everybody(),
@@ -355,11 +353,4 @@ std::vector<const Command*> CommandsIn(Place place)
         if (command.In == place)
             found.push_back(&command);
     return found;
-}
-
-bool IsAllowed(const QString& name)
-{
-    const auto found = std::find_if(Commands().begin(), Commands().end(),
-                                    [&name](const Command& command) { return command.Name == name; });
-    return found != Commands().end() && found->Allowed.Holds();
 }

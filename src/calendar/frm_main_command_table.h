@@ -41,6 +41,3 @@ struct Command
 /// All of them: those of a place in the order in which they stand there, a menu before its entries.
 const std::vector<Command>& Commands();
 std::vector<const Command*> CommandsIn(Place place);
-
-/// Whether the session's user may use a command now. Nobody may use one that does not exist.
-bool IsAllowed(const QString& name);

@@ -47,16 +47,9 @@ void frmMain::mnuFileDatabaseLocation_Click()
              "\r\n\r\n" + SessionState.DatabasePath);
 }
 
-void frmMain::mnuSpecialDisplayApproved_Click()
+void frmMain::DisplayRecords(bool approved)
 {
-    SessionState.ShowApproved = true;
-    ActivateAllowedControls();
-    ReloadCalendar();
-}
-
-void frmMain::mnuSpecialDisplayPending_Click()
-{
-    SessionState.ShowApproved = false;
+    SessionState.ShowApproved = approved;
     ActivateAllowedControls();
     ReloadCalendar();
 }
@@ -142,10 +135,11 @@ DateList frmMain::ShowSelectDates()
     return form.Dates();
 }
 
-int frmMain::SelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines)
+int frmMain::SelectAttendanceRecord(const QVector<ListEntry>& lines)
 {
     frmSelectAttendanceRecord form(lines, this);
-    return ShowModal(form) == QDialog::Accepted ? form.SelectedRecordID() : 0;
+    ShowModal(form);
+    return form.SelectedRecordID();
 }
 
 void frmMain::RemoveMarkedRecords(const QVector<int>& /*records*/)
@@ -174,9 +168,20 @@ void frmMain::timAbsence_Timer()
         ReloadCalendar();
         pane_->ResizeScreen();
         timAbsence->setInterval(kMinute);
+    } else {
+        LookWhetherYearWasClosed();
     }
     RunMinuteWork();
     ActivateAllowedControls();
+}
+
+void frmMain::LookWhetherYearWasClosed()
+{
+    try {
+        RereadClosing(datAbsence);
+    } catch (const RuntimeError&) {
+        // The next minute looks again; who does nothing must not lose what he has typed because a share was away.
+    }
 }
 
 /// A step that fails is told; it must not keep the window locked.

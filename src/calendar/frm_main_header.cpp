@@ -85,7 +85,7 @@ void MainHeader::LoadCategories(DataControl& datAbsence)
                            {"Sick", s.SickName, s.SickID},
                            {"Personal time", s.PersonalName, s.PersonalID},
                            {"Doctor appointments", s.DoctorName, s.DoctorID}};
-    for (const CategoryItem& category : LoadCategoryItems(datAbsence)) {
+    for (const CategoryItem& category : LoadCategoryItems(datAbsence, s.EmployeeDepartmentID)) {
         cboCategories->addItem(category.Name, category.RecordID);
         for (const Noted& system : noted)
             if (category.SystemName == QLatin1String(system.SystemName)) {

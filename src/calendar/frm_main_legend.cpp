@@ -46,7 +46,7 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
         label->setFlat(true);
         label->setCursor(Qt::PointingHandCursor);
         label->hide();
-        connect(label, &QPushButton::clicked, this, [this, index] { lblLegend_Click(index); });
+        connect(label, &QPushButton::clicked, this, [this, index] { CategoryClicked(categories_[index]); });
         labels->addWidget(label);
         lblLegend.push_back(label);
     }
@@ -87,12 +87,6 @@ void LegendPane::LoadLegend(DataControl& datAbsence)
 void LegendPane::SetUsable(bool usable)
 {
     row_->setEnabled(usable);
-}
-
-void LegendPane::lblLegend_Click(int index)
-{
-    if (CategoryClicked)
-        CategoryClicked(categories_[index]);
 }
 
 int LegendPane::RoomBeyond() const

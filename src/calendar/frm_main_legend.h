@@ -28,7 +28,6 @@ protected:
 private:
     static constexpr int kMostLabels = 50;
 
-    void lblLegend_Click(int index);
     void Shift(int direction);
     void EnableShifting();
     int RoomBeyond() const;

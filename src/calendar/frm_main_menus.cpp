@@ -18,7 +18,7 @@ MainMenus::MainMenus(QMenuBar* bar, const Run& run)
             menus[command->Name] = parent ? parent->addMenu(QString()) : bar->addMenu(QString());
         QAction* action = command->IsMenu ? menus[command->Name]->menuAction() : parent->addAction(QString());
         action->setObjectName(command->Name);
-        FollowLanguage(action, [action, command] { action->setText(T(command->Caption)); });
+        SetCaption(action, command->Caption);
         action->setShortcut(command->Shortcut);
         action->setCheckable(command->Checked);
         if (!command->IsMenu)

@@ -50,10 +50,8 @@ void Program::Activate()
 
 void Program::ShowSetUpWizard()
 {
-    bool configured = false;
-    frmSetUpWizard wizard([&configured] { configured = true; });
-    ShowModal(wizard);
-    if (configured)
+    frmSetUpWizard wizard;
+    if (ShowModal(wizard) == QDialog::Accepted)
         QTimer::singleShot(0, qApp, [this] { Start(); });
 }
 

@@ -60,14 +60,14 @@ QString Listed(const Recordset& employee)
 }
 } // namespace
 
-QVector<Approver> LoadApprovedBy(DataControl& datAbsence, const EmployeeRecord& record)
+QVector<ListEntry> LoadApprovedBy(DataControl& datAbsence, const EmployeeRecord& record)
 {
     const Connection connection(datAbsence);
-    QVector<Approver> approvers;
+    QVector<ListEntry> approvers;
     for (const Block& block : BlocksOf(record))
         for (const Recordset& employee :
              datAbsence.Select(WholeStatement(block), block.UnitID, SessionState.FiscalYearID, record.RecordID))
-            approvers.append({employee.Long("RecordID"), Listed(employee)});
+            approvers.append({Listed(employee), employee.Long("RecordID")});
     return approvers;
 }
 

@@ -64,12 +64,12 @@ void TakeWeek(const EmployeeRow& source, EmployeeRecord& record)
 }
 } // namespace
 
-QVector<CloneSource> LoadCloneSources(DataControl& datAbsence)
+QVector<ListEntry> LoadCloneSources(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
-    QVector<CloneSource> sources;
+    QVector<ListEntry> sources;
     for (const Recordset& row : SelectInReach(datAbsence))
-        sources.append({row.Long("RecordID"), SourceListed(row)});
+        sources.append({SourceListed(row), row.Long("RecordID")});
     return sources;
 }
 

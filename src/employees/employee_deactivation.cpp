@@ -2,6 +2,7 @@
 
 #include "employees/employee_entitlements.h"
 #include "foundation/employee_row.h"
+#include "foundation/session_rows.h"
 #include "foundation/session_state.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
@@ -9,11 +10,11 @@
 
 namespace
 {
-Settings<EmployeeRow> Deactivation(const QString& reason)
+Settings<EmployeeRow> Deactivation(QString reason)
 {
     return {{&EmployeeRow::DeactivatedDate, Today()},
             {&EmployeeRow::DeactivatedBy, UserStamp()},
-            {&EmployeeRow::ReasonForDeactivation, reason}};
+            {&EmployeeRow::ReasonForDeactivation, reason.replace('\'', '`')}};
 }
 
 /// Only one year forward is reached, and a failure is ignored.
@@ -30,16 +31,11 @@ void DeactivateNextYear(DataControl& datAbsence, int employee, const QString& re
 
 void DeactivateEmployee(DataControl& datAbsence, int employee, const QString& reason)
 {
-    InTransaction(datAbsence, [&] {
+    InOpenYear(datAbsence, [&] {
         CopyToAuditTwin(datAbsence, kTable<EmployeeRow>, employee);
         Set(datAbsence, employee, Deactivation(reason));
         DeactivateNextYear(datAbsence, employee, reason);
         DeactivateEntitlements(datAbsence, employee);
         EmployeesListToBeReloaded(datAbsence);
     });
-}
-
-QString StoredReason(QString reason)
-{
-    return reason.replace('\'', '`');
 }

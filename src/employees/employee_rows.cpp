@@ -52,20 +52,20 @@ EmployeeRow WrittenRow(const EmployeeRecord& record)
     row.Username = record.LoginID.left(kUsernameWidth);
     if (!record.NewPassword.isEmpty())
         row.Password = record.NewPassword;
-    CompleteLoadedRights(row);
     for (const RightColumn& right : kRights)
         row.*right.Member = row.*right.Member == 1 ? 1 : 0;
+    row.SelfLevelRead = 1;
+    row.AccessToOrganizationsModule = 0; // has no box
     return row;
 }
 } // namespace
 
-void CountEmployees(DataControl& datAbsence, int& count)
+int CountEmployees(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
-    datAbsence
-        .Select("SELECT COUNT(RecordID) AS Empl FROM Employees WHERE DeactivatedDate = 0 AND FiscalYear = ?",
-                SessionState.FiscalYearID)
-        .Take("Empl", count);
+    return datAbsence.Scalar<int>(
+        "SELECT COUNT(RecordID) AS Empl FROM Employees WHERE DeactivatedDate = 0 AND FiscalYear = ?",
+        SessionState.FiscalYearID);
 }
 
 bool LoadEmployeeRecord_ACCESS(DataControl& datAbsence, EmployeeRecord& record)
@@ -88,20 +88,6 @@ bool LoadEmployeeRecord_ACCESS(DataControl& datAbsence, EmployeeRecord& record)
     return true;
 }
 
-bool LoadEmployeeRecord_SQL()
-{
-    TellAlreadyInactive();
-    return false;
-}
-
-void TellAlreadyInactive()
-{
-    Tell(T("UNABLE TO PROCEED:", "CETTE OPÉRATION NE PEUT ÊTRE COMPLÉTÉE:"),
-         T("The selected employee record is already inactive!",
-           "L'employé(e) que vous venez de sélectionner est déjà inactif(ve)!"),
-         Face::Warning);
-}
-
 bool IsLoginIDTaken(DataControl& datAbsence, const EmployeeRecord& record)
 {
     const QString name = record.LoginID.trimmed().toUpper();
@@ -117,16 +103,15 @@ bool HasNamesake(DataControl& datAbsence, const EmployeeRecord& record, bool mod
     const int self = modifying ? record.RecordID : 0;
     return datAbsence.Read(
         "SELECT RecordID FROM Employees WHERE FamilyName = ? AND FirstName = ? AND FiscalYear = ? AND "
-        "OrganizationID = ? AND DeactivatedDate = 0 AND (? = 0 OR DepartmentID = ?) AND "
-        "RecordID <> ?",
+        "OrganizationID = ? AND DeactivatedDate = 0 AND (? = 0 OR DepartmentID = ?) AND RecordID <> ?",
         record.FamilyName, record.FirstName, SessionState.FiscalYearID, record.OrganizationID, record.DepartmentID,
         record.DepartmentID, self);
 }
 
-EntitlementReminders AddEmployee(DataControl& datAbsence, const EmployeeRecord& record)
+QStringList AddEmployee(DataControl& datAbsence, const EmployeeRecord& record)
 {
-    EntitlementReminders reminders;
-    InTransaction(datAbsence, [&] {
+    QStringList reminders;
+    InOpenYear(datAbsence, [&] {
         EmployeeRow row = WrittenRow(record);
         row.FiscalYear = SessionState.FiscalYearID;
         reminders = CreateEntitlements(datAbsence, record, Add(datAbsence, row));
@@ -137,14 +122,13 @@ EntitlementReminders AddEmployee(DataControl& datAbsence, const EmployeeRecord& 
 
 void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record)
 {
-    InTransaction(datAbsence, [&] {
-        const auto standing = Standing<EmployeeRow>(datAbsence, record.RecordID);
+    InOpenYear(datAbsence, [&] {
         EmployeeRow row = WrittenRow(record);
         for (const auto kept : kKept)
-            row.*kept = standing.*kept;
-        row.Title = standing.Title;
-        row.LoggedIn = standing.LoggedIn;
-        Change(datAbsence, standing, row);
+            row.*kept = record.Loaded.*kept;
+        row.Title = record.Loaded.Title;
+        row.LoggedIn = record.Loaded.LoggedIn;
+        Change(datAbsence, record.Loaded, row);
         EmployeesListToBeReloaded(datAbsence);
     });
 }

@@ -5,16 +5,12 @@
 
 #include <QStringList>
 
-/// The number of active employees of the session's year; `count` is unchanged when it cannot be read.
-void CountEmployees(DataControl& datAbsence, int& count);
+/// The number of active employees of the session's year.
+int CountEmployees(DataControl& datAbsence);
 
 /// Fills the record from the row `record.RecordID`; all else that the record held is forgotten. Fields that are NULL
 /// stay empty. False, and an empty record, when there is no such row.
 bool LoadEmployeeRecord_ACCESS(DataControl& datAbsence, EmployeeRecord& record);
-/// The server back end reads nothing: says that the employee is inactive, and returns false.
-bool LoadEmployeeRecord_SQL();
-/// Says that the employee selected is inactive already.
-void TellAlreadyInactive();
 
 /// Another employee of the year logs in by that name, or it is the administrator's. Letter case does not count.
 bool IsLoginIDTaken(DataControl& datAbsence, const EmployeeRecord& record);
@@ -22,13 +18,10 @@ bool IsLoginIDTaken(DataControl& datAbsence, const EmployeeRecord& record);
 /// `modifying`: the employee himself does not count.
 bool HasNamesake(DataControl& datAbsence, const EmployeeRecord& record, bool modifying);
 
-/// What a new employee sets off in the year's list of entitlements: names of the categories that still need an annual
-/// entitlement, in the user's language.
-using EntitlementReminders = QStringList;
-
-/// Writes a new employee with his entitlements, and flags the list of employees. Throws RuntimeError when something
-/// cannot be written; nothing is written then.
-EntitlementReminders AddEmployee(DataControl& datAbsence, const EmployeeRecord& record);
-/// Stores the row as it stands in the modifications log, changes it, and flags the list of employees. Throws
-/// RuntimeError; nothing is written then.
+/// Writes a new employee with his entitlements, and flags the list of employees. Returns the names, in the user's
+/// language, of the categories that still need an annual entitlement. Throws RuntimeError when something cannot be
+/// written; nothing is written then.
+QStringList AddEmployee(DataControl& datAbsence, const EmployeeRecord& record);
+/// Stores the row as it stands in the modifications log, changes the columns that differ from the row loaded, and flags
+/// the list of employees. Throws RuntimeError; nothing is written then.
 void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record);

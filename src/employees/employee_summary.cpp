@@ -2,7 +2,6 @@
 
 #include "employees/security_profile_rules.h"
 #include "employees/work_schedule_rules.h"
-#include "foundation/common_services.h"
 #include "foundation/texts.h"
 
 #include <QStringList>
@@ -75,9 +74,4 @@ QString EmployeeSummary(const EmployeeRecord& record, const UnitNames& units, bo
            UnitLine(T("Group:      ", "Groupe:      "), units.Group) + ScheduleBlock(record) + "\r\n" +
            T("Username and password:", "Nom d'usager/mot-clé:") + "\t" + record.LoginID + ", " + record.NewPassword +
            "\r\n" + ProfileBlock(record);
-}
-
-bool ApproveRecord(const EmployeeRecord& record, const UnitNames& units, bool modifying)
-{
-    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), EmployeeSummary(record, units, modifying));
 }

@@ -15,6 +15,3 @@ QString WithName(const QString& text, const EmployeeRecord& record);
 
 /// What the final confirmation shows of a record.
 QString EmployeeSummary(const EmployeeRecord& record, const UnitNames& units, bool modifying);
-
-/// Shows the summary and asks for the final confirmation. True for Yes.
-bool ApproveRecord(const EmployeeRecord& record, const UnitNames& units, bool modifying);

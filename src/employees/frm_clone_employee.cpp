@@ -13,8 +13,7 @@ frmCloneEmployee::frmCloneEmployee(EmployeeRecord& record, QWidget* parent)
                                        "et les droits sont repris"},
                                       lstCloneEmployees)),
                       1);
-    for (const CloneSource& source : LoadCloneSources(datAbsence))
-        AddEntry(lstCloneEmployees, source.Listed, source.RecordID);
+    AddEntries(lstCloneEmployees, LoadCloneSources(datAbsence));
     connect(lstCloneEmployees, &QListWidget::itemDoubleClicked, this, &frmCloneEmployee::cmdCloneEmployee_Click);
     LayFoot({AddWayOut({"Create &new employee without template", "Créer un &nouveau dossier sans modèle"},
                        "cmdNewEmployee"),

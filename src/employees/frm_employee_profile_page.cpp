@@ -75,8 +75,6 @@ QWidget* EmployeeProfilePage::LogInCard()
     for (QLineEdit* field : {txtUserName, txtPassword})
         connect(field, &QLineEdit::editingFinished, this, &EmployeeProfilePage::Normalise);
     auto& [first, second] = approvers_;
-    first.Approver = &EmployeeRecord::ApprovedByMain;
-    second.Approver = &EmployeeRecord::ApprovedByBackup;
     QWidget* firstLevel = Approvers(first, "cboApprovedBy_FirstLevel", "cmdGetApprover1FromList");
     QWidget* secondLevel = Approvers(second, "cboApprovedBy_SecondLevel", "cmdGetApprover2FromList");
 
@@ -131,8 +129,7 @@ QWidget* EmployeeProfilePage::MatrixCard(RightBoxes& boxes)
 
 QWidget* EmployeeProfilePage::SingleRightsCard(RightBoxes& boxes)
 {
-    auto* rights = new QVBoxLayout;
-    rights->setSpacing(kRightsGap);
+    auto* rights = Stack(kRightsGap);
     for (std::size_t i = 0; i < kSingleRightBoxes.size(); ++i)
         rights->addWidget(boxes.Make(kSingleRightBoxes[i], kSingleCaptions[i]));
     return MakeCard(rights);
@@ -168,26 +165,21 @@ void EmployeeProfilePage::SetEntryEnabled(bool enabled)
     }
 }
 
-void EmployeeProfilePage::OfferApprovers(const QVector<Approver>& approvers)
+void EmployeeProfilePage::OfferApprovers(const QVector<ListEntry>& approvers)
 {
     for (const ApproverField& field : approvers_) {
         field.List->clear();
-        for (const Approver& approver : approvers)
-            field.List->addItem(approver.Listed, approver.RecordID);
+        for (const ListEntry& approver : approvers)
+            field.List->addItem(approver.Text, approver.RecordID);
         ShowText(field.List, QString());
     }
-}
-
-void EmployeeProfilePage::ClearApprovers()
-{
-    OfferApprovers({});
 }
 
 void EmployeeProfilePage::LoadApprovers(DataControl& datAbsence, bool wherever)
 {
     const LoadingGuard loading(Loading);
     OfferApprovers(LoadApprovedBy(datAbsence, record_));
-    for (const auto& [list, button, member] : approvers_) {
+    for (const auto& [member, list, button] : approvers_) {
         const int approver = record_.*member;
         const int index = approver == 0 ? -1 : list->findData(approver);
         if (index >= 0)
@@ -220,7 +212,7 @@ void EmployeeProfilePage::CheckSecondLevel()
 
 void EmployeeProfilePage::RefuseSecondLevel(const Text& reason)
 {
-    Tell(T("ERROR:", "ERREUR:"), T(reason), Face::Warning);
+    Refuse(T(reason));
     ShowText(approvers_[1].List, QString());
     record_.ApprovedByBackup = 0;
 }

@@ -22,16 +22,16 @@ public:
     /// Both lists offer those who may approve for the record's unit, and show its approvers. One whom the unit does not
     /// offer is shown only when he is looked for `wherever` he works.
     void LoadApprovers(DataControl& datAbsence, bool wherever);
-    void ClearApprovers();
+    void ClearApprovers() { OfferApprovers({}); }
     bool HasApprovers() const { return approvers_[0].List->count() > 0; }
 
 private:
     /// A level of approval.
     struct ApproverField
     {
+        int EmployeeRecord::*Approver;
         QComboBox* List = nullptr;
         QPushButton* FromList = nullptr;
-        int EmployeeRecord::*Approver = nullptr;
     };
 
     QWidget* LogInCard();
@@ -39,7 +39,7 @@ private:
     QWidget* MatrixCard(RightBoxes& boxes);
     QWidget* SingleRightsCard(RightBoxes& boxes);
     void Normalise();
-    void OfferApprovers(const QVector<Approver>& approvers);
+    void OfferApprovers(const QVector<ListEntry>& approvers);
     void cboApprovedBy_Click(const ApproverField& field);
     void CheckSecondLevel();
     void RefuseSecondLevel(const Text& reason);
@@ -51,5 +51,5 @@ private:
     const std::function<QString()> employeeName_;
     QLineEdit* txtUserName;
     QLineEdit* txtPassword;
-    std::array<ApproverField, 2> approvers_; ///< first and second level
+    std::array<ApproverField, 2> approvers_{{{&EmployeeRecord::ApprovedByMain}, {&EmployeeRecord::ApprovedByBackup}}};
 };

@@ -80,8 +80,8 @@ EmployeeSchedulePage::EmployeeSchedulePage(EmployeeRecord& record, bool& loading
 {
     setObjectName(kScheduleTab);
     chkIrregularHours =
-        MakeCheckBox("chkIrregularHours", {"This employee works &irregular hours",
-                                           "Cet(te) employé(e) travaille selon un horaire &irrégulier"});
+        MakeButton<QCheckBox>("chkIrregularHours", {"This employee works &irregular hours",
+                                                    "Cet(te) employé(e) travaille selon un horaire &irrégulier"});
     connect(chkIrregularHours, &QCheckBox::clicked, this, &EmployeeSchedulePage::chkIrregularHours_Click);
 
     auto* content = new QVBoxLayout;
@@ -126,12 +126,12 @@ void EmployeeSchedulePage::AddDay(QGridLayout* week, int day)
     lblWeekday->setText(WeekdayName(day));
     week->addWidget(lblWeekday, day + kFirstDayRow, 0);
     for (std::size_t time = 0; time < kDayTimes.size(); ++time)
-        Place(week, cboTimes[time][day] = TimeList(kDayTimes[time], day), day, kTimeColumns[time]);
+        Place(week, cboTimes[time][day] = MakeTimeList(kDayTimes[time], day), day, kTimeColumns[time]);
     Place(week, txtTotalHours[day] = TotalField("txtTotalHours", day), day, kTotalColumns[0]);
     Place(week, txtTotalMinutes[day] = TotalField("txtTotalMinutes", day), day, kTotalColumns[1]);
 }
 
-QComboBox* EmployeeSchedulePage::TimeList(const ClockTimeInfo& info, int day)
+QComboBox* EmployeeSchedulePage::MakeTimeList(const ClockTimeInfo& info, int day)
 {
     QComboBox* list = EntryCombo(ArrayName(info.Control, day), kTimeCharacters);
     const ClockTime time = info.Time;
@@ -177,7 +177,7 @@ void EmployeeSchedulePage::ShowDay(int day)
 {
     const LoadingGuard loading(Loading);
     for (const ClockTimeInfo& time : kDayTimes)
-        ShowText(TimeList(time.Time, day), ClockText(record_, time.Time, day));
+        ShowText(TimeList(time.Time, day), ClockText((record_.*time.Member)[day]));
     ShowText(txtTotalHours[day], record_.TotalHours[day]);
     ShowText(txtTotalMinutes[day], record_.TotalMinutes[day]);
 }

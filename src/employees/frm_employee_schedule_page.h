@@ -23,7 +23,7 @@ private:
 
     QGridLayout* Week();
     void AddDay(QGridLayout* week, int day);
-    QComboBox* TimeList(const ClockTimeInfo& time, int day);
+    QComboBox* MakeTimeList(const ClockTimeInfo& time, int day);
     QLineEdit* TotalField(const QString& name, int day);
     QComboBox* TimeList(ClockTime time, int day) const;
     void Time_Click(ClockTime time, int day);

@@ -10,6 +10,7 @@
 #include "employees/frm_employee_schedule_page.h"
 #include "employees/frm_transfer_employees.h"
 #include "employees/hourly_rate.h"
+#include "foundation/connection.h"
 #include "foundation/forms.h"
 #include "foundation/frm_input_box.h"
 #include "reference/employees_list.h"
@@ -33,7 +34,7 @@ constexpr Text kNoDepartment = {"Before you can update your list of employees yo
                                 "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer au "
                                 "moins un département dans l'année fiscale {FiscalYearName}!"};
 
-void RemindOfEntitlements(const EntitlementReminders& categories)
+void RemindOfEntitlements(const QStringList& categories)
 {
     if (categories.isEmpty())
         return;
@@ -82,6 +83,14 @@ void TellWithoutReason(const EmployeeRecord& record)
           "Vous n'avez spécifié aucune une raison pour la désactivation de {FirstName} {Name}. L'opération est "
           "maintenant annulée.");
     Tell(T("OPERATION CANCELLED:", "OPÉRATION ANNULÉE:"), WithName(text, record));
+}
+
+void TellAlreadyInactive()
+{
+    Tell(T("UNABLE TO PROCEED:", "CETTE OPÉRATION NE PEUT ÊTRE COMPLÉTÉE:"),
+         T("The selected employee record is already inactive!",
+           "L'employé(e) que vous venez de sélectionner est déjà inactif(ve)!"),
+         Face::Warning);
 }
 
 void TellDeactivated(const EmployeeRecord& record)
@@ -155,11 +164,12 @@ void frmEmployees::Form_Activate()
 
 void frmEmployees::LoadRecords()
 {
+    const Connection connection(datAbsence);
     const LoadingGuard loading(Loading);
     for (const UnitList list : kUnitLists)
         units_[static_cast<std::size_t>(list)] = UnitsByPosition(datAbsence, list);
     general_->LoadUnits(units_);
-    CountEmployees(datAbsence, EmployeeCount);
+    EmployeeCount = CountEmployees(datAbsence);
 }
 
 /// A list with one unit has it selected, with the units above it. The user's own units are always the form's.
@@ -172,11 +182,11 @@ void frmEmployees::SelectStartingUnits()
         }
     if (units_[2].size() == 1)
         record_.GroupID = units_[2].first().RecordID;
-    for (const auto& [own, unit] : {std::pair(SessionState.UserOrganizationID, &EmployeeRecord::OrganizationID),
-                                    std::pair(SessionState.UserDepartmentID, &EmployeeRecord::DepartmentID),
-                                    std::pair(SessionState.UserGroupID, &EmployeeRecord::GroupID)})
-        if (own != 0)
-            record_.*unit = own;
+    for (const auto& [level, unit] : {std::pair(&kOrganizationLevel, &EmployeeRecord::OrganizationID),
+                                      {&kDepartmentLevel, &EmployeeRecord::DepartmentID},
+                                      {&kGroupLevel, &EmployeeRecord::GroupID}})
+        if (level->Unit() != 0)
+            record_.*unit = level->Unit();
     Show(record_);
 }
 
@@ -188,10 +198,9 @@ void frmEmployees::EnableControls()
     profile_->SetEntryEnabled(entering);
     boxes_.SetEnabled(entering, Mode() == EditingMode::Modifying);
     // A new employee may stand in any unit below the user's own.
-    const int own[] = {SessionState.UserOrganizationID, SessionState.UserDepartmentID, SessionState.UserGroupID};
     bool below = Mode() == EditingMode::Adding;
     for (std::size_t list = kUnitLists.size(); list-- > 0;) {
-        below = below && own[list] == 0;
+        below = below && kLevelTable[list + 1].Unit() == 0;
         general_->lstUnits[list]->setEnabled(below);
     }
 }
@@ -286,8 +295,6 @@ void frmEmployees::OfferTemplate()
     if (EmployeeCount >= 1) {
         frmCloneEmployee form(record_, this);
         ShowModal(form);
-        CompleteLoadedRights(record_);
-        ShowDayLengths(record_);
         Show(record_);
     }
     if (record_.OrganizationID != 0)
@@ -303,15 +310,16 @@ bool frmEmployees::SelectEmployee()
     return record_.RecordID > 0;
 }
 
-/// False when there is nothing to work on; the user has been told.
+/// False when there is nothing to work on; the user has been told. The server reads nobody, and nobody counts as
+/// active.
 bool frmEmployees::LoadEmployeeRecord()
 {
-    if (SessionState.SQL_Server)
-        return LoadEmployeeRecord_SQL();
-    if (!LoadEmployeeRecord_ACCESS(datAbsence, record_))
+    const bool server = SessionState.SQL_Server;
+    const Connection connection(datAbsence);
+    if (!server && !LoadEmployeeRecord_ACCESS(datAbsence, record_))
         return false;
     const bool active = record_.DeactivatedDate == 0;
-    if (Mode() == EditingMode::Deactivating && !active) {
+    if (server || (Mode() == EditingMode::Deactivating && !active)) {
         TellAlreadyInactive();
         return false;
     }
@@ -349,8 +357,8 @@ bool frmEmployees::Confirm(EditingMode mode, const EmployeeRecord& record)
     if (mode == EditingMode::Deactivating)
         return ConfirmDeactivation(record);
     const auto& lists = general_->lstUnits;
-    return ApproveRecord(record, {ChosenText(lists[0]), ChosenText(lists[1]), ChosenText(lists[2])},
-                         mode == EditingMode::Modifying);
+    const UnitNames units{ChosenText(lists[0]), ChosenText(lists[1]), ChosenText(lists[2])};
+    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), EmployeeSummary(record, units, mode == EditingMode::Modifying));
 }
 
 /// Whoever does not go through with it, or gives no reason, is led out of the mode.
@@ -369,7 +377,7 @@ bool frmEmployees::ConfirmDeactivation(const EmployeeRecord& record)
 void frmEmployees::Write(EditingMode mode, const EmployeeRecord& record)
 {
     if (mode == EditingMode::Deactivating)
-        return DeactivateEmployee(datAbsence, record.RecordID, StoredReason(reason_));
+        return DeactivateEmployee(datAbsence, record.RecordID, reason_);
     if (mode == EditingMode::Adding)
         return RemindOfEntitlements(AddEmployee(datAbsence, record));
     ModifyEmployee(datAbsence, record);

@@ -2,9 +2,7 @@
 
 QCheckBox* RightBoxes::Make(const ProfileBox& box, const Text& caption)
 {
-    auto* control = Named<QCheckBox>(box.Name);
-    if (!caption.IsEmpty())
-        SetCaption(control, caption);
+    auto* control = MakeButton<QCheckBox>(box.Name, caption);
     QObject::connect(control, &QCheckBox::clicked, control,
                      [this, right = box.Member](bool checked) { changed_(right, checked); });
     boxes_.push_back({box.Member, control});

@@ -27,9 +27,7 @@ List* MakeTransferList(const QString& name)
 
 QWidget* StepCard(const QString& name, const Text& head, QLayout* lists)
 {
-    auto* content = new QVBoxLayout;
-    content->setSpacing(kListGap);
-    content->addWidget(AsHead(MakeLabel(name, head)));
+    auto* content = Stack(kListGap, {AsHead(MakeLabel(name, head))});
     content->addLayout(lists);
     return MakeCard(content);
 }
@@ -43,18 +41,18 @@ std::size_t Index(UnitList list)
 frmTransferEmployees::frmTransferEmployees(QWidget* parent) : FormBase("frmTransferEmployees", parent)
 {
     SetTitle(this, {"Employee transfers", "Transfert d'employé(e)s"});
-    auto* sides = new QHBoxLayout;
-    sides->setSpacing(12);
+    auto* sides = Beside(12);
     sides->addWidget(FromCard(), 2);
     sides->addWidget(ToCard(), 1);
     Page()->addLayout(sides, 1);
     // Neither option has an effect: what was accrued always moves along.
-    auto* optMoveWithAccruals =
-        MakeOption("optMoveWithAccruals", {"Move with accrued time", "Transférer avec le temps accumulé"});
+    auto* optMoveWithAccruals = MakeButton<QRadioButton>(
+        "optMoveWithAccruals", {"Move with accrued time", "Transférer avec le temps accumulé"});
     optMoveWithAccruals->setChecked(true);
     LayFoot(
         {optMoveWithAccruals,
-         MakeOption("optMoveWithoutAccruals", {"Move without accrued time", "Transférer sans le temps accumulé"})},
+         MakeButton<QRadioButton>("optMoveWithoutAccruals",
+                                  {"Move without accrued time", "Transférer sans le temps accumulé"})},
         {AddWayOut({"&Close", "&Fermer"}, "cmdQuit"),
          AddMainButton("cmdProcess", {"&Transfer the selected employee", "&Transfert de l'employé(e) sélectionné(e)"},
                        [this] { cmdProcess_Click(); })});
@@ -67,8 +65,7 @@ frmTransferEmployees::frmTransferEmployees(QWidget* parent) : FormBase("frmTrans
 
 QVBoxLayout* frmTransferEmployees::BuildSide(UnitLists& side, const QString& name)
 {
-    auto* lists = new QVBoxLayout;
-    lists->setSpacing(kListGap);
+    auto* lists = Stack(kListGap);
     for (std::size_t i = 0; i < side.Lists.size(); ++i) {
         side.Lists[i] = MakeTransferList<ChoiceList>("lst" + name + kUnitKinds[i].Name);
         lists->addLayout(Captioned(kUnitKinds[i].Caption, side.Lists[i]));
@@ -79,8 +76,7 @@ QVBoxLayout* frmTransferEmployees::BuildSide(UnitLists& side, const QString& nam
 QWidget* frmTransferEmployees::FromCard()
 {
     lstFromEmployee = MakeTransferList<QListWidget>("lstFromEmployee");
-    auto* lists = new QHBoxLayout;
-    lists->setSpacing(16);
+    auto* lists = Beside(16);
     lists->addLayout(BuildSide(from_, "From"));
     lists->addLayout(Captioned({"&Employees", "&Employés"}, lstFromEmployee));
     return StepCard("lblStep1",
@@ -102,7 +98,8 @@ void frmTransferEmployees::ConnectSide(UnitLists& side, const std::function<void
         side.Lists[Index(list)]->OnChoice([this, &side, list, chosen](int row) {
             if (Loading)
                 return;
-            ChooseInSide(side, list, row);
+            if (!Attempt([&] { ChooseInSide(side, list, row); }))
+                return ShowSide(side);
             chosen();
         });
 }
@@ -138,9 +135,12 @@ void frmTransferEmployees::HighlightChoice(const UnitLists& side)
         Choose(side.Lists[Index(list)], UnitOf(side.Data.Place, list));
 }
 
+/// When the lists below cannot be read, all stays as it was chosen before.
 void frmTransferEmployees::ChooseInSide(UnitLists& side, UnitList list, int row)
 {
-    ChooseUnit(datAbsence, side.Data, list, side.Data.UnitsOf(list)[row]);
+    TransferSide narrowed = side.Data;
+    ChooseUnit(datAbsence, narrowed, list, side.Data.UnitsOf(list)[row]);
+    side.Data = narrowed;
     for (const UnitList below : kUnitLists)
         if (below > list)
             FillList(side, below);
@@ -153,8 +153,7 @@ void frmTransferEmployees::LoadEmployees()
     const LoadingGuard loading(Loading);
     lstFromEmployee->clear();
     lstFromEmployee->addItem(T("(Reload all employees)", "(Réafficher tous les employés)"));
-    for (const TransferCandidate& candidate : ReloadEmployees(datAbsence, from_.Data.Place))
-        AddEntry(lstFromEmployee, candidate.Name, candidate.RecordID);
+    AddEntries(lstFromEmployee, ReloadEmployees(datAbsence, from_.Data.Place));
 }
 
 void frmTransferEmployees::lstFromEmployee_Click()
@@ -164,9 +163,19 @@ void frmTransferEmployees::lstFromEmployee_Click()
     const int employee = ChosenID(lstFromEmployee);
     if (employee == 0)
         return ShowEverybody();
+    if (!Attempt([&] { ShowPlaceOf(employee); })) {
+        const LoadingGuard loading(Loading);
+        Choose(lstFromEmployee, 0); // whose place is not known is not transferred
+    }
+}
+
+void frmTransferEmployees::ShowPlaceOf(int employee)
+{
     TransferPlace place;
     TakePlaceOfEmployee(datAbsence, employee, place);
-    ChoosePlace(datAbsence, from_.Data, place);
+    TransferSide side = from_.Data;
+    ChoosePlace(datAbsence, side, place);
+    from_.Data = side;
     ShowSide(from_);
 }
 
@@ -177,15 +186,10 @@ void frmTransferEmployees::ShowEverybody()
     LoadEmployees();
 }
 
-EmployeeTransfer frmTransferEmployees::Transfer() const
-{
-    const int employee = ChosenID(lstFromEmployee);
-    return {employee, employee != 0 ? ChosenText(lstFromEmployee) : QString(), from_.Data.Place, to_.Data.Place};
-}
-
 void frmTransferEmployees::cmdProcess_Click()
 {
-    const EmployeeTransfer transfer = Transfer();
+    const EmployeeTransfer transfer{ChosenID(lstFromEmployee), ChosenText(lstFromEmployee), from_.Data.Place,
+                                    to_.Data.Place};
     if (!ValidateTransfer(transfer) || !ConfirmTransfer(transfer, from_.Data.Lines(), to_.Data.Lines()))
         return;
     {

@@ -34,7 +34,7 @@ private:
     void LoadEmployees();
     void lstFromEmployee_Click();
     void ShowEverybody();
-    EmployeeTransfer Transfer() const;
+    void ShowPlaceOf(int employee);
     void cmdProcess_Click();
 
     UnitLists from_;

@@ -2,6 +2,7 @@
 
 #include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
+#include "foundation/session_rows.h"
 #include "foundation/session_state.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
@@ -54,7 +55,7 @@ void UpdateHourlyRate(DataControl& datAbsence, const EmployeeRecord& record, int
 {
     if (IsServerChosen()) // which works the costs out by itself, in one statement
         return SendStatement(record, effective);
-    InTransaction(datAbsence, [&] {
+    InOpenYear(datAbsence, [&] {
         for (const AttendanceRow& row :
              Where<AttendanceRow>(datAbsence, "EmployeeID = ? AND RecordDate >= ?", record.RecordID, effective))
             Set(datAbsence, row.RecordID, Costs(row, record.HourlyRateText));

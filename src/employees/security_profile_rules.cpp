@@ -12,15 +12,10 @@ bool IsOpenToAdministrator(Right box)
     return box != &P::IsAuthorizedToApprove && box != &P::SelfLevelRead;
 }
 
-bool IsHeld(Right right)
+bool IsSingleRight(Right box)
 {
-    return SessionState.*right == 1;
-}
-
-template <typename Boxes>
-bool Contains(const Boxes& boxes, Right box)
-{
-    return std::any_of(boxes.begin(), boxes.end(), [box](const ProfileBox& each) { return each.Member == box; });
+    return std::any_of(kSingleRightBoxes.begin(), kSingleRightBoxes.end(),
+                       [box](const ProfileBox& single) { return single.Member == box; });
 }
 
 std::array<ProfileBox, kKinds> BoxesOf(const Level& level)
@@ -61,16 +56,6 @@ const std::array<ProfileBox, 5> kModuleBoxes = {{
     {"chkModuleEmployees", &P::AccessToEmployeesModule},
 }};
 
-std::vector<ProfileBox> ProfileBoxes()
-{
-    std::vector<ProfileBox> boxes;
-    for (const auto& level : kLevelBoxes)
-        boxes.insert(boxes.end(), level.begin(), level.end());
-    boxes.insert(boxes.end(), kSingleRightBoxes.begin(), kSingleRightBoxes.end());
-    boxes.insert(boxes.end(), kModuleBoxes.begin(), kModuleBoxes.end());
-    return boxes;
-}
-
 void ChangeRight(SecurityProfile& profile, Right box, bool granted)
 {
     profile.*box = granted ? 1 : 0;
@@ -96,8 +81,8 @@ bool MayTick(Right box, bool modifying)
         return true;
     if (modifying && box == kGroupLevel.To(Access::Create) && kGroupLevel.IsHeld(Access::Modify))
         return true;
-    if (Contains(kSingleRightBoxes, box))
-        return IsHeld(box);
+    if (IsSingleRight(box))
+        return SessionState.*box == 1;
     // Below the global level each right opens its own box, and those to add and change that of the individual level.
     return std::any_of(&kOrganizationLevel, &kIndividualLevel, [box](const Level& level) {
         for (const Access access : {Access::Read, Access::Create, Access::Modify})
@@ -110,10 +95,8 @@ bool MayTick(Right box, bool modifying)
 
 int LevelDigit(const SecurityProfile& profile, int level)
 {
-    const auto& boxes = kLevelBoxes[static_cast<std::size_t>(level)];
-    const bool individual = level == kLevels - 1;
     for (int kind = kKinds - 1; kind >= 0; --kind)
-        if (profile.*boxes[static_cast<std::size_t>(kind)].Member == 1)
+        if (profile.*kLevelTable[level].Rights[kind] == 1)
             return kind + 1;
-    return individual ? 1 : 0;
+    return level == kLevels - 1 ? 1 : 0;
 }

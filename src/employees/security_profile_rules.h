@@ -3,7 +3,6 @@
 #include "foundation/levels.h"
 
 #include <array>
-#include <vector>
 
 /// A check box of the security profile and the right that it stands for.
 struct ProfileBox
@@ -18,9 +17,6 @@ extern const std::array<std::array<ProfileBox, kKinds>, kLevels> kLevelBoxes;
 extern const std::array<ProfileBox, 4> kSingleRightBoxes;
 extern const std::array<ProfileBox, 5> kModuleBoxes;
 
-/// All of them, in that order.
-std::vector<ProfileBox> ProfileBoxes();
-
 /// A box was checked or cleared by the user. Checking it checks what its right includes, clearing it clears what
 /// includes it: less access, and at the four upper levels the levels below. Whoever maintains categories sees the
 /// hidden ones.
@@ -34,5 +30,5 @@ void CompleteLoadedRights(SecurityProfile& profile);
 /// box more.
 bool MayTick(Right box, bool modifying);
 
-/// 0 none, 1 view, 2 add, 3 absolute at a row of kLevelBoxes; the individual level never shows 0.
+/// 0 none, 1 view, 2 add, 3 absolute at a row of kLevelTable; the individual level never shows 0.
 int LevelDigit(const SecurityProfile& profile, int level);

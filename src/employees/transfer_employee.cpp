@@ -5,6 +5,7 @@
 #include "foundation/employee_row.h"
 #include "foundation/entitlement_row.h"
 #include "foundation/names.h"
+#include "foundation/session_rows.h"
 #include "foundation/texts.h"
 #include "platform/clock.h"
 #include "reference/employees_list.h"
@@ -57,24 +58,19 @@ std::pair<QString, int> DeepestUnit(const TransferPlace& place)
         return {"DepartmentID = ?1", place.DepartmentID};
     return {"(?1 = 0 OR OrganizationID = ?1)", place.OrganizationID};
 }
-
-void TellMissing(const QString& text)
-{
-    Tell(T("ERROR:", "ERREUR:"), text, Face::Warning);
-}
 } // namespace
 
-QVector<TransferCandidate> ReloadEmployees(DataControl& datAbsence, const TransferPlace& within)
+QVector<ListEntry> ReloadEmployees(DataControl& datAbsence, const TransferPlace& within)
 {
     const Connection connection(datAbsence);
     const auto [condition, unit] = DeepestUnit(within);
-    QVector<TransferCandidate> candidates;
+    QVector<ListEntry> candidates;
     for (const Recordset& row :
          datAbsence.Select("SELECT RecordID, FamilyName, FirstName FROM Employees WHERE " + condition +
                                " AND DeactivatedDate = 0 AND FiscalYear = ?2 "
                                "ORDER BY FamilyName ASC, FirstName ASC",
                            unit, SessionState.FiscalYearID))
-        candidates.append({row.Long("RecordID"), ListedName(row)});
+        candidates.append({ListedName(row), row.Long("RecordID")});
     return candidates;
 }
 
@@ -88,11 +84,11 @@ void TakePlaceOfEmployee(DataControl& datAbsence, int employee, TransferPlace& p
 bool ValidateTransfer(const EmployeeTransfer& transfer)
 {
     if (transfer.RecordID == 0)
-        TellMissing(T("You must select the name of the employee you wish to transfer!",
-                      "Vous devez spécifier le nom de l'employé(e) que vous souhaitez transférer!"));
+        Refuse(T("You must select the name of the employee you wish to transfer!",
+                 "Vous devez spécifier le nom de l'employé(e) que vous souhaitez transférer!"));
     else if (transfer.To.OrganizationID == 0)
-        TellMissing(T("You must specify where the employee is being transferred to!",
-                      "Vous devez spécifier l'endroit où l'employé(e) sera transféré(e)!"));
+        Refuse(T("You must specify where the employee is being transferred to!",
+                 "Vous devez spécifier l'endroit où l'employé(e) sera transféré(e)!"));
     return transfer.RecordID != 0 && transfer.To.OrganizationID != 0;
 }
 
@@ -106,7 +102,7 @@ bool ConfirmTransfer(const EmployeeTransfer& transfer, const QString& fromLines,
 
 void TransferEmployee(DataControl& datAbsence, const EmployeeTransfer& transfer)
 {
-    InTransaction(datAbsence, [&] {
+    InOpenYear(datAbsence, [&] {
         Change<EmployeeRow>(datAbsence, transfer.RecordID,
                             {{&EmployeeRow::OrganizationID, transfer.To.OrganizationID},
                              {&EmployeeRow::DepartmentID, transfer.To.DepartmentID},

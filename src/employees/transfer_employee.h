@@ -1,13 +1,7 @@
 #pragma once
 
 #include "employees/transfer_place.h"
-
-/// An employee who may be transferred, as the list shows him.
-struct TransferCandidate
-{
-    int RecordID = 0;
-    QString Name; ///< "FamilyName, FirstName"
-};
+#include "foundation/list_entry.h"
 
 /// What is to be carried out.
 struct EmployeeTransfer
@@ -18,9 +12,10 @@ struct EmployeeTransfer
     TransferPlace To;
 };
 
-/// The active employees of the deepest unit chosen, or of the session's year, by name. Empty when nothing can be read.
-QVector<TransferCandidate> ReloadEmployees(DataControl& datAbsence, const TransferPlace& within);
-/// The units that an employee's row holds; `place` is unchanged when it cannot be read.
+/// The active employees of the deepest unit chosen, or of the session's year, as "FamilyName, FirstName" and in that
+/// order. Empty when nothing can be read.
+QVector<ListEntry> ReloadEmployees(DataControl& datAbsence, const TransferPlace& within);
+/// The units that an employee's row holds; `place` is unchanged when there is no such row.
 void TakePlaceOfEmployee(DataControl& datAbsence, int employee, TransferPlace& place);
 
 /// Says what is missing; true when nothing is.

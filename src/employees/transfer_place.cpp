@@ -13,48 +13,25 @@ void LoadBelow(DataControl& datAbsence, TransferSide& side, UnitList above)
             side.UnitsOf(list) = UnitsByPosition(datAbsence, list, side.Place.OrganizationID, side.Place.DepartmentID);
 }
 
-QString LabelOf(UnitList list)
-{
-    switch (list) {
-    case UnitList::Organizations:
-        return T("Organization:", "Organisation:");
-    case UnitList::Departments:
-        return T("Department:", "Département:");
-    case UnitList::Groups:
-        return T("Group:", "Groupe:");
-    }
-    return {};
-}
+/// In the order of UnitList.
+constexpr Text kUnitLabels[] = {
+    {"Organization:", "Organisation:"}, {"Department:", "Département:"}, {"Group:", "Groupe:"}};
 } // namespace
 
 int UnitOf(const TransferPlace& place, UnitList list)
 {
-    switch (list) {
-    case UnitList::Organizations:
-        return place.OrganizationID;
-    case UnitList::Departments:
-        return place.DepartmentID;
-    default:
-        return place.GroupID;
-    }
-}
-
-TransferPlace PlaceOf(const Unit& unit, UnitList list)
-{
-    return {unit.OrganizationID, unit.DepartmentID, list == UnitList::Groups ? unit.RecordID : 0};
-}
-
-Unit TransferSide::Chosen(UnitList list) const
-{
-    return FindUnit(UnitsOf(list), UnitOf(Place, list));
+    constexpr int TransferPlace::*kMembers[] = {&TransferPlace::OrganizationID, &TransferPlace::DepartmentID,
+                                                &TransferPlace::GroupID};
+    return place.*kMembers[static_cast<std::size_t>(list)];
 }
 
 QString TransferSide::Lines() const
 {
     QString lines;
     for (const UnitList list : kUnitLists)
-        if (Chosen(list).RecordID != 0)
-            lines += LabelOf(list) + "\t" + Chosen(list).Name + "\r\n";
+        for (const Unit& unit : UnitsOf(list))
+            if (unit.RecordID == UnitOf(Place, list))
+                lines += T(kUnitLabels[static_cast<std::size_t>(list)]) + "\t" + unit.Name + "\r\n";
     return lines;
 }
 
@@ -73,7 +50,7 @@ TransferSide LoadTransferSide(DataControl& datAbsence)
 void ChooseUnit(DataControl& datAbsence, TransferSide& side, UnitList list, const Unit& unit)
 {
     const Connection connection(datAbsence);
-    side.Place = PlaceOf(unit, list);
+    side.Place = {unit.OrganizationID, unit.DepartmentID, list == UnitList::Groups ? unit.RecordID : 0};
     LoadBelow(datAbsence, side, list);
 }
 

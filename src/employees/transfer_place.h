@@ -8,15 +8,10 @@ struct TransferPlace
     int OrganizationID = 0;
     int DepartmentID = 0;
     int GroupID = 0;
-
-    bool operator==(const TransferPlace&) const = default;
 };
 
 /// The unit of that kind.
 int UnitOf(const TransferPlace& place, UnitList list);
-
-/// The place of a unit: it and the units above it. Of a unit that is none, nowhere.
-TransferPlace PlaceOf(const Unit& unit, UnitList list);
 
 /// One side of the transfer: the units to choose from, and the choice. A choice narrows the lists below it and brings
 /// those above it in line.
@@ -27,15 +22,13 @@ struct TransferSide
 
     QVector<Unit>& UnitsOf(UnitList list) { return Units[static_cast<std::size_t>(list)]; }
     const QVector<Unit>& UnitsOf(UnitList list) const { return Units[static_cast<std::size_t>(list)]; }
-    /// The chosen entry of a list; a RecordID of 0 when it has none.
-    Unit Chosen(UnitList list) const;
     /// A line "Department:\tSales" for each unit chosen.
     QString Lines() const;
 };
 
 /// All units in the user's reach; his own units, and the organization when it is the only one, are chosen.
 TransferSide LoadTransferSide(DataControl& datAbsence);
-/// Chooses the entry `unit` of a list.
+/// Chooses the entry `unit` of a list, with the units above it.
 void ChooseUnit(DataControl& datAbsence, TransferSide& side, UnitList list, const Unit& unit);
 /// Chooses all three units at once.
 void ChoosePlace(DataControl& datAbsence, TransferSide& side, const TransferPlace& place);

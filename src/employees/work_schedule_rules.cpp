@@ -34,21 +34,15 @@ ClockTime Before(ClockTime time)
     return static_cast<ClockTime>(static_cast<int>(time) - 1);
 }
 
-void TellTimeRefused(const QString& text)
-{
-    Tell(T("ERROR:", "ERREUR:"), text, Face::Warning);
-}
-
 /// The second half may begin when the first one ends, not before. A first half that is changed later is not checked.
 bool BeginsBeforeFirstHalfEnds(const EmployeeRecord& record, ClockTime time, int day)
 {
     if (time != ClockTime::SecondHalfStart || record.FirstHalfEnd[day] <= record.SecondHalfStart[day])
         return false;
-    TellTimeRefused(
-        T("The START TIME of the second half of the working day cannot be earlier than the END TIME of the "
-          "first half of the working day!",
-          "L'HEURE DE DÉBUT de la seconde moitié de la journée ne peut pas être antérieure à l'HEURE DE FIN "
-          "de la première moitié de la journée!"));
+    Refuse(T("The START TIME of the second half of the working day cannot be earlier than the END TIME of the "
+             "first half of the working day!",
+             "L'HEURE DE DÉBUT de la seconde moitié de la journée ne peut pas être antérieure à l'HEURE DE FIN "
+             "de la première moitié de la journée!"));
     return true;
 }
 
@@ -60,8 +54,8 @@ bool EndsBeforeItStarts(const EmployeeRecord& record, ClockTime time, int day)
     const float end = InfoOf(time).IsStart ? other : own;
     if (other == 0 || end > start)
         return false;
-    TellTimeRefused(T("The end time cannot be prior or equal to the start time!",
-                      "L'heure de fin ne peut pas être antérieure ou la même que l'heure de début!"));
+    Refuse(T("The end time cannot be prior or equal to the start time!",
+             "L'heure de fin ne peut pas être antérieure ou la même que l'heure de début!"));
     return true;
 }
 
@@ -90,9 +84,13 @@ float LengthOfDay(const EmployeeRecord& record, int day)
     return first + second;
 }
 
-void RefuseTotal(EmployeeRecord& record, int day)
+/// Unless the total was typed, the day's times make it.
+void CalculateWorkingDay(EmployeeRecord& record, int day)
 {
-    record.HoursSpecified[day] = false;
+    if (!record.HoursSpecified[day]) {
+        record.HoursWorked[day] = LengthOfDay(record, day);
+        ShowTotal(record, day, record.HoursWorked[day]);
+    }
     record.RecalculationPending = false;
 }
 
@@ -218,20 +216,6 @@ QString ClockText(float time)
     return time > 0 ? DurationText(time) : QString();
 }
 
-QString ClockText(const EmployeeRecord& record, ClockTime time, int day)
-{
-    return ClockText(TimeOf(record, time, day));
-}
-
-void CalculateWorkingDay(EmployeeRecord& record, int day)
-{
-    if (!record.HoursSpecified[day]) {
-        record.HoursWorked[day] = LengthOfDay(record, day);
-        ShowTotal(record, day, record.HoursWorked[day]);
-    }
-    record.RecalculationPending = false;
-}
-
 void PickTime(EmployeeRecord& record, ClockTime time, int day, const QString& text)
 {
     if (text.isEmpty())
@@ -287,7 +271,7 @@ std::optional<TotalBox> LeaveTotal(EmployeeRecord& record, int day)
     if (Val(hours) > kMostHours || Val(minutes) > kMostMinutes) {
         const TotalBox refused = Val(hours) > kMostHours ? TotalBox::Hours : TotalBox::Minutes;
         (refused == TotalBox::Hours ? hours : minutes).clear();
-        RefuseTotal(record, day);
+        record.HoursSpecified[day] = record.RecalculationPending = false;
         return refused;
     }
     if (record.RecalculationPending) {

@@ -28,11 +28,6 @@ extern const std::array<ClockTimeInfo, 4> kDayTimes;
 
 /// A clock time as its list shows it, "hh:mm"; empty for 0.
 QString ClockText(float time);
-QString ClockText(const EmployeeRecord& record, ClockTime time, int day);
-
-/// Computes the length of day `day` from its times and, unless the total was typed, takes it as the day's hours and
-/// shows it in the boxes.
-void CalculateWorkingDay(EmployeeRecord& record, int day);
 
 /// A time was picked from its list. A time that contradicts the other ones is refused with a message and blanked; an
 /// empty text only empties the day's total.

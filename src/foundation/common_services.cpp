@@ -1,5 +1,8 @@
 #include "foundation/common_services.h"
 
+#include "foundation/connection.h"
+#include "foundation/log_in.h"
+#include "foundation/session_rows.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
@@ -111,6 +114,7 @@ int ShowMessage(Message message)
         message.Captions = kCaptions.at(static_cast<std::size_t>(message.Set));
     if (message.Picture < Face::Warning || message.Picture > kLastFace)
         message.Picture = Face::Warning;
+    DefaultWorkspace().PauseReading();
     LastMessage& last = SessionState;
     last = {message.Text, message.Title, 0, last.MessageStopAsking};
     last.MessageResult = Presenter() ? Presenter()(message) : MessageCode::Cancel;
@@ -134,6 +138,11 @@ void Tell(const QString& title, const QString& text, Face face)
     ShowMessage({.Text = text, .Title = title, .Picture = face});
 }
 
+void Refuse(const QString& text)
+{
+    Tell(T("ERROR:", "ERREUR:"), text, Face::Warning);
+}
+
 bool Ask(const QString& title, const QString& text, Face face)
 {
     return AskWithList(title, text, 0, face);
@@ -150,6 +159,10 @@ bool AskWithList(const QString& title, const QString& text, qsizetype lines, Fac
 
 void TellError(const RuntimeError& error)
 {
+    if (dynamic_cast<const ConnectionFailed*>(&error))
+        EndOnFailedConnection(error);
+    if (dynamic_cast<const YearClosed*>(&error))
+        return TellWhenYearIsClosed();
     Tell(T("AN ERROR HAS OCCURRED:", "UNE ERREUR EST SURVENUE:"),
          T("The following error has occurred:", "L'erreur suivante est survenue:") + "\r\n\r\n" +
              QString::number(error.Number) + ": " + error.Description,

@@ -74,12 +74,15 @@ int ResultOfButton(const QString& caption, int position);
 
 /// A message with the one button OK.
 void Tell(const QString& title, const QString& text, Face face = Face::Informing);
+/// Says in the message "ERROR:" why something cannot be done.
+void Refuse(const QString& text);
 /// A question with Yes and No in the user's language; true for Yes.
 bool Ask(const QString& title, const QString& text, Face face = Face::Presenting);
 /// The same question about a list of `lines` records: above nine the text scrolls.
 bool AskWithList(const QString& title, const QString& text, qsizetype lines, Face face = Face::Presenting);
 
-/// Tells the number and description of a failure.
+/// Tells the number and description of a failure. A connection that failed ends the program; of a year that is
+/// closed its own message tells.
 void TellError(const RuntimeError& error);
 
 /// Appends to Connections.log, EMailErrors.log, Errors.log of the program's folder, fields separated by a tab. A log

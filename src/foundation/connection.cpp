@@ -17,8 +17,12 @@ void OpenFile()
 
 void Restore(DataControl& /*datAbsence*/)
 {
-    if (!IsServerChosen())
-        OpenFile();
+    try {
+        if (!IsServerChosen())
+            OpenFile();
+    } catch (const RuntimeError& error) {
+        throw ConnectionFailed(error);
+    }
 }
 } // namespace
 
@@ -41,7 +45,7 @@ void EndOnFailedConnection(const RuntimeError& error)
 void TryToConnect(DataControl& datAbsence)
 {
     DataControl::Reconnect = Restore;
-    if (!IsServerChosen() && !DefaultWorkspace().IsOpen()) {
+    if (!IsServerChosen() && (connections == 0 || !DefaultWorkspace().IsOpen())) {
         OpenFile();
         connections = 0;
     }
@@ -54,7 +58,7 @@ void ConnectToDatabase(DataControl& datAbsence)
     try {
         TryToConnect(datAbsence);
     } catch (const RuntimeError& error) {
-        EndOnFailedConnection(error);
+        throw ConnectionFailed(error);
     }
 }
 
@@ -65,8 +69,15 @@ void DisconnectFromDatabase(DataControl& datAbsence)
     LogConnection(datAbsence.FormName, false);
 }
 
+Connection::Connection(DataControl& datAbsence) : datAbsence_(datAbsence), foundReading_(DefaultWorkspace().IsReading())
+{
+    ConnectToDatabase(datAbsence_);
+}
+
 Connection::~Connection()
 {
+    if (!foundReading_)
+        DefaultWorkspace().PauseReading();
     try {
         DisconnectFromDatabase(datAbsence_);
     } catch (const RuntimeError&) {

@@ -39,8 +39,7 @@ QVBoxLayout* AboutTexts()
 frmAbout::frmAbout(QWidget* parent) : FormBase("frmAbout", parent)
 {
     SetTitle(this, {"About Tarvell", "À propos de Tarvell"});
-    auto* content = new QHBoxLayout;
-    content->setSpacing(18);
+    auto* content = Beside(18);
     content->addWidget(MakeLogo(kAboutLogoSize), 0, Qt::AlignTop);
     content->addLayout(AboutTexts(), 1);
     Page()->addWidget(MakeCard(content));

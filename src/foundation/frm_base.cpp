@@ -45,7 +45,8 @@ FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbse
     page_ = new QVBoxLayout(scroll_->widget());
     page_->setContentsMargins(0, 0, 0, 0);
     page_->setSpacing(layout->spacing());
-    foot_ = ButtonRow({});
+    foot_ = Beside(layout->spacing());
+    foot_->addStretch();
     layout->addWidget(scroll_, 1);
     layout->addLayout(foot_);
 }

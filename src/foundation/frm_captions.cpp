@@ -22,9 +22,7 @@ QString WithoutMnemonic(QString text)
 
 QVBoxLayout* Above(QLabel* label, QWidget* control, int gap)
 {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(gap);
-    column->addWidget(label);
+    QVBoxLayout* column = Stack(gap, {label});
     column->addWidget(control, 1);
     return column;
 }
@@ -41,16 +39,6 @@ void Retranslate(QWidget* form)
     for (QObject* child : form->findChildren<QObject*>())
         if (const auto* follower = dynamic_cast<LanguageFollower*>(child))
             follower->Show();
-}
-
-void SetCaption(QLabel* label, const Text& text)
-{
-    FollowLanguage(label, [=] { label->setText(T(text)); });
-}
-
-void SetCaption(QAbstractButton* button, const Text& text)
-{
-    FollowLanguage(button, [=] { button->setText(T(text)); });
 }
 
 void SetTitle(QWidget* window, const Text& text)
@@ -94,27 +82,6 @@ QLabel* WrappedLabel(const QString& name, const Text& text)
     return label;
 }
 
-QPushButton* MakeButton(const QString& name, const Text& caption)
-{
-    auto* button = Named<QPushButton>(name);
-    SetCaption(button, caption);
-    return button;
-}
-
-QCheckBox* MakeCheckBox(const QString& name, const Text& caption)
-{
-    auto* box = Named<QCheckBox>(name);
-    SetCaption(box, caption);
-    return box;
-}
-
-QRadioButton* MakeOption(const QString& name, const Text& caption)
-{
-    auto* option = Named<QRadioButton>(name);
-    SetCaption(option, caption);
-    return option;
-}
-
 QPushButton* MakeArrow(const QString& name, const QString& picture, const Text& tip)
 {
     auto* button = Named<QPushButton>(name);
@@ -154,11 +121,6 @@ QVBoxLayout* Headed(const Text& head, QWidget* control, QWidget* named)
     return Above(AsHead(LabelOf(named ? named : control, head)), control, kGapBelowHead);
 }
 
-void AddFieldRow(QGridLayout* fields, const Text& label, QWidget* field)
-{
-    AddFieldRow(fields, LabelOf(field, label), field);
-}
-
 QGridLayout* FieldGrid(int gap)
 {
     constexpr int kLabelGap = 16;
@@ -171,15 +133,15 @@ QGridLayout* FieldGrid(int gap)
 QLineEdit* AddField(QGridLayout* fields, const QString& name, const Text& label, KeyFilter filter, int limit)
 {
     QLineEdit* field = MakeField(name, filter, limit);
-    AddFieldRow(fields, label, field);
+    const int row = fields->rowCount();
+    fields->addWidget(AsHead(LabelOf(field, label)), row, 0);
+    fields->addWidget(field, row, 1);
     return field;
 }
 
 QFrame* HeadedCard(const Text& head, QLayout* content)
 {
-    auto* layout = new QVBoxLayout;
-    layout->setSpacing(kHeadGap);
-    layout->addWidget(AsHead(MakeLabel({}, head)));
+    QVBoxLayout* layout = Stack(kHeadGap, {AsHead(MakeLabel({}, head))});
     layout->addLayout(content, 1);
     return MakeCard(layout);
 }
@@ -188,6 +150,12 @@ void AddEntry(QListWidget* list, const QString& text, int recordID)
 {
     auto* entry = new QListWidgetItem(text, list);
     entry->setData(Qt::UserRole, recordID);
+}
+
+void AddEntries(QListWidget* list, const QVector<ListEntry>& entries)
+{
+    for (const ListEntry& entry : entries)
+        AddEntry(list, entry.Text, entry.RecordID);
 }
 
 int ChosenID(const QListWidget* list)

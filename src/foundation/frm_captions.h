@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/list_entry.h"
 #include "foundation/texts.h"
 #include "platform/controls/entry_filters.h"
 #include "platform/controls/form_kit.h"
@@ -18,8 +19,12 @@ void FollowLanguage(QObject* owner, const std::function<void()>& show);
 /// Sets all texts of a form or window anew.
 void Retranslate(QWidget* form);
 
-void SetCaption(QLabel* label, const Text& text);
-void SetCaption(QAbstractButton* button, const Text& text);
+/// What a label, a button or a menu entry says.
+template <typename Control>
+void SetCaption(Control* control, const Text& text)
+{
+    FollowLanguage(control, [=] { control->setText(T(text)); });
+}
 void SetTitle(QWidget* window, const Text& text);
 void SetPlaceholder(QComboBox* list, const Text& text);
 void SetToolTip(QWidget* control, const Text& text);
@@ -30,9 +35,14 @@ void AddTab(QTabWidget* tabs, QWidget* page, const Text& caption);
 QLabel* MakeLabel(const QString& name, const Text& text = {});
 /// A label that explains, its lines wrapped.
 QLabel* WrappedLabel(const QString& name, const Text& text = {});
-QPushButton* MakeButton(const QString& name, const Text& caption);
-QCheckBox* MakeCheckBox(const QString& name, const Text& caption);
-QRadioButton* MakeOption(const QString& name, const Text& caption);
+/// A button, a check box or an option.
+template <typename Button = QPushButton>
+Button* MakeButton(const QString& name, const Text& caption)
+{
+    auto* button = Named<Button>(name);
+    SetCaption(button, caption);
+    return button;
+}
 
 /// A small button with a picture; its tip names it.
 QPushButton* MakeArrow(const QString& name, const QString& picture, const Text& tip);
@@ -48,11 +58,9 @@ QLabel* LabelOf(QWidget* control, const Text& text);
 QVBoxLayout* Captioned(const Text& caption, QWidget* control, QWidget* named = nullptr);
 /// A bold head above a control.
 QVBoxLayout* Headed(const Text& head, QWidget* control, QWidget* named = nullptr);
-/// A new row of `fields`: a bold label at the left names the field at its right.
-void AddFieldRow(QGridLayout* fields, const Text& label, QWidget* field);
 /// A grid for AddField, its rows `gap` pixels apart.
 QGridLayout* FieldGrid(int gap = 10);
-/// A field as MakeField makes it, in a new row of `fields`.
+/// A field as MakeField makes it, in a new row of `fields`: a bold label at the left names it.
 QLineEdit* AddField(QGridLayout* fields, const QString& name, const Text& label, KeyFilter filter,
                     int limit = kUnlimited);
 /// A white card whose first row is its bold head.
@@ -60,6 +68,7 @@ QFrame* HeadedCard(const Text& head, QLayout* content);
 
 /// An entry of a list with the RecordID behind it.
 void AddEntry(QListWidget* list, const QString& text, int recordID);
+void AddEntries(QListWidget* list, const QVector<ListEntry>& entries);
 /// The RecordID behind the entry that is marked; 0 when none is. A list that takes the focus makes its first entry
 /// current without marking it.
 int ChosenID(const QListWidget* list);

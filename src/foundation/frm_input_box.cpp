@@ -11,7 +11,6 @@ frmInputBox::frmInputBox(const QString& title, const QString& prompt, QWidget* p
 {
     setWindowTitle(title);
     auto* lblPrompt = WrappedLabel("lblPrompt");
-    lblPrompt->setTextFormat(Qt::PlainText);
     lblPrompt->setText(prompt);
     lblPrompt->setFixedWidth(kPromptWidth);
     txtInput->setAccessibleName(prompt);

@@ -88,7 +88,7 @@ bool frmLogin::TakesUser()
     return false;
 }
 
-void frmLogin::cmdCancel_Click()
+void frmLogin::reject()
 {
     if (FiscalYearName.isEmpty())
         EndProgram();

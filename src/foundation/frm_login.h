@@ -10,12 +10,11 @@ public:
     /// then goes back; otherwise it ends the program.
     explicit frmLogin(int year, const QString& changingTo = {}, QWidget* parent = nullptr);
 
-    void reject() override { cmdCancel_Click(); }
+    void reject() override;
 
 private:
     QLabel* Instructions() const;
     void cmdOK_Click();
-    void cmdCancel_Click();
     bool LogIn();
     bool TakesUser();
 

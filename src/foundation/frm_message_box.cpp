@@ -93,7 +93,6 @@ void frmMessageBox::BuildControls()
     imgFace->setFixedSize(kFaceSize, kFaceSize);
     imgFace->setVisible(FaceIndex() < kFaces.size());
     lblTitle = AsHead(Named<QLabel>("lblTitle"));
-    lblTitle->setTextFormat(Qt::PlainText);
     lblTitle->setWordWrap(true);
     txtMessage = Named<QPlainTextEdit>("txtMessage");
     txtMessage->setProperty("look", "bare");
@@ -155,15 +154,9 @@ void frmMessageBox::LoadCaptions()
 
 QLayout* frmMessageBox::BodyLayout()
 {
-    auto* text = new QVBoxLayout;
-    text->setSpacing(8);
-    text->addWidget(lblTitle);
-    text->addWidget(txtMessage);
-    text->addWidget(txtMsgBxInputBox);
-    text->addWidget(chkStopAsking);
+    auto* text = Stack(8, {lblTitle, txtMessage, txtMsgBxInputBox, chkStopAsking});
     text->addStretch();
-    auto* body = new QHBoxLayout;
-    body->setSpacing(16);
+    auto* body = Beside(16);
     body->addWidget(imgFace, 0, Qt::AlignTop);
     body->addLayout(text);
     return body;
@@ -172,9 +165,8 @@ QLayout* frmMessageBox::BodyLayout()
 /// Up to three buttons stand as a row in the middle; four have a quarter of the box each.
 QLayout* frmMessageBox::ButtonsLayout()
 {
-    auto* row = new QHBoxLayout;
+    auto* row = Beside(kButtonGap);
     const bool quarters = message_.Captions.size() == static_cast<int>(cmdButton.size());
-    row->setSpacing(kButtonGap);
     row->addStretch();
     for (QPushButton* button : cmdButton) {
         row->addWidget(button);

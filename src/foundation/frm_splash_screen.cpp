@@ -38,8 +38,7 @@ frmSplashScreen::frmSplashScreen(QWidget* parent) : QDialog(parent, Qt::SplashSc
     auto* lblTitle = Named<QLabel>("lblTitle", QStringLiteral("Tarvell"));
     auto* lblVersion = Named<QLabel>("lblVersion", "Version " + Deployment::Version());
     const auto labels = {MakeLogo(kSplashLogoSize), AsFigure(lblTitle), AsCaption(lblVersion)};
-    auto* content = new QVBoxLayout;
-    content->setSpacing(12);
+    auto* content = Stack(12);
     for (QLabel* label : labels)
         content->addWidget(label, 0, Qt::AlignCenter);
     auto* page = new QVBoxLayout(this);

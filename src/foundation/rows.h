@@ -2,6 +2,7 @@
 
 #include "platform/dao/server.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <span>
@@ -132,7 +133,7 @@ R RowOf(const Table<R>& table, const Recordset& found)
     return row;
 }
 
-/// The rows that "SELECT ... WHERE `conditions`" finds; errors are resumed.
+/// The rows that "SELECT ... WHERE `conditions`" finds. Throws.
 template <typename R, typename... V>
 QVector<R> Where(DataControl& datAbsence, const QString& conditions, const V&... values)
 {
@@ -150,7 +151,7 @@ std::optional<R> First(DataControl& datAbsence, const QString& conditions, const
     return rows.isEmpty() ? std::optional<R>() : rows.first();
 }
 
-/// The row with that RecordID; errors are resumed.
+/// The row with that RecordID, if there is one. Throws.
 template <typename R>
 std::optional<R> Find(DataControl& datAbsence, int recordID, const Table<R>& table = kTable<R>)
 {
@@ -196,14 +197,18 @@ Settings<R> Picked(const R& row, std::span<const typename Column<R>::Place> memb
     return settings;
 }
 
+/// Throws 3265 for a member that is no column of the table.
 template <typename R>
 RowValues ValuesOf(const Table<R>& table, const Settings<R>& settings)
 {
     RowValues values;
-    for (const auto& [member, value] : settings)
-        for (const Column<R>& column : table.List)
-            if (column.Member == member)
-                values.push_back({column.Name, value});
+    for (const Setting<R>& setting : settings) {
+        const auto is = [&](const Column<R>& column) { return column.Member == setting.Member; };
+        const auto column = std::find_if(table.List.begin(), table.List.end(), is);
+        if (column == table.List.end())
+            throw RuntimeError(EngineError::NoSuchField, "A value was set that is no column of " + table.Name + ".");
+        values.push_back({column->Name, setting.Value});
+    }
     return values;
 }
 

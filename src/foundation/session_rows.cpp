@@ -34,6 +34,26 @@ void TakeFiscalYear(const FiscalYearRow& year)
     SessionState.ClosedDate = year.ClosedDate;
 }
 
+void RereadClosing(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    datAbsence.Select("SELECT ClosedDate FROM FiscalYears WHERE RecordID = ?", SessionState.FiscalYearID)
+        .Take("ClosedDate", SessionState.ClosedDate);
+}
+
+void InOpenYear(DataControl& datAbsence, const std::function<void()>& work, Transaction::OnFailure onFailure)
+{
+    InTransaction(
+        datAbsence,
+        [&] {
+            RereadClosing(datAbsence);
+            if (SessionState.ClosedDate > 0)
+                throw YearClosed();
+            work();
+        },
+        onFailure);
+}
+
 std::optional<EmployeeRow> FindAdministrator(DataControl& datAbsence)
 {
     return First<EmployeeRow>(datAbsence, "LoginID = 'ADMIN' AND FiscalYear = 0");

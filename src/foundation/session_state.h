@@ -7,6 +7,7 @@
 #include <QVector>
 
 #include <array>
+#include <utility>
 
 /// Serial days in the order of their selection; at most kMostDates.
 using DateList = QVector<int>;
@@ -67,6 +68,10 @@ struct CalendarSelection
     int EmployeeDepartmentID = 0;
     int EmployeeGroupID = 0;
     QString CurrentSelection; ///< the shown name: an employee's, a unit's, or the log-in name
+
+    /// The column in which records of attendance name the employee or else the deepest unit, and his RecordID; null and
+    /// 0 for the whole company.
+    std::pair<const char*, int> Narrowest() const;
 };
 
 /// What the calendar shows.

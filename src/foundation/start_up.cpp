@@ -91,6 +91,8 @@ void WriteConfiguration()
 bool ChooseCurrentFiscalYear(DataControl& datAbsence)
 {
     SessionState.FiscalYearID = 0;
+    if (!IsServerChosen() && !DefaultWorkspace().IsOpen()) // and the user does not know of another database
+        return false;
     const int today = Today();
     auto year = First<FiscalYearRow>(datAbsence, "CommencingDate <= ? AND EndingDate >= ?", today, today);
     if (!year)

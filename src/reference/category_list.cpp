@@ -1,14 +1,14 @@
 #include "reference/category_list.h"
 
 #include "foundation/connection.h"
-#include "foundation/texts.h"
+#include "foundation/names.h"
 
 namespace
 {
-QString CategoriesQuery()
+QString CategoriesQuery(int department)
 {
     const QString usable =
-        SessionState.EmployeeDepartmentID != 0
+        department != 0
             ? "SELECT Categories.RecordID, Categories.CategoryEnglishName, Categories.CategoryFrenchName, "
               "Categories.SystemName FROM Categories, CategoriesDepartments WHERE "
               "Categories.RecordID = CategoriesDepartments.CategoryID AND CategoriesDepartments.IsUsed = 1 AND "
@@ -16,7 +16,7 @@ QString CategoriesQuery()
             : "SELECT RecordID, CategoryEnglishName, CategoryFrenchName, SystemName FROM Categories WHERE ?1 = 0 AND "
               "FiscalYear = ?2 AND Active = 1 AND IsPublic = 1";
     const QString visible = SessionState.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0";
-    return usable + visible + " ORDER BY Categories." + CategoryNameColumn() + " ASC";
+    return usable + visible + " ORDER BY Categories." + NameColumn("Category") + " ASC";
 }
 
 QString LegendQuery()
@@ -24,28 +24,22 @@ QString LegendQuery()
     const QString visible = SessionState.AccessToRestrictedCategory == 0 ? "AND Restricted = 0 " : "";
     return "SELECT RecordID, CategoryEnglishName, CategoryFrenchName, CategoryCode, CategoryColorCode FROM Categories "
            "WHERE FiscalYear = ? AND Active = 1 AND TimeBankRelated = 0 " +
-           visible + "ORDER BY SystemName DESC, " + CategoryNameColumn() + " ASC";
+           visible + "ORDER BY SystemName DESC, " + NameColumn("Category") + " ASC";
 }
 } // namespace
-
-const char* CategoryNameColumn()
-{
-    return SessionState.English ? "CategoryEnglishName" : "CategoryFrenchName";
-}
 
 QString AllCategories()
 {
     return T("(All categories)", "(Toutes les catégories)");
 }
 
-QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence)
+QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence, int department)
 {
     const Connection connection(datAbsence);
     QVector<CategoryItem> items;
-    for (const Recordset& row :
-         datAbsence.Select(CategoriesQuery(), SessionState.EmployeeDepartmentID, SessionState.FiscalYearID))
+    for (const Recordset& row : datAbsence.Select(CategoriesQuery(department), department, SessionState.FiscalYearID))
         items.append(
-            {row.Long("RecordID"), row.Text(CategoryNameColumn()).trimmed(), row.Text("SystemName").trimmed()});
+            {row.Long("RecordID"), row.Text(NameColumn("Category")).trimmed(), row.Text("SystemName").trimmed()});
     return items;
 }
 
@@ -55,7 +49,7 @@ QVector<LegendItem> LoadLegendItems(DataControl& datAbsence)
     QVector<LegendItem> items;
     for (const Recordset& row : datAbsence.Select(LegendQuery(), SessionState.FiscalYearID)) {
         const QString code = row.Text("CategoryCode").trimmed();
-        const QString name = row.Text(CategoryNameColumn()).trimmed();
+        const QString name = row.Text(NameColumn("Category")).trimmed();
         items.append({row.Long("RecordID"), code.isEmpty() ? name : code + "  " + name, row.Long("CategoryColorCode")});
     }
     return items;

@@ -12,9 +12,9 @@ struct CategoryItem
     QString SystemName; ///< empty for a category made by users
 };
 
-/// The active categories of the year that the employee shown may use: those of his department, or the public ones
-/// when he has none; without hidden ones unless the user may see them. In order of name.
-QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence);
+/// The active categories of the year that an employee may use: those of his department, or the public ones when he has
+/// none, 0; without hidden ones unless the user may see them. In order of name.
+QVector<CategoryItem> LoadCategoryItems(DataControl& datAbsence, int department);
 
 /// One label of the legend: the code, if there is one, and the name. `Color` is 0xBBGGRR, 0 none.
 struct LegendItem
@@ -29,6 +29,3 @@ QVector<LegendItem> LoadLegendItems(DataControl& datAbsence);
 
 /// "(All categories)", the first entry of each list; it stands for no category.
 QString AllCategories();
-
-/// Column of the category name in the session's language.
-const char* CategoryNameColumn();

@@ -136,16 +136,16 @@ void frmUnit::ShowRecords(const QVector<UnitItem>& items)
     cboRecords->setCurrentIndex(cboRecords->findData(record_.RecordID));
 }
 
-void frmUnit::Show(const UnitEntry& unit)
+void frmUnit::Show(const UnitRow& unit)
 {
     txtEnglishName->setText(unit.EnglishName);
     txtFrenchName->setText(unit.FrenchName);
     for (int line = 0; line < address_.size(); ++line)
-        address_[line]->setText(unit.Address[line]);
+        address_[line]->setText(unit.*kAddressFields[line].Line);
 }
 
 /// The units above are read when a unit is chosen; while it is edited their list keeps its mark.
-void frmUnit::ChooseUnit(const UnitEntry& unit)
+void frmUnit::ChooseUnit(const UnitRow& unit)
 {
     record_ = unit;
     cboRecords->setCurrentIndex(cboRecords->findData(unit.RecordID));
@@ -153,22 +153,22 @@ void frmUnit::ChooseUnit(const UnitEntry& unit)
     if (!lstParents)
         return;
     lstParents->clear();
-    for (const UnitItem& parent : LoadParentItems(datAbsence, kind_, unit.ParentID))
+    for (const UnitItem& parent : LoadParentItems(datAbsence, kind_, ParentOf(kind_, unit)))
         AddEntry(lstParents, parent.Name, parent.RecordID);
-    Choose(lstParents, unit.ParentID);
+    Choose(lstParents, ParentOf(kind_, unit));
 }
 
 /// The zip code may not have been left yet: a mnemonic presses a button without moving the focus.
-UnitEntry frmUnit::Read() const
+UnitRow frmUnit::Read() const
 {
-    UnitEntry unit = record_;
+    UnitRow unit = record_;
     unit.EnglishName = txtEnglishName->text();
     unit.FrenchName = txtFrenchName->text();
     for (int line = 0; line < address_.size(); ++line)
-        unit.Address[line] = address_[line]->text();
-    unit.Address.back() = unit.Address.back().toUpper();
+        unit.*kAddressFields[line].Line = address_[line]->text();
+    unit.ZipCode = unit.ZipCode.toUpper();
     if (lstParents)
-        unit.ParentID = ChosenID(lstParents);
+        unit.*kind_.Parent->ID = ChosenID(lstParents);
     return unit;
 }
 
@@ -204,10 +204,17 @@ void frmUnit::ResetVariables()
     LoadRecords();
 }
 
+/// A unit that cannot be read is not chosen: the list names the one that would be changed.
 void frmUnit::cboRecords_Click(int index)
 {
-    UnitEntry unit = LoadUnit(datAbsence, kind_, cboRecords->itemData(index).toInt());
-    if (!unit.Active && !Reactivate(unit))
+    if (!Attempt([&] { TakeListed(cboRecords->itemData(index).toInt()); }))
+        cboRecords->setCurrentIndex(cboRecords->findData(record_.RecordID));
+}
+
+void frmUnit::TakeListed(int recordID)
+{
+    UnitRow unit = LoadUnit(datAbsence, kind_, recordID);
+    if (unit.RecordID != 0 && unit.Active != 1 && !Reactivate(unit))
         unit = {};
     ChooseUnit(unit);
     ShowMode();
@@ -216,7 +223,7 @@ void frmUnit::cboRecords_Click(int index)
 }
 
 /// True when the unit is active again.
-bool frmUnit::Reactivate(const UnitEntry& unit)
+bool frmUnit::Reactivate(const UnitRow& unit)
 {
     const UnitTexts& texts = kind_.Texts;
     if (!Ask(T(texts.InactiveTitle), T(texts.ReactivateQuestion, {{"name", ShownName(unit)}}), Face::Warning))
@@ -227,7 +234,7 @@ bool frmUnit::Reactivate(const UnitEntry& unit)
     return true;
 }
 
-std::optional<Fault> frmUnit::Validate(UnitEntry& unit)
+std::optional<Fault> frmUnit::Validate(UnitRow& unit)
 {
     return ValidateRecord(datAbsence, kind_, unit);
 }
@@ -240,7 +247,7 @@ void frmUnit::Finish(EditingMode mode)
     EditingForm::Finish(mode);
 }
 
-bool frmUnit::Confirm(EditingMode mode, const UnitEntry& unit)
+bool frmUnit::Confirm(EditingMode mode, const UnitRow& unit)
 {
     if (mode == EditingMode::Deactivating)
         return ConfirmDeactivation();
@@ -252,15 +259,15 @@ bool frmUnit::Confirm(EditingMode mode, const UnitEntry& unit)
            ConfirmMove(unit);
 }
 
-bool frmUnit::ConfirmEntry(const Text& question, const UnitEntry& unit) const
+bool frmUnit::ConfirmEntry(const Text& question, const UnitRow& unit) const
 {
     const QString names = T(kind_.Texts.Names, {{"english", unit.EnglishName}, {"french", unit.FrenchName}});
     return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T(question) + "\r\n\r\n" + names);
 }
 
-bool frmUnit::ConfirmMove(const UnitEntry& unit) const
+bool frmUnit::ConfirmMove(const UnitRow& unit) const
 {
-    return !unit.IsMoved() ||
+    return ParentOf(kind_, unit) == ParentOf(kind_, record_) ||
            Ask(T("WARNING:", "AVERTISSEMENT:"),
                T(kind_.Texts.MoveQuestion, {{"name", ShownName(unit)}, {"parent", ChosenText(lstParents)}}),
                Face::Warning);
@@ -272,17 +279,17 @@ bool frmUnit::ConfirmDeactivation() const
                Face::Warning);
 }
 
-void frmUnit::Write(EditingMode mode, const UnitEntry& unit)
+void frmUnit::Write(EditingMode mode, const UnitRow& unit)
 {
     if (mode == EditingMode::Adding)
         AddUnit(datAbsence, kind_, unit);
     else if (mode == EditingMode::Modifying)
-        ModifyUnit(datAbsence, kind_, unit);
+        ModifyUnit(datAbsence, kind_, record_, unit);
     else
         DeactivateUnit(datAbsence, kind_, unit.RecordID);
 }
 
-void frmUnit::TellDone(EditingMode mode, const UnitEntry& /*unit*/)
+void frmUnit::TellDone(EditingMode mode, const UnitRow& /*unit*/)
 {
     const Text done[] = {{},
                          kind_.Texts.Added,

@@ -5,7 +5,7 @@
 
 /// Adds, modifies, deactivates and reactivates the units of one level. A form whose units would have no unit above them
 /// says so when it is shown, and closes.
-class frmUnit : public EditingForm<UnitEntry>
+class frmUnit : public EditingForm<UnitRow>
 {
 public:
     void LoadRecords();
@@ -20,12 +20,12 @@ protected:
     void ResetVariables() override;
     bool HasRecord() const override { return record_.RecordID != 0; }
     void EnableControls() override;
-    void Show(const UnitEntry& unit) override;
-    UnitEntry Read() const override;
-    std::optional<Fault> Validate(UnitEntry& unit) override;
-    bool Confirm(EditingMode mode, const UnitEntry& unit) override;
-    void Write(EditingMode mode, const UnitEntry& unit) override;
-    void TellDone(EditingMode mode, const UnitEntry& unit) override;
+    void Show(const UnitRow& unit) override;
+    UnitRow Read() const override;
+    std::optional<Fault> Validate(UnitRow& unit) override;
+    bool Confirm(EditingMode mode, const UnitRow& unit) override;
+    void Write(EditingMode mode, const UnitRow& unit) override;
+    void TellDone(EditingMode mode, const UnitRow& unit) override;
 
 private:
     void BuildList();
@@ -33,13 +33,14 @@ private:
     QLayout* Address();
     QLayout* Parents();
     void ShowRecords(const QVector<UnitItem>& items);
-    void ChooseUnit(const UnitEntry& unit);
+    void ChooseUnit(const UnitRow& unit);
     void FocusFirstField();
 
     void cboRecords_Click(int index);
-    bool Reactivate(const UnitEntry& unit);
-    bool ConfirmEntry(const Text& question, const UnitEntry& unit) const;
-    bool ConfirmMove(const UnitEntry& unit) const;
+    void TakeListed(int recordID);
+    bool Reactivate(const UnitRow& unit);
+    bool ConfirmEntry(const Text& question, const UnitRow& unit) const;
+    bool ConfirmMove(const UnitRow& unit) const;
     bool ConfirmDeactivation() const;
 
     const UnitKind& kind_;

@@ -1,6 +1,7 @@
 #include "reference/unit_records.h"
 
 #include "foundation/connection.h"
+#include "foundation/session_rows.h"
 #include "foundation/session_state.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
@@ -34,24 +35,20 @@ QVector<UnitItem> SelectItems(DataControl& datAbsence, const UnitKind& kind, con
     return items;
 }
 
-using Place = std::vector<std::pair<int UnitRow::*, int>>;
-
-/// The units above one of `kind` that is placed under `parentID`, from the top down.
-Place PlaceUnder(DataControl& datAbsence, const UnitKind& kind, int parentID)
+/// Names the units further above as the unit above has them.
+void FillPlace(DataControl& datAbsence, const UnitKind& kind, UnitRow& unit)
 {
-    if (!kind.Parent)
-        return {};
-    if (const UnitKind* top = kind.Parent->Parent)
-        return {{top->ID, Standing(datAbsence, parentID, kind.Parent->Rows).*(top->ID)}, {kind.Parent->ID, parentID}};
-    return {{kind.Parent->ID, parentID}};
+    if (const UnitKind* top = kind.Parent ? kind.Parent->Parent : nullptr)
+        unit.*top->ID = Standing(datAbsence, ParentOf(kind, unit), kind.Parent->Rows).*(top->ID);
 }
 
-Settings<UnitRow> EnteredValues(const UnitKind& kind, const UnitEntry& unit)
+/// The units above, as every record below names them.
+RowValues PlaceOf(const UnitKind& kind, const UnitRow& unit)
 {
-    Settings<UnitRow> values = {{&UnitRow::FrenchName, unit.FrenchName}, {&UnitRow::EnglishName, unit.EnglishName}};
-    for (int line = 0; kind.HasAddress && line < kAddressLines; ++line)
-        values.push_back({kAddressFields[line].Line, unit.Address[line]});
-    return values;
+    RowValues place;
+    for (const UnitKind* above = kind.Parent; above; above = above->Parent)
+        place.insert(place.begin(), {above->Key, unit.*above->ID});
+    return place;
 }
 
 /// Writes the same values into all units below one, and into the records of further tables that name it.
@@ -76,22 +73,6 @@ void UpdateCategoriesDepartments(DataControl& datAbsence, int departmentID)
                        "SELECT FiscalYear, RecordID, ?, IsPublic FROM Categories WHERE FiscalYear = ?",
                        departmentID, SessionState.FiscalYearID);
 }
-
-UnitRow NewUnit(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit)
-{
-    UnitRow row;
-    row.FiscalYear = SessionState.FiscalYearID;
-    row.FrenchName = unit.FrenchName;
-    row.EnglishName = unit.EnglishName;
-    row.EnteredBy = UserStamp();
-    row.EnteredDate = Today();
-    row.Active = 1;
-    for (int line = 0; line < kAddressLines; ++line)
-        row.*kAddressFields[line].Line = unit.Address[line];
-    for (const auto& [member, above] : PlaceUnder(datAbsence, kind, unit.ParentID))
-        row.*member = above;
-    return row;
-}
 } // namespace
 
 QVector<UnitItem> LoadUnitItems(DataControl& datAbsence, const UnitKind& kind, ListedUnits which)
@@ -106,21 +87,11 @@ QVector<UnitItem> LoadParentItems(DataControl& datAbsence, const UnitKind& kind,
                        SessionState.FiscalYearID, placedUnder);
 }
 
-UnitEntry LoadUnit(DataControl& datAbsence, const UnitKind& kind, int recordID)
+UnitRow LoadUnit(DataControl& datAbsence, const UnitKind& kind, int recordID)
 {
     const Connection connection(datAbsence);
-    const auto row = Find(datAbsence, recordID, kind.Rows);
-    UnitEntry unit;
-    if (!row)
-        return unit;
-    unit.RecordID = recordID;
-    unit.EnglishName = row->EnglishName.trimmed();
-    unit.FrenchName = row->FrenchName.trimmed();
-    unit.Active = row->Active == 1;
-    if (kind.Parent)
-        unit.ParentID = unit.StoredParentID = (*row).*(kind.Parent->ID);
-    for (int line = 0; line < kAddressLines; ++line)
-        unit.Address[line] = ((*row).*kAddressFields[line].Line).trimmed();
+    UnitRow unit = Find(datAbsence, recordID, kind.Rows).value_or(UnitRow());
+    TrimTexts(unit);
     return unit;
 }
 
@@ -152,35 +123,37 @@ int CountActiveEmployees(DataControl& datAbsence, const UnitKind& kind, int reco
     return active;
 }
 
-void AddUnit(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit)
+void AddUnit(DataControl& datAbsence, const UnitKind& kind, UnitRow unit)
 {
-    InTransaction(datAbsence, [&] {
-        const int added = Add(datAbsence, NewUnit(datAbsence, kind, unit), kind.Rows);
+    InOpenYear(datAbsence, [&] {
+        FillPlace(datAbsence, kind, unit);
+        unit.FiscalYear = SessionState.FiscalYearID;
+        unit.EnteredBy = UserStamp();
+        unit.EnteredDate = Today();
+        unit.Active = 1;
+        const int added = Add(datAbsence, unit, kind.Rows);
         if (&kind == &kDepartments && added != 0)
             UpdateCategoriesDepartments(datAbsence, added);
         EmployeesListToBeReloaded(datAbsence);
     });
 }
 
-void ModifyUnit(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit)
+void ModifyUnit(DataControl& datAbsence, const UnitKind& kind, const UnitRow& before, UnitRow unit)
 {
-    InTransaction(datAbsence, [&] {
-        Settings<UnitRow> place;
-        if (unit.IsMoved())
-            for (const auto& [member, above] : PlaceUnder(datAbsence, kind, unit.ParentID))
-                place.push_back({member, above});
-        Settings<UnitRow> values = EnteredValues(kind, unit);
-        values.insert(values.end(), place.begin(), place.end());
-        Change(datAbsence, unit.RecordID, values, kind.Rows);
-        if (unit.IsMoved())
-            WriteBelow(datAbsence, kind, unit.RecordID, ValuesOf(kGroupRows, place), {"Employees"});
+    const bool moved = ParentOf(kind, unit) != ParentOf(kind, before);
+    InOpenYear(datAbsence, [&] {
+        if (moved)
+            FillPlace(datAbsence, kind, unit);
+        Change(datAbsence, before, unit, kind.Rows);
+        if (moved)
+            WriteBelow(datAbsence, kind, unit.RecordID, PlaceOf(kind, unit), {"Employees"});
         EmployeesListToBeReloaded(datAbsence);
     });
 }
 
 void DeactivateUnit(DataControl& datAbsence, const UnitKind& kind, int recordID)
 {
-    InTransaction(datAbsence, [&] {
+    InOpenYear(datAbsence, [&] {
         SetActive(datAbsence, kind, recordID, 0);
         EmployeesListToBeReloaded(datAbsence);
     });
@@ -188,7 +161,7 @@ void DeactivateUnit(DataControl& datAbsence, const UnitKind& kind, int recordID)
 
 void ReactivateUnit(DataControl& datAbsence, const UnitKind& kind, int recordID)
 {
-    InTransaction(datAbsence, [&] {
+    InOpenYear(datAbsence, [&] {
         SetActive(datAbsence, kind, recordID, 1);
         WriteRowsOf(datAbsence, "Employees", kind.Key, recordID,
                     {{"DeactivatedDate", 0}, {"DeactivatedBy", QString("")}, {"ReasonForDeactivation", QString("")}});

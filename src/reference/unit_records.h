@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/dao/dao.h"
-#include "reference/unit_entry.h"
+#include "reference/unit_rules.h"
 
 #include <QVector>
 
@@ -24,8 +24,8 @@ enum class ListedUnits
 QVector<UnitItem> LoadUnitItems(DataControl& datAbsence, const UnitKind& kind, ListedUnits which);
 /// The units under which one of `kind` can be placed: the active ones, and `placedUnder`, where it is now.
 QVector<UnitItem> LoadParentItems(DataControl& datAbsence, const UnitKind& kind, int placedUnder);
-/// The record as it is stored; RecordID is 0 when it cannot be read.
-UnitEntry LoadUnit(DataControl& datAbsence, const UnitKind& kind, int recordID);
+/// The record as it is stored, trimmed; RecordID is 0 when there is no such row.
+UnitRow LoadUnit(DataControl& datAbsence, const UnitKind& kind, int recordID);
 
 /// Whether a unit of that kind could be placed anywhere: the level above has an active unit in the session's year.
 bool HasUnitsAbove(DataControl& datAbsence, const UnitKind& kind);
@@ -40,9 +40,9 @@ int CountActiveEmployees(DataControl& datAbsence, const UnitKind& kind, int reco
 // audit twin before it changes; what it drags along does not.
 
 /// Adds an active unit. A department is linked to every category of the year, and uses the public ones at once.
-void AddUnit(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit);
-/// Records the entry. A unit that is moved takes the units below it and its employees along.
-void ModifyUnit(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit);
+void AddUnit(DataControl& datAbsence, const UnitKind& kind, UnitRow unit);
+/// Records what differs from the unit `before`. A unit that is moved takes the units below it and its employees along.
+void ModifyUnit(DataControl& datAbsence, const UnitKind& kind, const UnitRow& before, UnitRow unit);
 /// Deactivates the unit and all units below it.
 void DeactivateUnit(DataControl& datAbsence, const UnitKind& kind, int recordID);
 /// Reactivates the unit, all units below it and all their employees: also those who had been deactivated earlier and

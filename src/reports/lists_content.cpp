@@ -5,7 +5,6 @@
 #include "foundation/levels.h"
 #include "foundation/names.h"
 #include "foundation/texts.h"
-#include "reference/category_list.h"
 #include "reference/employees_list.h"
 
 namespace
@@ -18,9 +17,9 @@ QString Entitlement(const Recordset& category)
     return standard == 0 ? T("Varies between employees", "Varie entre employés") : DurationText(standard);
 }
 
-QStringList CategoryRow(const Recordset& category)
+QStringList CategoryCells(const Recordset& category)
 {
-    return {category.Text(CategoryNameColumn()).trimmed(), Entitlement(category),
+    return {category.Text(NameColumn("Category")).trimmed(), Entitlement(category),
             category.Long("CarryOverAtYearEnd") == 1 ? T("Yes", "Oui") : T("No", "Non")};
 }
 
@@ -36,7 +35,7 @@ QString EmployeesQuery(const QString& reach)
         {{"org", NameColumn("Org")}, {"dept", NameColumn("Dept")}, {"group", NameColumn("Group")}, {"reach", reach}});
 }
 
-QStringList EmployeeRow(const Recordset& row)
+QStringList EmployeeCells(const Recordset& row)
 {
     QStringList cells;
     for (const char* unit : {"Org", "Dept", "Groupe"})
@@ -55,12 +54,12 @@ ReferenceList ListOfCategories(DataControl& datAbsence)
     const QString visible = SessionState.AccessToRestrictedCategory == 1 ? "" : " AND Categories.Restricted = 0";
     const Connection connection(datAbsence);
     for (const Recordset& row :
-         datAbsence.Select(QLatin1String("SELECT ") + CategoryNameColumn() +
+         datAbsence.Select("SELECT " + NameColumn("Category") +
                                ", RequiresMonitoring, StandardEntitlement, "
                                "CarryOverAtYearEnd FROM Categories WHERE FiscalYear = ? AND Active = 1" +
-                               visible + " ORDER BY Categories." + CategoryNameColumn() + " ASC",
+                               visible + " ORDER BY Categories." + NameColumn("Category") + " ASC",
                            SessionState.FiscalYearID))
-        list.Rows.append(CategoryRow(row));
+        list.Rows.append(CategoryCells(row));
     return list;
 }
 
@@ -75,6 +74,6 @@ ReferenceList ListOfEmployees(DataControl& datAbsence)
     ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
     const auto [reach, unit] = WidestScope(Access::Read, &Level::ListColumn);
     for (const Recordset& row : datAbsence.Select(EmployeesQuery(reach), SessionState.FiscalYearID, unit))
-        list.Rows.append(EmployeeRow(row));
+        list.Rows.append(EmployeeCells(row));
     return list;
 }

@@ -26,9 +26,7 @@ QVector<ListedApprover> LoadApproversList(DataControl& datAbsence)
              "SELECT EmplID, Employees_List.FamilyName, Employees_List.FirstName, " + units.join(", ") +
                  " FROM Employees_List, Employees WHERE Employees_List.EmplID = Employees.RecordID "
                  "AND Employees.IsAuthorizedToApprove = 1 AND Employees.DeactivatedDate = 0 AND "
-                 "Employees_List.FiscalYear "
-                 "= ? "
-                 "ORDER BY Employees_List." +
+                 "Employees_List.FiscalYear = ? ORDER BY Employees_List." +
                  units.join(", Employees_List.") + ", Employees_List.FamilyName, Employees_List.FirstName",
              SessionState.FiscalYearID))
         approvers.append({row.Long("EmplID"), ListedName(row), Place(row, units)});

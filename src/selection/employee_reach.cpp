@@ -60,29 +60,29 @@ UnitQuery QueryOf(ReachList list)
     }
 }
 
-EmployeeSelection SelectionOf(const Recordset& row, int employeeID, const QString& name)
+CalendarSelection SelectionOf(const Recordset& row, int employeeID, const QString& name)
 {
-    return {row.Long("OrganizationID"), row.Long("DepartmentID"), row.Long("GroupID"), employeeID, name};
+    return {employeeID, row.Long("OrganizationID"), row.Long("DepartmentID"), row.Long("GroupID"), name};
 }
 
-QVector<ReachEntry> Units(DataControl& datAbsence, ReachList list, const EmployeeSelection& within)
+QVector<ReachEntry> Units(DataControl& datAbsence, ReachList list, const CalendarSelection& within)
 {
     const Level& level = LevelOf(list);
     const UnitQuery query = QueryOf(list);
     QVector<ReachEntry> entries;
-    for (const Recordset& row :
-         datAbsence.Select(Fill("SELECT {units}, {name} AS Name FROM {kind}s WHERE FiscalYear = ?1 AND {rows}"
-                                "(?4 = 0 OR RecordID = ?4) ORDER BY Name ASC",
-                                {{"units", query.Units},
-                                 {"name", NameColumn(level.Name)},
-                                 {"kind", level.Name},
-                                 {"rows", query.Rows}}),
-                           SessionState.FiscalYearID, within.OrganizationID, within.DepartmentID, OnlyUnit(level)))
+    for (const Recordset& row : datAbsence.Select(
+             Fill("SELECT {units}, {name} AS Name FROM {kind}s WHERE FiscalYear = ?1 AND {rows}"
+                  "(?4 = 0 OR RecordID = ?4) ORDER BY Name ASC",
+                  {{"units", query.Units},
+                   {"name", NameColumn(level.Name)},
+                   {"kind", level.Name},
+                   {"rows", query.Rows}}),
+             SessionState.FiscalYearID, within.EmployeeOrganizationID, within.EmployeeDepartmentID, OnlyUnit(level)))
         entries.append({row.Text("Name"), SelectionOf(row, 0, row.Text("Name"))});
     return entries;
 }
 
-QVector<ReachEntry> Employees(DataControl& datAbsence, const EmployeeSelection& within)
+QVector<ReachEntry> Employees(DataControl& datAbsence, const CalendarSelection& within)
 {
     QVector<ReachEntry> entries;
     for (const Recordset& row : datAbsence.Select(
@@ -90,21 +90,21 @@ QVector<ReachEntry> Employees(DataControl& datAbsence, const EmployeeSelection& 
              "WHERE FiscalYear = ?1 AND DeactivatedDate = 0 AND (?2 = 0 OR OrganizationID = ?2) AND "
              "(?3 = 0 OR DepartmentID = ?3) AND (?4 = 0 OR GroupID = ?4) AND (?5 = 0 OR RecordID = ?5) "
              "ORDER BY FamilyName ASC, FirstName ASC",
-             SessionState.FiscalYearID, within.OrganizationID, within.DepartmentID, within.GroupID,
-             ReachesAUnit() ? 0 : SessionState.UserID)) {
+             SessionState.FiscalYearID, within.EmployeeOrganizationID, within.EmployeeDepartmentID,
+             within.EmployeeGroupID, ReachesAUnit() ? 0 : SessionState.UserID)) {
         entries.append({ListedName(row), SelectionOf(row, row.Long("RecordID"), FullName(row))});
     }
     return entries;
 }
 
-using UnitMember = int EmployeeSelection::*;
-constexpr UnitMember kUnits[] = {&EmployeeSelection::OrganizationID, &EmployeeSelection::DepartmentID,
-                                 &EmployeeSelection::GroupID, &EmployeeSelection::EmployeeID};
+using UnitMember = int CalendarSelection::*;
+constexpr UnitMember kUnits[] = {&CalendarSelection::EmployeeOrganizationID, &CalendarSelection::EmployeeDepartmentID,
+                                 &CalendarSelection::EmployeeGroupID, &CalendarSelection::EmployeeID};
 
 /// What is chosen never lifts the bounds that the user's rights set.
-EmployeeSelection Bounded(EmployeeSelection within)
+CalendarSelection Bounded(CalendarSelection within)
 {
-    const EmployeeSelection start = StartingUnit();
+    const CalendarSelection start = StartingUnit();
     for (const UnitMember unit : kUnits)
         if (start.*unit != 0)
             within.*unit = start.*unit;
@@ -112,28 +112,28 @@ EmployeeSelection Bounded(EmployeeSelection within)
 }
 } // namespace
 
-int IdInList(const EmployeeSelection& selection, ReachList list)
+int IdInList(const CalendarSelection& selection, ReachList list)
 {
     return selection.*kUnits[static_cast<std::size_t>(list)];
 }
 
-EmployeeSelection StartingUnit()
+CalendarSelection StartingUnit()
 {
-    EmployeeSelection start;
+    CalendarSelection start;
     for (const Level* level = &kOrganizationLevel; level < &kIndividualLevel; ++level)
         if (!level[-1].IsHeld(Access::Read))
             start.*kUnits[level - &kOrganizationLevel] = level->Unit();
     return start;
 }
 
-QVector<ReachEntry> EntriesInReach(DataControl& datAbsence, ReachList list, const EmployeeSelection& within)
+QVector<ReachEntry> EntriesInReach(DataControl& datAbsence, ReachList list, const CalendarSelection& within)
 {
     const Connection connection(datAbsence);
     return list == ReachList::Employees ? Employees(datAbsence, Bounded(within))
                                         : Units(datAbsence, list, Bounded(within));
 }
 
-bool MayBeShown(const EmployeeSelection& selection)
+bool MayBeShown(const CalendarSelection& selection)
 {
     if (selection.EmployeeID != 0)
         return true;
@@ -141,13 +141,4 @@ bool MayBeShown(const EmployeeSelection& selection)
         if (IdInList(selection, list) != 0)
             return &WidestRead() <= &LevelOf(list);
     return false;
-}
-
-void ShowInCalendar(const EmployeeSelection& selection)
-{
-    SessionState.EmployeeOrganizationID = selection.OrganizationID;
-    SessionState.EmployeeDepartmentID = selection.DepartmentID;
-    SessionState.EmployeeGroupID = selection.GroupID;
-    SessionState.EmployeeID = selection.EmployeeID;
-    SessionState.CurrentSelection = selection.Name;
 }

@@ -1,21 +1,7 @@
 #pragma once
 
+#include "foundation/session_state.h"
 #include "platform/dao/dao.h"
-
-#include <QString>
-#include <QVector>
-
-#include <array>
-
-/// A unit or an employee chosen for the calendar: the ids below the one chosen are 0, and all are 0 for none.
-struct EmployeeSelection
-{
-    int OrganizationID = 0;
-    int DepartmentID = 0;
-    int GroupID = 0;
-    int EmployeeID = 0;
-    QString Name; ///< the shown name of the deepest one
-};
 
 /// The four lists, from the widest to the narrowest.
 enum class ReachList
@@ -31,22 +17,19 @@ constexpr int kReachLists = 4;
 struct ReachEntry
 {
     QString Listed; ///< "Family, First" for an employee, otherwise the unit's name in the user's language
-    EmployeeSelection Selection;
+    CalendarSelection Selection;
 };
 
 /// The part of a selection that a list is about: the organization's id in the list of organizations, and so on.
-int IdInList(const EmployeeSelection& selection, ReachList list);
+int IdInList(const CalendarSelection& selection, ReachList list);
 
 /// The units that the user's rights fix: his organization without the global level, his department without the
 /// organization level, his group without the department level. All 0 for a user who reaches everybody.
-EmployeeSelection StartingUnit();
+CalendarSelection StartingUnit();
 
 /// The entries of a list that lie within a selection and within the reach of the user, in the session's fiscal year,
 /// by name. Employees are active ones; a user without read rights over a unit of his own finds only himself.
-QVector<ReachEntry> EntriesInReach(DataControl& datAbsence, ReachList list, const EmployeeSelection& within);
+QVector<ReachEntry> EntriesInReach(DataControl& datAbsence, ReachList list, const CalendarSelection& within);
 
 /// True for an employee, and for a whole unit that the user may read at its level. False for no selection.
-bool MayBeShown(const EmployeeSelection& selection);
-
-/// Makes the selection the session's: its units, its employee (0 for a whole unit) and the shown name.
-void ShowInCalendar(const EmployeeSelection& selection);
+bool MayBeShown(const CalendarSelection& selection);

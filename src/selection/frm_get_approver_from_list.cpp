@@ -20,7 +20,6 @@ frmGetApproverFromList::frmGetApproverFromList(const QString& employeeName, QWid
 {
     SetTitle(this, kTitle);
     auto* lblInstructions = WrappedLabel("lblInstructions");
-    lblInstructions->setTextFormat(Qt::PlainText);
     lblInstructions->setText(T(kInstructions, {{"employee", employeeName}}));
     lstApprovers->setMinimumSize(kApproverListWidth, kListHeight);
     SetAccessibleName(lstApprovers, kTitle);

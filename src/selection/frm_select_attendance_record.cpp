@@ -11,14 +11,13 @@ constexpr Text kChooseRecord = {
     "souhaitez modifier ou supprimer."};
 } // namespace
 
-frmSelectAttendanceRecord::frmSelectAttendanceRecord(const std::vector<std::pair<QString, int>>& lines, QWidget* parent)
+frmSelectAttendanceRecord::frmSelectAttendanceRecord(const QVector<ListEntry>& lines, QWidget* parent)
     : FormBase("frmSelectAttendanceRecord", parent), lstRecords(Named<QListWidget>("lstRecords"))
 {
     SetTitle(this, {"Selection of an attendance record", "Sélection d'une absence"});
     lstRecords->setMinimumHeight(kRecordListHeight);
     SetAccessibleName(lstRecords, kChooseRecord);
-    for (const auto& [text, recordID] : lines)
-        AddEntry(lstRecords, text, recordID);
+    AddEntries(lstRecords, lines);
     lstRecords->setCurrentRow(0);
     connect(lstRecords, &QListWidget::itemDoubleClicked, this, &frmSelectAttendanceRecord::cmdSelect_Click);
     Page()->addWidget(MakeCard(Stack(kRecordListGap, {WrappedLabel("lblInstructions", kChooseRecord), lstRecords})));
@@ -29,8 +28,6 @@ frmSelectAttendanceRecord::frmSelectAttendanceRecord(const std::vector<std::pair
 /// The current line counts, also when its mark was taken away.
 void frmSelectAttendanceRecord::cmdSelect_Click()
 {
-    if (!lstRecords->currentItem())
-        return;
-    selectedRecordID_ = lstRecords->currentItem()->data(Qt::UserRole).toInt();
-    accept();
+    if (lstRecords->currentItem())
+        accept();
 }

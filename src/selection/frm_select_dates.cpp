@@ -36,8 +36,7 @@ frmSelectDates::frmSelectDates(const Period& period, const WorkSchedule& schedul
     range->setColumnStretch(2, 1);
     cboFrom = AddDates(range, 0, "cboFrom", {"&From", "&Du"}, daysFrom_);
     cboTo = AddDates(range, 1, "cboTo", {"&To", "&Au"}, daysTo_);
-    auto* content = new QVBoxLayout;
-    content->setSpacing(kPartsGap);
+    auto* content = Stack(kPartsGap);
     content->addLayout(range);
     content->addSpacing(kGroupGap);
     content->addWidget(AsHead(MakeLabel("lblWeekdays", {"Days of the week", "Jours de la semaine"})));
@@ -70,7 +69,7 @@ QComboBox* frmSelectDates::AddDates(QGridLayout* range, int column, const char* 
 QCheckBox* frmSelectDates::AddExclusion(QVBoxLayout* content, const char* name, const Text& caption,
                                         const Text& warning)
 {
-    QCheckBox* box = MakeCheckBox(name, caption);
+    QCheckBox* box = MakeButton<QCheckBox>(name, caption);
     box->setChecked(true);
     connect(box, &QCheckBox::clicked, this, [this, box, warning] { Exclusion_Click(box, warning); });
     content->addWidget(box);

@@ -1,5 +1,7 @@
 #include "selection/frm_select_employee.h"
 
+#include "foundation/connection.h"
+
 namespace
 {
 constexpr QSize kOpeningSize(722, 533);
@@ -83,6 +85,7 @@ void frmSelectEmployee::AddList(QGridLayout* content, ReachList list)
 
 void frmSelectEmployee::LoadListBoxes()
 {
+    const Connection connection(datAbsence);
     choice_ = StartingUnit();
     for (const ReachList list : kLists)
         LoadList(list);
@@ -138,12 +141,12 @@ void frmSelectEmployee::NameStartingUnit()
 {
     for (const ReachList list : kLists)
         if (IdInList(choice_, list) != 0 && !lists_[Index(list)]->selectedItems().isEmpty())
-            choice_.Name = lists_[Index(list)]->currentItem()->text();
+            choice_.CurrentSelection = lists_[Index(list)]->currentItem()->text();
 }
 
 void frmSelectEmployee::ShowChoice()
 {
-    lblChoice->setText(CanBeSelected() ? choice_.Name : QString());
+    lblChoice->setText(CanBeSelected() ? choice_.CurrentSelection : QString());
     cmdSelect->setEnabled(CanBeSelected());
 }
 
@@ -156,8 +159,7 @@ void frmSelectEmployee::cmdSelect_Click()
 {
     if (!CanBeSelected())
         return;
-    chosen_ = choice_;
     if (purpose_ == Purpose::Calendar)
-        ShowInCalendar(chosen_);
+        static_cast<CalendarSelection&>(SessionState) = choice_;
     accept();
 }

@@ -18,9 +18,9 @@ public:
     explicit frmSelectEmployee(QWidget* parent = nullptr, Purpose purpose = Purpose::Calendar);
 
     /// Employees.RecordID of the employee selected; 0 when the form was left, or for a whole unit.
-    int ChosenEmployeeID() const { return chosen_.EmployeeID; }
+    int ChosenEmployeeID() const { return result() == Accepted ? choice_.EmployeeID : 0; }
     /// The shown name of what was selected; empty when the form was left.
-    QString ChosenName() const { return chosen_.Name; }
+    QString ChosenName() const { return result() == Accepted ? choice_.CurrentSelection : QString(); }
 
 private:
     void AddList(QGridLayout* content, ReachList list);
@@ -34,8 +34,7 @@ private:
     void cmdSelect_Click();
 
     const Purpose purpose_;
-    EmployeeSelection choice_;
-    EmployeeSelection chosen_;
+    CalendarSelection choice_; ///< the ids below the one chosen are 0, and all are 0 for none
     std::array<QVector<ReachEntry>, kReachLists> entries_;
     std::array<ChoiceList*, kReachLists> lists_; ///< lstOrganizations, lstDepartments, lstGroups, lstEmployees
     QLabel* lblChoice;

@@ -45,9 +45,7 @@ frmSelectPeriod::frmSelectPeriod(PeriodMode mode, QWidget* parent)
 {
     const ModeTexts& texts = kModes[static_cast<int>(mode)];
     SetTitle(this, texts.Title);
-    auto* content = new QVBoxLayout;
-    content->setSpacing(kPeriodPartsGap);
-    content->addWidget(AsHead(MakeLabel("lblInstructions", texts.Instructions)));
+    auto* content = Stack(kPeriodPartsGap, {AsHead(MakeLabel("lblInstructions", texts.Instructions))});
     content->addLayout(Dates());
     content->addSpacing(kOptionsGap);
     content->addWidget(
@@ -71,8 +69,7 @@ QLayout* frmSelectPeriod::Dates()
     Show(FirstPeriod(mode_));
     connect(cboFrom, &QComboBox::currentIndexChanged, this, &frmSelectPeriod::cboFrom_Click);
     connect(cboTo, &QComboBox::currentIndexChanged, this, &frmSelectPeriod::cboTo_Click);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(kPeriodDatesGap);
+    auto* row = Beside(kPeriodDatesGap);
     row->addLayout(Captioned(kModes[static_cast<int>(mode_)].From, cboFrom));
     row->addLayout(Captioned({"&End date", "Date de &fin:"}, cboTo));
     row->addStretch();
@@ -91,7 +88,7 @@ QLayout* frmSelectPeriod::Months()
 /// The option of a period that the fiscal year does not have cannot be chosen.
 QRadioButton* frmSelectPeriod::AddOption(const QString& name, const Text& caption, const Period& period)
 {
-    QRadioButton* option = MakeOption(name, caption);
+    QRadioButton* option = MakeButton<QRadioButton>(name, caption);
     options_->addButton(option);
     option->setEnabled(period != Period());
     option->setChecked(period == Shown());
@@ -155,10 +152,8 @@ void frmSelectPeriod::cboTo_Click()
 void frmSelectPeriod::cmdOK_Click()
 {
     if (mode_ == PeriodMode::Schedule && !FitsSchedule(Shown()))
-        return Tell(T("ERROR:", "ERREUR:"),
-                    T("The period covered by a schedule cannot exceed 31 days!",
-                      "La période spécifiée pour la préparation d'un horaire ne peut excéder 31 jours!"),
-                    Face::Warning);
+        return Refuse(T("The period covered by a schedule cannot exceed 31 days!",
+                        "La période spécifiée pour la préparation d'un horaire ne peut excéder 31 jours!"));
     chosen_ = Shown();
     accept();
 }

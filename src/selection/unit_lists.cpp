@@ -4,8 +4,6 @@
 #include "foundation/levels.h"
 #include "foundation/names.h"
 
-#include <algorithm>
-
 namespace
 {
 const Level& LevelOf(UnitList list)
@@ -53,11 +51,4 @@ QVector<Unit> UnitsByPosition(DataControl& datAbsence, UnitList list, int organi
             units.append(unit);
     }
     return units;
-}
-
-Unit FindUnit(const QVector<Unit>& units, int recordID)
-{
-    const auto found =
-        std::find_if(units.begin(), units.end(), [recordID](const Unit& unit) { return unit.RecordID == recordID; });
-    return found == units.end() || recordID == 0 ? Unit() : *found;
 }

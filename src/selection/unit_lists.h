@@ -29,6 +29,3 @@ struct Unit
 /// that one, whoever stands above it all active ones below his own unit. `organizationID` and `departmentID` narrow
 /// the list further, 0 does not. Empty when nothing can be read.
 QVector<Unit> UnitsByPosition(DataControl& datAbsence, UnitList list, int organizationID = 0, int departmentID = 0);
-
-/// The list that holds the unit `recordID` gives its row; a RecordID of 0 when it does not.
-Unit FindUnit(const QVector<Unit>& units, int recordID);

@@ -41,7 +41,7 @@ void TellOccupied(const QString& target)
                 "exploitée par une autre installation de Tarvell, elle ne peut être remplacée. Si vous êtes absolument "
                 "certain que «{path}» N'EST PAS une banque de données active, vous devriez d'abord l'effacer ou la "
                 "renommer."),
-              {{"path", ShownPath(target)}}),
+              {{"path", NativePath(target)}}),
          Face::Warning);
 }
 
@@ -68,11 +68,6 @@ void WaitUntilReadable(const QString& path)
 QString OriginalDatabasePath()
 {
     return JoinPath(ProgramFolder(), "Tarvell.mdb");
-}
-
-QString ShownPath(const QString& path)
-{
-    return NativePath(path);
 }
 
 bool MayBeRelocated(const QString& target, const QString& current)

@@ -5,9 +5,6 @@
 /// The empty database that the program is delivered with.
 QString OriginalDatabasePath();
 
-/// A path as this machine shows it.
-QString ShownPath(const QString& path);
-
 /// Whether a new database may be put at `target` (upper case) instead of `current`. A refusal is told: another name
 /// than Tarvell.mdb, the place where it lies already, a place where another database lies.
 bool MayBeRelocated(const QString& target, const QString& current);

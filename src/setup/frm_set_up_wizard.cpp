@@ -10,6 +10,7 @@
 #include "setup/frm_step_language.h"
 #include "setup/installation.h"
 
+#include <QScopeGuard>
 #include <QStackedWidget>
 
 namespace
@@ -41,23 +42,11 @@ QWidget* FirstField(const QWidget* step)
     return nullptr;
 }
 
-/// A form that cannot be used while it lives.
-class DisabledForm
-{
-public:
-    explicit DisabledForm(QWidget* form) : form_(form) { form->setEnabled(false); }
-    ~DisabledForm() { form_->setEnabled(true); }
-    DisabledForm(const DisabledForm&) = delete;
-    DisabledForm& operator=(const DisabledForm&) = delete;
-
-private:
-    QWidget* form_;
-};
 } // namespace
 
-frmSetUpWizard::frmSetUpWizard(std::function<void()> startNormally, QWidget* parent)
-    : FormBase("frmSetUpWizard", parent), startNormally_(std::move(startNormally)),
-      lblTitle(AsFigure(WrappedLabel("lblTitle"))), lblStep(AsCaption(MakeLabel("lblStep"))), steps_(new QStackedWidget)
+frmSetUpWizard::frmSetUpWizard(QWidget* parent)
+    : FormBase("frmSetUpWizard", parent), lblTitle(AsFigure(WrappedLabel("lblTitle"))),
+      lblStep(AsCaption(MakeLabel("lblStep"))), steps_(new QStackedWidget)
 {
     auto* head = new QHBoxLayout;
     head->addWidget(lblTitle, 1);
@@ -65,8 +54,8 @@ frmSetUpWizard::frmSetUpWizard(std::function<void()> startNormally, QWidget* par
     Page()->addLayout(head);
     AddSteps();
     Page()->addWidget(MakeCard(Stack(0, {steps_})), 1);
-    cmdCancel = AddButton("cmdCancel", kCancel, [this] { cmdCancel_Click(); });
-    cmdPrevious = AddButton("cmdPrevious", kPrevious, [this] { cmdPrevious_Click(); });
+    cmdCancel = AddWayOut(kCancel);
+    cmdPrevious = AddButton("cmdPrevious", kPrevious, [this] { GoToStep(CurrentStep - 1); });
     cmdNext = AddMainButton("cmdNext", kNext, [this] { cmdNext_Click(); });
     LayFoot({cmdCancel}, {cmdPrevious, cmdNext});
     SetSize(kSize);
@@ -76,7 +65,7 @@ frmSetUpWizard::frmSetUpWizard(std::function<void()> startNormally, QWidget* par
 void frmSetUpWizard::AddSteps()
 {
     auto* language = new LanguageStep(choices_);
-    connect(language, &LanguageStep::LanguageChosen, this, &frmSetUpWizard::ChooseLanguage);
+    connect(language, &WizardStep::Changed, this, &frmSetUpWizard::LoadCaptions);
     for (WizardStep* step : std::initializer_list<WizardStep*>{
              language, new KindStep(choices_), new DatabaseStep(choices_), new FiscalYearStep(choices_),
              new CategoriesStep(choices_), new AdministratorStep(choices_)}) {
@@ -85,16 +74,9 @@ void frmSetUpWizard::AddSteps()
     }
 }
 
-void frmSetUpWizard::ChooseLanguage()
-{
-    languageChosen_ = true;
-    LoadCaptions();
-    UpdateButtons();
-}
-
 void frmSetUpWizard::LoadCaptions()
 {
-    const auto text = [this](const Text& caption) { return languageChosen_ ? T(caption) : Bilingual(caption); };
+    const auto text = [this](const Text& caption) { return choices_.LanguageChosen ? T(caption) : Bilingual(caption); };
     Retranslate(this);
     setWindowTitle(text(kTitle));
     cmdCancel->setText(text(kCancel));
@@ -149,12 +131,7 @@ void frmSetUpWizard::cmdNext_Click()
         GoToStep(CurrentStep + 1);
 }
 
-void frmSetUpWizard::cmdPrevious_Click()
-{
-    GoToStep(CurrentStep - 1);
-}
-
-void frmSetUpWizard::cmdCancel_Click()
+void frmSetUpWizard::reject()
 {
     if (ConfirmCancelling())
         EndProgram();
@@ -168,7 +145,7 @@ bool frmSetUpWizard::ConfirmCancelling() const
         "Si vous interrompez la configuration maintenant, elle reprendra du début la prochaine fois que vous "
         "démarrerez Tarvell.\r\n\r\nSouhaitez-vous vraiment interrompre la configuration initiale de Tarvell?"};
     constexpr Text kWarning = {"WARNING:", "ATTENTION:"};
-    if (languageChosen_)
+    if (choices_.LanguageChosen)
         return Ask(T(kWarning), T(kQuestion), Face::Warning);
     return ShowMessage({.Text = Bilingual(kQuestion, "\r\n\r\n"),
                         .Title = Bilingual(kWarning),
@@ -180,28 +157,13 @@ void frmSetUpWizard::Finish()
 {
     switch (choices_.Kind) {
     case Installation::NewAccess:
-        return Configure_Access();
+        return Configure("Microsoft Access", InstallDatabase);
     case Installation::NewServer:
-        return Configure_SQL();
+        return Configure("Microsoft SQL Server", InstallOnServer);
     default:
-        NetworkInstallationCompleted();
+        ConfigureWorkstation(choices_);
+        accept();
     }
-}
-
-void frmSetUpWizard::NetworkInstallationCompleted()
-{
-    ConfigureWorkstation(choices_);
-    StartNormally();
-}
-
-void frmSetUpWizard::Configure_Access()
-{
-    Configure("Microsoft Access", InstallDatabase);
-}
-
-void frmSetUpWizard::Configure_SQL()
-{
-    Configure("Microsoft SQL Server", InstallOnServer);
 }
 
 void frmSetUpWizard::Configure(const QString& databaseType, void (*install)(DataControl&, const SetUpChoices&))
@@ -209,7 +171,8 @@ void frmSetUpWizard::Configure(const QString& databaseType, void (*install)(Data
     if (!ConfirmConfiguration(databaseType))
         return;
     {
-        const DisabledForm disabled(this);
+        setEnabled(false);
+        const auto enable = qScopeGuard([this] { setEnabled(true); });
         const BusyPointer hourglass;
         install(datAbsence, choices_);
     }
@@ -225,7 +188,7 @@ void frmSetUpWizard::Configure(const QString& databaseType, void (*install)(Data
            "Subdiviser vos départements en groupes fonctionnels (facultatif)\r\n - Identifier vos employés\r\n - Créer "
            "vos propres catégories d'absentéisme (facultatif)"),
          Face::Congratulating);
-    StartNormally();
+    accept();
 }
 
 bool frmSetUpWizard::ConfirmConfiguration(const QString& databaseType) const
@@ -248,10 +211,4 @@ bool frmSetUpWizard::ConfirmConfiguration(const QString& databaseType) const
                   {"first", choices_.AdminFirstName},
                   {"family", choices_.AdminFamilyName},
                   {"password", choices_.AdminPassword}}));
-}
-
-void frmSetUpWizard::StartNormally()
-{
-    accept();
-    startNormally_();
 }

@@ -101,10 +101,8 @@ void CategoriesStep::BuildColumn(int index, QGridLayout* grid)
     column.NoEntitlement = Named<QCheckBox>(chk + "_NoEntitlement");
     column.CarryOver = Named<QCheckBox>(chk + "_CarryOver");
 
-    auto* time = new QHBoxLayout;
-    time->setSpacing(kUnitGap);
-    time->addWidget(column.Hours);
-    time->addWidget(AsCaption(MakeLabel(QLatin1String("lblHours_") + suffix, {"h", "h"})));
+    auto* time =
+        Beside(kUnitGap, {column.Hours, AsCaption(MakeLabel(QLatin1String("lblHours_") + suffix, {"h", "h"}))});
     time->addSpacing(kUnitGap);
     time->addWidget(column.Minutes);
     time->addWidget(AsCaption(MakeLabel(QLatin1String("lblMinutes_") + suffix, {"min", "min"})));

@@ -2,6 +2,7 @@
 
 #include "foundation/common_services.h"
 #include "foundation/database_choice.h"
+#include "platform/program.h"
 #include "setup/database_relocation.h"
 #include "setup/installation.h"
 
@@ -53,14 +54,12 @@ void TellDatabaseNotEmpty(const QString& server = {})
 
 void TellDatabaseEmpty(const QString& path)
 {
-    Tell(T("ERROR:", "ERREUR:"),
-         T({"The database you intend to use ({path}) is currently empty! If you are not certain where your actual "
-            "database resides, please ask your network administrator.",
-            "La banque de données que vous souhaitez exploiter ({path}) est présentement vide! Si vous n'êtes pas "
-            "certain de l'endroit où se trouve votre banque de données, veuillez consulter votre administrateur de "
-            "réseau."},
-           {{"path", ShownPath(path)}}),
-         Face::Warning);
+    Refuse(T({"The database you intend to use ({path}) is currently empty! If you are not certain where your actual "
+              "database resides, please ask your network administrator.",
+              "La banque de données que vous souhaitez exploiter ({path}) est présentement vide! Si vous n'êtes pas "
+              "certain de l'endroit où se trouve votre banque de données, veuillez consulter votre administrateur de "
+              "réseau."},
+             {{"path", NativePath(path)}}));
 }
 
 void TellInvalidStructure()
@@ -71,11 +70,6 @@ void TellInvalidStructure()
            "Veuillez confirmer auprès de votre administrateur de réseau que l'adresse IP et le nom de banque de "
            "données qui vous ont été fournis sont bien ceux de Tarvell."),
          Face::Warning);
-}
-
-QString FolderOf(const QString& path)
-{
-    return ShownPath(path.chopped(kDatabaseNameLength));
 }
 } // namespace
 
@@ -174,7 +168,7 @@ void DatabaseStep::ShowChoices()
     if (IsNew(choices_.Kind) && !choices_.DatabaseRelocated)
         choices_.NewDatabasePath = OriginalDatabasePath();
     pages_->setCurrentIndex(IsServer(choices_.Kind) ? 1 : 0);
-    lblDatabasePath->setText(ShownPath(choices_.NewDatabasePath));
+    lblDatabasePath->setText(NativePath(choices_.NewDatabasePath));
     cmdTestConnection->setEnabled(IsServerComplete(choices_));
 }
 
@@ -199,7 +193,8 @@ void DatabaseStep::cmdRelocateDatabase_Click()
     const bool isNew = IsNew(choices_.Kind);
     const QString title = isNew ? T("Move database to:", "Relocaliser la banque de données dans:")
                                 : T("Locate database:", "Localisation de la banque de données:");
-    const QString path = ChooseDatabaseFile(title, FolderOf(choices_.NewDatabasePath), isNew);
+    const QString folder = NativePath(choices_.NewDatabasePath.chopped(kDatabaseNameLength));
+    const QString path = ChooseDatabaseFile(title, folder, isNew);
     if (path.isEmpty())
         return;
     if (isNew)

@@ -70,8 +70,7 @@ void FiscalYearStep::LayControls()
 
 QLayout* FiscalYearStep::Dates()
 {
-    auto* dates = new QHBoxLayout;
-    dates->setSpacing(kDatesGap);
+    auto* dates = Beside(kDatesGap);
     dates->addLayout(Stack(0, {AsCaption(MakeLabel("lblStartCaption", {"Start", "Début"})), lblFiscalYearStart}));
     dates->addLayout(Stack(0, {AsCaption(MakeLabel("lblEndCaption", {"End", "Fin"})), lblFiscalYearEnd}));
     dates->addStretch();

@@ -113,9 +113,7 @@ QWidget* KindStep::AddOption(std::size_t index)
     const KindText& kind = kKinds[index];
     options_.push_back(Named<QRadioButton>(QLatin1String("opt") + kind.Name));
     connect(options_.back(), &QRadioButton::clicked, this, [this, &kind] { Choose(kind.Kind); });
-    auto* row = new QHBoxLayout;
-    row->setSpacing(kOptionGap);
-    row->addWidget(options_.back());
+    auto* row = Beside(kOptionGap, {options_.back()});
     row->addWidget(new OptionText(options_.back(), kind.Caption), 1);
     row->addWidget(InfoButton(kind));
     return MakeCard(row);

@@ -15,10 +15,9 @@ LanguageStep::LanguageStep(SetUpChoices& choices) : WizardStep("fraStep1", {kWel
 {
     QLabel* lblWelcome = WrappedLabel("lblWelcome", {kQuestion, kQuestion});
     lblWelcome->setAlignment(Qt::AlignHCenter);
-    auto* languages = new QVBoxLayout;
-    languages->setSpacing(kLanguagesGap);
-    optEnglish = AddLanguage(languages, "optEnglish", "I wish to use Tarvell in &English", true);
-    optFrench = AddLanguage(languages, "optFrench", "Je compte utiliser Tarvell en &français", false);
+    auto* languages = Stack(kLanguagesGap);
+    AddLanguage(languages, "optEnglish", "I wish to use Tarvell in &English", true);
+    AddLanguage(languages, "optFrench", "Je compte utiliser Tarvell en &français", false);
     auto* centred = new QHBoxLayout;
     centred->addStretch();
     centred->addLayout(languages);
@@ -33,18 +32,13 @@ LanguageStep::LanguageStep(SetUpChoices& choices) : WizardStep("fraStep1", {kWel
     content->addStretch(2);
 }
 
-QRadioButton* LanguageStep::AddLanguage(QVBoxLayout* languages, const char* name, const char* caption, bool english)
+void LanguageStep::AddLanguage(QVBoxLayout* languages, const char* name, const char* caption, bool english)
 {
-    QRadioButton* option = MakeOption(name, {caption, caption});
+    QRadioButton* option = MakeButton<QRadioButton>(name, {caption, caption});
     languages->addWidget(option);
     connect(option, &QRadioButton::clicked, this, [this, english] {
         SessionState.English = english;
-        emit LanguageChosen();
+        choices_.LanguageChosen = true;
+        emit Changed();
     });
-    return option;
-}
-
-bool LanguageStep::IsComplete() const
-{
-    return optEnglish->isChecked() || optFrench->isChecked();
 }

@@ -9,7 +9,10 @@ class WizardStep : public QFrame
     Q_OBJECT
 
 public:
-    WizardStep(const QString& name, const Text& title, SetUpChoices& choices);
+    WizardStep(const QString& name, const Text& title, SetUpChoices& choices) : choices_(choices), title_(title)
+    {
+        setObjectName(name);
+    }
 
     /// The line over the step.
     virtual QString Title() const { return T(title_); }

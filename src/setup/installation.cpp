@@ -10,19 +10,10 @@
 #include "setup/first_rows.h"
 
 #include <QFile>
+#include <QScopeGuard>
 
 namespace
 {
-/// A database held in the workspace.
-class OpenedDatabase
-{
-public:
-    explicit OpenedDatabase(const QString& path) { DefaultWorkspace().OpenDatabase(path, ";PWD=" + kDatabasePassword); }
-    ~OpenedDatabase() { DefaultWorkspace().Close(); }
-    OpenedDatabase(const OpenedDatabase&) = delete;
-    OpenedDatabase& operator=(const OpenedDatabase&) = delete;
-};
-
 void TakeChoices(const SetUpChoices& choices)
 {
     Session& s = SessionState;
@@ -41,7 +32,8 @@ void RemoveConfiguration()
 
 void FillDatabase(DataControl& datAbsence, const SetUpChoices& choices)
 {
-    const OpenedDatabase database(choices.NewDatabasePath);
+    DefaultWorkspace().OpenDatabase(choices.NewDatabasePath, ";PWD=" + kDatabasePassword);
+    const auto close = qScopeGuard([] { DefaultWorkspace().Close(); });
     AddFirstRows(datAbsence, choices);
 }
 } // namespace

@@ -27,6 +27,7 @@ struct CategoryChoice
 /// What the user of the set-up wizard has answered.
 struct SetUpChoices
 {
+    bool LanguageChosen = false; ///< it stands in SessionState.English
     Installation Kind = Installation::None;
     QString NewDatabasePath;        ///< of the file itself
     bool DatabaseRelocated = false; ///< the new database was copied there

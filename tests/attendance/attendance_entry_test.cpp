@@ -1,40 +1,19 @@
-#include "attendance/attendance_entry.h"
-#include "platform/clock.h"
-#include "support/house.h"
-
-#include <algorithm>
-#include <gtest/gtest.h>
+#include "attendance/attendance_fixture.h"
 
 namespace
 {
-const QDate kMonday(2026, 3, 2);
-const QDate kTuesday(2026, 3, 3);
-const QDate kSaturday(2026, 3, 7);
+constexpr int kMonday = 2;
+constexpr int kTuesday = 3;
+constexpr int kSaturday = 7;
 
 /// Monday to Friday 8:30 to 12:00 and 13:00 to 16:30; a test changes a day.
-class AttendanceEntryRules : public testing::Test
+class AttendanceEntryRules : public AttendanceTest
 {
 protected:
     AttendanceEntryRules()
     {
-        for (int day = 1; day <= 5; ++day) {
-            entry.FirstHalfStart[day] = 8.5F;
-            entry.FirstHalfEnd[day] = 12;
-            entry.SecondHalfStart[day] = 13;
-            entry.SecondHalfEnd[day] = 16.5F;
-        }
-        Select({kMonday});
-    }
-
-    void Select(std::initializer_list<QDate> dates)
-    {
-        entry.Dates.clear();
-        std::transform(dates.begin(), dates.end(), std::back_inserter(entry.Dates), SerialOfDate);
-    }
-    void Category(const char* systemName, int bankRelated)
-    {
-        entry.SystemName = systemName;
-        entry.TimeBankRelated = bankRelated;
+        Begin({kMonday}, chris, "");
+        LoadEmployeeInfo(datAbsence, entry);
     }
     void Enter(const char* hours, const char* minutes)
     {
@@ -52,36 +31,29 @@ protected:
     {
         return QStringLiteral("%1 %2 %3").arg(entry.Duration).arg(entry.TotalDuration).arg(entry.TotalTime);
     }
-
-    AttendanceEntry entry;
 };
 
 TEST_F(AttendanceEntryRules, TheCategoryDecidesTheSignWhileThePositiveTotalIsShown)
 {
     Select({kMonday, kTuesday});
     entry.TimeMultiplicator = 1.5F;
-    const std::tuple<const char*, int, const char*> cases[] = {
-        {"Time claimed", 1, "-2 -3 -6"},  {"Time borrowed", 1, "-2 -3 -6"}, {"Time paid", 1, "-2 -3 -6"},
-        {"Time accumulated", 1, "2 3 6"}, {"Vacation", 0, "2 3 6"},         {"Time claimed", 0, "2 3 6"}};
-    for (const auto& [name, bankRelated, durations] : cases) {
-        Category(name, bankRelated);
-        Enter("2", "");
-        EXPECT_EQ(Durations() + " " + entry.TotalTimeText, QString(durations) + " 06:00") << name;
-        RecalculateTotalTime(entry);
-        EXPECT_EQ(Durations(), durations) << "a second run must not turn the sign: " << name;
-    }
-    Category("Time claimed", 1);
-    Enter("2", "0");
-    const std::tuple<const char*, int, const char*> next[] = {
-        {"", 1, "-2 -3 -6"},        // a bank of the user's own
-        {"Vacation", 0, "2 -3 -6"}, // only the next run turns them
-        {"Vacation", 0, "2 3 6"},
-        {"Time paid", 1, "-2 -3 -6"},
-        {"Time accumulated", 1, "2 3 6"}};
-    for (const auto& [name, bankRelated, durations] : next) {
-        Category(name, bankRelated);
-        RecalculateTotalTime(entry);
-        EXPECT_EQ(Durations(), durations);
+    const std::tuple<const char*, int, bool, const char*> steps[] = {
+        // entered, or only calculated again
+        {"Time claimed", 0, true, "2 3 6 06:00"},
+        {"Time paid", 1, true, "-2 -3 -6 06:00"},
+        {"Time borrowed", 1, true, "-2 -3 -6 06:00"},
+        {"Time claimed", 1, true, "-2 -3 -6 06:00"},
+        {"Time claimed", 1, false, "-2 -3 -6 -(06:00)"}, // a second run must not turn the sign
+        {"", 1, false, "-2 -3 -6 -(06:00)"},             // a bank of the user's own
+        {"Vacation", 0, false, "2 -3 -6 -(06:00)"},      // only the next run turns them
+        {"Vacation", 0, false, "2 3 6 06:00"},
+        {"Time paid", 1, false, "-2 -3 -6 06:00"},
+        {"Time accumulated", 1, false, "2 3 6 -(06:00)"}};
+    for (const auto& [systemName, bankRelated, entered, durations] : steps) {
+        entry.SystemName = systemName;
+        entry.TimeBankRelated = bankRelated;
+        entered ? Enter("2", "") : RecalculateTotalTime(entry);
+        EXPECT_EQ(Durations() + " " + entry.TotalTimeText, durations) << systemName;
     }
 }
 
@@ -101,45 +73,37 @@ TEST_F(AttendanceEntryRules, TotalsAreSingleFloatsAndNotRounded)
 
 TEST_F(AttendanceEntryRules, AStartWithoutAnEndTakesTheStartAndTheEndMayLieBeyondMidnight)
 {
-    struct Choice
-    {
-        void (*Choose)(AttendanceEntry&, const QString&);
-        const char* Time;
-        float End;
-        const char* Shown;
+    const auto starts = [this](const char* time) {
+        ChooseStartTime(entry, time);
+        return Shown() + QStringLiteral(" %1").arg(entry.EndTime);
     };
-    const Choice choices[] = {
-        {ChooseStartTime, "23:00", 23, "23:00|23:00|00|00|00:00"},
-        {ChooseEndTime, "01:00", 25, "23:00|01:00|02|00|02:00"},
-        {ChooseStartTime, "22:30", 25, "22:30|01:00|02|30|02:30"},
-        {ChooseStartTime, "00:15", 1, "00:15|01:00|00|45|00:45"}, // midnight no longer lies between
-        {ChooseStartTime, "22:00", 25, "22:00|01:00|03|00|03:00"},
-        {ChooseEndTime, "00:00", 24, "22:00|00:00|02|00|02:00"},
-        {ChooseStartTime, "00:00", 1e-7F, "00:00|00:00|00|00|00:00"}, // midnight is a time and not none
-        {ChooseEndTime, "08:00", 8, "00:00|08:00|08|00|08:00"},
+    const auto ends = [this](const char* time) {
+        ChooseEndTime(entry, time);
+        return Shown() + QStringLiteral(" %1").arg(entry.EndTime);
     };
-    for (const Choice& choice : choices) {
-        choice.Choose(entry, choice.Time);
-        EXPECT_EQ(entry.EndTime, choice.End) << choice.Time;
-        EXPECT_EQ(Shown(), choice.Shown);
-    }
-    EXPECT_EQ(entry.StartTime, 1e-7F);
-    // A stored record shows the hours of its end beyond midnight.
-    for (const auto& [end, text, onItsDay] : {std::tuple(25.0F, "25:00", 1.0F), std::tuple(24.0F, "24:00", 1e-7F)}) {
-        entry.EndTime = end;
+    EXPECT_EQ(starts("23:00"), "23:00|23:00|00|00|00:00 23");
+    EXPECT_EQ(ends("01:00"), "23:00|01:00|02|00|02:00 25");
+    EXPECT_EQ(starts("22:30"), "22:30|01:00|02|30|02:30 25");
+    EXPECT_EQ(starts("00:15"), "00:15|01:00|00|45|00:45 1") << "midnight no longer lies between";
+    EXPECT_EQ(starts("22:00"), "22:00|01:00|03|00|03:00 25");
+    EXPECT_EQ(ends("00:00"), "22:00|00:00|02|00|02:00 24");
+    EXPECT_EQ(starts("00:00"), "00:00|00:00|00|00|00:00 1e-07") << "midnight is a time and not none";
+    EXPECT_EQ(ends("08:00"), "00:00|08:00|08|00|08:00 8");
+    for (const auto& [end, text, shown] :
+         {std::tuple(25.0F, "25:00", "00:00|25:00|01|00|01:00 1"), {24.0F, "24:00", "00:00|24:00|00|00|00:00 1e-07"}}) {
+        entry.EndTime = end; // a stored record shows the hours of its end beyond midnight
         entry.EndTimeText = text;
-        ChooseStartTime(entry, "00:00");
-        EXPECT_EQ(entry.EndTime, onItsDay);
+        EXPECT_EQ(starts("00:00"), shown);
     }
 }
 
 TEST_F(AttendanceEntryRules, AHalfIsOfferedWhenItsHoursAreTheSameOnAllDates)
 {
-    const auto offered = [this](std::initializer_list<QDate> dates) {
-        Select(dates);
+    const auto offered = [this](const QVector<int>& days) {
+        Select(days);
         FindDayParts(entry);
         return QStringLiteral("%1%2%3")
-            .arg(entry.WholeDayEnabled)
+            .arg(entry.WholeDayEnabled())
             .arg(entry.FirstHalfEnabled)
             .arg(entry.SecondHalfEnabled);
     };
@@ -156,37 +120,30 @@ TEST_F(AttendanceEntryRules, AHalfIsOfferedWhenItsHoursAreTheSameOnAllDates)
     EXPECT_EQ(offered({kSaturday, kMonday}), "000");
 }
 
-TEST_F(AttendanceEntryRules, DayPartsTakeTheirTimesFromTheFirstDateAndTheBreakOff)
+TEST_F(AttendanceEntryRules, DayPartsTakeTheirTimesFromTheFirstDateAndATypedDurationForgetsThem)
 {
     entry.FirstHalfStart[2] = 9;
     Select({kMonday, kTuesday});
-    entry.FirstHalfEnabled = true;
-    entry.SecondHalfEnabled = true;
     const auto chosen = [this](DayPart part, bool checked = true) {
         ChooseDayPart(entry, part, checked);
         return Shown();
     };
+    const auto known = [this] {
+        return QStringLiteral("%1 %2 ").arg(int(entry.Part)).arg(entry.StartTime + entry.EndTime) + Durations();
+    };
     EXPECT_EQ(chosen(DayPart::WholeDay), "08:30|16:30|07|00|14:00");
-    EXPECT_EQ(entry.UnpaidBreak, 1);
     EXPECT_EQ(chosen(DayPart::SecondHalf), "13:00|16:30|03|30|07:00");
     EXPECT_EQ(chosen(DayPart::FirstHalf), "08:30|12:00|03|30|07:00");
-    EXPECT_EQ(chosen(DayPart::FirstHalf, false), "||||");
-    EXPECT_EQ(entry.Part, DayPart::None);
-    EXPECT_EQ(QString::number(entry.StartTime + entry.EndTime) + " " + Durations(), "0 0 0 0");
+    EXPECT_EQ(known(), "2 20.5 3.5 3.5 7");
+    chosen(DayPart::FirstHalf, false);
+    EXPECT_EQ(Shown() + known(), "||||0 0 0 0 0");
     chosen(DayPart::WholeDay);
     ChooseEndTime(entry, "17:00");
-    EXPECT_EQ(entry.Part, DayPart::None);
-    EXPECT_EQ(Shown(), "08:30|17:00|08|30|17:00") << "the break belonged to the whole day";
-}
-
-TEST_F(AttendanceEntryRules, ATypedDurationForgetsTheTimes)
-{
-    ChooseDayPart(entry, DayPart::FirstHalf, true);
+    EXPECT_EQ(Shown() + known(), "08:30|17:00|08|30|17:000 25.5 8.5 8.5 17") << "the break belonged to the whole day";
+    chosen(DayPart::FirstHalf);
     TypeDuration(entry, "1", "30");
-    EXPECT_EQ(Shown(), "||1|30|");
-    EXPECT_EQ(entry.Part, DayPart::None);
-    EXPECT_EQ(QString::number(entry.StartTime + entry.EndTime) + " " + Durations(), "0 0 0 0");
+    EXPECT_EQ(Shown() + known(), "||1|30|0 0 0 0 0");
     TakeDuration(entry);
-    EXPECT_EQ(Shown(), "||1|30|01:30");
+    EXPECT_EQ(Shown(), "||1|30|03:00");
 }
 } // namespace

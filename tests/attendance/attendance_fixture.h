@@ -5,8 +5,6 @@
 #include "support/house.h"
 #include "support/user.h"
 
-#include <QDate>
-
 #include <gtest/gtest.h>
 
 /// A company with an employee (who may only ask for leave) and Marc, his supervisor and approver; ADMIN is logged in.
@@ -22,15 +20,24 @@ protected:
         house.LogIn("ADMIN");
     }
 
-    /// Dates of 2026, and the operation for an employee in a category.
-    void Begin(const QVector<QDate>& dates, int employee, const QString& systemName)
+    /// The operation on days of March 2026 (the second one is a Monday), for an employee in a category.
+    void Begin(const QVector<int>& days, int employee, const QString& systemName)
     {
         entry = AttendanceEntry();
-        std::transform(dates.begin(), dates.end(), std::back_inserter(entry.Dates), SerialOfDate);
+        Select(days);
         entry.EmployeeID = employee;
         entry.SelectedCategoryID = systemName.isEmpty() ? 0 : house.CategoryID(systemName);
     }
-
+    void Select(const QVector<int>& days)
+    {
+        entry.Dates.clear();
+        for (const int day : days)
+            entry.Dates << SerialOfDate({2026, 3, day});
+    }
+    int Record(int employee, const QString& systemName, int day, float hours, bool pending = false)
+    {
+        return house.Record(employee, systemName, {2026, 3, day}, hours, pending);
+    }
     void Entitle(int employee, const QString& systemName, float carriedOver, float annual)
     {
         house.Sql("UPDATE Categories SET RequiresMonitoring = 1 WHERE SystemName = ?", {systemName});
@@ -39,16 +46,7 @@ protected:
             "VALUES (1, ?, ?, ?, ?, 1)",
             {house.CategoryID(systemName), employee, carriedOver, annual});
     }
-
     void Cancel(int record) { house.Sql("UPDATE Attendance SET CancelledDate = 46000 WHERE RecordID = ?", {record}); }
-
-    static QVector<QDate> DatesFrom(const QDate& first, int count)
-    {
-        QVector<QDate> dates;
-        for (int day = 0; day < count; ++day)
-            dates << first.addDays(day);
-        return dates;
-    }
 
     House house;
     User user;

@@ -4,14 +4,10 @@
 #include "support/main_window.h"
 #include "support/statement_trace.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace
 {
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-
 class CalendarQueries : public testing::Test
 {
 protected:
@@ -35,9 +31,6 @@ TEST_F(CalendarQueries, AYearIsReadByThreeQueriesFromAnIndexThatHoldsAllTheyNeed
     for (int day = 0; day < 60; ++day)
         house.Record(marie, day % 2 == 0 ? "Vacation" : "Sick", QDate(2026, 1, 5).addDays(day), 7);
     frmMain& main = user.OpensMain("ADMIN");
-    const auto plan = [this](const std::string& statement) {
-        return house.Rows("EXPLAIN QUERY PLAN " + QString::fromStdString(statement)).toStdString();
-    };
     const std::tuple<CalendarSelection, const char*, const char*> selections[] = {
         {{marie, 1, 1, 1, ""}, "Attendance_Employee", "Attendance_Employee"},
         {{0, 1, 1, 1, ""}, "Attendance_Group", "Attendance_Group"},
@@ -46,26 +39,23 @@ TEST_F(CalendarQueries, AYearIsReadByThreeQueriesFromAnIndexThatHoldsAllTheyNeed
         {{}, "Attendance_Year", "Attendance_Date"}};
     for (const auto& [selection, total, records] : selections) {
         Select(selection);
-        std::vector<std::string> read;
+        QList<QByteArray> read; // the total, the records and the holidays
         {
             const StatementTrace trace;
             main.LoadDates();
-            for (const QByteArray& statement : trace.Statements())
-                read.push_back(statement.toStdString());
+            read = trace.Statements();
         }
-        ASSERT_THAT(read, ElementsAre(HasSubstr("SUM(Attendance.TotalDuration)"),
-                                      AllOf(HasSubstr("Attendance.RecordDate"), HasSubstr("DISTINCT")),
-                                      HasSubstr("FROM Holidays")));
-        const std::string search = "SEARCH Attendance USING COVERING INDEX ";
-        EXPECT_THAT(plan(read[0]), HasSubstr(search + total));
-        EXPECT_THAT(plan(read[1]), HasSubstr(search + records));
+        ASSERT_EQ(read.size(), 3);
+        for (const auto& [statement, index] : {std::pair(read[0], total), {read[1], records}}) {
+            const QString plan = house.Rows("EXPLAIN QUERY PLAN " + statement);
+            EXPECT_TRUE(plan.contains(QString("SEARCH Attendance USING COVERING INDEX ") + index)) << qPrintable(plan);
+        }
     }
 }
 
 TEST_F(CalendarQueries, ASelectionHasOneRecordPerDateAndCategoryInOrderOfDate)
 {
-    const int zoe = house.Hire({"ZOE", "Zoe", "Abel", "Stores", ""});
-    house.Record(zoe, "Sick", {2026, 6, 3}, 1);
+    house.Record(house.Hire({"ZOE", "Zoe", "Abel", "Stores", ""}), "Sick", {2026, 6, 3}, 1);
     house.Record(chris, "Sick", {2026, 6, 2}, 7);
     house.Record(marie, "Vacation", {2026, 6, 2}, 7);
     house.Record(chris, "Vacation", {2026, 6, 2}, 3);

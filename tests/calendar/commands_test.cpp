@@ -1,7 +1,6 @@
 #include "calendar/frm_main_command_table.h"
 #include "support/house.h"
 
-#include <QMap>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -15,28 +14,14 @@ class CommandTable : public testing::Test
 protected:
     House house;
 
-    static void Become(const QString& loginID, std::initializer_list<Right> rights)
+    static void Become(const QString& loginID, const std::vector<Right>& rights)
     {
         static_cast<SecurityProfile&>(SessionState) = SecurityProfile();
         SessionState.LoginID = loginID;
         for (const Right right : rights)
             SessionState.*right = 1;
     }
-    static void BecomeAdmin()
-    {
-        Become("ADMIN", {});
-        for (const auto& [column, right] : kRights)
-            SessionState.*right = 1;
-    }
-    static void BecomeSupervisor()
-    {
-        Become("SUPERVISOR",
-               {&P::DepartmentLevelRead, &P::DepartmentLevelCreate, &P::DepartmentLevelModify, &P::GroupLevelRead,
-                &P::GroupLevelCreate, &P::GroupLevelModify, &P::SelfLevelRead, &P::SelfLevelCreate, &P::SelfLevelModify,
-                &P::IsAuthorizedToApprove, &P::AccessToEmployeesModule, &P::CanGenerateReports});
-    }
-    static void BecomeRequester() { Become("REQUESTER", {&P::SelfLevelRead}); }
-
+    /// What holds by a rule, or does not.
     static QStringList Names(Rule Command::*rule, bool holding)
     {
         QStringList names;
@@ -45,64 +30,44 @@ protected:
                 names << command.Name;
         return names;
     }
-};
-
-/// Who may use a command: A administrator, S supervisor of a department, R requester; small letters in a closed year.
-struct Verdict
-{
-    const char* Name; ///< pattern
-    const char* Users;
-};
-const char* const kEverybody = "AaSsRr";
-
-/// What is not among them is for everybody.
-const Verdict kVerdicts[] = {
-    {"mnuFile(Organizations|Departments|Groups|Entitlements|Categories|Holidays)", "A"},
-    {"mnuFileEmployees", "AS"},
-    {"mnuFilePrintRequest", "SsRr"},
-    {"mnuFileDatabaseLocation|mnuReportsFluctuation|mnuSpecialUpdateAdminInfo", "Aa"},
-    {"mnu(Reports.*|Schedule)_(Global|Org|Organizational)", "Aa"},
-    {"mnu(Reports.*|Schedule)_(Dept|Departmental|Group)", "AaSs"},
-    {"mnuReportsAbsenteeismCost_Indiv", "AaSs"},
-    {"mnuBlocked_(Global|Org)", "Aa"},
-    {"mnuBlocked|mnuBlocked_(Dept|Group|Individual)", "AaSs"},
-    {"mnuSpecialFiscalYear(Rename|Close|Archive)", "Aa"},
-    {"mnuSpecialFiscalYearCreate|mnuSpecial(BatchUpdates|ExportEmployee|ImportEmployee)", "A"},
-    {"img(Create(Single|Multiple|Consecutive)|Modify|Remove|Approve)", "AS"},
-    {"imgSubmit", "R"},
-    {"imgUpdateSelection", "AaSs"},
-    {"cmdPreviousYear", ""},
-};
-} // namespace
-
-TEST_F(CommandTable, EachUserMayUseWhatHisRightsAndTheYearAllow)
-{
-    SessionState.NextFYID = 2;
-    QMap<QString, QString> users;
-    const auto ask = [&users](char user, void (*become)(), int organization) {
-        become();
-        SessionState.EmployeeID = 1;
-        SessionState.EmployeeOrganizationID = organization;
-        for (const int closed : {0, 46000}) {
-            SessionState.ClosedDate = closed;
-            for (const QString& name : Names(&Command::Allowed, true))
-                users[name] += QChar(closed ? user | 0x20 : user);
-        }
-    };
-    ask('A', BecomeAdmin, 0);
-    ask('S', BecomeSupervisor, 1);
-    ask('R', BecomeRequester, 1);
-
-    for (const Command& command : Commands()) {
-        QString expected = kEverybody;
-        for (const auto& [name, who] : kVerdicts)
-            if (QRegularExpression(QRegularExpression::anchoredPattern(name)).match(command.Name).hasMatch())
-                expected = who;
-        EXPECT_EQ(users[command.Name], expected) << command.Name.toStdString();
+    static QString Denied() { return Names(&Command::Allowed, false).join(' '); }
+    /// What these rights open in an open year.
+    static QString Opened(const std::vector<Right>& rights)
+    {
+        Become("NOBODY", {});
+        const QStringList before = Names(&Command::Allowed, true);
+        Become("SOMEBODY", rights);
+        QStringList names = Names(&Command::Allowed, true);
+        names.removeIf([&before](const QString& name) { return before.contains(name); });
+        return names.join(' ');
     }
-    BecomeAdmin();
-    EXPECT_TRUE(IsAllowed("mnuFileExit"));
-    EXPECT_FALSE(IsAllowed("mnuFileUnknown"));
+};
+
+TEST_F(CommandTable, WhoHasAllRightsLacksTheAdministratorsCommandsAndAClosedYearAllThatChangesIt)
+{
+    std::vector<Right> all;
+    for (const auto& [column, right] : kRights)
+        all.push_back(right);
+    SessionState.NextFYID = 2;
+    SessionState.EmployeeID = SessionState.EmployeeOrganizationID = 1;
+    Become("SUPERVISOR", all);
+    EXPECT_EQ(Denied(), "mnuFileHolidays mnuFileDatabaseLocation mnuReportsFluctuation mnuSpecialUpdateAdminInfo "
+                        "mnuSpecialFiscalYearCreate mnuSpecialFiscalYearRename mnuSpecialFiscalYearClose "
+                        "mnuSpecialFiscalYearArchive mnuSpecialBatchUpdates mnuSpecialExportEmployee "
+                        "mnuSpecialImportEmployee imgSubmit cmdPreviousYear");
+    Become("ADMIN", all);
+    SessionState.EmployeeOrganizationID = 0;
+    EXPECT_EQ(Denied(), "mnuFilePrintRequest imgSubmit cmdPreviousYear");
+    SessionState.ClosedDate = 46000;
+    EXPECT_EQ(Denied(), "mnuFileOrganizations mnuFileDepartments mnuFileGroups mnuFileEmployees mnuFileEntitlements "
+                        "mnuFileCategories mnuFileHolidays mnuFilePrintRequest mnuSpecialFiscalYearCreate "
+                        "mnuSpecialBatchUpdates mnuSpecialExportEmployee mnuSpecialImportEmployee imgCreateSingle "
+                        "imgCreateMultiple imgCreateConsecutive imgSubmit imgModify imgRemove imgApprove "
+                        "cmdPreviousYear");
+    SessionState.SelfLevelCreate = 0;
+    EXPECT_TRUE(Denied().contains("imgSubmit"));
+    SessionState.ClosedDate = 0;
+    EXPECT_FALSE(Denied().contains("imgSubmit"));
 }
 
 TEST_F(CommandTable, EveryRightOpensJustItsOwnCommands)
@@ -118,30 +83,29 @@ TEST_F(CommandTable, EveryRightOpensJustItsOwnCommands)
         {"DepartmentLevelCreate", blocked.arg(" mnuBlocked_Dept")},
         {"OrganizationLevelCreate", blocked.arg(" mnuBlocked_Org mnuBlocked_Dept")},
         {"GlobalLevelCreate", blocked.arg(" mnuBlocked_Global mnuBlocked_Org mnuBlocked_Dept")},
-        {".*LevelModify", "imgModify imgRemove"},
-    };
-    Become("NOBODY", {});
-    const QStringList before = Names(&Command::Allowed, true);
-    const auto gained = [&before](std::initializer_list<Right> rights) {
-        Become("SOMEBODY", rights);
-        QStringList names = Names(&Command::Allowed, true);
-        for (const QString& name : before)
-            names.removeAll(name);
-        return names.join(' ');
-    };
+        {".*LevelModify", "imgModify imgRemove"}};
     for (const auto& [column, right] : kRights) {
         QString expected;
         for (const auto& [rights, opened] : kOpened)
             if (const QRegularExpression name(QRegularExpression::anchoredPattern(rights));
                 name.match(column).hasMatch())
                 expected = QString(column).replace(name, opened);
-        EXPECT_EQ(gained({right}), expected) << column;
+        EXPECT_EQ(Opened({right}), expected) << column;
     }
-    EXPECT_EQ(gained({&P::DepartmentLevelRead, &P::CanGenerateReports}),
-              "mnuReportsRegularCtg_Dept mnuReportsTimeBankCtg_Dept mnuReportsCancelled_Dept mnuReportsSubmitted_Dept "
-              "mnuReportsYTD_Departmental mnuReportsYTDTimeBank_Dept mnuReportsAbsenteeismByDate_Dept "
-              "mnuSchedule_Dept imgUpdateSelection");
-    EXPECT_EQ(gained({&P::SelfLevelRead, &P::AccessToEmployeesModule}),
+    const std::tuple<Right, QString, QString> levels[] = {{&P::GlobalLevelRead, "Global", "Global"},
+                                                          {&P::OrganizationLevelRead, "Org", "Organizational"},
+                                                          {&P::DepartmentLevelRead, "Dept", "Departmental"},
+                                                          {&P::GroupLevelRead, "Group", "Group"}};
+    for (const auto& [right, unit, yearToDate] : levels) {
+        EXPECT_EQ(Opened({right, &P::CanGenerateReports}),
+                  QStringLiteral("mnuReportsRegularCtg_%1 mnuReportsTimeBankCtg_%1 mnuReportsCancelled_%1 "
+                                 "mnuReportsSubmitted_%1 mnuReportsYTD_%2 mnuReportsYTDTimeBank_%1 "
+                                 "mnuReportsAbsenteeismByDate_%1 mnuSchedule_%1 imgUpdateSelection")
+                      .arg(unit, yearToDate));
+        EXPECT_EQ(Opened({right, &P::AccessToEmployeesModule}),
+                  "mnuFileEmployees mnuReportsAbsenteeismCost_" + unit + " imgUpdateSelection");
+    }
+    EXPECT_EQ(Opened({&P::SelfLevelRead, &P::AccessToEmployeesModule}),
               "mnuFileEmployees mnuReportsAbsenteeismCost_Indiv");
 }
 
@@ -149,15 +113,26 @@ TEST_F(CommandTable, PendingRequestsHideWhatWorksOnApprovedRecords)
 {
     const QStringList adminsOwn = {"mnuSpecialBatchUpdates", "mnuSpecialExportEmployee", "mnuSpecialImportEmployee"};
     const QStringList tools = {"imgCreateSingle", "imgCreateMultiple", "imgCreateConsecutive", "imgModify"};
-    BecomeRequester();
+    Become("REQUESTER", {});
     SessionState.UserName = SessionState.CurrentSelection = "Marie Bouchard";
     EXPECT_EQ(Names(&Command::Shown, false), adminsOwn);
     SessionState.ShowApproved = false;
     EXPECT_EQ(Names(&Command::Shown, false), adminsOwn + tools);
     SessionState.CurrentSelection = "Luc Roy";
-    EXPECT_EQ(Names(&Command::Shown, false), adminsOwn + tools + QStringList{"imgRemove"});
-    BecomeAdmin();
-    EXPECT_FALSE(Names(&Command::Shown, false).contains("mnuSpecialBatchUpdates"));
+    SessionState.LoginID = "ADMIN";
+    EXPECT_EQ(Names(&Command::Shown, false), tools + QStringList{"imgRemove"});
     SessionState.SQL_Server = true;
-    EXPECT_FALSE(IsAllowed("mnuSpecialDisplayPending")) << "requests are kept in the file";
+    EXPECT_TRUE(Denied().contains("mnuSpecialDisplayPending")) << "requests are kept in the file";
 }
+
+TEST_F(CommandTable, EachLetterOpensOneEntryOfAMenu)
+{
+    for (const bool english : {true, false}) {
+        SessionState.English = english;
+        QStringList letters;
+        for (const Command* command : CommandsIn(Place::Menus))
+            letters << command->Parent + QKeySequence::mnemonic(T(command->Caption)).toString();
+        EXPECT_EQ(letters.removeDuplicates(), 0) << english;
+    }
+}
+} // namespace

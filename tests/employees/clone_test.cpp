@@ -2,16 +2,17 @@
 #include "support/company_test.h"
 
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
 namespace
 {
 class Cloning : public CompanyTest
 {
 protected:
-    QStringList Listed()
+    QString Offered()
     {
         user.Opens<frmCloneEmployee>(record);
-        return user.Entries("lstCloneEmployees");
+        return Listed("lstCloneEmployees");
     }
 
     EmployeeRecord record;
@@ -21,18 +22,16 @@ TEST_F(Cloning, EachPositionListsThoseWithinItsReach)
 {
     house.Sql("UPDATE Employees SET DepartmentID = 0 WHERE LoginID = 'DAN'");
     house.Hire({"NEXT", "Ned", "Next", "Production", "Assembly"}, house.FiscalYear("2027", 2027));
-    EXPECT_THAT(Listed(), ElementsAre("Northern Works / Abel, Anna", "Northern Works / Bell, Bruno",
-                                      "Northern Works / Cote, Carla", "Northern Works / Dube, Dan",
-                                      "Southern Trade / Ellis, Eva"));
+    EXPECT_EQ(Offered(), "Northern Works / Abel Northern Works / Bell Northern Works / Cote Northern Works / Dube "
+                         "Southern Trade / Ellis");
     house.LogIn("DAN");
     SessionState.English = false;
-    EXPECT_THAT(Listed(),
-                ElementsAre("Fabrication / Abel, Anna", "Fabrication / Bell, Bruno", "Fabrication / Cote, Carla"))
+    EXPECT_EQ(Offered(), "Fabrication / Abel Fabrication / Bell Fabrication / Cote")
         << "who has no department has no location in an organization";
     house.LogIn("CARLA");
-    EXPECT_THAT(Listed(), ElementsAre("Abel, Anna", "Bell, Bruno", "Cote, Carla"));
+    EXPECT_EQ(Offered(), "Abel Bell Cote");
     house.LogIn("ANNA");
-    EXPECT_THAT(Listed(), ElementsAre("Abel, Anna", "Bell, Bruno"));
+    EXPECT_EQ(Offered(), "Abel Bell");
 }
 
 TEST_F(Cloning, TheNewRecordTakesWorkplaceScheduleApproversAndRightsButNothingPersonal)
@@ -49,24 +48,23 @@ TEST_F(Cloning, TheNewRecordTakesWorkplaceScheduleApproversAndRightsButNothingPe
                 ElementsAre(1, 1, 1, 8, 9));
     EXPECT_THAT(record.HoursWorked, ElementsAre(0, 7, 7, 7, 7, 4.5F, 0));
     EXPECT_THAT(record.HoursSpecified, ElementsAre(false, true, true, true, true, true, false));
-    EXPECT_THAT(record.TotalHours, ElementsAre("", "7", "7", "7", "7", "4", ""));
-    EXPECT_THAT(record.TotalMinutes, ElementsAre("", "0", "0", "0", "0", "30", ""));
+    EXPECT_EQ(record.TotalHours[0] + record.TotalHours[5] + record.TotalMinutes[5], "430");
     EXPECT_THAT(record.FirstHalfStart, ElementsAre(0, 1e-7F, 8.5F, 8.5F, 8.5F, 8.5F, 0)) << "midnight is kept";
     EXPECT_THAT(record.SecondHalfEnd, ElementsAre(0, 16.5F, 16.5F, 16.5F, 16.5F, 0, 0));
     EXPECT_EQ(record.HoursWorkedDaily, 7);
+    QStringList rights;
     for (const auto& [column, member] : kRights)
-        EXPECT_EQ(record.*member, member == &SecurityProfile::IsAuthorizedToApprove ||
-                                      member == &SecurityProfile::AccessToCategoriesModule ||
-                                      member == &SecurityProfile::AccessToRestrictedCategory ||
-                                      member == &SecurityProfile::SelfLevelRead)
-            << column;
+        if (record.*member != 0)
+            rights << column;
+    EXPECT_THAT(rights, UnorderedElementsAre("IsAuthorizedToApprove", "AccessToCategoriesModule",
+                                             "AccessToRestrictedCategory", "SelfLevelRead"));
     EXPECT_EQ(record.RecordID + record.HourlyRate, 0);
     EXPECT_EQ(record.FamilyName + record.LoginID + record.Password + record.EMailAddress + record.HourlyRateText, "");
 
     record = {};
     user.Opens<frmCloneEmployee>(record).Picks("lstCloneEmployees", "Northern Works / Abel").Clicks("cmdNewEmployee");
-    EXPECT_EQ(record.OrganizationID + record.HoursWorkedDaily + record.IsAuthorizedToApprove, 0);
     user.Opens<frmCloneEmployee>(record).Clicks("cmdCloneEmployee");
     EXPECT_FALSE(user.The<frmCloneEmployee>().isVisible()) << "nothing selected starts an empty record";
+    EXPECT_EQ(record.OrganizationID + record.HoursWorkedDaily + record.IsAuthorizedToApprove, 0);
 }
 } // namespace

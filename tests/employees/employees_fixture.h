@@ -1,45 +1,27 @@
 #pragma once
 
-#include "employees/frm_employees.h"
-#include "selection/frm_select_employee.h"
-#include "support/house.h"
-#include "support/user.h"
-
-#include <gtest/gtest.h>
+#include "support/house_test.h"
 
 /// A company with Marc, head of Production and approver, and Chris of its group Assembly; ADMIN is logged in.
-class EmployeesTest : public testing::Test
+class EmployeesTest : public HouseTest
 {
 protected:
     EmployeesTest()
     {
         house.Configured().Company();
-        marc = house.Hire({"MARC",
-                           "Marc",
-                           "Roy",
-                           "Production",
-                           "",
-                           {"DepartmentLevelRead", "DepartmentLevelCreate", "GroupLevelRead", "GroupLevelCreate",
-                            "IsAuthorizedToApprove", "AccessToEmployeesModule", "CanViewComments"}});
+        const QStringList rights = {"DepartmentLevelRead", "DepartmentLevelCreate", "GroupLevelRead",
+                                    "GroupLevelCreate",    "IsAuthorizedToApprove", "AccessToEmployeesModule",
+                                    "CanViewComments"};
+        marc = house.Hire({"MARC", "Marc", "Roy", "Production", "", rights});
         chris = house.Hire({"CHRIS", "Chris", "Davis", "Production", "Assembly", {"SelfLevelRead"}, marc, 20.55F});
         house.LogIn("ADMIN");
     }
-
-    /// The employee of that family name will be chosen from the list that opens next.
-    User& WillChoose(const QString& familyName)
+    /// What a statement says of Chris.
+    void Alters(const QString& assignments)
     {
-        return user.WhenOpens<frmSelectEmployee>(
-            [this, familyName](frmSelectEmployee&) { user.Picks("lstEmployees", familyName).Clicks("cmdSelect"); });
+        house.Sql("UPDATE Employees SET " + assignments + " WHERE RecordID = ?", {chris});
     }
 
-    QString EmployeeCell(const QString& column, int employee)
-    {
-        return house.Cell(QStringLiteral("SELECT %1 FROM Employees WHERE RecordID = ?").arg(column), {employee});
-    }
-
-    House house;
-    User user;
-    DataControl datAbsence{"EmployeesTest"};
     int marc = 0;
     int chris = 0;
 };

@@ -3,17 +3,13 @@
 #include "foundation/texts.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
-#include "support/house.h"
-
-#include <gtest/gtest.h>
+#include "support/house_test.h"
 
 namespace
 {
-class CommonServices : public testing::Test
+class CommonServices : public HouseTest
 {
 protected:
-    House house;
-
     static QString Shown(const QString& decimal, float dailyHours = 0)
     {
         SessionState.HoursWorkedDaily = dailyHours;
@@ -111,14 +107,12 @@ TEST_F(CommonServices, MessagesCheckTheirRangesAndAnswerByCaption)
         EXPECT_EQ(seen.ScrollBar, lines == 10);
     }
     EXPECT_EQ(SessionState.MessageTitle + SessionState.MessageText, "TITRE:Texte");
-    SetMessagePresenter({});
 }
 
 TEST_F(CommonServices, LogsAreAppendedLineByLine)
 {
     SessionState.LoginID = "MBOUCHARD";
     SessionState.ReloadCalendar = true;
-    DataControl datAbsence("frmMain");
     for (const bool server : {false, true}) {
         SessionState.SQL_Server = server;
         const Connection connection(datAbsence);
@@ -127,10 +121,9 @@ TEST_F(CommonServices, LogsAreAppendedLineByLine)
         EXPECT_EQ(datAbsence.Read("SELECT * FROM SAC"), !server) << "a lost connection is restored";
     }
     SessionState.SQL_Server = false;
-    const QString moment = "\t2026-03-02 09:00:00\tMBOUCHARD\t";
-    EXPECT_EQ(house.ReadFile("Connections.log"), "frmMain\tTrue" + moment + "False\tTrue\r\nfrmMain\tFalse" + moment +
-                                                     "False\tTrue\r\nfrmMain\tTrue" + moment +
-                                                     "True\tTrue\r\nfrmMain\tFalse" + moment + "True\tTrue\r\n");
+    const QString log = "HouseTest\t%1\t2026-03-02 09:00:00\tMBOUCHARD\t%2\tTrue\r\n";
+    EXPECT_EQ(house.ReadFile("Connections.log"), log.arg("True", "False") + log.arg("False", "False") +
+                                                     log.arg("True", "True") + log.arg("False", "True"));
     LogEMailError("Subject", "True", "No mail program");
     EXPECT_EQ(house.ReadFile("EMailErrors.log"), "Subject\tTrue\tNo mail program\r\n");
     LogError(3021, "No current record.", "frmX", "Routine", "SELECT 'x'", 46083.5);

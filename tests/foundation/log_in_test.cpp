@@ -6,22 +6,16 @@
 #include "foundation/log_in.h"
 #include "foundation/start_up.h"
 #include "platform/clock.h"
-#include "support/user.h"
+#include "support/house_test.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <gtest/gtest.h>
-
 namespace
 {
-class LogIn : public testing::Test
+class LogIn : public HouseTest
 {
 protected:
-    House house;
-    User user;
-    QStringList shown; // what the start came to
-
     void Start()
     {
         FormsAbove.ShowSetUpWizard = [this] { shown << "wizard"; };
@@ -37,6 +31,8 @@ protected:
     {
         return house.Hire({loginID, "Marie", "Bouchard", "Production", "Assembly", rights});
     }
+
+    QStringList shown; // what the start came to
 };
 
 TEST_F(LogIn, TheStartReadsTheConfigurationCleansUpAndLogsTheUserIn)
@@ -71,15 +67,8 @@ TEST_F(LogIn, TheStartReadsTheConfigurationCleansUpAndLogsTheUserIn)
     EXPECT_EQ(left, (QStringList{"Config.mdb", "Connections.log", "Errors.log", "Tarvell.mdb"}));
     EXPECT_TRUE(house.ReadFile("Connections.log").startsWith("frmSplashScreen\tTrue\t2026-03-02 09:00:00\t\t"));
 
-    DataControl datAbsence("frmMain");
     LogOutUser(datAbsence);
     EXPECT_EQ(house.Number("SELECT LoggedIn FROM Employees WHERE RecordID = ?", {marie}), 0);
-}
-
-TEST_F(LogIn, AnUnconfiguredWorkstationGoesToTheWizard)
-{
-    Start();
-    EXPECT_EQ(shown, QStringList{"wizard"});
 }
 
 TEST_F(LogIn, AdminEntersAnyYearAndIsToldWhenItIsClosed)
@@ -104,8 +93,8 @@ TEST_F(LogIn, OnlyActiveEmployeesOfTheYearEnter)
     house.Configured().Company();
     house.FiscalYear("2027", 2027);
     house.Hire({"NEXTYEAR", "Luc", "Roy", "Production", "", {}}, 2);
-    const int gone = Hired("GONE");
-    house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {gone});
+    Hired("GONE");
+    Dismiss("GONE");
     user.Opens<frmLogin>(1);
     for (const char* name : {"NEXTYEAR", "GONE", "NOBODY"}) {
         user.WillAnswer("Access denied!...", "OK");
@@ -145,7 +134,6 @@ TEST_F(LogIn, TheCurrentYearHoldsTodayOrIsTheNextOrTheNewestPastOne)
     house.FiscalYear("2023", 2023);
     house.FiscalYear("2027", 2027, 4);
     house.FiscalYear("2026", 2026, 4);
-    DataControl datAbsence("frmSplashScreen");
     const Connection connection(datAbsence);
     const auto chosen = [&](int year, int month, int day) {
         house.Today(year, month, day);
@@ -186,13 +174,20 @@ TEST_F(LogIn, AnExperiencedUserNeedsNoHint)
     EXPECT_TRUE(hint("RecordID")) << "another user's, to the letter";
 }
 
-TEST_F(LogIn, WhatCannotBeReadIsToldAndEndsTheProgram)
+TEST_F(LogIn, AnUnconfiguredWorkstationGoesToTheWizardAndWhatCannotBeReadEndsTheProgram)
 {
+    Start();
+    EXPECT_EQ(shown, QStringList{"wizard"});
     house.Configured();
     user.WillAnswer("A FATAL ERROR HAS OCCURRED:", "OK", Deployment::SupportAddress);
     EXPECT_THROW(Start(), ProgramEnded);
 
-    QFile::remove(house.DatabaseFile());
+    {
+        const Connection connection(datAbsence);
+        DefaultWorkspace().PauseReading();
+        QFile::remove(house.DatabaseFile());
+        EXPECT_THROW(datAbsence.Read("SELECT * FROM FiscalYears"), ConnectionFailed) << "it cannot be restored";
+    }
     user.WillAnswer("FATAL ERROR:", "No", "3024: ").WillAnswer("A FATAL ERROR HAS OCCURRED:", "OK");
     EXPECT_THROW(Start(), ProgramEnded);
 

@@ -2,38 +2,30 @@
 #include "foundation/frm_about.h"
 #include "foundation/frm_change_password.h"
 #include "foundation/frm_update_admin_info.h"
-#include "support/user.h"
+#include "support/house_test.h"
 
 #include <QFile>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
-class SmallForms : public testing::Test
+class SmallForms : public HouseTest
 {
 protected:
     SmallForms()
     {
         house.Company();
-        house.Hire({"DAN", "Dan", "Dube", "Sales", "", {}});
+        house.Hire({"DAN", "Dan", "Dube", "Sales"});
     }
-
-    House house;
-    User user;
 };
 
 TEST_F(SmallForms, TheUserChangesHisPassword)
 {
     house.LogIn("DAN");
-    user.Opens<frmChangePassword>();
-    EXPECT_EQ(user.Reads("txtUserID"), "DAN");
+    EXPECT_EQ(user.Opens<frmChangePassword>().Reads("txtUserID"), "DAN");
     EXPECT_FALSE(user.CanUse("cmdAccept")) << "an empty password is none";
-    user.Types("txtOldPassword", "wrong").Types("txtNewPassword", "blue moon").Types("txtRepeatedPassword", "bluemoon");
-    user.WillAnswer("UNABLE TO PROCEED!", "OK", "you may get that information from your system administrator.");
-    user.Clicks("cmdAccept");
+    user.Enters({{"txtOldPassword", "wrong"}, {"txtNewPassword", "blue moon"}, {"txtRepeatedPassword", "bluemoon"}});
+    user.WillAnswer("UNABLE TO PROCEED!", "OK", "from your system administrator.").Clicks("cmdAccept");
     user.Types("txtOldPassword", "pass").Types("txtRepeatedPassword", "bluesun");
-    user.WillAnswer("UNABLE TO PROCEED!", "OK", "re-enter your new password and click on «Accept» again.");
-    user.Clicks("cmdAccept");
+    user.WillAnswer("UNABLE TO PROCEED!", "OK", "re-enter your new password and click on").Clicks("cmdAccept");
     house.Refuses("UPDATE ON Employees");
     SessionState.English = false;
     user.Types("txtRepeatedPassword", "BLUEMOON").WillAnswer("UNE ERREUR EST SURVENUE:", "OK", "refused");
@@ -52,8 +44,7 @@ TEST_F(SmallForms, TheAdministratorKeepsHisProfile)
 {
     house.Sql("INSERT INTO Employees (RecordID, LoginID, FiscalYear, FirstName) VALUES (-1, 'ADMIN', 1, 'Impostor')");
     house.LogIn("ADMIN");
-    user.Opens<frmUpdateAdminInfo>();
-    EXPECT_EQ(user.Reads("txtFamilyName"), "Tremblay");
+    EXPECT_EQ(user.Opens<frmUpdateAdminInfo>().Reads("txtFamilyName"), "Tremblay");
     const std::tuple<const char*, const char*, const char*> filled[] = {
         {"txtFirstName", "Zoé", "First name missing!"},
         {"txtFamilyName", "O'Neil", "Last name missing!"},
@@ -95,8 +86,7 @@ private:
 TEST_F(SmallForms, AboutStartsTheSystemInformationThatThereIs)
 {
     Desktop desktop;
-    user.Opens<frmAbout>();
-    EXPECT_EQ(user.Reads("lblVersion"), "Version " + Deployment::Version());
+    EXPECT_EQ(user.Opens<frmAbout>().Reads("lblVersion"), "Version " + Deployment::Version());
     user.WillAnswer("SYSTEM INFORMATION:", "OK", "System Information Is Unavailable At This Time").Clicks("cmdSysInfo");
     desktop.Install("hardinfo");
     user.Clicks("cmdSysInfo");

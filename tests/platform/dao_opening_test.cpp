@@ -1,7 +1,9 @@
+#include "platform/dao/engine_thread.h"
+#include "platform/dao/file_system.h"
 #include "platform/engine_fixture.h"
+#include "support/file_calls.h"
 
 #include <QElapsedTimer>
-#include <QScopeGuard>
 
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -14,12 +16,17 @@ protected:
     ~Opening() override
     {
         DataControl::Reconnect = {};
-        DefaultWorkspace().Close();
+        SetWaitingSign({});
+        SetLockCall(nullptr);
+        Database::LockWait = wait_;
     }
     int FailureOfOpening(const QString& name, const QString& password) const
     {
         return FailureOf([&] { Database::Open(File(name), password); });
     }
+
+private:
+    const int wait_ = Database::LockWait;
 };
 
 TEST_F(Opening, EachObstacleHasItsNumber)
@@ -32,18 +39,21 @@ TEST_F(Opening, EachObstacleHasItsNumber)
     sqlite3_exec(foreign, "CREATE TABLE FilePassword (Salt TEXT, Hash TEXT)", nullptr, nullptr, nullptr);
     sqlite3_close(foreign);
 
-    const std::tuple<const char*, const char*, int> cases[] = {
+    const std::tuple<QString, const char*, int> cases[] = {
         {"Staff.mdb", "Sésame", 0},
         {"Staff.mdb", "sésame", EngineError::WrongPassword},
         {"Staff.mdb", "", EngineError::WrongPassword},
         {"missing.mdb", "Sésame", EngineError::FileNotFound},
         {"", "Sésame", EngineError::FileNotFound}, // a folder is no file
+        {QString(300, 'x'), "Sésame", EngineError::CannotOpen},
+        {QString("./").repeated(300) + "Staff.mdb", "Sésame", 0},
+        {QString(QString(200, 'x') + "/").repeated(3), "Sésame", EngineError::CannotOpen},
         {"letter.mdb", "Sésame", EngineError::ForeignFile},
         {"empty.mdb", "Sésame", EngineError::ForeignFile},
         {"foreign.mdb", "Sésame", EngineError::ForeignFile},
     };
     for (const auto& [name, password, number] : cases)
-        EXPECT_EQ(FailureOfOpening(name, password), number) << name;
+        EXPECT_EQ(FailureOfOpening(name, password), number) << qPrintable(name.left(20));
     EXPECT_FALSE(QFile::exists(File("missing.mdb"))) << "opening makes no file";
 
     EXPECT_EQ(FailureOf([this] { Database::Create(File("New.mdb"), "x", "CREATE TABLE A (B); CREATE TABLE A (B);"); }),
@@ -78,8 +88,7 @@ TEST_F(Opening, AUserWithoutRightsIsToldSo)
 
 TEST_F(Opening, AFileThatAnotherHoldsIsWaitedForAndThenReportedAsLocked)
 {
-    const auto restore = qScopeGuard([wait = Database::LockWait] { Database::LockWait = wait; });
-    EXPECT_GE(Database::LockWait, 1000);
+    EXPECT_EQ(Database::LockWait, 30'000);
     Database::LockWait = 60;
     const auto other = Open();
     const auto mine = Open();
@@ -88,13 +97,111 @@ TEST_F(Opening, AFileThatAnotherHoldsIsWaitedForAndThenReportedAsLocked)
     waited.start();
     EXPECT_EQ(FailureOfOpening("Staff.mdb", kPassword), EngineError::Locked);
     EXPECT_GE(waited.elapsed(), 60);
+    QList<bool> shown;
+    SetWaitingSign([&](bool waiting) { shown << waiting; });
+    Database::LockWait = 1100;
     EXPECT_EQ(FailureOf([&] { mine->OpenRecordset("SELECT * FROM Staff"); }), EngineError::Locked);
+    EXPECT_TRUE(shown.value(0)) << "a wait of more than a second is shown";
+    EXPECT_EQ(shown.indexOf(false), shown.size() - 1) << "until it ends";
+
+    Database::LockWait = 0;
     other->Execute("COMMIT");
     other->Execute("BEGIN IMMEDIATE");
     EXPECT_EQ(List(*mine, "SELECT COUNT(*) FROM Staff"), "0") << "a writer does not keep readers out";
     EXPECT_EQ(FailureOf([&] { mine->Execute("DELETE FROM Staff"); }), EngineError::Locked);
     EXPECT_EQ(FailureOf([&] { Transaction mineToo(*mine); }), EngineError::Locked);
     EXPECT_FALSE(mine->IsInTransaction());
+}
+
+TEST_F(Opening, AFolderThatCannotLockIsNotTakenForAnotherUser)
+{
+    const auto mine = Open();
+    SetLockCall([](int, int, void*) {
+        errno = ENOLCK;
+        return -1;
+    });
+    EXPECT_EQ(FailureOfOpening("Staff.mdb", kPassword), EngineError::LockRefused);
+    EXPECT_EQ(FailureOf([&] { Hire(*mine, {"Anne"}); }), EngineError::LockRefused);
+    SetLockCall(nullptr);
+    Hire(*mine, {"Benoît"});
+    EXPECT_EQ(List("SELECT Name FROM Staff"), "Benoît");
+}
+
+TEST_F(Opening, AWriteAheadLogIsTurnedOffOrTheFileRefused)
+{
+    Database::LockWait = 0;
+    OpenShared();
+    DefaultWorkspace().Close();
+    sqlite3* tool = nullptr;
+    sqlite3_open(qPrintable(File()), &tool);
+    sqlite3_exec(tool, "PRAGMA journal_mode = wal; SELECT * FROM Staff", nullptr, nullptr, nullptr);
+    EXPECT_EQ(FailureOf([this] { OpenShared(); }), EngineError::Locked) << "somebody works with the log";
+    sqlite3_close(tool);
+    EXPECT_EQ(List(OpenShared(), "PRAGMA journal_mode"), "delete");
+}
+
+TEST_F(Opening, ANewFileIsForAllWhoMayWriteInItsFolder)
+{
+    const auto modeIn = [this](mode_t folder) {
+        chmod(qPrintable(folder_.path()), folder);
+        Database::Create(File(), "x", "CREATE TABLE A (B);");
+        struct stat made;
+        stat(qPrintable(File()), &made);
+        return made.st_mode & 0777;
+    };
+    EXPECT_EQ(modeIn(0770), 0660);
+    EXPECT_EQ(modeIn(0755), 0644);
+    EXPECT_EQ(modeIn(0700), 0600);
+}
+
+TEST_F(Opening, AFileClosedStaysAtHandWhileItLiesInItsPlace)
+{
+    FileCalls calls;
+    const auto names = [this] {
+        const QString found = List(OpenShared(), "SELECT Name FROM Staff");
+        DefaultWorkspace().Close();
+        return found;
+    };
+    Hire(*Open(), {"Anne"});
+    EXPECT_EQ(names(), "Anne");
+    calls.StartCounting();
+    EXPECT_EQ(names(), "Anne");
+    EXPECT_EQ(calls.Of(FileCall::Open), 0);
+    EXPECT_LE(calls.All(), 7);
+    Hire(*Open(), {"Benoît"});
+    EXPECT_EQ(names(), "Anne,Benoît") << "what others write is seen";
+    calls.Fail(FileCall::Read, 1, SQLITE_IOERR_READ, true);
+    EXPECT_EQ(names(), "Anne,Benoît") << "a handle that the server has forgotten is opened again";
+    Database::LockWait = 0;
+    auto other = Open();
+    other->Execute("BEGIN EXCLUSIVE");
+    EXPECT_EQ(FailureOf([&] { names(); }), EngineError::Locked);
+    other.reset();
+
+    Database::Create(File("Other.mdb"), kPassword, "CREATE TABLE Staff (Name TEXT); INSERT INTO Staff VALUES ('Zoé');");
+    ASSERT_TRUE(QFile::remove(File()) && QFile::rename(File("Other.mdb"), File()));
+    EXPECT_EQ(names(), "Zoé") << "another file in its place";
+    QFile::remove(File());
+    EXPECT_EQ(FailureOf([&] { names(); }), EngineError::FileNotFound);
+}
+
+TEST_F(Opening, WhatIsReadTogetherIsBehindOneLockThatNobodyHoldsInFrontOfAForm)
+{
+    Database::LockWait = 0;
+    const auto other = Open();
+    FileCalls calls;
+    Database& mine = OpenShared();
+    calls.StartCounting();
+    for (int times = 0; times < 5; ++times)
+        mine.OpenRecordset("SELECT * FROM Staff");
+    EXPECT_LE(calls.All(), 2) << "the rows alone";
+    EXPECT_EQ(FailureOf([&] { Hire(*other, {"Anne"}); }), EngineError::Locked);
+    DefaultWorkspace().PauseReading();
+    Hire(*other, {"Anne"});
+    EXPECT_EQ(List(mine, "SELECT Name FROM Staff"), "Anne");
+    Hire(mine, {"Benoît"});
+    Hire(*other, {"Chloé"});
+    EXPECT_EQ(List(mine, "SELECT Name FROM Staff"), "Anne,Benoît,Chloé") << "nothing is held after writing either";
 }
 
 TEST_F(Opening, BothSeparatorsAndAnyLetterCaseFindTheFile)
@@ -122,6 +229,7 @@ TEST_F(Opening, AFullDiskADamagedFileAndAVanishedOneAreReportedAndCommittedRowsS
     database.reset();
 
     ASSERT_TRUE(QFile::rename(File("Away.mdb"), File()));
+    OpenShared();
     QFile file(File());
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     for (qint64 page = 4096; page < file.size(); page += 4096) {
@@ -130,6 +238,7 @@ TEST_F(Opening, AFullDiskADamagedFileAndAVanishedOneAreReportedAndCommittedRowsS
     }
     file.close();
     EXPECT_EQ(FailureOf([this] { List("SELECT Name FROM Staff"); }), EngineError::Damaged);
+    EXPECT_THROW(DataControl("frmTest").Read("SELECT Name FROM Staff"), ConnectionFailed) << "nothing shown is true";
 }
 
 TEST_F(Opening, ALostConnectionIsRestoredOnceAndAMisspeltStatementIsTold)
@@ -137,11 +246,11 @@ TEST_F(Opening, ALostConnectionIsRestoredOnceAndAMisspeltStatementIsTold)
     Hire(*Open(), {"Anne"});
     int restored = 0;
     DataControl datAbsence("frmTest");
-    EXPECT_FALSE(datAbsence.Read("SELECT * FROM Staff")) << "nothing is open and nobody can restore it";
+    EXPECT_THROW(datAbsence.Read("SELECT * FROM Staff"), ConnectionFailed) << "nothing is open, nobody can restore it";
 
     DataControl::Reconnect = [&](DataControl&) {
         ++restored;
-        DefaultWorkspace().OpenDatabase(File(), ";PWD=" + kPassword);
+        OpenShared();
     };
     EXPECT_TRUE(datAbsence.Read("SELECT * FROM Staff WHERE Name = ?", "ANNE"));
     EXPECT_EQ(restored, 1);
@@ -154,14 +263,14 @@ TEST_F(Opening, ALostConnectionIsRestoredOnceAndAMisspeltStatementIsTold)
         {"SELEKT", EngineError::StatementError}};
     for (const auto& [sql, number] : misspelt) {
         EXPECT_EQ(FailureOf([&] { datAbsence.Read(sql); }), number) << "no empty result: " << sql;
-        DefaultWorkspace().Close();
+        DefaultWorkspace().Forget();
         EXPECT_EQ(FailureOf([&] { datAbsence.Read(sql); }), number) << "nor after a new connection: " << sql;
     }
     EXPECT_EQ(restored, 5) << "a bad statement is no lost connection";
 
     DataControl::Reconnect = [&](DataControl&) { ++restored; };
-    DefaultWorkspace().Close();
-    EXPECT_FALSE(datAbsence.Read("SELECT * FROM Staff"));
+    DefaultWorkspace().Forget();
+    EXPECT_THROW(datAbsence.Read("SELECT * FROM Staff"), ConnectionFailed);
     EXPECT_EQ(restored, 6) << "a read is repeated once, not for ever";
 }
 } // namespace

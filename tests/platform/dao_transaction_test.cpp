@@ -88,20 +88,25 @@ TEST_F(Transactions, ARollBackThatFailsHidesNothing)
 
 TEST_F(Transactions, ADatabaseClosedOrLostInTheMiddleKeepsNothing)
 {
-    DefaultWorkspace().OpenDatabase(File(), ";PWD=" + kPassword);
-    DataControl::Reconnect = [this](DataControl&) { DefaultWorkspace().OpenDatabase(File(), ";PWD=" + kPassword); };
+    OpenShared();
+    DataControl::Reconnect = [this](DataControl&) { OpenShared(); };
     DataControl datAbsence("frmTest");
     {
         Transaction transaction(datAbsence.Engine());
         Hire(datAbsence.Engine(), {"Anne"});
         ASSERT_TRUE(QFile::rename(File(), File("Moved.mdb")));
-        EXPECT_EQ(FailureOf([&] { datAbsence.Read("SELECT * FROM Staff"); }), EngineError::ConnectionLost)
-            << "a new connection would not be the one that the transaction is open on";
+        EXPECT_EQ(FailureOf([&] { transaction.Commit(); }), EngineError::DiskError);
         ASSERT_TRUE(QFile::rename(File("Moved.mdb"), File()));
+    }
+    {
+        Transaction transaction(datAbsence.Engine());
+        Hire(datAbsence.Engine(), {"Anne"});
         DefaultWorkspace().Close();
+        EXPECT_EQ(FailureOf([&] { datAbsence.Read("SELECT * FROM Staff"); }), 0) << "through a new connection";
         EXPECT_EQ(FailureOf([&] { transaction.Commit(); }), EngineError::ConnectionLost);
     }
     DataControl::Reconnect = {};
+    DefaultWorkspace().Forget();
     EXPECT_EQ(Names(), "");
 }
 } // namespace

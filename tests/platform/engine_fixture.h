@@ -48,8 +48,12 @@ protected:
                          " Hours SINGLE_REAL, Days INTEGER, Seen DATETIME);");
     }
 
+    ~EngineTest() override { DefaultWorkspace().Forget(); }
+
     QString File(const QString& name = "Staff.mdb") const { return folder_.path() + "/" + name; }
     std::unique_ptr<Database> Open() const { return Database::Open(File(), kPassword); }
+    /// Opens it as the program does.
+    Database& OpenShared() const { return DefaultWorkspace().OpenDatabase(File(), ";PWD=" + kPassword); }
     /// A result as one text: records joined by commas, columns by "|".
     static QString List(Database& database, const QString& sql, const Values& values = {})
     {

@@ -24,7 +24,7 @@ protected:
     {
         SessionState.EmployeeDepartmentID = department;
         QStringList names;
-        for (const CategoryItem& item : LoadCategoryItems(datAbsence))
+        for (const CategoryItem& item : LoadCategoryItems(datAbsence, SessionState.EmployeeDepartmentID))
             if (!item.SystemName.startsWith("Time "))
                 names << item.Name;
         return names.join(", ");

@@ -15,8 +15,18 @@ constexpr ReachList kLists[] = {ReachList::Organizations, ReachList::Departments
 class Reach : public CompanyTest
 {
 protected:
+    /// Further groups, and units that are closed or of the next year.
+    Reach()
+    {
+        house.Sql("INSERT INTO Groups (FiscalYear, Active, OrganizationID, DepartmentID, GroupEnglishName) VALUES "
+                  "(1, 1, 1, 1, 'Paint'), (1, 1, 1, 2, 'Counter'), (1, 1, 2, 3, 'Yard'), (1, 0, 1, 1, 'Old'), "
+                  "(2, 1, 1, 1, 'Later')");
+        house.Sql("INSERT INTO Departments (FiscalYear, Active, OrganizationID, DepartmentEnglishName) "
+                  "VALUES (1, 0, 1, 'Old'), (2, 1, 1, 'Later')");
+        house.Sql("INSERT INTO Organizations (FiscalYear, Active, OrganizationEnglishName) VALUES (2, 1, 'Later')");
+    }
     /// The four lists, "/" between them; of employees the first names.
-    QString Listed(const EmployeeSelection& within = {})
+    QString Listed(const CalendarSelection& within = {})
     {
         QStringList lists;
         for (const ReachList list : kLists) {
@@ -31,43 +41,35 @@ protected:
     static QString Shown()
     {
         const Session& s = SessionState;
-        return QStringLiteral("%1|%2|%3|%4|%5")
-            .arg(s.EmployeeOrganizationID)
-            .arg(s.EmployeeDepartmentID)
-            .arg(s.EmployeeGroupID)
-            .arg(s.EmployeeID)
-            .arg(s.CurrentSelection);
+        QStringList shown = {s.CurrentSelection};
+        for (const int unit : {s.EmployeeOrganizationID, s.EmployeeDepartmentID, s.EmployeeGroupID, s.EmployeeID})
+            shown << QString::number(unit);
+        return shown.join('|');
     }
 };
 
 TEST_F(Reach, EachLevelOpensTheListsBelowIt)
 {
-    const int next = house.FiscalYear("2027", 2027);
-    house.Hire({"NED", "Ned", "Next", "Production", "Assembly"}, next);
-    house.Sql("INSERT INTO Groups (FiscalYear, Active, OrganizationID, DepartmentID, GroupEnglishName) "
-              "VALUES (1, 1, 1, 1, 'Paint'), (1, 0, 1, 1, 'Old'), (2, 1, 1, 1, 'Later')");
-    house.Sql("INSERT INTO Departments (FiscalYear, Active, OrganizationID, DepartmentEnglishName) "
-              "VALUES (1, 0, 1, 'Closed'), (2, 1, 1, 'Later')");
-    house.Sql("INSERT INTO Organizations (FiscalYear, Active, OrganizationEnglishName) VALUES (2, 1, 'Later')");
+    house.Hire({"NED", "Ned", "Next", "Production", "Assembly"}, house.FiscalYear("2027", 2027));
     house.Hire({"HUGO", "Hugo", "Hall", "Production", "Assembly"});
     Dismiss("HUGO");
     const std::pair<const char*, const char*> levels[] = {
         {"SelfLevelRead", "Northern Works / Production / Assembly / Anna"},
         {"GroupLevelRead", "Northern Works / Production / Assembly / Anna Bruno"},
         {"DepartmentLevelRead", "Northern Works / Production / Assembly Paint / Anna Bruno Carla"},
-        {"OrganizationLevelRead", "Northern Works / Production Sales / Assembly Paint / Anna Bruno Carla Dan"},
-        {"GlobalLevelRead",
-         "Northern Works Southern Trade / Production Sales Stores / Assembly Paint / Anna Bruno Carla Dan Eva"}};
+        {"OrganizationLevelRead", "Northern Works / Production Sales / Assembly Counter Paint / Anna Bruno Carla Dan"},
+        {"GlobalLevelRead", "Northern Works Southern Trade / Production Sales Stores / Assembly Counter Paint Yard / "
+                            "Anna Bruno Carla Dan Eva"}};
     for (const auto& [right, lists] : levels) {
         Grant("ANNA", {right});
         EXPECT_EQ(Listed(), lists) << right;
         const bool fixed = SessionState.OrganizationLevelRead != 1;
-        EXPECT_EQ(Listed(fixed ? EmployeeSelection{2, 3, 0, 0, {}} : EmployeeSelection()), lists)
+        EXPECT_EQ(Listed(fixed ? CalendarSelection{0, 2, 3, 0, {}} : CalendarSelection()), lists)
             << "a choice never widens the reach";
     }
-    EXPECT_EQ(Listed({1, 1, 1, 0, {}}),
+    EXPECT_EQ(Listed({0, 1, 1, 1, {}}),
               "Northern Works Southern Trade / Production Sales / Assembly Paint / Anna Bruno");
-    EXPECT_EQ(Listed({1, 2, 0, 0, {}}), "Northern Works Southern Trade / Production Sales /  / Dan");
+    EXPECT_EQ(Listed({0, 1, 2, 0, {}}), "Northern Works Southern Trade / Production Sales / Counter / Dan");
 }
 
 TEST_F(Reach, ALevelWithoutItsUnitReachesOnlyOneself)
@@ -95,13 +97,13 @@ TEST_F(Reach, TheUserNarrowsTheListsAndSelectsAnEmployeeOrAWholeUnit)
     EXPECT_EQ(user.ReadsAll({"lblChoice", "lstGroups"}), "Anna Abel|Assembly")
         << "the units above the employee stand out";
     user.Clicks("cmdSelect");
-    EXPECT_EQ(Shown(), QStringLiteral("1|1|1|%1|Anna Abel").arg(anna));
+    EXPECT_EQ(Shown(), QStringLiteral("Anna Abel|1|1|1|%1").arg(anna));
 
     SessionState.English = false;
     user.Opens<frmSelectEmployee>().Picks("lstEmployees", "Abel").Picks("lstDepartments", "Ventes");
     EXPECT_EQ(user.Reads("lblChoice"), "Ventes");
     user.Presses("lstDepartments", Qt::Key_Return);
-    EXPECT_EQ(Shown(), "1|2|0|0|Ventes");
+    EXPECT_EQ(Shown(), "Ventes|1|2|0|0");
 
     SessionState.English = true;
     user.Opens<frmSelectEmployee>(nullptr, frmSelectEmployee::Purpose::EmployeeRecord)
@@ -114,7 +116,7 @@ TEST_F(Reach, TheUserNarrowsTheListsAndSelectsAnEmployeeOrAWholeUnit)
     EXPECT_EQ(user.The<frmSelectEmployee>().ChosenName(), "Eva Ellis");
     user.Opens<frmSelectEmployee>().Picks("lstEmployees", "Ellis").Clicks("cmdQuit");
     EXPECT_EQ(user.The<frmSelectEmployee>().ChosenEmployeeID(), 0);
-    EXPECT_EQ(Shown(), "1|2|0|0|Ventes") << "the calendar keeps its own";
+    EXPECT_EQ(Shown(), "Ventes|1|2|0|0") << "the calendar keeps its own";
 }
 
 TEST_F(Reach, AUnitAboveTheUsersLevelCannotBeShownWhole)
@@ -139,10 +141,6 @@ TEST_F(Reach, AUnitAboveTheUsersLevelCannotBeShownWhole)
 
 TEST_F(Reach, TheUnitsOfAFormFollowTheUsersPositionAndLanguage)
 {
-    house.Sql("INSERT INTO Groups (FiscalYear, Active, OrganizationID, DepartmentID, GroupEnglishName) "
-              "VALUES (1, 1, 2, 3, 'Yard'), (1, 1, 1, 2, 'Counter'), (2, 1, 1, 1, 'Next year'), (1, 0, 1, 1, 'Old')");
-    house.Sql("INSERT INTO Departments (FiscalYear, Active, OrganizationID, DepartmentEnglishName) "
-              "VALUES (1, 0, 1, 'Old'), (2, 1, 1, 'Next year')");
     house.Sql("INSERT INTO Organizations (FiscalYear, Active, OrganizationEnglishName) VALUES (1, 0, 'Old')");
     const auto names = [this](UnitList list, int organization = 0, int department = 0) {
         QStringList units;
@@ -153,18 +151,17 @@ TEST_F(Reach, TheUnitsOfAFormFollowTheUsersPositionAndLanguage)
     const auto all = [&names] {
         return names(UnitList::Organizations) + " / " + names(UnitList::Departments) + " / " + names(UnitList::Groups);
     };
-    EXPECT_EQ(all(), "Northern Works, Southern Trade / Production, Sales, Stores / Assembly, Counter, Yard");
+    EXPECT_EQ(all(), "Northern Works, Southern Trade / Production, Sales, Stores / Assembly, Counter, Paint, Yard");
     EXPECT_EQ(names(UnitList::Departments, 2) + names(UnitList::Groups, 1, 2) + names(UnitList::Groups, 0, 1),
-              "StoresCounterAssembly");
+              "StoresCounterAssembly, Paint");
     SessionState.UserOrganizationID = 1;
-    EXPECT_EQ(all(), "Northern Works / Production, Sales / Assembly, Counter");
+    EXPECT_EQ(all(), "Northern Works / Production, Sales / Assembly, Counter, Paint");
     SessionState.UserDepartmentID = 2;
     EXPECT_EQ(all(), "Northern Works / Sales / Counter");
     SessionState.UserDepartmentID = SessionState.UserGroupID = 1;
     SessionState.English = false;
     EXPECT_EQ(all(), "Ateliers du Nord / Fabrication / Assemblage");
-    const Unit group = FindUnit(UnitsByPosition(datAbsence, UnitList::Groups), 1);
+    const Unit group = UnitsByPosition(datAbsence, UnitList::Groups).first();
     EXPECT_EQ(group.OrganizationID * 10 + group.DepartmentID, 11);
-    EXPECT_EQ(FindUnit({{0, "no unit"}}, 0).Name, "");
 }
 } // namespace

@@ -2,43 +2,38 @@
 
 #include "foundation/connection.h"
 #include "setup/frm_set_up_wizard.h"
-#include "support/user.h"
+#include "support/house_test.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <gtest/gtest.h>
-
 /// An empty program folder, as it is delivered, and a user who works the wizard in it.
-class Wizard : public testing::Test
+class Wizard : public HouseTest
 {
 protected:
-    void Open()
+    User& Open()
     {
-        user.Opens<frmSetUpWizard>([this] { ++started; });
+        user.Opens<frmSetUpWizard>();
+        QObject::connect(&user.The<frmSetUpWizard>(), &QDialog::accepted, [this] { ++started; });
+        return user;
     }
     void Open(const QString& language, const QString& kind)
     {
-        Open();
-        user.Clicks(language).Clicks("cmdNext").Clicks(kind).Clicks("cmdNext");
+        Open().Clicks(language).Clicks("cmdNext").Clicks(kind).Clicks("cmdNext");
     }
     /// Name and first month, in a wizard that stands at the fiscal year.
     void EntersFiscalYear(const QString& name, const QString& month, const QString& year)
     {
-        user.Types("txtFiscalYearName", name).Picks("cboStartMonth", month).Picks("cboStartYear", year);
+        user.Enters({{"txtFiscalYearName", name}, {"cboStartMonth", month}, {"cboStartYear", year}});
         user.Clicks("cmdNext");
     }
     /// 15:30 h of vacation carried over, sickness by employee, 7 h of personal time, no entitlement for the doctor.
     void EntersCategories()
     {
-        user.Types("txtHours_Vacation", "112").Types("txtMinutes_Vacation", "30").Checks("chkVacation_CarryOver");
-        user.Checks("chkSick_EntitlementVaries").Types("txtHours_PersonalTime", "7").Checks("chkDoctor_NoEntitlement");
+        user.Enters({{"txtHours_Vacation", "112"}, {"txtMinutes_Vacation", "30"}, {"chkVacation_CarryOver", "1"}});
+        user.Enters({{"chkSick_EntitlementVaries", "1"}, {"txtHours_PersonalTime", "7"}});
+        user.Checks("chkDoctor_NoEntitlement");
         user.Clicks("cmdNext");
-    }
-    void EntersAdministrator()
-    {
-        user.Types("txtAdminFamilyName", "L'Heureux").Types("txtAdminFirstName", "Zoé");
-        user.Types("txtAdminPhoneNumber", "555-0100").Types("txtAdminPassword", "blue moon'");
     }
     /// A database of the company in a folder of its own; returns its path.
     QString CompanyDatabase(const QString& folder)
@@ -58,7 +53,8 @@ protected:
     {
         EntersFiscalYear(name, month, "2026");
         EntersCategories();
-        EntersAdministrator();
+        user.Enters({{"txtAdminFamilyName", "L'Heureux"}, {"txtAdminFirstName", "Zoé"}});
+        user.Enters({{"txtAdminPhoneNumber", "555-0100"}, {"txtAdminPassword", "blue moon'"}});
     }
     User& WillFinish()
     {
@@ -75,7 +71,5 @@ protected:
         return Database::Open(path, kDatabasePassword)->OpenRecordset("SELECT * FROM " + table).RecordCount();
     }
 
-    House house;
-    User user;
     int started = 0;
 };

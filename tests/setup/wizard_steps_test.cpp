@@ -22,10 +22,8 @@ protected:
         QStringList state;
         for (const QString& name : {"txtHours_" + category, "txtMinutes_" + category})
             state << user.Reads(name);
-        for (const char* name : {"_EntitlementVaries", "_NoEntitlement", "_CarryOver"}) {
-            const QString box = "chk" + category + name;
-            state << (user.CanUse(box) ? user.Reads(box) : "off");
-        }
+        for (const char* name : {"_EntitlementVaries", "_NoEntitlement", "_CarryOver"})
+            state << (user.CanUse("chk" + category + name) ? user.Reads("chk" + category + name) : "off");
         return state.join(' ');
     }
 };
@@ -40,8 +38,7 @@ TEST_F(WizardSteps, TheWizardSpeaksBothLanguagesUntilOneIsChosen)
     user.Clicks("optFrench");
     EXPECT_EQ(Title(), "Configuration initiale");
     EXPECT_EQ(user.Reads("cmdNext"), "&Suivant");
-    user.Clicks("cmdNext");
-    EXPECT_FALSE(user.CanUse("cmdNext"));
+    EXPECT_FALSE(user.Clicks("cmdNext").CanUse("cmdNext"));
     user.WillAnswer("INFORMATION:", "OK", "réseau").Clicks("cmdInfo_ExistingAccessDatabase");
     user.Clicks("optExistingAccessDatabase").Clicks("cmdNext");
     EXPECT_EQ(user.Reads("cmdNext"), "TERMINER") << "an existing database needs no more";
@@ -70,8 +67,7 @@ TEST_F(WizardSteps, TheFiscalYearLastsTwelveMonths)
     AtFiscalYear("optEnglish");
     EXPECT_EQ(Dates(), "01-Jan-2026 31-Dec-2026");
     EXPECT_FALSE(user.CanUse("cmdNext")) << "it has no name";
-    user.Types("txtFiscalYearName", "First");
-    EXPECT_TRUE(user.CanUse("cmdNext"));
+    EXPECT_TRUE(user.Types("txtFiscalYearName", "First").CanUse("cmdNext"));
     user.Picks("cboStartMonth", "March").Picks("cboStartYear", "2028");
     EXPECT_EQ(Dates(), "01-Mar-2028 28-Feb-2029") << "from a leap year";
     user.Picks("cboStartYear", "2027");
@@ -79,21 +75,18 @@ TEST_F(WizardSteps, TheFiscalYearLastsTwelveMonths)
     user.Types("cboStartYear", "2x040").LeavesField("txtFiscalYearName");
     EXPECT_EQ(Dates(), "01-Mar-2040 28-Feb-2041") << "a year that is not listed";
 
-    user.WillAnswer("ERROR!", "OK", "beginning of the fiscal year is invalid!");
-    user.Types("cboStartYear", "12").LeavesField("txtFiscalYearName");
+    const auto finds = [this](const QString& year) -> User& {
+        return user.Types("cboStartYear", year).WillAnswer("ERROR!", "OK", "beginning of the fiscal year is invalid!");
+    };
+    finds("12").LeavesField("txtFiscalYearName");
     EXPECT_EQ(Dates(), " ");
     EXPECT_FALSE(user.CanUse("cmdNext"));
-    user.Picks("cboStartYear", "2026").Types("txtFiscalYearName", "   ");
-    EXPECT_FALSE(user.CanUse("cmdNext"));
-}
+    EXPECT_FALSE(user.Picks("cboStartYear", "2026").Types("txtFiscalYearName", "   ").CanUse("cmdNext"));
 
-TEST_F(WizardSteps, TheLetterOfTheNextButtonLetsTheFieldHaveItsSay)
-{
-    AtFiscalYear("optEnglish");
     auto* cmdNext = user.The<frmSetUpWizard>().findChild<QPushButton*>("cmdNext");
-    user.Types("txtFiscalYearName", "First").Types("cboStartYear", "12");
-    user.WillAnswer("ERROR!", "OK", "beginning of the fiscal year is invalid!");
-    cmdNext->click(); // as the letter does: the focus stays in the field
+    user.Types("txtFiscalYearName", "First");
+    finds("12");
+    cmdNext->click(); // as its letter does: the focus stays in the field
     EXPECT_TRUE(user.CanUse("cboStartYear"));
     user.Types("cboStartYear", "2026"); // the last digit frees the button
     cmdNext->click();
@@ -104,7 +97,7 @@ TEST_F(WizardSteps, TheLetterOfTheNextButtonLetsTheFieldHaveItsSay)
     EXPECT_TRUE(user.CanUse("txtMinutes_Sick")) << "the minutes were cleared: nothing is said of this category";
 }
 
-TEST_F(WizardSteps, TimeAndTheTwoBoxesExcludeEachOther)
+TEST_F(WizardSteps, TimeAndTheTwoBoxesExcludeEachOtherAndEveryCategoryNeedsANameAndAnAnswer)
 {
     AtCategories();
     EXPECT_EQ(State("Sick"), "  0 0 0");
@@ -122,21 +115,13 @@ TEST_F(WizardSteps, TimeAndTheTwoBoxesExcludeEachOther)
     user.Types("txtMinutes_Sick", "59");
     EXPECT_EQ(State("Sick"), "0 59 off off 0");
     EXPECT_EQ(State("Vacation"), "  0 0 0") << "each category for itself";
-}
 
-TEST_F(WizardSteps, EveryCategoryNeedsANameAndAnAnswer)
-{
-    AtCategories();
-    user.Checks("chkVacation_EntitlementVaries").Checks("chkSick_NoEntitlement").Types("txtMinutes_PersonalTime", "30");
+    user.Checks("chkVacation_EntitlementVaries").Types("txtMinutes_PersonalTime", "30");
     EXPECT_FALSE(user.CanUse("cmdNext"));
-    user.Types("txtHours_Doctor", "1");
-    EXPECT_TRUE(user.CanUse("cmdNext"));
-    user.Types("txtDoctor", "");
-    EXPECT_FALSE(user.CanUse("cmdNext"));
-    user.Types("txtDoctor", "Doctor, dentist's");
-    EXPECT_EQ(user.Reads("txtDoctor"), "Doctor dentist`s");
-    user.Checks("chkVacation_EntitlementVaries", false);
-    EXPECT_FALSE(user.CanUse("cmdNext"));
+    EXPECT_TRUE(user.Types("txtHours_Doctor", "1").CanUse("cmdNext"));
+    EXPECT_FALSE(user.Types("txtDoctor", "").CanUse("cmdNext"));
+    EXPECT_EQ(user.Types("txtDoctor", "Doctor, dentist's").Reads("txtDoctor"), "Doctor dentist`s");
+    EXPECT_FALSE(user.Checks("chkVacation_EntitlementVaries", false).CanUse("cmdNext"));
 }
 
 TEST_F(WizardSteps, AnotherLanguageRenamesTheCategoriesThatBearTheirPresetName)
@@ -148,8 +133,7 @@ TEST_F(WizardSteps, AnotherLanguageRenamesTheCategoriesThatBearTheirPresetName)
         user.Clicks(move);
     EXPECT_EQ(user.Reads("txtVacation") + " " + user.Reads("txtSick"), "Vacances Illness");
     EXPECT_EQ(user.Reads("lblTitle"), "CATÉGORIES D'ABSENTÉISME DE BASE");
-    user.Clicks("cmdPrevious");
-    EXPECT_EQ(user.Reads("cboStartMonth"), "janvier");
+    EXPECT_EQ(user.Clicks("cmdPrevious").Reads("cboStartMonth"), "janvier");
 }
 
 TEST_F(WizardSteps, TheAdministratorNeedsNamesAndAPassword)
@@ -159,14 +143,11 @@ TEST_F(WizardSteps, TheAdministratorNeedsNamesAndAPassword)
     EXPECT_EQ(user.Reads("cmdNext"), "FINISH");
     user.Types("txtAdminUsername", "BOSS");
     EXPECT_EQ(user.Reads("txtAdminUsername"), "ADMIN") << "it cannot be changed";
-    user.Types("txtAdminFamilyName", "Roy").Types("txtAdminFirstName", "Luc").Types("txtAdminPassword", "a$b'é12");
+    user.Enters({{"txtAdminFamilyName", "Roy"}, {"txtAdminFirstName", "Luc"}, {"txtAdminPassword", "a$b'é12"}});
     EXPECT_TRUE(user.CanUse("cmdNext")) << "the telephone number is optional";
-    user.LeavesField("txtAdminPassword");
-    EXPECT_EQ(user.Reads("txtAdminPassword"), "ABÉ12");
+    EXPECT_EQ(user.LeavesField("txtAdminPassword").Reads("txtAdminPassword"), "ABÉ12");
     for (const char* field : {"txtAdminFirstName", "txtAdminFamilyName", "txtAdminPassword"}) {
-        user.Types(field, " ");
-        EXPECT_FALSE(user.CanUse("cmdNext")) << field;
-        user.Types(field, "X");
-        EXPECT_TRUE(user.CanUse("cmdNext")) << field;
+        EXPECT_FALSE(user.Types(field, " ").CanUse("cmdNext")) << field;
+        EXPECT_TRUE(user.Types(field, "X").CanUse("cmdNext")) << field;
     }
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "support/user.h"
+#include "support/house_test.h"
 
-#include <gmock/gmock.h>
+#include <QRegularExpression>
 
 /// A company of five: Anna and Bruno assemble in Production, Carla works there without a group, Dan sells; Eva is with
 /// the other organization. ADMIN is logged in.
-class CompanyTest : public testing::Test
+class CompanyTest : public HouseTest
 {
 protected:
     CompanyTest()
@@ -19,24 +19,17 @@ protected:
         eva = house.Hire({"EVA", "Eva", "Ellis", "Stores"});
         house.LogIn("ADMIN");
     }
-
-    /// Logs in an employee with further rights.
-    void Grant(const QString& loginID, const QStringList& rights)
+    /// Organization, department and group of each record of a table, as "111 120".
+    QString Places(const QString& table)
     {
-        for (const QString& right : rights)
-            house.Sql("UPDATE Employees SET " + right + " = 1 WHERE LoginID = ?", {loginID});
-        house.LogIn(loginID);
+        return house.Rows("SELECT OrganizationID || DepartmentID || GroupID AS P FROM " + table).replace('\n', ' ');
     }
-    void Dismiss(const QString& loginID)
+    /// The entries of a list of employees, each up to the comma in the name, with blanks between them.
+    QString Listed(const QString& list)
     {
-        house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE LoginID = ?", {loginID});
+        return user.Entries(list).replaceInStrings(QRegularExpression(",.*"), {}).join(' ');
     }
-    /// The list of employees of the year is to be rebuilt by whoever reads it next.
-    int ListFlag() { return house.Number("SELECT ReloadEmployeesList FROM FiscalYears WHERE RecordID = 1"); }
 
-    House house;
-    User user;
-    DataControl datAbsence{"CompanyTest"};
     int anna = 0;
     int dan = 0;
     int eva = 0;

@@ -38,11 +38,10 @@ const QString kCompany = R"(
         VALUES (1, 1, 1, 1, 'Assembly', 'Assemblage');
     INSERT INTO CategoriesDepartments (FiscalYear, CategoryID, DepartmentID, IsUsed)
         SELECT 1, Categories.RecordID, Departments.RecordID, 1 FROM Departments, Categories ORDER BY 3, 2;
+    INSERT INTO Holidays (HolidayDate, HolidayName, EnteredBy) VALUES
+        (46023, 'New Year', 'ADMIN'), (46204, 'Canada Day', 'ADMIN'), (46272, 'Labour Day', 'ADMIN'),
+        (46381, 'Christmas', 'ADMIN');
 )";
-const std::pair<QDate, const char*> kHolidays[] = {{{2026, 1, 1}, "New Year"},
-                                                   {{2026, 7, 1}, "Canada Day"},
-                                                   {{2026, 9, 7}, "Labour Day"},
-                                                   {{2026, 12, 25}, "Christmas"}};
 } // namespace
 
 void SetComplaintHandler(std::function<void(const QString&)> handler)
@@ -82,7 +81,7 @@ House::House(const QString& folder)
         QFile::copy(DeliveredFolder() + name, folder_ + name);
     SetClockSource({[] { return moment; }, [](int) {}});
     SetEndHandler([] {
-        DefaultWorkspace().Close();
+        DefaultWorkspace().Forget();
         throw ProgramEnded();
     });
     SessionState.DatabasePath = folder_;
@@ -91,7 +90,7 @@ House::House(const QString& folder)
 
 House::~House()
 {
-    DefaultWorkspace().Close();
+    DefaultWorkspace().Forget();
     SetServerSink({});
 }
 
@@ -101,9 +100,8 @@ House& House::Today(int year, int month, int day, int hour, int minute)
     return *this;
 }
 
-House& House::Configured(bool english)
+House& House::Configured()
 {
-    SessionState.English = english;
     SessionState.DatabaseName = "Tarvell.mdb";
     WriteConfiguration();
     return *this;
@@ -124,9 +122,6 @@ House& House::Company()
     const Connection connection(datAbsence);
     AddFirstRows(datAbsence, choices);
     datAbsence.Engine().ExecuteScript(kCompany);
-    for (const auto& [date, name] : kHolidays)
-        Sql("INSERT INTO Holidays (HolidayDate, HolidayName, EnteredBy, EnteredDate) VALUES (?, ?, 'ADMIN', ?)",
-            {SerialOfDate(date), name, ::Today()});
     return *this;
 }
 
@@ -202,6 +197,25 @@ QString House::Rows(const QString& sql, const Values& values)
     return RowsOf(*Database::Open(DatabaseFile(), kDatabasePassword), sql, values);
 }
 
+QString House::All(const QStringList& tables)
+{
+    QStringList rows;
+    for (const QString& table : tables)
+        rows << Rows("SELECT * FROM " + table);
+    return rows.join('/');
+}
+
+QString House::Filled(const QString& table, int recordID)
+{
+    const auto database = Database::Open(DatabaseFile(), kDatabasePassword);
+    QStringList filled;
+    for (const Recordset& row : database->OpenRecordset("SELECT * FROM " + table + " WHERE RecordID = ?", {recordID}))
+        for (const QString& column : row.Columns())
+            if (!row.Text(column).isEmpty() && row.Text(column) != "0")
+                filled << column + "=" + row.Text(column);
+    return filled.join('|');
+}
+
 QString House::Cell(const QString& sql, const Values& values)
 {
     return Rows(sql, values).section('\n', 0, 0).section('|', 0, 0);
@@ -214,6 +228,7 @@ int House::Number(const QString& sql, const Values& values)
 
 int House::Sql(const QString& sql, const Values& values)
 {
+    DefaultWorkspace().PauseReading();
     const auto database = Database::Open(DatabaseFile(), kDatabasePassword);
     database->Execute(sql, values);
     return database->LastKey();

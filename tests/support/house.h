@@ -55,7 +55,7 @@ public:
     /// The day, and the time of day, that the program sees.
     House& Today(int year, int month, int day, int hour = 9, int minute = 0);
     /// The configuration of a workstation whose database lies in the program's folder.
-    House& Configured(bool english = true);
+    House& Configured();
     /// Fiscal year 2026, the eight system categories, ADMIN (password SECRET), two organizations, three departments, a
     /// group, four holidays.
     House& Company();
@@ -72,6 +72,9 @@ public:
     QString Cell(const QString& sql, const Values& values = {});
     int Number(const QString& sql, const Values& values = {});
     QString Rows(const QString& sql, const Values& values = {});
+    QString All(const QStringList& tables); ///< whatever stands in them
+    /// "Column=value" of all in a record that is neither 0 nor empty, with "|" between them.
+    QString Filled(const QString& table, int recordID);
     /// Returns the RecordID of the record that it added.
     int Sql(const QString& sql, const Values& values = {});
     int CategoryID(const QString& systemName, int fiscalYear = 1);

@@ -3,10 +3,13 @@
 #include "calendar/frm_main.h"
 #include "calendar/frm_program.h"
 #include "foundation/frm_login.h"
+#include "platform/clock.h"
+#include "platform/controls/flex_grid.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QMouseEvent>
+#include <QTest>
 
 MainUser::MainUser() = default;
 MainUser::~MainUser() = default;
@@ -28,6 +31,14 @@ frmMain& MainUser::OpensMain(const QString& loginID)
 MainUser& MainUser::ChoosesMenu(const QString& entry)
 {
     program_->Main()->findChild<QAction*>(entry)->trigger();
+    return *this;
+}
+
+MainUser& MainUser::ClicksDay(const QDate& date)
+{
+    auto* calendar = program_->Main()->findChild<FlexGrid*>("flxCalendar");
+    const QPoint place = program_->Main()->Calendar().PlaceOf(SerialOfDate(date));
+    QTest::mouseClick(calendar->viewport(), Qt::LeftButton, {}, calendar->CellRect(place.y(), place.x()).center());
     return *this;
 }
 

@@ -2,6 +2,8 @@
 
 #include "support/user.h"
 
+#include <QDate>
+
 class Program;
 class frmMain;
 
@@ -16,6 +18,7 @@ public:
     /// its first tick. What ran before is closed.
     frmMain& OpensMain(const QString& loginID);
     MainUser& ChoosesMenu(const QString& entry); ///< by its name
+    MainUser& ClicksDay(const QDate& date);
     MainUser& MovesMouseOver(const QString& control);
 
 private:

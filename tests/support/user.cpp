@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
+#include <QRegularExpression>
+#include <QTabWidget>
 #include <QTest>
 
 #include <optional>
@@ -24,6 +26,18 @@ std::optional<T> Next(std::deque<T>& queue)
     return first;
 }
 
+void ComplainOfLock(const QString& where)
+{
+    if (DefaultWorkspace().IsReading() || DefaultWorkspace().IsInTransaction())
+        Complain("a lock is held " + where);
+}
+
+[[noreturn]] void GiveUp(const QString& text)
+{
+    Complain(text);
+    throw std::logic_error("the user cannot go on");
+}
+
 void ClickEntry(QAbstractItemView* list, const QModelIndex& entry, Qt::KeyboardModifier modifier)
 {
     list->scrollTo(entry);
@@ -36,6 +50,7 @@ User::User()
     SetMessagePresenter([this](const Message& message) { return AnswerMessage(message); });
     SetModalRunner([this](QDialog& form) { return VisitForm(form); });
     SetFileChooser([this](const FileChoice& choice) {
+        ComplainOfLock("in front of " + choice.Title);
         const auto path = Next(files_);
         if (!path)
             Complain("unexpected file choice " + choice.Title);
@@ -76,19 +91,23 @@ User& User::Leaves()
 
 QWidget* User::FindWidget(const QString& name) const
 {
+    ComplainOfLock("before " + name);
     auto* control = form_ ? form_->findChild<QWidget*>(name) : nullptr;
     if (!control)
-        Complain("no control " + name + (form_ ? " on " + form_->objectName() : ""));
+        GiveUp("no control " + name + (form_ ? " on " + form_->objectName() : ""));
     return control;
 }
 
-QWidget* User::FindEnabled(const QString& name) const
+QWidget* User::TurnsTo(const QString& name)
 {
     QWidget* control = FindWidget(name);
-    if (!control || control->isEnabled())
-        return control;
-    Complain("cannot use " + name);
-    return nullptr;
+    for (auto* tabs : form_->findChildren<QTabWidget*>())
+        for (int page = 0; page < tabs->count(); ++page)
+            if (tabs->widget(page)->isAncestorOf(control))
+                tabs->setCurrentIndex(page);
+    if (!control->isEnabled())
+        GiveUp("cannot use " + name);
+    return control;
 }
 
 QAbstractItemModel* User::FindEntries(const QString& name) const
@@ -96,38 +115,33 @@ QAbstractItemModel* User::FindEntries(const QString& name) const
     QWidget* control = FindWidget(name);
     if (auto* combo = dynamic_cast<QComboBox*>(control))
         return combo->model();
-    if (auto* list = dynamic_cast<QListWidget*>(control))
-        return list->model();
-    Complain("no list: " + name);
-    return nullptr;
+    return dynamic_cast<QListWidget&>(*control).model();
 }
 
 User& User::Types(const QString& name, const QString& text)
 {
-    if (QWidget* field = FindEnabled(name)) {
-        field->setFocus();
-        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(field, Qt::Key_Delete);
-        for (const QChar character : text)
-            QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(character), Qt::NoModifier);
-    }
+    QWidget* field = TurnsTo(name);
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(field, Qt::Key_Delete);
+    for (const QChar character : text)
+        QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(character), Qt::NoModifier);
     return *this;
 }
 
 User& User::Presses(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    if (QWidget* target = name.isEmpty() ? form_.data() : FindWidget(name))
-        QTest::keyClick(target, key, modifiers);
+    QTest::keyClick(name.isEmpty() ? form_.data() : FindWidget(name), key, modifiers);
     return *this;
 }
 
 User& User::Clicks(const QString& name)
 {
-    QWidget* control = FindEnabled(name);
+    QWidget* control = TurnsTo(name);
     if (auto* button = dynamic_cast<QAbstractButton*>(control)) {
         button->setFocus();
         QTest::keyClick(button, Qt::Key_Space);
-    } else if (control) {
+    } else {
         QTest::mouseClick(control, Qt::LeftButton);
     }
     return *this;
@@ -140,15 +154,13 @@ User& User::Checks(const QString& name, bool checked)
 
 User& User::Picks(const QString& name, const QString& entry)
 {
-    QWidget* control = FindEnabled(name);
-    const QAbstractItemModel* entries = control ? FindEntries(name) : nullptr;
-    if (!entries)
-        return *this;
+    QWidget* control = TurnsTo(name);
+    const QAbstractItemModel* entries = FindEntries(name);
     const QModelIndexList found =
         entries->match(entries->index(0, 0), Qt::DisplayRole, entry, 1, Qt::MatchStartsWith | Qt::MatchCaseSensitive);
-    if (found.isEmpty()) {
-        Complain("no entry " + entry + " in " + name + ": " + Entries(name).join(", "));
-    } else if (auto* combo = dynamic_cast<QComboBox*>(control)) {
+    if (found.isEmpty())
+        GiveUp("no entry " + entry + " in " + name + ": " + Entries(name).join(", "));
+    if (auto* combo = dynamic_cast<QComboBox*>(control)) {
         combo->setCurrentIndex(found.first().row());
         emit combo->activated(found.first().row());
     } else {
@@ -157,20 +169,33 @@ User& User::Picks(const QString& name, const QString& entry)
     return *this;
 }
 
+User& User::Enters(const QList<std::pair<QString, QString>>& fields)
+{
+    for (const auto& [name, text] : fields) {
+        const QWidget* control = FindWidget(name);
+        const bool listed =
+            control->inherits("QComboBox") && Entries(name).filter(QRegularExpression("^" + text)).size();
+        if (control->inherits("QAbstractButton"))
+            Checks(name, text == "1");
+        else if (listed || control->inherits("QListWidget"))
+            Picks(name, text);
+        else
+            Types(name, text);
+    }
+    return *this;
+}
+
 User& User::ClicksWithCtrl(const QString& name)
 {
-    if (auto* list = dynamic_cast<QListWidget*>(FindWidget(name)); list && list->currentItem())
-        ClickEntry(list, list->currentIndex(), Qt::ControlModifier);
+    auto& list = dynamic_cast<QListWidget&>(*FindWidget(name));
+    ClickEntry(&list, list.currentIndex(), Qt::ControlModifier);
     return *this;
 }
 
 User& User::LeavesField(const QString& name)
 {
-    if (QWidget* field = FindWidget(name)) {
-        field->setFocus();
-        QTest::keyClick(field, Qt::Key_Tab);
-    }
-    return *this;
+    TurnsTo(name)->setFocus();
+    return Presses(name, Qt::Key_Tab);
 }
 
 QString User::Reads(const QString& name) const
@@ -181,7 +206,7 @@ QString User::Reads(const QString& name) const
     if (const auto* button = dynamic_cast<const QAbstractButton*>(control); button && button->isCheckable())
         return QString::number(button->isChecked());
     for (const char* property : {"currentText", "plainText", "text"})
-        if (const QVariant text = control ? control->property(property) : QVariant(); text.isValid())
+        if (const QVariant text = control->property(property); text.isValid())
             return text.toString();
     return {};
 }
@@ -198,21 +223,27 @@ QStringList User::Entries(const QString& name) const
 {
     QStringList texts;
     const QAbstractItemModel* entries = FindEntries(name);
-    for (int row = 0; entries && row < entries->rowCount(); ++row)
+    for (int row = 0; row < entries->rowCount(); ++row)
         texts << entries->index(row, 0).data().toString();
     return texts;
 }
 
 bool User::CanUse(const QString& name) const
 {
-    QWidget* control = FindWidget(name);
-    return control && control->isVisible() && control->isEnabled();
+    const QWidget* control = FindWidget(name);
+    return control->isVisible() && control->isEnabled();
+}
+
+QString User::Usable(const QStringList& names) const
+{
+    QStringList usable;
+    std::copy_if(names.begin(), names.end(), std::back_inserter(usable), [this](auto& name) { return CanUse(name); });
+    return usable.join(' ');
 }
 
 bool User::HasFocus(const QString& name) const
 {
-    QWidget* control = FindWidget(name);
-    return control && form_->focusWidget() == control;
+    return form_->focusWidget() == FindWidget(name);
 }
 
 User& User::WillAnswer(const QString& title, const QString& button, const QString& containing)
@@ -244,10 +275,10 @@ User& User::WillChooseFile(const QString& path)
 
 int User::AnswerMessage(const Message& message)
 {
-    lastMessage_ = message.Text;
     if (SeesMessage)
         SeesMessage(message);
     const QString shown = message.Title + "\n" + message.Text;
+    ComplainOfLock("in front of " + shown);
     const auto answer = Next(answers_);
     if (!answer) {
         Complain("unexpected message: " + shown);
@@ -279,13 +310,4 @@ int User::VisitForm(QDialog& form)
     if (before)
         Works(*before);
     return form.result();
-}
-
-User& User::Photographs(const QString& file)
-{
-    for (int pass = 0; pass < 3; ++pass) // nested layouts settle one level at a time
-        QCoreApplication::processEvents();
-    if (form_ && !form_->grab().save(file))
-        Complain("cannot save " + file);
-    return *this;
 }

@@ -13,8 +13,8 @@
 #include <functional>
 #include <memory>
 
-/// A person at the keyboard: finds controls by name, types real keys, clicks, picks entries by text, answers messages.
-/// Whatever is missing, unexpected or left over is complained of.
+/// A person at the keyboard: finds controls by name, turns to the page on which they stand, types real keys, clicks,
+/// picks entries by text, answers messages. Whatever is missing, unexpected or left over is complained of.
 class User
 {
 public:
@@ -45,14 +45,17 @@ public:
     User& Clicks(const QString& name); ///< a button, check box, option or label
     User& Checks(const QString& name, bool checked = true);
     User& Picks(const QString& name, const QString& entry); ///< an entry of a list or combo box that starts so
-    User& ClicksWithCtrl(const QString& list);              ///< on the current entry: takes its mark away
-    User& LeavesField(const QString& name);                 ///< the focus moves on
+    /// Controls with what is entered there: a text, an entry of a list, "1" or "0" for a check box.
+    User& Enters(const QList<std::pair<QString, QString>>& fields);
+    User& ClicksWithCtrl(const QString& list); ///< on the current entry: takes its mark away
+    User& LeavesField(const QString& name);    ///< the focus moves on
 
     /// What stands in a control: text of fields and labels, current text of lists, "1"/"0" of check boxes.
     QString Reads(const QString& name) const;
     QString ReadsAll(const QStringList& names) const; ///< the same of several controls, with "|" between them
     QStringList Entries(const QString& name) const;
-    bool CanUse(const QString& name) const; ///< visible and enabled
+    bool CanUse(const QString& name) const;         ///< visible and enabled
+    QString Usable(const QStringList& names) const; ///< those of them that can be used, with blanks between them
     bool HasFocus(const QString& name) const;
 
     /// The next message must bear this title; it is answered with the button of that caption. `containing` must stand
@@ -77,12 +80,8 @@ public:
         });
         return *this;
     }
-    QString LastMessage() const { return lastMessage_; }
     /// Called with each message before it is answered.
     std::function<void(const Message&)> SeesMessage;
-
-    /// Saves the form that is worked on as a picture.
-    User& Photographs(const QString& file);
 
 private:
     struct Answer
@@ -93,7 +92,7 @@ private:
     };
 
     QWidget* FindWidget(const QString& name) const;
-    QWidget* FindEnabled(const QString& name) const;
+    QWidget* TurnsTo(const QString& name); ///< the control, which must be enabled, on its page
     QAbstractItemModel* FindEntries(const QString& name) const;
     int AnswerMessage(const Message& message);
     int VisitForm(QDialog& form);
@@ -103,5 +102,4 @@ private:
     std::deque<Answer> answers_;
     std::deque<QString> files_;
     std::deque<std::function<void(QDialog&)>> visits_;
-    QString lastMessage_;
 };

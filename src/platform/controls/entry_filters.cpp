@@ -48,6 +48,21 @@ constexpr bool RulesStandInOrder()
 }
 static_assert(RulesStandInOrder());
 
+/// The text that a filter lets through. Line ends and tabs are the field's own affair and pass, except where only
+/// listed characters are allowed.
+QString Filtered(const QString& text, KeyFilter filter)
+{
+    const FilterRule& rule = kRules[static_cast<int>(filter)];
+    QString let;
+    for (const QChar character : text) {
+        const bool passes = rule.Allowed ? QLatin1String(rule.Allowed).contains(character)
+                                         : !QLatin1String(rule.Dropped).contains(character);
+        if (passes)
+            let += rule.QuoteBecomesBackquote && character == '\'' ? QChar('`') : character;
+    }
+    return let;
+}
+
 void Insert(QLineEdit* field, QString text)
 {
     field->insert(text.replace("\r\n", " ").replace('\n', ' '));
@@ -206,19 +221,6 @@ private:
     bool selectOnRelease_ = false;
 };
 } // namespace
-
-QString Filtered(const QString& text, KeyFilter filter)
-{
-    const FilterRule& rule = kRules[static_cast<int>(filter)];
-    QString let;
-    for (const QChar character : text) {
-        const bool passes = rule.Allowed ? QLatin1String(rule.Allowed).contains(character)
-                                         : !QLatin1String(rule.Dropped).contains(character);
-        if (passes)
-            let += rule.QuoteBecomesBackquote && character == '\'' ? QChar('`') : character;
-    }
-    return let;
-}
 
 void FilterKeys(QLineEdit* field, KeyFilter filter)
 {

@@ -24,10 +24,6 @@ enum class KeyFilter
     WebAddress     ///< as SetUpPassword, but \ and / pass
 };
 
-/// The text that a filter lets through. Line ends and tabs are the field's own affair and pass, except where only
-/// listed characters are allowed.
-QString Filtered(const QString& text, KeyFilter filter);
-
 /// Attaches the filter, and selects the whole contents when the field takes the focus. Code that fills the field is
 /// not filtered. The combo box must be editable.
 void FilterKeys(QLineEdit* field, KeyFilter filter);

@@ -2,9 +2,7 @@
 
 #include "platform/controls/flex_painting.h"
 
-#include <QAbstractButton>
 #include <QKeyEvent>
-#include <QPainter>
 
 namespace
 {
@@ -12,14 +10,14 @@ constexpr int kRowHeight = 26;
 constexpr int kColWidth = 96;
 } // namespace
 
-FlexGrid::FlexGrid(QWidget* parent)
-    : QTableView(parent), cells_(new FlexCells(this)), top_(new FlexHeads(Qt::Horizontal, this)),
-      left_(new FlexHeads(Qt::Vertical, this))
+FlexGrid::FlexGrid(QWidget* parent) : QTableView(parent), cells_(new FlexCells(this)), top_(new FlexHeads(this))
 {
     setHorizontalHeader(top_);
-    setVerticalHeader(left_);
     top_->setDefaultSectionSize(kColWidth);
-    left_->setDefaultSectionSize(kRowHeight);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(0);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(kRowHeight);
     setModel(cells_);
     setItemDelegate(new FlexDelegate(this));
     setShowGrid(false);
@@ -27,8 +25,6 @@ FlexGrid::FlexGrid(QWidget* parent)
     setSelectionMode(QAbstractItemView::SingleSelection);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     viewport()->setMouseTracking(true);
-    if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
-        corner->installEventFilter(this);
     ShowFixed();
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& at) {
         if (cells_->flags(at))
@@ -65,14 +61,6 @@ void FlexGrid::SetFixedRows(int rows)
     ShowFixed();
 }
 
-void FlexGrid::SetFixedCols(int cols)
-{
-    for (int col = 0; col < fixedCols_; ++col)
-        setColumnHidden(col, false);
-    fixedCols_ = cols;
-    ShowFixed();
-}
-
 int FlexGrid::AddItem(const QString& cells)
 {
     return cells_->Append(cells.split('\t'));
@@ -100,8 +88,6 @@ void FlexGrid::SetCell(int row, int col, const std::function<void(FlexCell&)>& c
     cells_->Changed(row, col);
     if (row < fixedRows_)
         top_->viewport()->update();
-    if (col < fixedCols_)
-        left_->viewport()->update();
 }
 
 QString FlexGrid::TextMatrix(int row, int col) const
@@ -190,10 +176,7 @@ void FlexGrid::WhenShown(int row, const std::function<void()>& change)
 
 void FlexGrid::SetColWidth(int col, int pixels)
 {
-    colWidths_[col] = pixels;
     setColumnWidth(col, pixels);
-    if (col < fixedCols_)
-        ShowFixed();
 }
 
 void FlexGrid::SetRowHeight(int row, int pixels)
@@ -314,26 +297,18 @@ void FlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& pre
         viewport()->update();
 }
 
-/// The fixed rows and columns are shown by the heads, so the scrolled cells leave them out.
+/// The fixed rows are shown by the heads, so the scrolled cells leave them out.
 void FlexGrid::ShowFixed()
 {
     for (int row = 0; row < std::min(fixedRows_, cells_->ShownRows()); ++row)
         setRowHidden(row, true);
-    for (int col = 0; col < std::min(fixedCols_, Cols()); ++col)
-        setColumnHidden(col, true);
     top_->setVisible(fixedRows_ > 0);
-    left_->setVisible(fixedCols_ > 0);
     updateGeometries();
 }
 
 int FlexGrid::HeadHeight(int row) const
 {
     return rowHeights_.value(row, kRowHeight);
-}
-
-int FlexGrid::HeadWidth(int col) const
-{
-    return colWidths_.value(col, kColWidth);
 }
 
 int FlexGrid::HeadsHeight() const
@@ -344,43 +319,7 @@ int FlexGrid::HeadsHeight() const
     return height;
 }
 
-int FlexGrid::HeadsWidth() const
-{
-    int width = 0;
-    for (int col = 0; col < fixedCols_; ++col)
-        width += HeadWidth(col);
-    return width;
-}
-
-bool FlexGrid::eventFilter(QObject* target, QEvent* event)
-{
-    auto* corner = qobject_cast<QAbstractButton*>(target);
-    if (!corner || event->type() != QEvent::Paint)
-        return QTableView::eventFilter(target, event);
-    PaintCorner(corner);
-    return true;
-}
-
-/// The cells that are fixed in both directions.
-void FlexGrid::PaintCorner(QWidget* corner) const
-{
-    QPainter painter(corner);
-    int top = 0;
-    for (int row = 0; row < fixedRows_; top += HeadHeight(row), ++row) {
-        int left = 0;
-        for (int col = 0; col < fixedCols_; left += HeadWidth(col), ++col)
-            if (const FlexCell* cell = cells_->At(row, col))
-                PaintFlexHead(painter, QRect(left, top, HeadWidth(col), HeadHeight(row)), *cell,
-                              cells_->AlignmentOf(*cell, col), true);
-    }
-}
-
 QColor ColorOfCode(int code)
 {
     return QColor(code & 0xff, (code >> 8) & 0xff, (code >> 16) & 0xff);
-}
-
-int CodeOfColor(const QColor& color)
-{
-    return color.red() | color.green() << 8 | color.blue() << 16;
 }

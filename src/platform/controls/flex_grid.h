@@ -25,9 +25,8 @@ public:
     void SetSize(int rows, int cols);
     int Rows() const;
     int Cols() const;
-    /// The first rows and columns stay in place when the rest scrolls, and look like heads; they take no clicks.
+    /// The first rows stay in place when the rest scrolls, and look like heads; they take no clicks.
     void SetFixedRows(int rows);
-    void SetFixedCols(int cols);
     /// Adds a row at the end; cells are separated by tabs. Returns its index.
     int AddItem(const QString& cells);
     void RemoveItem(int row);
@@ -84,7 +83,6 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
-    bool eventFilter(QObject* target, QEvent* event) override;
 
 private:
     friend class FlexHeads;
@@ -95,24 +93,17 @@ private:
     void WhenShown(int row, const std::function<void()>& change);
     void ShowFixed();
     int HeadHeight(int row) const;
-    int HeadWidth(int col) const;
     int HeadsHeight() const;
-    int HeadsWidth() const;
-    void PaintCorner(QWidget* corner) const;
 
     int fixedRows_ = 0;
-    int fixedCols_ = 0;
     int updates_ = 0; ///< how many BeginUpdate are open
     bool rowSelection_ = false;
     bool bordered_ = true;
     FlexCells* cells_;
     FlexHeads* top_;
-    FlexHeads* left_;
     QHash<int, int> rowHeights_; ///< of fixed rows, which the view itself hides
-    QHash<int, int> colWidths_;
     std::vector<std::function<void()>> whenShown_;
 };
 
-/// A colour as the program stores it (0xBBGGRR), and back.
+/// A colour as the program stores it, 0xBBGGRR.
 QColor ColorOfCode(int code);
-int CodeOfColor(const QColor& color);

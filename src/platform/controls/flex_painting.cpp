@@ -50,16 +50,16 @@ QColor ColorOr(int code, const QColor& own)
 {
     return code < 0 ? own : ColorOfCode(code);
 }
-} // namespace
 
-void PaintFlexHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment, bool bold)
+void PaintHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment)
 {
     painter.fillRect(rect, ColorOr(cell.Back, kHeadBack));
     if (cell.Lines)
         PaintLines(painter, rect, false, false);
     painter.setPen(ColorOr(cell.Fore, kHeadText));
-    PaintText(painter, rect, cell.Text, bold, alignment);
+    PaintText(painter, rect, cell.Text, true, alignment);
 }
+} // namespace
 
 FlexDelegate::FlexDelegate(FlexGrid* grid) : QStyledItemDelegate(grid), grid_(grid) {}
 
@@ -69,11 +69,9 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const FlexCells& cells = *grid_->cells_;
     const FlexCell& cell = *cells.At(row, col);
     const bool tinted = grid_->rowSelection_ && row == grid_->currentIndex().row();
-    QRect rect = option.rect;
+    const QRect& rect = option.rect;
     if (cell.Back >= 0 || tinted)
         painter->fillRect(rect, ColorOr(cell.Back, kTint));
-    if (col < grid_->fixedCols_) // merged with cells of the fixed columns: their share of the text is painted there
-        rect.setLeft(rect.left() - grid_->HeadsWidth());
     if (cell.Lines) {
         const bool outside = !grid_->bordered_;
         PaintLines(*painter, rect, !HasLines(cells.At(row, col - 1), outside),
@@ -100,39 +98,32 @@ bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
     return true;
 }
 
-FlexHeads::FlexHeads(Qt::Orientation orientation, FlexGrid* grid) : QHeaderView(orientation, grid), grid_(grid)
+FlexHeads::FlexHeads(FlexGrid* grid) : QHeaderView(Qt::Horizontal, grid), grid_(grid)
 {
     setMinimumSectionSize(0);
     setHighlightSections(false);
-    setSectionResizeMode(orientation == Qt::Horizontal ? QHeaderView::Interactive : QHeaderView::Fixed);
+    setSectionResizeMode(QHeaderView::Interactive);
 }
 
 QSize FlexHeads::sizeHint() const
 {
-    return orientation() == Qt::Horizontal ? QSize(0, grid_->HeadsHeight()) : QSize(grid_->HeadsWidth(), 0);
+    return {0, grid_->HeadsHeight()};
 }
 
 void FlexHeads::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
-    const bool top = orientation() == Qt::Horizontal;
-    painter.fillRect(event->rect(), top ? kHeadBack : QColor(Qt::white));
-    int offset = 0;
-    if (top)
-        for (int row = 0; row < grid_->fixedRows_; ++row) {
-            PaintRow(painter, row, offset, grid_->HeadHeight(row));
-            offset += grid_->HeadHeight(row);
-        }
-    else
-        for (int col = 0; col < grid_->fixedCols_; ++col) {
-            PaintCol(painter, col, offset, grid_->HeadWidth(col), event->rect());
-            offset += grid_->HeadWidth(col);
-        }
+    painter.fillRect(event->rect(), kHeadBack);
+    int top = 0;
+    for (int row = 0; row < grid_->fixedRows_; ++row) {
+        PaintRow(painter, row, top, grid_->HeadHeight(row));
+        top += grid_->HeadHeight(row);
+    }
 }
 
 void FlexHeads::PaintRow(QPainter& painter, int row, int top, int height) const
 {
-    for (int col = grid_->fixedCols_; col < grid_->cells_->Cols();) {
+    for (int col = 0; col < grid_->cells_->Cols();) {
         const int span = grid_->columnSpan(row, col);
         int width = 0;
         for (int part = col; part < col + span; ++part)
@@ -140,21 +131,7 @@ void FlexHeads::PaintRow(QPainter& painter, int row, int top, int height) const
         const QRect rect(sectionViewportPosition(col), top, width, height);
         const FlexCell& cell = *grid_->cells_->At(row, col);
         if (width > 0)
-            PaintFlexHead(painter, rect, cell, grid_->cells_->AlignmentOf(cell, col), true);
+            PaintHead(painter, rect, cell, grid_->cells_->AlignmentOf(cell, col));
         col += span;
-    }
-}
-
-void FlexHeads::PaintCol(QPainter& painter, int col, int left, int width, const QRect& area) const
-{
-    const int first = std::max(0, logicalIndexAt(area.top()));
-    for (int row = first; row < count() && sectionViewportPosition(row) <= area.bottom(); ++row) {
-        const FlexCell& cell = *grid_->cells_->At(row, col);
-        QRect rect(left, sectionViewportPosition(row), width, sectionSize(row));
-        if (rect.isEmpty())
-            continue;
-        if (grid_->columnSpan(row, col) > 1)
-            rect.setRight(rect.right() + grid_->viewport()->width());
-        PaintFlexHead(painter, rect, cell, grid_->cells_->AlignmentOf(cell, col), cell.Bold);
     }
 }

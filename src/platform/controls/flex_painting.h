@@ -21,11 +21,11 @@ private:
     FlexGrid* grid_;
 };
 
-/// The fixed rows above or the fixed columns beside the scrolled cells of a flex grid.
+/// The fixed rows above the scrolled cells of a flex grid.
 class FlexHeads : public QHeaderView
 {
 public:
-    FlexHeads(Qt::Orientation orientation, FlexGrid* grid);
+    explicit FlexHeads(FlexGrid* grid);
 
     QSize sizeHint() const override;
 
@@ -34,10 +34,6 @@ protected:
 
 private:
     void PaintRow(QPainter& painter, int row, int top, int height) const;
-    void PaintCol(QPainter& painter, int col, int left, int width, const QRect& area) const;
 
     FlexGrid* grid_;
 };
-
-/// Paints one fixed cell; those of the fixed rows are bold.
-void PaintFlexHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment, bool bold);

@@ -1,5 +1,7 @@
 #include "platform/controls/form_kit.h"
 
+#include "platform/dao/dao.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
@@ -53,6 +55,14 @@ public:
     {
         if (element != PE_FrameFocusRect || !qobject_cast<const QTabBar*>(widget))
             QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+    /// Names and texts from the data may look like markup; no label of the program has any.
+    void polish(QWidget* widget) override
+    {
+        QProxyStyle::polish(widget);
+        if (auto* label = qobject_cast<QLabel*>(widget))
+            label->setTextFormat(Qt::PlainText);
     }
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
@@ -128,11 +138,17 @@ QVBoxLayout* TabLayout(QWidget* page)
 
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
 {
+    QHBoxLayout* row = Beside(kGap, controls);
+    row->addStretch();
+    return row;
+}
+
+QHBoxLayout* Beside(int gap, std::initializer_list<QWidget*> controls)
+{
     auto* row = new QHBoxLayout;
-    row->setSpacing(kGap);
+    row->setSpacing(gap);
     for (QWidget* control : controls)
         row->addWidget(control);
-    row->addStretch();
     return row;
 }
 
@@ -150,14 +166,6 @@ QGridLayout* Raster()
     auto* raster = new QGridLayout;
     raster->setSpacing(kGap);
     return raster;
-}
-
-void AddFieldRow(QGridLayout* fields, QLabel* label, QWidget* field)
-{
-    const int row = fields->rowCount();
-    AsHead(label)->setBuddy(field);
-    fields->addWidget(label, row, 0);
-    fields->addWidget(field, row, 1);
 }
 
 QFrame* MakeCard(QLayout* layout)
@@ -185,12 +193,8 @@ QLabel* AsFigure(QLabel* label)
 
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control)
 {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(3);
-    column->addWidget(AsCaption(caption));
-    column->addWidget(control);
     caption->setBuddy(control);
-    return column;
+    return Stack(3, {AsCaption(caption), control});
 }
 
 QPushButton* AsMainButton(QPushButton* button)
@@ -209,16 +213,6 @@ void SetMainButton(QPushButton* button, bool main)
     button->style()->polish(button);
 }
 
-QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons)
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(kGap);
-    row->addStretch();
-    for (QPushButton* button : buttons)
-        row->addWidget(button);
-    return row;
-}
-
 QSize FittingScreen(const QWidget* window, const QSize& size)
 {
     constexpr QSize kFrame(16, 48);
@@ -227,6 +221,7 @@ QSize FittingScreen(const QWidget* window, const QSize& size)
 
 int ShowModal(QDialog& form)
 {
+    DefaultWorkspace().PauseReading();
     return modalRunner ? modalRunner(form) : form.exec();
 }
 

@@ -30,8 +30,9 @@ QVBoxLayout* PageLayout(QWidget* form);
 QVBoxLayout* TabLayout(QWidget* page);
 /// Controls side by side, the rest of the row empty.
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls);
-/// Controls one below the other, `gap` pixels apart.
-QVBoxLayout* Stack(int gap, std::initializer_list<QWidget*> controls);
+/// Controls side by side or one below the other, `gap` pixels apart.
+QHBoxLayout* Beside(int gap, std::initializer_list<QWidget*> controls = {});
+QVBoxLayout* Stack(int gap, std::initializer_list<QWidget*> controls = {});
 /// A raster of labels and controls; rows and boxes nested in it take its gaps over.
 QGridLayout* Raster();
 /// A white card with rounded corners on the quiet page; its layout holds the controls.
@@ -40,16 +41,12 @@ QFrame* MakeCard(QLayout* layout);
 QLabel* AsHead(QLabel* label);
 QLabel* AsCaption(QLabel* label);
 QLabel* AsFigure(QLabel* label);
-/// A new row of `fields`: the bold label at the left names the field at its right.
-void AddFieldRow(QGridLayout* fields, QLabel* label, QWidget* field);
 /// A small grey caption above the control that it names.
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control);
 /// The one blue main button of a form, pressed by Enter.
 QPushButton* AsMainButton(QPushButton* button);
 /// The same for a button that is the main one at times.
 void SetMainButton(QPushButton* button, bool main);
-/// The row of buttons at a form's foot, pushed to the right: the main button last.
-QHBoxLayout* ButtonRow(std::initializer_list<QPushButton*> buttons);
 
 /// As much of a size as the screen of `window` has room for, the window's frame and the desktop's bars left out.
 QSize FittingScreen(const QWidget* window, const QSize& size);

@@ -33,7 +33,8 @@ constexpr int UnknownName = 3061; ///< a statement names a column that no table 
 constexpr int StatementError = 3075;
 constexpr int NoSuchTable = 3078;
 constexpr int DiskFull = 3183;
-constexpr int Locked = 3260; ///< another user held the file for longer than the engine waits
+constexpr int LockRefused = 3050; ///< the file's folder cannot lock files
+constexpr int Locked = 3260;      ///< another user held the file for longer than the engine waits
 constexpr int NoSuchField = 3265;
 constexpr int ForeignFile = 3343; ///< the file is no database of this program
 constexpr int FieldExists = 3380;
@@ -52,6 +53,12 @@ struct RuntimeError : std::exception
 
 private:
     QByteArray text_;
+};
+
+/// There is no way to the database: it could not be opened or restored, or is damaged. The program cannot go on.
+struct ConnectionFailed : RuntimeError
+{
+    explicit ConnectionFailed(const RuntimeError& reason) : RuntimeError(reason) {}
 };
 
 class Database;
@@ -147,7 +154,8 @@ private:
     qsizetype current_ = 0;
 };
 
-/// One open file. Values are bound to the question marks of a statement in order.
+/// One open file. Values are bound to the question marks of a statement in order. The engine works on a thread of its
+/// own, for which the caller waits.
 class Database
 {
 public:
@@ -168,11 +176,22 @@ public:
     sqlite3* Handle() const { return handle_; }
     bool IsInTransaction() const { return transactions_ > 0; }
 
-    /// Makes a new file at `path` with `script` run in it and `password` set. An existing file is replaced.
+    /// From here on what is read is read together, behind one lock, until something is written or the reading ends.
+    /// Throws when the file cannot be read, or can no longer be shared.
+    void BeginReading();
+    /// Whether that lock is held.
+    bool IsReading() const { return reading_; }
+    /// The next thing that is read begins anew; what is being written goes on.
+    void PauseReading();
+    void EndReading();
+
+    /// Makes a new file at `path` with `script` run in it and `password` set. An existing file is replaced. Whoever may
+    /// write in its folder may write in it.
     static void Create(const QString& path, const QString& password, const QString& script);
-    /// Opens a file of this program. `password`: what follows "PWD=" in a connect string.
+    /// Opens a file of this program. `password`: what follows "PWD=" in a connect string. A write-ahead log, which a
+    /// network folder cannot share, is turned into a rollback journal.
     /// Throws 3024 no such file, 3051 no permission, 3343 no file of this program, 3031 wrong password, 3260 held by
-    /// another user for the whole LockWait.
+    /// another user for the whole LockWait, 3050 in a folder that cannot lock files.
     static std::unique_ptr<Database> Open(const QString& path, const QString& password);
 
     /// How long a statement waits for another user's lock, in milliseconds.
@@ -183,28 +202,43 @@ private:
     Database(sqlite3* handle, QString path);
     template <typename Work>
     auto Guarded(Work work);
+    void RequireInPlace(int failure) const;
 
     sqlite3* handle_;
     QString path_;
+    bool readsTogether_ = false;
+    bool reading_ = false;            // behind one lock
     int transactions_ = 0;            // open ones, each inside the one before
     std::exception_ptr ended_;        // the failure by which the engine has undone the open transaction
     std::shared_ptr<Database*> self_; // what outlives the database looks here whether it is still open
 };
 
-/// The application's one workspace: it holds the database that was opened last.
+/// The application's one workspace: it holds the database that was opened last. What is read between opening and
+/// closing is read together.
 class Workspace
 {
 public:
-    /// Opens `path` (either separator, any letter case) with a connect string such as ";PWD=secret".
+    /// Opens `path` (either separator, any letter case) with a connect string such as ";PWD=secret". A file that was
+    /// closed is kept at hand: opened again while it lies in its place, it costs one look.
     Database& OpenDatabase(const QString& path, const QString& connect);
-    void Close() { database_.reset(); }
+    void Close();
+    /// Closes the file for good.
+    void Forget();
+    /// No lock is held while a person looks at a form: reading goes on behind a new one.
+    void PauseReading();
     bool IsOpen() const { return database_ != nullptr; }
+    bool IsReading() const { return IsOpen() && database_->IsReading(); }
     bool IsInTransaction() const { return IsOpen() && database_->IsInTransaction(); }
     /// Throws 91 when nothing is open.
     Database& Current();
 
 private:
+    bool Reopen(const QString& path, const QString& connect);
+
     std::unique_ptr<Database> database_;
+    std::unique_ptr<Database> kept_; // the one closed last
+    QString path_;                   // as asked for
+    QString connect_;
 };
 
 /// Workspaces(0).
@@ -250,19 +284,19 @@ public:
 
     const QString FormName;
 
-    /// Reads with errors resumed: true when there is a first record. A lost connection (91, 3420) is restored through
-    /// Reconnect and read once more, but not inside a transaction, which is over then: it throws there. A statement
-    /// that names what no table has, or that cannot be understood, throws (3061, 3075, 3078, 3265).
+    /// True when there is a first record. A lost connection (91, 3420) is restored through Reconnect and read once
+    /// more, but not inside a transaction, which is over then. Throws ConnectionFailed when it cannot be restored or
+    /// the file is damaged, and any other failure as it is.
     template <typename... V>
     bool Read(const QString& sql, const V&... values)
     {
-        return !ReadResumed(sql, {BoundValue(values)...}).AtEnd();
+        return !ReadRestoring(sql, {BoundValue(values)...}).AtEnd();
     }
-    /// The same as a result of its own, empty after a failure.
+    /// The same as a result of its own.
     template <typename... V>
     Recordset Select(const QString& sql, const V&... values)
     {
-        return ReadResumed(sql, {BoundValue(values)...});
+        return ReadRestoring(sql, {BoundValue(values)...});
     }
     /// The same for a statement of one value; T() when it is NULL, or there is none.
     template <typename T, typename... V>
@@ -275,7 +309,7 @@ public:
         return value;
     }
 
-    /// Reads for writing: all failures are thrown.
+    /// Reads for writing: a lost connection is not restored.
     template <typename... V>
     Recordset Open(const QString& sql, const V&... values)
     {
@@ -292,10 +326,10 @@ public:
     int LastKey() const;
     Database& Engine() const { return DefaultWorkspace().Current(); }
 
-    /// How a lost connection is restored; set once by the connection routines.
+    /// How a lost connection is restored; set once by the connection routines. Throws when it cannot be.
     static std::function<void(DataControl&)> Reconnect;
 
 private:
     Recordset OpenResult(const QString& sql, const Values& values);
-    Recordset ReadResumed(const QString& sql, const Values& values);
+    Recordset ReadRestoring(const QString& sql, const Values& values);
 };

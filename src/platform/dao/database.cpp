@@ -1,20 +1,23 @@
 #include "platform/dao/collation.h"
+#include "platform/dao/engine_thread.h"
+#include "platform/dao/file_system.h"
 #include "platform/dao/statement.h"
 #include "platform/program.h"
 
 #include <QCryptographicHash>
 #include <QFile>
-#include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <chrono>
 #include <sqlite3.h>
 #include <thread>
+#include <utility>
 
 namespace
 {
 constexpr int kApplicationId = 0x54525641; // marks a file as one of this program
 constexpr int kRetryInterval = 5;          // milliseconds
+constexpr int kLongestRefusal = 500;       // milliseconds: now and then a network folder refuses a lock, then gives it
 
 QString HashOf(const QString& salt, const QString& password)
 {
@@ -27,12 +30,18 @@ QString NewSalt()
     return QString::number(QRandomGenerator::system()->generate64(), 16);
 }
 
-/// Waits in even steps, so that a user who has waited long asks as often as one who has just come.
+/// Waits in even steps, so that a user who has waited long asks as often as one who has just come. The clock tells how
+/// long: over a network asking takes its time too.
 int WaitForLock(void*, int tries)
 {
-    if (tries * kRetryInterval >= Database::LockWait)
+    using std::chrono::milliseconds;
+    using std::chrono::steady_clock;
+    static steady_clock::time_point since;
+    if (tries == 0)
+        since = steady_clock::now();
+    if (steady_clock::now() - since >= milliseconds(AreLocksRefused() ? kLongestRefusal : Database::LockWait))
         return 0;
-    std::this_thread::sleep_for(std::chrono::milliseconds(kRetryInterval));
+    std::this_thread::sleep_for(milliseconds(kRetryInterval));
     return 1;
 }
 
@@ -55,6 +64,7 @@ void SetUpConnection(sqlite3* handle)
 
 sqlite3* OpenFile(const QString& file, int flags)
 {
+    NoteRefusedLocks();
     sqlite3* handle = nullptr;
     try {
         if (sqlite3_open_v2(file.toUtf8().constData(), &handle, flags, nullptr) != SQLITE_OK)
@@ -67,34 +77,34 @@ sqlite3* OpenFile(const QString& file, int flags)
     return handle;
 }
 
-qint64 ReadNumber(sqlite3* handle, const QString& sql)
+void RequireOwnFile(sqlite3* handle, const QString& password)
 {
-    Statement statement(handle, sql);
-    return statement.Step() ? statement.WholeNumber(0) : 0;
-}
-
-void RequireOwnFile(sqlite3* handle)
-{
-    const bool own = ReadNumber(handle, "PRAGMA application_id") == kApplicationId &&
-                     ReadNumber(handle, "SELECT COUNT(*) FROM sqlite_master WHERE name = 'FilePassword'") == 1;
-    if (!own)
+    Statement mark(handle, "SELECT application_id, (SELECT COUNT(*) FROM sqlite_master WHERE name = 'FilePassword') "
+                           "FROM pragma_application_id");
+    if (!mark.Step() || mark.WholeNumber(0) != kApplicationId || mark.WholeNumber(1) != 1)
         throw RuntimeError(EngineError::ForeignFile, "The file is not a database of this program.");
-}
-
-void RequirePassword(sqlite3* handle, const QString& password)
-{
-    Statement statement(handle, "SELECT Salt, Hash FROM FilePassword");
-    const bool right =
-        statement.Step() && HashOf(statement.Value(0).toString(), password) == statement.Value(1).toString();
-    if (!right)
+    Statement word(handle, "SELECT Salt, Hash FROM FilePassword");
+    if (!word.Step() || HashOf(word.Value(0).toString(), password) != word.Value(1).toString())
         throw RuntimeError(EngineError::WrongPassword, "Not a valid password.");
 }
 
+/// Workstations cannot share a write-ahead log over a network.
+void RequireRollbackJournal(sqlite3* handle)
+{
+    const auto mode = [handle](const char* pragma) {
+        Statement journal(handle, pragma);
+        return journal.Step() ? journal.Value(0).toString() : QString();
+    };
+    if (mode("PRAGMA journal_mode") == "wal" && mode("PRAGMA journal_mode = DELETE") != "delete")
+        throw RuntimeError(EngineError::Locked, "The database is in a mode that a network folder cannot share.");
+}
+
+/// The journal goes last: while there is a file, it may need it.
 void RemoveFile(const QString& file)
 {
-    QFile::remove(file + "-journal");
     if (QFile::exists(file) && !QFile::remove(file))
         throw RuntimeError(EngineError::CannotOpen, "The file cannot be replaced: " + file);
+    QFile::remove(file + "-journal");
 }
 
 void WriteNewFile(Database& database, const QString& password, const QString& script)
@@ -109,7 +119,7 @@ void WriteNewFile(Database& database, const QString& password, const QString& sc
 }
 } // namespace
 
-int Database::LockWait = 5000;
+int Database::LockWait = 30'000;
 
 Database::Database(sqlite3* handle, QString path)
     : handle_(handle), path_(std::move(path)), self_(std::make_shared<Database*>(this))
@@ -117,31 +127,72 @@ Database::Database(sqlite3* handle, QString path)
 
 Database::~Database()
 {
-    sqlite3_close_v2(handle_);
+    OnEngineThread([this] { sqlite3_close_v2(handle_); });
 }
 
 std::unique_ptr<Database> Database::Open(const QString& path, const QString& password)
 {
-    const QString file = NativePath(path);
-    if (!QFileInfo(file).isFile())
-        throw RuntimeError(EngineError::FileNotFound, "Could not find the file '" + file + "'.");
-    std::unique_ptr<Database> database(new Database(OpenFile(file, SQLITE_OPEN_READWRITE), file));
-    RequireOwnFile(database->Handle());
-    RequirePassword(database->Handle(), password);
-    return database;
+    return OnEngineThread([&] {
+        const QString file = NativePath(path);
+        RequireFile(file);
+        std::unique_ptr<Database> database(new Database(OpenFile(file, SQLITE_OPEN_READWRITE), file));
+        RequireOwnFile(database->Handle(), password);
+        RequireRollbackJournal(database->Handle());
+        return database;
+    });
 }
 
 void Database::Create(const QString& path, const QString& password, const QString& script)
 {
-    const QString file = NativePath(path);
-    RemoveFile(file);
+    OnEngineThread([&] {
+        const QString file = NativePath(path);
+        RemoveFile(file);
+        try {
+            Database database(OpenFile(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE), file);
+            WriteNewFile(database, password, script);
+            ShareAsFolder(file);
+        } catch (...) {
+            QFile::remove(file);
+            throw;
+        }
+    });
+}
+
+/// A file that was moved away or replaced is still readable through its open handle; its rows are no longer the
+/// users' rows.
+void Database::RequireInPlace(int failure) const
+{
+    int moved = 0;
+    sqlite3_file_control(handle_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    if (moved != 0)
+        throw RuntimeError(failure, failure == EngineError::ConnectionLost
+                                        ? "The connection to the database file was lost."
+                                        : "The database file is no longer in its place.");
+}
+
+void Database::BeginReading()
+{
+    readsTogether_ = true;
     try {
-        Database database(OpenFile(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE), file);
-        WriteNewFile(database, password, script);
-    } catch (...) {
-        QFile::remove(file);
+        OpenRecordset("PRAGMA schema_version");
+        if (OpenRecordset("PRAGMA journal_mode").Text("journal_mode") == "wal") // a tool has switched it on meanwhile
+            throw RuntimeError(EngineError::ConnectionLost, "The database file can no longer be shared.");
+    } catch (const RuntimeError&) {
+        EndReading();
         throw;
     }
+}
+
+void Database::PauseReading()
+{
+    if (std::exchange(reading_, false))
+        OnEngineThread([this] { sqlite3_exec(handle_, "COMMIT", nullptr, nullptr, nullptr); });
+}
+
+void Database::EndReading()
+{
+    PauseReading();
+    readsTogether_ = false;
 }
 
 /// Runs `work`, unless a failure has ended the open transaction: what was to be written together would be torn apart.
@@ -151,7 +202,7 @@ auto Database::Guarded(Work work)
     if (ended_)
         std::rethrow_exception(ended_);
     try {
-        return work();
+        return OnEngineThread(work);
     } catch (const RuntimeError&) {
         if (IsInTransaction() && sqlite3_get_autocommit(handle_) != 0)
             ended_ = std::current_exception();
@@ -162,6 +213,13 @@ auto Database::Guarded(Work work)
 Recordset Database::OpenRecordset(const QString& sql, const Values& values)
 {
     return Guarded([&] {
+        if (sqlite3_get_autocommit(handle_) != 0) {
+            RequireInPlace(EngineError::ConnectionLost);
+            if (readsTogether_) {
+                Run(handle_, "BEGIN", FileAccess::Reading);
+                reading_ = true;
+            }
+        }
         Statement statement(handle_, sql, values);
         return Recordset(statement);
     });
@@ -169,7 +227,10 @@ Recordset Database::OpenRecordset(const QString& sql, const Values& values)
 
 int Database::Execute(const QString& sql, const Values& values)
 {
+    PauseReading();
     return Guarded([&] {
+        if (sqlite3_get_autocommit(handle_) != 0)
+            RequireInPlace(EngineError::DiskError);
         Statement statement(handle_, sql, values);
         const int before = sqlite3_total_changes(handle_);
         while (statement.Step()) {
@@ -180,7 +241,12 @@ int Database::Execute(const QString& sql, const Values& values)
 
 void Database::ExecuteScript(const QString& script)
 {
-    Guarded([&] { Run(handle_, script.toUtf8().constData(), FileAccess::Writing); });
+    PauseReading();
+    Guarded([&] {
+        if (sqlite3_get_autocommit(handle_) != 0)
+            RequireInPlace(EngineError::DiskError);
+        Run(handle_, script.toUtf8().constData(), FileAccess::Writing);
+    });
 }
 
 QStringList Database::Columns(const QString& table)

@@ -1,5 +1,7 @@
 #include "platform/dao/engine_errors.h"
 
+#include "platform/dao/file_system.h"
+
 #include <sqlite3.h>
 #include <utility>
 
@@ -42,6 +44,8 @@ Failure FailureOf(int code, const QString& words, FileAccess access)
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
+        if (AreLocksRefused())
+            return {EngineError::LockRefused, "The folder of the database cannot lock files"};
         return {EngineError::Locked, "The database is locked by another user"};
     case SQLITE_FULL:
         return {EngineError::DiskFull, "There is not enough space on the disk"};

@@ -2,22 +2,6 @@
 
 #include <sqlite3.h>
 
-namespace
-{
-/// A file that was moved away or replaced is still readable through its open handle; its rows are no longer the
-/// users' rows.
-void RequireFileInPlace(sqlite3* handle, sqlite3_stmt* statement)
-{
-    int moved = 0;
-    sqlite3_file_control(handle, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
-    if (moved == 0)
-        return;
-    if (sqlite3_stmt_readonly(statement) != 0)
-        throw RuntimeError(EngineError::ConnectionLost, "The connection to the database file was lost.");
-    throw RuntimeError(EngineError::DiskError, "The database file is no longer in its place.");
-}
-} // namespace
-
 Statement::Statement(sqlite3* handle, const QString& sql, const Values& values) : handle_(handle)
 {
     const QByteArray text = sql.toUtf8();
@@ -27,7 +11,6 @@ Statement::Statement(sqlite3* handle, const QString& sql, const Values& values) 
     try {
         if (statement_ == nullptr || !QByteArray(rest).trimmed().isEmpty())
             throw RuntimeError(EngineError::StatementError, "One statement was expected. " + sql);
-        RequireFileInPlace(handle, statement_);
         Bind(values);
     } catch (...) {
         sqlite3_finalize(statement_);

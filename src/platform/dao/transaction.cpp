@@ -1,10 +1,12 @@
-#include "platform/dao/engine_errors.h"
+#include "platform/dao/dao.h"
+#include "platform/dao/engine_thread.h"
 
 #include <sqlite3.h>
 
 Transaction::Transaction(Database& database, OnFailure onFailure)
     : database_(database.self_), onFailure_(onFailure), nested_(database.IsInTransaction())
 {
+    database.PauseReading();
     Run(nested_ ? "SAVEPOINT inner_transaction" : "BEGIN IMMEDIATE");
     ++database.transactions_;
 }
@@ -33,6 +35,8 @@ void Transaction::Run(const char* sql)
 void Transaction::Commit()
 {
     try {
+        if (const auto database = database_.lock(); database && !nested_)
+            OnEngineThread([file = *database] { file->RequireInPlace(EngineError::DiskError); });
         Run(nested_ ? "RELEASE inner_transaction" : "COMMIT");
     } catch (const RuntimeError&) {
         Rollback();

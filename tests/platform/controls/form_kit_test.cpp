@@ -2,37 +2,15 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
-#include <QIcon>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
-TEST(FormKit, EveryPictureIsThereAndUnlikeTheOthers)
-{
-    QList<QImage> seen;
-    for (const QFileInfo& file : QDir(":/pictures").entryInfoList()) {
-        const QString name = file.baseName();
-        const QImage picture = Picture(name, 48).toImage();
-        EXPECT_EQ(picture.size(), QSize(48, 48)) << qPrintable(name);
-        EXPECT_FALSE(seen.contains(picture)) << qPrintable(name);
-        EXPECT_FALSE(PictureIcon(name).pixmap(16).isNull()) << qPrintable(name);
-        seen.append(picture);
-    }
-    EXPECT_TRUE(Picture("no-such-picture", 48).isNull());
-    EXPECT_TRUE(PictureIcon("no-such-picture").isNull());
-}
-
-TEST(FormKit, AModalFormIsWorkedByTheRunnerOrWaitsForAPerson)
+TEST(FormKit, AModalFormWaitsForAPerson)
 {
     QDialog form;
-    SetModalRunner([](QDialog& shown) {
-        shown.done(7);
-        return shown.result();
-    });
-    EXPECT_EQ(ShowModal(form), 7);
     SetModalRunner({});
     QTimer::singleShot(0, &form, [&form] { form.done(3); });
     EXPECT_EQ(ShowModal(form), 3);
@@ -67,6 +45,5 @@ TEST(FormKit, GuardsGiveBackWhatTheyFound)
         std::make_unique<LoadingGuard>(loading).reset();
         EXPECT_TRUE(loading) << "an inner guard leaves the outer one in force";
     }
-    EXPECT_FALSE(loading);
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_TRUE(!loading && !QApplication::overrideCursor());
 }

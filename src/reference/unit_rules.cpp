@@ -1,23 +1,20 @@
-#include "reference/unit_entry.h"
+#include "reference/unit_rules.h"
 
 #include "foundation/session_state.h"
 #include "reference/unit_records.h"
 
 namespace
 {
-void Tidy(UnitEntry& unit)
+void Tidy(UnitRow& unit)
 {
-    unit.EnglishName = unit.EnglishName.trimmed();
-    unit.FrenchName = unit.FrenchName.trimmed();
+    TrimTexts(unit);
     if (unit.EnglishName.isEmpty())
         unit.EnglishName = unit.FrenchName;
     if (unit.FrenchName.isEmpty())
         unit.FrenchName = unit.EnglishName;
-    for (QString& line : unit.Address)
-        line = line.trimmed();
 }
 
-std::optional<Fault> FaultOfNames(DataControl& datAbsence, const UnitKind& kind, const UnitEntry& unit)
+std::optional<Fault> FaultOfNames(DataControl& datAbsence, const UnitKind& kind, const UnitRow& unit)
 {
     const auto fault = [](const Text& text, const char* field) {
         return Fault{field, T(text, {{"FiscalYearName", SessionState.FiscalYearName}})};
@@ -33,26 +30,39 @@ std::optional<Fault> FaultOfNames(DataControl& datAbsence, const UnitKind& kind,
     return {};
 }
 
-std::optional<Fault> FaultOfAddress(const UnitEntry& unit)
+std::optional<Fault> FaultOfAddress(const UnitRow& unit)
 {
-    for (int line = 0; line < kAddressLines; ++line)
-        if (!kAddressFields[line].Missing.IsEmpty() && unit.Address[line].isEmpty())
-            return Fault{kAddressFields[line].Control, T(kAddressFields[line].Missing)};
+    for (const AddressField& field : kAddressFields)
+        if (!field.Missing.IsEmpty() && (unit.*field.Line).isEmpty())
+            return Fault{field.Control, T(field.Missing)};
     return {};
 }
 } // namespace
 
-QString ShownName(const UnitEntry& unit)
+QString ShownName(const UnitRow& unit)
 {
     return SessionState.English ? unit.EnglishName : unit.FrenchName;
 }
 
-std::optional<Fault> ValidateRecord(DataControl& datAbsence, const UnitKind& kind, UnitEntry& unit)
+int ParentOf(const UnitKind& kind, const UnitRow& unit)
+{
+    return kind.Parent ? unit.*kind.Parent->ID : 0;
+}
+
+void TrimTexts(UnitRow& unit)
+{
+    for (QString UnitRow::*name : {&UnitRow::EnglishName, &UnitRow::FrenchName})
+        unit.*name = (unit.*name).trimmed();
+    for (const AddressField& field : kAddressFields)
+        unit.*field.Line = (unit.*field.Line).trimmed();
+}
+
+std::optional<Fault> ValidateRecord(DataControl& datAbsence, const UnitKind& kind, UnitRow& unit)
 {
     Tidy(unit);
     if (const auto fault = FaultOfNames(datAbsence, kind, unit))
         return fault;
-    if (kind.Parent && unit.ParentID == 0)
+    if (kind.Parent && ParentOf(kind, unit) == 0)
         return Fault{kind.ParentList, T(kind.Texts.ParentMissing)};
     return kind.HasAddress ? FaultOfAddress(unit) : std::nullopt;
 }

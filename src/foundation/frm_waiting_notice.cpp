@@ -1,0 +1,52 @@
+#include "foundation/frm_waiting_notice.h"
+
+#include "foundation/frm_captions.h"
+#include "platform/dao/engine_thread.h"
+
+#include <QApplication>
+#include <QPointer>
+
+namespace
+{
+constexpr int kNoticeTop = 12;
+
+QWidget* WindowInFront()
+{
+    if (QWidget* window = QApplication::activeWindow())
+        return window;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            return window;
+    return nullptr;
+}
+
+QLabel* MakeNotice(QWidget* window)
+{
+    auto* lblWaiting =
+        MakeLabel("lblWaiting", {"Waiting for the database...", "En attente de la banque de données..."});
+    lblWaiting->setProperty("look", "notice");
+    lblWaiting->setParent(window);
+    lblWaiting->adjustSize();
+    lblWaiting->move((window->width() - lblWaiting->width()) / 2, kNoticeTop);
+    lblWaiting->show();
+    lblWaiting->raise();
+    return lblWaiting;
+}
+
+/// Painted at once and again: the window itself stands still meanwhile.
+void ShowNotice(bool waiting)
+{
+    static QPointer<QLabel> notice;
+    if (!waiting)
+        return delete notice;
+    if (QWidget* window = WindowInFront(); window && !notice)
+        notice = MakeNotice(window);
+    if (notice)
+        notice->repaint();
+}
+} // namespace
+
+void InstallWaitingNotice()
+{
+    SetWaitingSign(ShowNotice);
+}
