@@ -5,6 +5,7 @@
 #include "foundation/connection.h"
 #include "foundation/log_in.h"
 #include "platform/clock.h"
+#include "reference/frm_unit.h"
 #include "support/company_test.h"
 #include "support/file_calls.h"
 
@@ -146,5 +147,27 @@ TEST_F(ShareFaults, WhatIsToldAsDoneIsInTheFileAndWhatIsToldAsFailedIsNot)
     for (const Operation& operation : operations)
         for (const ShareFault& fault : kFaults)
             Try(operation, fault);
+}
+
+TEST_F(ShareFaults, WhatWasTypedOutlastsTheLockOfAnotherUser)
+{
+    user.Opens<frmOrganizations>();
+    user.Clicks("cmdAdd").Enters({{"txtEnglishName", "Eastern Labs"},
+                                  {"txtAddressLine1", "12 King's Road"},
+                                  {"txtCity", "Moncton"},
+                                  {"txtState", "NB"},
+                                  {"txtCountry", "Canada"},
+                                  {"txtZipCode", "E1A 0B1"}});
+    const auto other = Database::Open(house.DatabaseFile(), kDatabasePassword);
+    for (const bool isAtHand : {true, false}) {
+        if (!isAtHand)
+            DefaultWorkspace().Forget();
+        other->Execute("BEGIN EXCLUSIVE");
+        user.WillAnswer("AN ERROR HAS OCCURRED:", "OK", "3260: ").Clicks("cmdAdd");
+        EXPECT_EQ(user.ReadsAll({"txtEnglishName", "txtCity"}), "Eastern Labs|Moncton");
+        other->Execute("COMMIT");
+    }
+    user.WillConfirm("Eastern Labs").WillBeDone("has been added").Clicks("cmdAdd");
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Organizations WHERE City = 'Moncton'"), 1);
 }
 } // namespace

@@ -11,6 +11,7 @@
 
 #include <QFile>
 #include <QLocale>
+#include <QScopedValueRollback>
 
 #include <array>
 #include <cmath>
@@ -159,8 +160,13 @@ bool AskWithList(const QString& title, const QString& text, qsizetype lines, Fac
 
 void TellError(const RuntimeError& error)
 {
-    if (dynamic_cast<const ConnectionFailed*>(&error))
+    static bool ending = false;
+    if (ending)
+        return; // the minute's tick fails too, behind the announcement that the program ends
+    if (dynamic_cast<const ConnectionFailed*>(&error)) {
+        const QScopedValueRollback<bool> announced(ending, true);
         EndOnFailedConnection(error);
+    }
     if (dynamic_cast<const YearClosed*>(&error))
         return TellWhenYearIsClosed();
     Tell(T("AN ERROR HAS OCCURRED:", "UNE ERREUR EST SURVENUE:"),

@@ -10,6 +10,14 @@ namespace
 int connections = 0; // nested connections of the shared workspace
 [[maybe_unused]] const bool followed = FollowServerChoice(SessionState.SQL_Server);
 
+/// Another user's lock is no failed connection: it is told like a refused statement, and what was typed stays.
+[[noreturn]] void ThrowOfOpening(const RuntimeError& error)
+{
+    if (error.Number == EngineError::Locked)
+        throw; // as it is
+    throw ConnectionFailed(error);
+}
+
 void OpenFile()
 {
     DefaultWorkspace().OpenDatabase(JoinPath(SessionState.DatabasePath, "Tarvell.mdb"), ";PWD=" + kDatabasePassword);
@@ -21,7 +29,7 @@ void Restore(DataControl& /*datAbsence*/)
         if (!IsServerChosen())
             OpenFile();
     } catch (const RuntimeError& error) {
-        throw ConnectionFailed(error);
+        ThrowOfOpening(error);
     }
 }
 } // namespace
@@ -58,7 +66,7 @@ void ConnectToDatabase(DataControl& datAbsence)
     try {
         TryToConnect(datAbsence);
     } catch (const RuntimeError& error) {
-        throw ConnectionFailed(error);
+        ThrowOfOpening(error);
     }
 }
 

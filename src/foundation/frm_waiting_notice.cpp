@@ -12,6 +12,8 @@ constexpr int kNoticeTop = 12;
 
 QWidget* WindowInFront()
 {
+    if (QWidget* window = QApplication::activeModalWidget())
+        return window;
     if (QWidget* window = QApplication::activeWindow())
         return window;
     for (QWidget* window : QApplication::topLevelWidgets())
@@ -42,7 +44,7 @@ void ShowNotice(bool waiting)
     if (QWidget* window = WindowInFront(); window && !notice)
         notice = MakeNotice(window);
     if (notice)
-        notice->repaint();
+        notice->window()->repaint(); // whole: a message that was just answered still covers a part of it
 }
 } // namespace
 

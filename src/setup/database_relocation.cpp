@@ -5,9 +5,12 @@
 #include "foundation/database_choice.h"
 #include "foundation/texts.h"
 #include "platform/clock.h"
+#include "platform/dao/file_system.h"
 #include "platform/program.h"
 
 #include <QFile>
+
+#include <filesystem>
 
 namespace
 {
@@ -50,6 +53,19 @@ bool IsSamePlace(const QString& path, const QString& other)
     return NativePath(path).compare(NativePath(other), Qt::CaseInsensitive) == 0;
 }
 
+void CopyFile(const QString& original, const QString& copy)
+{
+    std::error_code failure;
+    if (std::filesystem::copy_file(original.toStdString(), copy.toStdString(), failure))
+        return;
+    if (failure != std::errc::file_exists)
+        QFile::remove(copy); // what is half written
+    const int number = !QFile::exists(original)                   ? EngineError::FileNotFound
+                       : failure == std::errc::no_space_on_device ? EngineError::DiskFull
+                                                                  : EngineError::CannotOpen;
+    throw RuntimeError(number, QString::fromStdString(failure.message()));
+}
+
 void WaitUntilReadable(const QString& path)
 {
     for (int second = 1;; ++second) {
@@ -86,10 +102,8 @@ bool MayBeRelocated(const QString& target, const QString& current)
 void CopyDatabase(const QString& original, const QString& target)
 {
     const QString copy = NativePath(JoinPath(target.chopped(kDatabaseNameLength), "Tarvell.mdb"));
-    QFile source(NativePath(original));
-    if (!source.copy(copy))
-        throw RuntimeError(source.exists() ? EngineError::CannotOpen : EngineError::FileNotFound, source.errorString());
-    QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
+    CopyFile(NativePath(original), copy);
+    ShareAsFolder(copy);
     try {
         WaitUntilReadable(copy);
     } catch (const RuntimeError&) {

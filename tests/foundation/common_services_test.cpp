@@ -109,6 +109,21 @@ TEST_F(CommonServices, MessagesCheckTheirRangesAndAnswerByCaption)
     EXPECT_EQ(SessionState.MessageTitle + SessionState.MessageText, "TITRE:Texte");
 }
 
+TEST_F(CommonServices, TheEndOfTheProgramIsAnnouncedOnce)
+{
+    const ConnectionFailed lost(RuntimeError(EngineError::ConnectionLost, "gone"));
+    QStringList told;
+    SetMessagePresenter([&](const Message& message) {
+        told << message.Title;
+        TellError(lost); // as the minute's tick does while the user reads
+        return MessageCode::OK;
+    });
+    for (int time = 0; time < 2; ++time)
+        EXPECT_THROW(TellError(lost), ProgramEnded);
+    SetMessagePresenter({});
+    EXPECT_EQ(told, (QStringList{"FATAL ERROR:", "FATAL ERROR:"}));
+}
+
 TEST_F(CommonServices, LogsAreAppendedLineByLine)
 {
     SessionState.LoginID = "MBOUCHARD";

@@ -12,11 +12,14 @@ TEST_F(DatabasePlace, ANewDatabaseMovesToAnotherFolder)
 {
     const QString share = Folder("Réseau");
     QFile::setPermissions(house.DatabaseFile(), QFile::ReadOwner);
+    constexpr auto colleagues = QFile::ReadGroup | QFile::WriteGroup;
+    QFile::setPermissions(share, QFile::permissions(share) | colleagues);
     Open("optEnglish", "optNewAccessDatabase");
     user.WillAnswer("OPERATION SUCCESSFUL:", "OK", "Your database was moved to the specified directory.");
     Chooses(share + "/tarvell.mdb");
     EXPECT_EQ(user.Reads("lblDatabasePath"), share + "/Tarvell.mdb");
-    EXPECT_TRUE(QFile::permissions(share + "/Tarvell.mdb").testFlag(QFile::WriteOwner)) << "as delivered, or not";
+    EXPECT_TRUE(QFile::permissions(share + "/Tarvell.mdb").testFlags(QFile::WriteOwner | colleagues))
+        << "not as delivered, but as its new folder";
 
     user.Clicks("cmdNext");
     EntersTheRest("2026", "January");
