@@ -7,8 +7,9 @@ inline const QString kDatabasePassword = QStringLiteral("k7Vq2Zt9mXe");
 inline const QString kConfigPassword = QStringLiteral("p3n8Rw62jq0d");
 
 /// Opens Tarvell.mdb in SessionState.DatabasePath and writes a line to Connections.log; on the server back end it only
-/// writes the line. Throws ConnectionFailed, or 3260 as it is while another user holds the file. Calls may be nested: the file stays open, and what is read is read
-/// together, until the last disconnection; only while a person is asked something others may write.
+/// writes the line. Throws ConnectionFailed, or 3260 as it is while another user holds the file. Calls may be nested:
+/// the file stays open, and what is read is read together, until the last disconnection; only while a person is asked
+/// something others may write.
 void ConnectToDatabase(DataControl& datAbsence);
 void DisconnectFromDatabase(DataControl& datAbsence);
 
