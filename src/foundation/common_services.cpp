@@ -158,6 +158,17 @@ bool AskWithList(const QString& title, const QString& text, qsizetype lines, Fac
            MessageCode::Yes;
 }
 
+bool AskToAbandonChanges()
+{
+    return ShowMessage({.Text = T("Changes have not been saved! Cancelled anyway?",
+                                  "Vos changements n'ont pas été sauvegardés! Souhaitez-vous tout-de-même annuler "
+                                  "cette opération?"),
+                        .Title = T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
+                        .Set = SessionState.English ? Buttons::YesNo : Buttons::OuiNon,
+                        .Picture = Face::Presenting,
+                        .DefaultButton = 1}) == MessageCode::Yes;
+}
+
 void TellError(const RuntimeError& error)
 {
     static bool ending = false;
