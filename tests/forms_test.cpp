@@ -11,6 +11,7 @@
 #include "foundation/frm_login.h"
 #include "foundation/frm_update_admin_info.h"
 #include "platform/clock.h"
+#include "reference/frm_holidays.h"
 #include "reference/frm_unit.h"
 #include "reports/frm_lists.h"
 #include "selection/frm_get_approver_from_list.h"
@@ -56,6 +57,7 @@ const std::pair<const char*, Maker> kForms[] = {
     {"frmOrganizations", Make<frmOrganizations>},
     {"frmDepartments", Make<frmDepartments>},
     {"frmGroups", Make<frmGroups>},
+    {"frmHolidays", Make<frmHolidays>},
     {"frmEmployees", Make<frmEmployees>},
     {"frmCloneEmployee", [] { return std::unique_ptr<QWidget>(new frmCloneEmployee(newEmployee)); }},
     {"frmTransferEmployees", Make<frmTransferEmployees>},

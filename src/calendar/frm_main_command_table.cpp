@@ -5,6 +5,7 @@
 #include "foundation/frm_about.h"
 #include "foundation/frm_change_password.h"
 #include "platform/controls/form_kit.h"
+#include "reference/frm_holidays.h"
 #include "reference/frm_unit.h"
 
 namespace
@@ -106,7 +107,8 @@ List FileMenu()
                   Module(&P::AccessToEntitlementsModule)),
             Entry("mnuFileCategories", {"&Categories of attendance...", "&Catégories d'absentéisme..."},
                   Module(&P::AccessToCategoriesModule)),
-            Entry("mnuFileHolidays", {"&Statutory holidays...", "Congés &fériés..."}, AdminOnly() && InOpenYear()),
+            Entry("mnuFileHolidays", {"&Statutory holidays...", "Congés &fériés..."}, AdminOnly() && InOpenYear(),
+                  Edits<frmHolidays>),
             Below(Entry("mnuFilePrintCalendar", {"&Print calendar...", "&Imprimer le calendrier..."}, Everybody(),
                         NotYet, Qt::CTRL | Qt::Key_P)),
             Entry("mnuFilePrintRequest", {"Print &request for leave form...", "Imprimer un formulaire de de&mande..."},
