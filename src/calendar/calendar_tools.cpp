@@ -3,6 +3,7 @@
 #include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/levels.h"
 #include "foundation/texts.h"
 #include "platform/clock.h"
 
@@ -25,6 +26,18 @@ QString NotOnWeekday(int weekday)
 {
     const QString name = WeekdayName(weekday);
     return SessionState.English ? name + "s!" : name.toLower() + "!";
+}
+
+/// The user changes the records of others, and is an approver of the employee.
+bool Supervises(DataControl& datAbsence, int employee)
+{
+    const auto changes = [](const Level& level) { return level.IsHeld(Access::Modify); };
+    if (std::none_of(&kGlobalLevel, &kIndividualLevel, changes))
+        return false;
+    const Connection connection(datAbsence);
+    return datAbsence.Read("SELECT 1 FROM Employees WHERE RecordID = ?1 AND (AttendanceApprovedBy_Main = ?2 OR "
+                           "AttendanceApprovedBy_Backup = ?2)",
+                           employee, SessionState.UserID);
 }
 
 QString RecordLine(const AttendanceRow& record)
@@ -175,11 +188,27 @@ bool CalendarTools::CanSubmit()
 
 bool CalendarTools::CanModify()
 {
-    return CanChangeRecords(
+    const bool mayBegin = CanChangeRecords(
         {"Before you can modify attendance records, you must first select an employee and a category of attendance!",
          "Avant que vous ne puissiez modifier des enregistrements, vous devez d'abord sélectionner un employé et une "
          "catégorie d'absentéisme!"},
         {"There are no attendance records to be modified!", "Il n'y a aucun enregistrement à modifier!"});
+    return mayBegin && MayModifyShownEmployee();
+}
+
+/// Whoever views somebody's records need not be allowed to change them. One's own are another matter, told when one of
+/// them is clicked; a supervisor also changes the records of those whose requests he settles.
+bool CalendarTools::MayModifyShownEmployee()
+{
+    const Session& s = SessionState;
+    if (s.EmployeeID == s.UserID || ReachesShownEmployee(Access::Modify) || Supervises(host_.Data(), s.EmployeeID))
+        return true;
+    Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
+         Fill(T("You are not authorized to modify the attendance records of {name}!",
+                "Votre profil de sécurité ne vous autorise pas à modifier les absences de {name}!"),
+              {{"name", s.CurrentSelection}}),
+         Face::Warning);
+    return false;
 }
 
 bool CalendarTools::CanRemove()

@@ -62,6 +62,7 @@ private:
     bool CanCreate();
     bool CanSubmit();
     bool CanModify();
+    bool MayModifyShownEmployee();
     bool CanRemove();
     bool CanChangeRecords(const Text& missing, const Text& nothing) const;
     void Begin(const Tool& tool);

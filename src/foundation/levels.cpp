@@ -10,3 +10,9 @@ Scope WidestScope(Access access, const char* Level::*column)
         return {"? = 0", 0};
     return {QLatin1String((*widest).*column) + QLatin1String(" = ?"), widest->Unit()};
 }
+
+bool ReachesShownEmployee(Access access)
+{
+    return std::any_of(kLevelTable.begin(), kLevelTable.end(),
+                       [access](const Level& level) { return level.IsHeld(access) && level.HoldsShownEmployee(); });
+}

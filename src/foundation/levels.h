@@ -22,6 +22,7 @@ struct Level
     const char* Column;               ///< where an employee's row says that he stands in the unit
     const char* ListColumn;           ///< the same in the list of employees
     int Session::*OwnUnit;            ///< the user's own unit, himself at the individual level, null at the global one
+    int Session::*ShownUnit;          ///< the same of whom the calendar shows
     std::array<Right, kKinds> Rights; ///< by access
 
     constexpr Right To(Access access) const { return Rights[static_cast<std::size_t>(access)]; }
@@ -31,6 +32,8 @@ struct Level
     int Unit() const { return OwnUnit ? SessionState.*OwnUnit : 0; }
     /// The user stands in a unit of this level; at the global level everybody does.
     bool HasUnit() const { return !OwnUnit || Unit() != 0; }
+    /// So does the employee whom the calendar shows, in the same unit.
+    bool HoldsShownEmployee() const { return !OwnUnit || (Unit() != 0 && SessionState.*ShownUnit == Unit()); }
 };
 
 inline constexpr int kLevels = 5;
@@ -40,26 +43,31 @@ inline constexpr std::array<Level, kLevels> kLevelTable = {{
      nullptr,
      nullptr,
      nullptr,
+     nullptr,
      {&Session::GlobalLevelRead, &Session::GlobalLevelCreate, &Session::GlobalLevelModify}},
     {"Organization",
      "Employees.OrganizationID",
      "Employees_List.OrgID",
      &Session::UserOrganizationID,
+     &Session::EmployeeOrganizationID,
      {&Session::OrganizationLevelRead, &Session::OrganizationLevelCreate, &Session::OrganizationLevelModify}},
     {"Department",
      "Employees.DepartmentID",
      "Employees_List.DeptID",
      &Session::UserDepartmentID,
+     &Session::EmployeeDepartmentID,
      {&Session::DepartmentLevelRead, &Session::DepartmentLevelCreate, &Session::DepartmentLevelModify}},
     {"Group",
      "Employees.GroupID",
      "Employees_List.GroupID",
      &Session::UserGroupID,
+     &Session::EmployeeGroupID,
      {&Session::GroupLevelRead, &Session::GroupLevelCreate, &Session::GroupLevelModify}},
     {"Individual",
      "Employees.RecordID",
      "Employees_List.EmplID",
      &Session::UserID,
+     &Session::EmployeeID,
      {&Session::SelfLevelRead, &Session::SelfLevelCreate, &Session::SelfLevelModify}},
 }};
 inline constexpr const Level& kGlobalLevel = kLevelTable[0];
@@ -78,3 +86,6 @@ struct Scope
 /// Whom the session's user reaches: the widest level at which he holds the right and stands in a unit; himself when
 /// there is none. The condition is on `column`, such as &Level::Column.
 Scope WidestScope(Access access, const char* Level::*column);
+
+/// The session's user holds the right over the employee whom the calendar shows.
+bool ReachesShownEmployee(Access access);
