@@ -16,15 +16,59 @@
 #include "platform/clock.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
+#include "selection/frm_select_employee.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QScopeGuard>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace
 {
 constexpr QSize kSize(1280, 860);
+
+/// A failure leaves the session as it was before, so that it goes with what the window still shows.
+void WholeOrNotAtAll(const std::function<void()>& change)
+{
+    const Session before = SessionState;
+    try {
+        change();
+    } catch (const RuntimeError&) {
+        SessionState = before;
+        throw;
+    }
+}
+
+/// The session knows the system's own categories by name.
+void NoteSystemCategories(const QVector<CategoryItem>& categories)
+{
+    Session& s = SessionState;
+    struct Noted
+    {
+        const char* SystemName;
+        QString& Name;
+        int& ID;
+    };
+    const Noted noted[] = {{"Vacation", s.VacationName, s.VacationID},
+                           {"Sick", s.SickName, s.SickID},
+                           {"Personal time", s.PersonalName, s.PersonalID},
+                           {"Doctor appointments", s.DoctorName, s.DoctorID}};
+    for (const CategoryItem& category : categories)
+        for (const Noted& system : noted)
+            if (category.SystemName == QLatin1String(system.SystemName)) {
+                system.Name = category.Name;
+                system.ID = category.RecordID;
+            }
+}
+
+template <typename Items>
+bool Lists(const Items& items, int categoryID)
+{
+    return std::any_of(items.begin(), items.end(), [=](const auto& item) { return item.RecordID == categoryID; });
+}
 } // namespace
 
 frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
@@ -68,10 +112,7 @@ void frmMain::ConnectControls()
 {
     toolBar_->Chosen = header_->YearChosen = [this](const Command& command) { Run(command); };
     header_->CategoryChosen = [this](int category) { SelectCategory(category); };
-    legend_->CategoryClicked = [this](int category) {
-        header_->SelectCategory(category);
-        SelectCategory(category);
-    };
+    legend_->CategoryClicked = [this](int category) { SelectCategory(category); };
     pane_->DateClicked = [this](int date) { tools_.DateClicked(date); };
     connect(timAbsence, &QTimer::timeout, this, &frmMain::timAbsence_Timer);
     connect(timTimeOut, &QTimer::timeout, this, &frmMain::timTimeOut_Timer);
@@ -88,9 +129,7 @@ void frmMain::Form_Load()
     Busy = true;
     LoadCaptions();
     LoadAdministratorInfo(datAbsence);
-    header_->LoadCategories(datAbsence);
-    LoadEmployeeInfo(datAbsence);
-    legend_->LoadLegend(datAbsence);
+    LoadLists(Category::Forget);
     Busy = false;
     ActivateAllowedControls();
     header_->ShowNames();
@@ -122,12 +161,12 @@ void frmMain::LoadDates()
     pane_->Show(calendar_);
 }
 
-void frmMain::RecalculateTimeBank()
+QString frmMain::RecalculateTimeBank()
 {
     if (SessionState.EmployeeOrganizationID == 0)
-        return header_->ShowTimeBank({});
+        return {};
     const Connection connection(datAbsence);
-    header_->ShowTimeBank(DurationText(TimeBankOf(datAbsence, SessionState)));
+    return DurationText(TimeBankOf(datAbsence, SessionState));
 }
 
 void frmMain::ReloadCalendar()
@@ -135,35 +174,61 @@ void frmMain::ReloadCalendar()
     const BusyPointer hourglass;
     const Connection connection(datAbsence);
     pane_->Cover();
-    RecalculateTimeBank();
+    const auto uncover = qScopeGuard([this] { pane_->Uncover(); });
+    const QString balance = RecalculateTimeBank();
     LoadDates();
-    pane_->Uncover();
+    header_->ShowTimeBank(balance);
 }
 
 void frmMain::ReloadIfAsked()
 {
     if (!SessionState.ReloadCalendar)
         return;
+    ReloadCalendar();
     SessionState.ReloadCalendar = false;
     header_->ShowNames();
-    ReloadCalendar();
 }
 
+/// The list goes back to the category before when the records of the new one cannot be read.
 void frmMain::SelectCategory(int categoryID)
 {
-    SessionState.SelectedCategoryID = categoryID;
-    ReloadCalendar();
+    const auto show = qScopeGuard([this] { ShowCategory(); });
+    WholeOrNotAtAll([this, categoryID] {
+        SessionState.SelectedCategoryID = categoryID;
+        ReloadCalendar();
+    });
 }
 
-void frmMain::ReloadSelection()
+/// The legend also offers categories that the employee's department does not use.
+void frmMain::ShowCategory()
+{
+    header_->SelectCategory(SessionState.SelectedCategoryID, legend_->NameOf(SessionState.SelectedCategoryID));
+}
+
+/// Everything is read before anything is shown anew.
+void frmMain::LoadLists(Category category)
+{
+    Session& s = SessionState;
+    const QVector<CategoryItem> categories = LoadCategoryItems(datAbsence, s.EmployeeDepartmentID);
+    const QVector<LegendItem> legend = LoadLegendItems(datAbsence);
+    LoadEmployeeInfo(datAbsence);
+    NoteSystemCategories(categories);
+    const bool listed = Lists(categories, s.SelectedCategoryID) || Lists(legend, s.SelectedCategoryID);
+    if (category == Category::Forget || !listed)
+        s.SelectedCategoryID = 0;
+    if (CalendarLoaded)
+        ReloadCalendar();
+    header_->ShowCategories(categories);
+    legend_->Show(legend);
+    ShowCategory();
+}
+
+void frmMain::ReloadSelection(Category category)
 {
     const Connection connection(datAbsence);
-    header_->LoadCategories(datAbsence);
-    legend_->LoadLegend(datAbsence);
-    LoadEmployeeInfo(datAbsence);
+    LoadLists(category);
     header_->ShowNames();
     SessionState.ReloadCalendar = false;
-    ReloadCalendar();
     ActivateAllowedControls();
 }
 
@@ -186,14 +251,38 @@ void frmMain::DeactivateAllControls(const QString& usableTool)
     legend_->SetUsable(false);
 }
 
+/// A year that cannot be read leaves the one before, with its user and rights.
 void frmMain::ChangeToYear(Neighbour direction)
 {
     const LoadingGuard busy(Busy);
     const Connection connection(datAbsence);
-    if (ChangeYear(datAbsence, direction, [this](int year, const QString& name) { return LogIn(year, name); })) {
-        LoadCaptions();
+    WholeOrNotAtAll([this, direction] {
+        if (!ChangeYear(datAbsence, direction, [this](int year, const QString& name) { return LogIn(year, name); }))
+            return;
         ReloadSelection();
-    }
+        LoadCaptions();
+    });
+}
+
+/// So does an employee or a unit whose records cannot be read.
+void frmMain::imgUpdateSelection_Click()
+{
+    WholeOrNotAtAll([this] {
+        frmSelectEmployee form(this);
+        if (ShowModal(form) != QDialog::Accepted)
+            return;
+        const LoadingGuard busy(Busy);
+        ReloadSelection();
+    });
+}
+
+void frmMain::DisplayRecords(bool approved)
+{
+    WholeOrNotAtAll([this, approved] {
+        SessionState.ShowApproved = approved;
+        ReloadCalendar();
+    });
+    ActivateAllowedControls();
 }
 
 bool frmMain::LogIn(int year, const QString& name)

@@ -27,7 +27,8 @@ public:
 
     /// Rebuilds the whole calendar from the records within the scope.
     void LoadDates();
-    void RecalculateTimeBank();
+    /// The balance as it is shown, empty where there is none to show.
+    QString RecalculateTimeBank();
     /// The log-in for a year in which the user has no record; false when it was cancelled.
     bool LogIn(int year, const QString& name);
 
@@ -43,8 +44,8 @@ public:
     void imgUpdateSelection_Click();
     void UseTool(const QString& tool);
     void ChangeToYear(Neighbour direction);
-    /// Shows what a form may have changed. The window is busy only meanwhile: a form left open must not keep an idle
-    /// program alive.
+    /// Shows what a form has changed, if it has; the category stays chosen where it is still on offer. The window is
+    /// busy only meanwhile: a form left open must not keep an idle program alive.
     void ReloadAfterEditing();
 
     bool Busy = false;      ///< a long command runs; timers stand still
@@ -68,7 +69,15 @@ private:
 
     void ReloadCalendar();
     void ReloadIfAsked();
+    enum class Category
+    {
+        Forget,
+        KeepIfListed
+    };
+    void ReloadSelection(Category category);
+    void LoadLists(Category category);
     void SelectCategory(int categoryID);
+    void ShowCategory();
     void ActivateAllowedControls();
     void DeactivateAllControls(const QString& usableTool = {});
 
@@ -85,7 +94,7 @@ private:
     DateList ShowSelectDates() override;
     int SelectAttendanceRecord(const QVector<ListEntry>& lines) override;
     void RemoveMarkedRecords(const QVector<int>& records) override;
-    void ReloadSelection() override;
+    void ReloadSelection() override { ReloadSelection(Category::Forget); }
     void DisplayDailyAttendance(int date) override;
 
     DataControl datAbsence{"frmMain"};

@@ -15,8 +15,8 @@
 #include "platform/program.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
-#include "selection/frm_select_employee.h"
 
+#include <QApplication>
 #include <QTimer>
 
 namespace
@@ -35,8 +35,10 @@ void frmMain::Run(const Command& command)
 
 void frmMain::ReloadAfterEditing()
 {
+    if (!SessionState.ReloadCalendar)
+        return;
     const LoadingGuard busy(Busy);
-    ReloadSelection();
+    ReloadSelection(Category::KeepIfListed);
 }
 
 void frmMain::mnuFileDatabaseLocation_Click()
@@ -45,13 +47,6 @@ void frmMain::mnuFileDatabaseLocation_Click()
          T("The database currently used by Tarvell is located in the following folder:",
            "La banque de données exploitée par Tarvell se trouve présentement dans le répertoire suivant:") +
              "\r\n\r\n" + SessionState.DatabasePath);
-}
-
-void frmMain::DisplayRecords(bool approved)
-{
-    SessionState.ShowApproved = approved;
-    ActivateAllowedControls();
-    ReloadCalendar();
 }
 
 void frmMain::mnuSpecialSwitchLanguage_Click()
@@ -64,12 +59,7 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
     } catch (const RuntimeError& error) {
         TellError(error);
     }
-    const int category = SessionState.SelectedCategoryID;
-    header_->LoadCategories(datAbsence);
-    header_->SelectCategory(category);
-    SessionState.SelectedCategoryID = category;
-    legend_->LoadLegend(datAbsence);
-    ReloadCalendar();
+    ReloadSelection(Category::KeepIfListed);
 }
 
 void frmMain::mnuSpecialUpdateAdminInfo_Click()
@@ -82,13 +72,6 @@ void frmMain::mnuSpecialUpdateAdminInfo_Click()
 void frmMain::UseTool(const QString& tool)
 {
     tools_.imgZoom_Click(tool);
-}
-
-void frmMain::imgUpdateSelection_Click()
-{
-    frmSelectEmployee form(this);
-    if (ShowModal(form) == QDialog::Accepted)
-        ReloadAfterEditing();
 }
 
 void frmMain::ShowHint(const QString& hint)
@@ -184,12 +167,15 @@ void frmMain::LookWhetherYearWasClosed()
     }
 }
 
-/// A step that fails is told; it must not keep the window locked.
+/// A step that fails is told; it must not keep the window locked. Locking closes a list that is open: it waits until
+/// there is something to do, and the list is shut.
 void frmMain::RunMinuteWork()
 {
     const LoadingGuard running(TimerBusy);
     try {
         minuteWork_.Run(MinuteWork::Phase::Open);
+        if (!minuteWork_.IsDue(MinuteWork::Phase::Locked) || QApplication::activePopupWidget())
+            return;
         DeactivateAllControls();
         minuteWork_.Run(MinuteWork::Phase::Locked);
     } catch (const RuntimeError& error) {

@@ -1,7 +1,6 @@
 #include "calendar/frm_main_header.h"
 
 #include "foundation/frm_captions.h"
-#include "reference/category_list.h"
 
 namespace
 {
@@ -68,36 +67,20 @@ void MainHeader::AddYears(QGridLayout* grid)
     }
 }
 
-void MainHeader::LoadCategories(DataControl& datAbsence)
+void MainHeader::ShowCategories(const QVector<CategoryItem>& categories)
 {
     const LoadingGuard guard(Loading);
-    Session& s = SessionState;
-    s.SelectedCategoryID = 0;
     cboCategories->clear();
     cboCategories->addItem(AllCategories(), 0);
-    struct Noted
-    {
-        const char* SystemName;
-        QString& Name;
-        int& ID;
-    };
-    const Noted noted[] = {{"Vacation", s.VacationName, s.VacationID},
-                           {"Sick", s.SickName, s.SickID},
-                           {"Personal time", s.PersonalName, s.PersonalID},
-                           {"Doctor appointments", s.DoctorName, s.DoctorID}};
-    for (const CategoryItem& category : LoadCategoryItems(datAbsence, s.EmployeeDepartmentID)) {
+    for (const CategoryItem& category : categories)
         cboCategories->addItem(category.Name, category.RecordID);
-        for (const Noted& system : noted)
-            if (category.SystemName == QLatin1String(system.SystemName)) {
-                system.Name = category.Name;
-                system.ID = category.RecordID;
-            }
-    }
 }
 
-void MainHeader::SelectCategory(int categoryID)
+void MainHeader::SelectCategory(int categoryID, const QString& name)
 {
     const LoadingGuard guard(Loading);
+    if (cboCategories->findData(categoryID) < 0)
+        cboCategories->addItem(name, categoryID);
     cboCategories->setCurrentIndex(cboCategories->findData(categoryID));
 }
 

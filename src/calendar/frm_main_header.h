@@ -1,7 +1,7 @@
 #pragma once
 
 #include "calendar/frm_main_command_table.h"
-#include "platform/dao/dao.h"
+#include "reference/category_list.h"
 
 #include <QWidget>
 
@@ -21,9 +21,10 @@ public:
     std::function<void(const Command&)> YearChosen;
     std::function<void(int categoryID)> CategoryChosen;
 
-    /// Fills the list of categories; the first entry stands for all of them.
-    void LoadCategories(DataControl& datAbsence);
-    void SelectCategory(int categoryID);
+    /// Fills the list of categories; the first entry, chosen, stands for all of them.
+    void ShowCategories(const QVector<CategoryItem>& categories);
+    /// A category that is not in the list joins it under its name.
+    void SelectCategory(int categoryID, const QString& name);
     void ShowNames();
     void ShowTotal(const QString& total);
     /// An empty balance hides the time bank.

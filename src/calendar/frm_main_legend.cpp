@@ -3,11 +3,12 @@
 #include "calendar/year_calendar.h"
 #include "foundation/frm_captions.h"
 #include "platform/controls/flex_grid.h"
-#include "reference/category_list.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace
 {
@@ -46,7 +47,7 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
         label->setFlat(true);
         label->setCursor(Qt::PointingHandCursor);
         label->hide();
-        connect(label, &QPushButton::clicked, this, [this, index] { CategoryClicked(categories_[index]); });
+        connect(label, &QPushButton::clicked, this, [this, index] { CategoryClicked(items_[index].RecordID); });
         labels->addWidget(label);
         lblLegend.push_back(label);
     }
@@ -67,21 +68,27 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
         ColorLabel("lblMultiple", CalendarColor::SeveralCategories, {"Several categories", "Plusieurs catégories"}));
 }
 
-void LegendPane::LoadLegend(DataControl& datAbsence)
+void LegendPane::Show(const QVector<LegendItem>& items)
 {
-    categories_.clear();
-    for (const LegendItem& item : LoadLegendItems(datAbsence).mid(0, kMostLabels)) {
-        QPushButton* label = lblLegend[categories_.size()];
-        label->setText(QString(item.Text).replace("&", "&&"));
-        label->setToolTip(T("Show this category alone", "Afficher cette catégorie seulement"));
-        label->setStyleSheet(LabelStyle(item.Color > 0 ? item.Color : CalendarColor::NoColor));
-        categories_.push_back(item.RecordID);
-    }
+    items_ = items.mid(0, kMostLabels);
     for (int index = 0; index < kMostLabels; ++index)
-        lblLegend[index]->setVisible(index < static_cast<int>(categories_.size()));
+        lblLegend[index]->setVisible(index < items_.size());
+    for (int index = 0; index < items_.size(); ++index) {
+        const LegendItem& item = items_[index];
+        lblLegend[index]->setText(QString(item.Text).replace("&", "&&"));
+        lblLegend[index]->setToolTip(T("Show this category alone", "Afficher cette catégorie seulement"));
+        lblLegend[index]->setStyleSheet(LabelStyle(item.Color > 0 ? item.Color : CalendarColor::NoColor));
+    }
     offset_ = 0;
     row_->layout()->activate();
     EnableShifting();
+}
+
+QString LegendPane::NameOf(int categoryID) const
+{
+    const auto is = [categoryID](const LegendItem& item) { return item.RecordID == categoryID; };
+    const auto found = std::find_if(items_.begin(), items_.end(), is);
+    return found == items_.end() ? QString() : found->Name;
 }
 
 void LegendPane::SetUsable(bool usable)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dao/dao.h"
+#include "reference/category_list.h"
 
 #include <QFrame>
 
@@ -19,7 +19,9 @@ public:
 
     std::function<void(int categoryID)> CategoryClicked;
 
-    void LoadLegend(DataControl& datAbsence);
+    void Show(const QVector<LegendItem>& items);
+    /// The name of a category that it shows, empty for another one.
+    QString NameOf(int categoryID) const;
     void SetUsable(bool usable);
 
 protected:
@@ -35,7 +37,7 @@ private:
     QFrame* fraLegend = nullptr; ///< the window through which the row of labels is seen
     QWidget* row_ = nullptr;
     std::vector<QPushButton*> lblLegend;
-    std::vector<int> categories_;
+    QVector<LegendItem> items_;
     QPushButton* cmdPreviousCategories = nullptr;
     QPushButton* cmdNextCategories = nullptr;
     int offset_ = 0; ///< pixels that the row stands shifted to the left

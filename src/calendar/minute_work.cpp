@@ -3,6 +3,8 @@
 #include "foundation/common_services.h"
 #include "foundation/texts.h"
 
+#include <algorithm>
+
 namespace
 {
 using Phase = MinuteWork::Phase;
@@ -41,15 +43,21 @@ constexpr Step kSteps[] = {
 };
 } // namespace
 
+bool MinuteWork::IsDue(Phase phase) const
+{
+    return std::any_of(std::begin(kSteps), std::end(kSteps), [&](const Step& step) {
+        return step.When == phase && work_.contains(step.Name) && !done_.contains(step.Name) && step.IsDue();
+    });
+}
+
 void MinuteWork::Run(Phase phase)
 {
     for (const Step& step : kSteps) {
         const auto work = work_.constFind(step.Name);
         if (step.When != phase || work == work_.constEnd() || done_.contains(step.Name) || !step.IsDue())
             continue;
-        if (step.OncePerSession)
+        if ((*work)() && step.OncePerSession)
             done_.insert(step.Name);
-        (*work)();
     }
 }
 

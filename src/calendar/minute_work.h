@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <functional>
+#include <type_traits>
 
 /// What the main window's timer does in the background, step by step in a fixed order. The work of a step is given by
 /// the floor that it belongs to; a step without work is passed over.
@@ -18,12 +19,22 @@ public:
         Locked
     };
 
-    void SetWork(const QString& step, std::function<void()> work) { work_[step] = std::move(work); }
-    /// Runs the steps of a phase that are due now; once-per-session steps run a single time.
+    /// Work that gives false has found nothing to do yet: a step that is done once per session comes again then.
+    template <typename Function>
+    void SetWork(const QString& step, Function work)
+    {
+        if constexpr (std::is_void_v<decltype(work())>)
+            work_[step] = [work] { return work(), true; };
+        else
+            work_[step] = work;
+    }
+    /// A step of the phase has something to look at now.
+    bool IsDue(Phase phase) const;
+    /// Runs the steps of a phase that are due now; once-per-session steps are done a single time.
     void Run(Phase phase);
 
 private:
-    QHash<QString, std::function<void()>> work_;
+    QHash<QString, std::function<bool()>> work_;
     QSet<QString> done_;
 };
 

@@ -68,7 +68,8 @@ private:
     EditingMode mode_ = EditingMode::Idle;
 };
 
-/// A form of two presses over the record `R`: reads it, has it checked and confirmed, and writes it.
+/// A form of two presses over the record `R`: reads it, has it checked and confirmed, and writes it. The calendar is
+/// then asked to show what has changed.
 template <typename R>
 class EditingForm : public TwoPressForm
 {
@@ -95,6 +96,7 @@ protected:
         if (!Confirm(mode, record))
             return;
         Write(mode, record);
+        SessionState.ReloadCalendar = true;
         TellDone(mode, record);
         cmdCancelOperation_Click();
     }

@@ -50,7 +50,8 @@ QVector<LegendItem> LoadLegendItems(DataControl& datAbsence)
     for (const Recordset& row : datAbsence.Select(LegendQuery(), SessionState.FiscalYearID)) {
         const QString code = row.Text("CategoryCode").trimmed();
         const QString name = row.Text(NameColumn("Category")).trimmed();
-        items.append({row.Long("RecordID"), code.isEmpty() ? name : code + "  " + name, row.Long("CategoryColorCode")});
+        items.append(
+            {row.Long("RecordID"), code.isEmpty() ? name : code + "  " + name, row.Long("CategoryColorCode"), name});
     }
     return items;
 }

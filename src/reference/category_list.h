@@ -22,6 +22,7 @@ struct LegendItem
     int RecordID = 0;
     QString Text;
     int Color = 0;
+    QString Name; ///< alone
 };
 
 /// The active categories of the year outside the time bank that the user may see, the system's own first.

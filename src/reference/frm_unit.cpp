@@ -230,6 +230,7 @@ bool frmUnit::Reactivate(const UnitRow& unit)
         return false;
     if (!Attempt([&] { ReactivateUnit(datAbsence, kind_, unit.RecordID); }))
         return false;
+    SessionState.ReloadCalendar = true;
     LoadRecords();
     return true;
 }

@@ -1,0 +1,120 @@
+#include "calendar/main_window_fixture.h"
+#include "reference/frm_unit.h"
+
+#include <QComboBox>
+
+namespace
+{
+TEST_F(MainWindow, AFormReloadsTheCalendarOnlyWhenItHasChangedSomething)
+{
+    const int record = house.Record(marie, "Sick", {2026, 4, 14}, 2);
+    OpensOnMarie();
+    user.Picks("cboCategories", "Sick");
+    Cancels(record); // somebody else's work, which a reload would show
+    user.WhenOpens<frmGroups>([](frmGroups& form) { form.reject(); });
+    user.ChoosesMenu("mnuFileGroups");
+    EXPECT_EQ(Figures() + " " + Days({{4, 14}}), "2026|Sick|Marie Bouchard|0 days 02:00|00:00 14 ffc0c0");
+
+    const auto addsGroup = [this](const char* name) {
+        user.WhenOpens<frmGroups>([this, name](frmGroups& form) {
+            user.Clicks("cmdAdd").Picks("lstDepartments", "Sales").Types("txtEnglishName", name);
+            user.Types("txtFrenchName", name).WillConfirm().WillBeDone().Clicks("cmdAdd");
+            form.reject();
+        });
+        user.ChoosesMenu("mnuFileGroups");
+    };
+    addsGroup("One");
+    EXPECT_EQ(Figures() + " " + Days({{4, 14}}), "2026|Sick|Marie Bouchard|00:00|00:00 14 ffffff");
+    house.Sql("UPDATE Categories SET Active = 0 WHERE SystemName = 'Sick'");
+    addsGroup("Two");
+    EXPECT_EQ(user.Reads("cboCategories"), "(All categories)");
+}
+
+TEST_F(MainWindow, ACategoryOfTheLegendThatTheListLacksIsNamedThere)
+{
+    house.Sql("UPDATE CategoriesDepartments SET IsUsed = 0 WHERE CategoryID = 2");
+    house.Record(marie, "Sick", {2026, 4, 14}, 2);
+    OpensOnMarie();
+    EXPECT_FALSE(user.Entries("cboCategories").contains("Sick"));
+    user.Clicks("lblLegend(1)");
+    EXPECT_EQ(Figures(), "2026|Sick|Marie Bouchard|0 days 02:00|00:00");
+    user.ChoosesMenu("mnuSpecialSwitchLanguage");
+    EXPECT_EQ(user.Reads("cboCategories"), "Maladie");
+}
+
+TEST_F(MainWindow, WhoeverMayOnlySeeSomebodyIsToldSoBeforeHeClicksARecord)
+{
+    const int luc = house.Hire({"LROY", "Luc", "Roy", "Sales"});
+    house.Record(luc, "Sick", {2026, 4, 14}, 2);
+    for (const char* right : {"GroupLevelRead", "GroupLevelCreate", "GroupLevelModify", "DepartmentLevelRead",
+                              "OrganizationLevelRead", "GlobalLevelRead"})
+        Sets(right, 1);
+    Opens("MBOUCHARD");
+    Selects("lstEmployees", "Roy, Luc");
+    user.Picks("cboCategories", "Sick");
+    user.WillAnswer("OPERATION DENIED:", "OK", "modify the attendance records of Luc Roy!").Clicks("imgModify");
+    EXPECT_FALSE(main->Busy);
+
+    house.Sql("UPDATE Employees SET AttendanceApprovedBy_Backup = ? WHERE RecordID = ?", {marie, luc});
+    user.Clicks("imgModify").Presses("", Qt::Key_Escape);
+    house.Sql("UPDATE Employees SET AttendanceApprovedBy_Backup = 0, DepartmentID = 1, GroupID = 1");
+    Selects("lstEmployees", "Roy, Luc");
+    user.Picks("cboCategories", "Sick").Clicks("imgModify").Presses("", Qt::Key_Escape);
+}
+
+TEST_F(MainWindow, AYearOrAnEmployeeThatCannotBeReadLeavesAllAsItWas)
+{
+    house.FiscalYear("2027", 2027);
+    house.Hire({"LROY", "Luc", "Roy", "Sales"});
+    OpensOnMarie();
+    user.Picks("cboCategories", "Vacation");
+    const QString before = Figures() + Grid().TextMatrix(0, 0) + user.Entries("cboCategories").join('|');
+    const int category = SessionState.SelectedCategoryID;
+    const std::function<void()> changes[] = {[this] { main->ChangeToYear(Neighbour::Next); },
+                                             [this] {
+                                                 user.WhenOpens<frmSelectEmployee>([this](frmSelectEmployee&) {
+                                                     user.Picks("lstEmployees", "Roy, Luc").Clicks("cmdSelect");
+                                                 });
+                                                 main->imgUpdateSelection_Click();
+                                             },
+                                             [this] { main->DisplayRecords(false); }};
+    for (const char* table : {"Holidays", "Attendance"})
+        for (const auto& change : changes) {
+            house.Sql(QString("ALTER TABLE %1 RENAME TO Gone").arg(table));
+            EXPECT_THROW(change(), RuntimeError);
+            house.Sql(QString("ALTER TABLE Gone RENAME TO %1").arg(table));
+            EXPECT_EQ(Figures() + Grid().TextMatrix(0, 0) + user.Entries("cboCategories").join('|'), before);
+            EXPECT_EQ((QList{SessionState.FiscalYearID, SessionState.EmployeeID, SessionState.SelectedCategoryID,
+                             int(SessionState.ShowApproved)}),
+                      (QList{1, marie, category, 1}));
+            EXPECT_FALSE(main->Busy || Visible("fraHideCalendar"));
+        }
+    user.Clicks("cmdNextYear");
+    EXPECT_EQ(user.Reads("lblFiscalYear"), "2027");
+}
+
+TEST_F(MainWindow, TheMinuteLocksTheWindowOnlyForAStepThatIsDue)
+{
+    Sets("SelfLevelCreate", 1);
+    Opens("MBOUCHARD");
+    auto& list = *main->findChild<QComboBox*>("cboCategories");
+    list.showPopup();
+    main->timAbsence_Timer();
+    EXPECT_TRUE(list.view()->isVisible()) << "nothing is due";
+    int looked = 0;
+    bool found = false;
+    main->BackgroundWork().SetWork("IsFYClosingScheduled", [&] {
+        EXPECT_FALSE(Enabled("mnuFile"));
+        ++looked;
+        return found;
+    });
+    main->timAbsence_Timer();
+    EXPECT_TRUE(list.view()->isVisible() && looked == 0) << "the step waits until the list is shut";
+    list.hidePopup();
+    for (const bool is : {false, true, true}) {
+        found = is;
+        main->timAbsence_Timer();
+    }
+    EXPECT_EQ(looked, 2) << "what was not told yet is looked for again, what was told is not";
+}
+} // namespace
