@@ -10,6 +10,8 @@
 #include "foundation/frm_input_box.h"
 #include "foundation/frm_login.h"
 #include "foundation/frm_update_admin_info.h"
+#include "ledger/frm_entitlement_history.h"
+#include "ledger/frm_entitlements.h"
 #include "platform/clock.h"
 #include "reference/frm_holidays.h"
 #include "reference/frm_unit.h"
@@ -61,6 +63,9 @@ const std::pair<const char*, Maker> kForms[] = {
     {"frmEmployees", Make<frmEmployees>},
     {"frmCloneEmployee", [] { return std::unique_ptr<QWidget>(new frmCloneEmployee(newEmployee)); }},
     {"frmTransferEmployees", Make<frmTransferEmployees>},
+    {"frmEntitlements", Make<frmEntitlements>},
+    {"frmEntitlementHistory",
+     [] { return std::unique_ptr<QWidget>(new frmEntitlementHistory(EntitlementLine(), "")); }},
     {"frmLists", Make<frmLists, ListKind::Categories>},
     {"frmAttendance",
      [] {

@@ -4,6 +4,7 @@
 #include "employees/frm_employees.h"
 #include "foundation/frm_about.h"
 #include "foundation/frm_change_password.h"
+#include "ledger/frm_entitlements.h"
 #include "platform/controls/form_kit.h"
 #include "reference/frm_holidays.h"
 #include "reference/frm_unit.h"
@@ -104,7 +105,7 @@ List FileMenu()
             Below(Entry("mnuFileEmployees", {"&Employees...", "&Employés..."}, Module(&P::AccessToEmployeesModule),
                         Edits<frmEmployees>, Qt::CTRL | Qt::Key_E)),
             Entry("mnuFileEntitlements", {"E&ntitlements...", "&Temps alloué..."},
-                  Module(&P::AccessToEntitlementsModule)),
+                  Module(&P::AccessToEntitlementsModule), Opens<frmEntitlements>),
             Entry("mnuFileCategories", {"&Categories of attendance...", "&Catégories d'absentéisme..."},
                   Module(&P::AccessToCategoriesModule)),
             Entry("mnuFileHolidays", {"&Statutory holidays...", "Congés &fériés..."}, AdminOnly() && InOpenYear(),
