@@ -34,6 +34,7 @@ frmAttendance::~frmAttendance()
 void frmAttendance::BuildControls()
 {
     SetTitle(this, {"Attendance records", "Mise à jour des absences"});
+    AskBeforeLosing();
     general_ = new AttendanceGeneralPage;
     additional_ = new AttendanceAdditionalPage;
     sstAttendance = Named<QTabWidget>("sstAttendance");

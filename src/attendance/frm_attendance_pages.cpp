@@ -1,6 +1,7 @@
 #include "attendance/frm_attendance_pages.h"
 
 #include "foundation/frm_captions.h"
+#include "platform/controls/entry_lists.h"
 #include "platform/controls/remark_delegate.h"
 
 namespace
@@ -25,7 +26,7 @@ QString UnitOf(const QModelIndex& entry)
 
 QComboBox* MakeList(const QString& name)
 {
-    auto* list = Named<QComboBox>(name);
+    auto* list = Named<WalkedList>(name);
     list->setMaxVisibleItems(kEntriesShown);
     return list;
 }

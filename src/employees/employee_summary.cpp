@@ -67,7 +67,7 @@ QString EmployeeSummary(const EmployeeRecord& record, const UnitNames& units, bo
                                            "Souhaitez-vous modifier le dossier de l'employé(e) comme suit?")
                                        : T("Add the following employee record to your database?",
                                            "Souhaitez-vous ajouter l'employé(e) suivant(e) à votre banque de données?");
-    return question + "\r\n\r\n" + T("Name and ID:", "Nom et identification:") + "\t\t" + record.FirstName + " " +
+    return question + "\r\n\r\n" + T("Name and ID:\t\t", "Nom et identification:\t") + record.FirstName + " " +
            record.FamilyName + "     " + record.EmployeeID.trimmed() + "\r\n" +
            UnitLine(T("Organization:", "Organisation:"), units.Organization) +
            UnitLine(T("Department:", "Département:"), units.Department) +

@@ -165,15 +165,23 @@ std::optional<Fault> ValidateRecord(DataControl& datAbsence, EmployeeRecord& rec
     return fault ? fault : FirstFault(validation, kLogInChecks);
 }
 
+QString TextWhenLeft(QString EmployeeRecord::*member, const QString& text)
+{
+    if (member == &EmployeeRecord::FamilyName || member == &EmployeeRecord::FirstName)
+        return ProperCase(text);
+    for (QString EmployeeRecord::*const upper : std::initializer_list<QString EmployeeRecord::*>{
+             &EmployeeRecord::PostalCode, &EmployeeRecord::LoginID, &EmployeeRecord::NewPassword})
+        if (member == upper)
+            return text.toUpper();
+    if (member == &EmployeeRecord::HourlyRateText && !text.isEmpty())
+        return FormatNumber(static_cast<float>(Val(text)), 2);
+    return text;
+}
+
 void NormaliseTexts(EmployeeRecord& record)
 {
-    record.FamilyName = ProperCase(record.FamilyName);
-    record.FirstName = ProperCase(record.FirstName);
-    record.PostalCode = record.PostalCode.toUpper();
     record.LoginID = record.LoginID.toUpper();
     record.NewPassword = record.NewPassword.toUpper();
     record.EMailAddress = record.EMailAddress.trimmed();
     record.Comment = record.Comment.trimmed();
-    if (!record.HourlyRateText.isEmpty())
-        record.HourlyRateText = FormatNumber(static_cast<float>(Val(record.HourlyRateText)), 2);
 }

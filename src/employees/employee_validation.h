@@ -18,6 +18,8 @@ struct ValidationContext
 /// taken in and the schedule is brought up to date.
 std::optional<Fault> ValidateRecord(DataControl& datAbsence, EmployeeRecord& record, const ValidationContext& context);
 
-/// Brings what is typed into the form in which it is stored: names with capitals, codes and log-in in upper case, the
-/// rate with two decimals.
+/// A text as it stands once its field has been left: names with capitals, codes and log-in in upper case, the rate with
+/// two decimals. A name whose field nobody visits stays as it was written.
+QString TextWhenLeft(QString EmployeeRecord::*member, const QString& text);
+/// Brings what is typed into the form in which it is stored whether its field was left or not.
 void NormaliseTexts(EmployeeRecord& record);

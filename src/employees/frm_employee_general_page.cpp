@@ -58,7 +58,8 @@ void EmployeeGeneralPage::AddField(QGridLayout* raster, const Place& place, cons
                                    QString EmployeeRecord::*member, const Text& caption, KeyFilter filter, int limit)
 {
     auto* field = MakeField(name, filter, limit);
-    connect(field, &QLineEdit::editingFinished, this, &EmployeeGeneralPage::Normalise);
+    connect(field, &QLineEdit::editingFinished, this,
+            [field, member] { ShowText(field, TextWhenLeft(member, field->text())); });
     fields_.emplace_back(field, member);
     raster->addLayout(Captioned(caption, field), place.Row, place.Column, 1, place.Columns);
     raster->setColumnStretch(place.Column, 1);
@@ -187,14 +188,6 @@ void EmployeeGeneralPage::Read(EmployeeRecord& record) const
     record.Comment = txtComment->toPlainText();
     for (const auto& [date, entry] : {std::pair(birth_, &record.Birth), std::pair(hire_, &record.Hire)})
         *entry = {date.Year->currentText(), date.Month->currentText(), date.Day->currentText()};
-}
-
-void EmployeeGeneralPage::Normalise()
-{
-    EmployeeRecord typed;
-    Read(typed);
-    NormaliseTexts(typed);
-    ShowTexts(typed);
 }
 
 void EmployeeGeneralPage::SetEntryEnabled(bool enabled)

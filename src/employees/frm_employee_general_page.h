@@ -47,7 +47,6 @@ private:
                   const Text& caption, KeyFilter filter, int limit = kUnlimited);
     QVBoxLayout* DateField(const Text& caption, DateCombos& date, const QString& name, const QStringList& years);
     void ShowTexts(const EmployeeRecord& record);
-    void Normalise();
 
     std::vector<std::pair<QLineEdit*, QString EmployeeRecord::*>> fields_;
     DateCombos birth_{};

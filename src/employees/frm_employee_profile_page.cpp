@@ -72,8 +72,11 @@ QWidget* EmployeeProfilePage::LogInCard()
     txtUserName = MakeField("txtUserName", KeyFilter::SetUpPassword, kUserNameLimit);
     txtPassword = MakeField("txtPassword", KeyFilter::SetUpPassword, kPasswordLimit);
     txtPassword->setEchoMode(QLineEdit::PasswordEchoOnEdit);
-    for (QLineEdit* field : {txtUserName, txtPassword})
-        connect(field, &QLineEdit::editingFinished, this, &EmployeeProfilePage::Normalise);
+    for (const auto& [field, member] :
+         {std::pair<QLineEdit*, QString EmployeeRecord::*>(txtUserName, &EmployeeRecord::LoginID),
+          {txtPassword, &EmployeeRecord::NewPassword}})
+        connect(field, &QLineEdit::editingFinished, this,
+                [field = field, member = member] { ShowText(field, TextWhenLeft(member, field->text())); });
     auto& [first, second] = approvers_;
     QWidget* firstLevel = Approvers(first, "cboApprovedBy_FirstLevel", "cmdGetApprover1FromList");
     QWidget* secondLevel = Approvers(second, "cboApprovedBy_SecondLevel", "cmdGetApprover2FromList");
@@ -145,14 +148,6 @@ void EmployeeProfilePage::Read(EmployeeRecord& record) const
 {
     record.LoginID = txtUserName->text();
     record.NewPassword = txtPassword->text();
-}
-
-void EmployeeProfilePage::Normalise()
-{
-    EmployeeRecord typed;
-    Read(typed);
-    NormaliseTexts(typed);
-    Show(typed);
 }
 
 void EmployeeProfilePage::SetEntryEnabled(bool enabled)

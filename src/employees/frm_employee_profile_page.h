@@ -38,7 +38,6 @@ private:
     QWidget* Approvers(ApproverField& field, const QString& list, const QString& button);
     QWidget* MatrixCard(RightBoxes& boxes);
     QWidget* SingleRightsCard(RightBoxes& boxes);
-    void Normalise();
     void OfferApprovers(const QVector<ListEntry>& approvers);
     void cboApprovedBy_Click(const ApproverField& field);
     void CheckSecondLevel();

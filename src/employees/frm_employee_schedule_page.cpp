@@ -26,7 +26,10 @@ constexpr WeekColumn kTimeColumns[] = {{2, {"Start time", "Heure de début"}},
                                        {5, {"Start time", "Heure de début"}},
                                        {6, {"End time", "Heure de fin"}}};
 constexpr WeekColumn kTotalColumns[] = {{8, {"Hours", "Heures"}}, {9, {"Minutes", "Minutes"}}};
+constexpr int kClearColumn = 11;
 constexpr int kFirstDayRow = 2;
+constexpr int kMonday = 1;
+constexpr int kFriday = 5;
 
 /// Calls back when a person brings the focus to a control or takes it away, not when a list drops down or another
 /// window comes to the front.
@@ -95,11 +98,29 @@ EmployeeSchedulePage::EmployeeSchedulePage(EmployeeRecord& record, bool& loading
          "l'enregistrement des absences. Dans la plupart des cas, il vous suffira de cocher une case afin de spécifier "
          "la durée d'une absence."}));
     content->addLayout(Week());
-    content->addWidget(chkIrregularHours);
+    content->addLayout(Foot());
     QVBoxLayout* page = TabLayout(this);
     content->setSpacing(page->spacing());
     page->addWidget(MakeCard(content));
     page->addStretch();
+}
+
+QLayout* EmployeeSchedulePage::Foot()
+{
+    cmdCopyMonday = MakeButton("cmdCopyMonday", {"Co&py Monday to Friday", "Co&pier le lundi jusqu'au vendredi"});
+    SetToolTip(cmdCopyMonday, {"Tuesday to Friday take over the times and the total of Monday",
+                               "Mardi à vendredi reprennent les heures et le total du lundi"});
+    connect(cmdCopyMonday, &QPushButton::clicked, this, &EmployeeSchedulePage::cmdCopyMonday_Click);
+    auto* lblCopied = MakeLabel("lblCopied", {"Times in blue italics were copied as you passed through their list. "
+                                              "They count until you pick or clear them.",
+                                              "Les heures en italique bleu ont été copiées au passage dans leur liste. "
+                                              "Elles comptent jusqu'à ce que vous les changiez ou les effaciez."});
+    auto* row = Row({chkIrregularHours});
+    row->addWidget(cmdCopyMonday);
+    auto* foot = Stack(kRowGap);
+    foot->addWidget(AsCaption(lblCopied));
+    foot->addLayout(row);
+    return foot;
 }
 
 QGridLayout* EmployeeSchedulePage::Week()
@@ -109,7 +130,7 @@ QGridLayout* EmployeeSchedulePage::Week()
     AddHeads(week);
     for (int day = 0; day < kDays; ++day)
         AddDay(week, day);
-    for (const int gap : {1, 4, 7})
+    for (const int gap : {1, 4, 7, 10})
         week->setColumnMinimumWidth(gap, kGroupGap);
     for (const WeekColumn& time : kTimeColumns)
         week->setColumnStretch(time.Column, 1);
@@ -129,6 +150,18 @@ void EmployeeSchedulePage::AddDay(QGridLayout* week, int day)
         Place(week, cboTimes[time][day] = MakeTimeList(kDayTimes[time], day), day, kTimeColumns[time]);
     Place(week, txtTotalHours[day] = TotalField("txtTotalHours", day), day, kTotalColumns[0]);
     Place(week, txtTotalMinutes[day] = TotalField("txtTotalMinutes", day), day, kTotalColumns[1]);
+    AddClearButton(week, day);
+}
+
+void EmployeeSchedulePage::AddClearButton(QGridLayout* week, int day)
+{
+    constexpr Text kClear = {"Clear this day", "Effacer ce jour"};
+    auto* button = cmdClearDay[day] = MakeButton(ArrayName("cmdClearDay", day), {"Clear", "Effacer"});
+    button->setProperty("look", "arrow");
+    button->setAccessibleName(WeekdayName(day) + ", " + T(kClear));
+    SetToolTip(button, kClear);
+    connect(button, &QPushButton::clicked, this, [this, day] { cmdClearDay_Click(day); });
+    week->addWidget(button, day + kFirstDayRow, kClearColumn);
 }
 
 QComboBox* EmployeeSchedulePage::MakeTimeList(const ClockTimeInfo& info, int day)
@@ -136,9 +169,10 @@ QComboBox* EmployeeSchedulePage::MakeTimeList(const ClockTimeInfo& info, int day
     QComboBox* list = EntryCombo(ArrayName(info.Control, day), kTimeCharacters);
     const ClockTime time = info.Time;
     connect(list, &QComboBox::activated, this, [this, time, day] { Time_Click(time, day); });
-    connect(list->lineEdit(), &QLineEdit::textEdited, this, [this, time, day] { Apply(ClearTime, time, day); });
+    connect(list->lineEdit(), &QLineEdit::textEdited, this,
+            [this, time, day](const QString& typed) { Type(time, day, typed); });
     new FocusWatch(
-        list, [this, time, day] { Apply(OfferTime, time, day); }, [this, time, day] { Apply(LeaveTime, time, day); });
+        list, [this, time, day] { Enter(time, day); }, [this, time, day] { Apply(LeaveTime, time, day); });
     return list;
 }
 
@@ -168,8 +202,10 @@ QComboBox* EmployeeSchedulePage::TimeList(ClockTime time, int day) const
 
 void EmployeeSchedulePage::Show()
 {
-    for (int day = 0; day < kDays; ++day)
+    for (int day = 0; day < kDays; ++day) {
+        ForgetCopied(day);
         ShowDay(day);
+    }
     chkIrregularHours->setChecked(record_.IrregularHours);
 }
 
@@ -189,7 +225,9 @@ void EmployeeSchedulePage::SetEntryEnabled(bool enabled)
             lists[day]->setEnabled(enabled);
         txtTotalHours[day]->setEnabled(enabled);
         txtTotalMinutes[day]->setEnabled(enabled);
+        cmdClearDay[day]->setEnabled(enabled);
     }
+    cmdCopyMonday->setEnabled(enabled);
     chkIrregularHours->setEnabled(enabled);
 }
 
@@ -198,7 +236,59 @@ void EmployeeSchedulePage::Time_Click(ClockTime time, int day)
     if (Loading)
         return;
     PickTime(record_, time, day, TimeList(time, day)->currentText());
+    MarkCopied(time, day, false);
     ShowDay(day);
+}
+
+void EmployeeSchedulePage::Enter(ClockTime time, int day)
+{
+    if (Loading)
+        return;
+    const QString before = TimeList(time, day)->currentText();
+    Apply(OfferTime, time, day);
+    if (before != TimeList(time, day)->currentText())
+        MarkCopied(time, day, true);
+}
+
+/// A time is not typed; a digit drops the list down where it leads.
+void EmployeeSchedulePage::Type(ClockTime time, int day, const QString& typed)
+{
+    Apply(ClearTime, time, day);
+    MarkCopied(time, day, false);
+    if (!typed.isEmpty() && typed.back().isDigit())
+        DropDownAt(TimeList(time, day), typed.back());
+}
+
+void EmployeeSchedulePage::cmdClearDay_Click(int day)
+{
+    ClearDay(record_, day);
+    ForgetCopied(day);
+    ShowDay(day);
+}
+
+void EmployeeSchedulePage::cmdCopyMonday_Click()
+{
+    CopyDay(record_, kMonday, kFriday);
+    for (int day = kMonday; day <= kFriday; ++day) {
+        ForgetCopied(day);
+        ShowDay(day);
+    }
+}
+
+void EmployeeSchedulePage::MarkCopied(ClockTime time, int day, bool copied)
+{
+    QComboBox* list = TimeList(time, day);
+    SetLook(list, copied ? "copied" : "");
+    list->setToolTip(copied ? T("Copied as you passed through: pick another time, or clear this one with Delete",
+                                "Copiée au passage: choisissez une autre heure, ou effacez celle-ci avec Suppr")
+                            : QString());
+}
+
+void EmployeeSchedulePage::ForgetCopied(int day)
+{
+    for (const ClockTimeInfo& time : kDayTimes)
+        if (TimeList(time.Time, day)->property("look") == "copied")
+            MarkCopied(time.Time, day, false);
 }
 
 void EmployeeSchedulePage::Apply(TimeRule rule, ClockTime time, int day)

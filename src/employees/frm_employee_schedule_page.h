@@ -22,6 +22,8 @@ private:
     using TimeRule = void (*)(EmployeeRecord&, ClockTime, int day);
 
     QGridLayout* Week();
+    QLayout* Foot();
+    void AddClearButton(QGridLayout* week, int day);
     void AddDay(QGridLayout* week, int day);
     QComboBox* MakeTimeList(const ClockTimeInfo& time, int day);
     QLineEdit* TotalField(const QString& name, int day);
@@ -29,6 +31,13 @@ private:
     void Time_Click(ClockTime time, int day);
     /// A person sets off a rule; the day shows what it made of the record.
     void Apply(TimeRule rule, ClockTime time, int day);
+    void Enter(ClockTime time, int day);
+    void Type(ClockTime time, int day, const QString& typed);
+    void cmdClearDay_Click(int day);
+    void cmdCopyMonday_Click();
+    /// Shows that a time was copied by passing through its list, or that it was not.
+    void MarkCopied(ClockTime time, int day, bool copied);
+    void ForgetCopied(int day);
     void Total_Change(int day);
     bool Total_LostFocus(int day); ///< false when it was refused
     void chkIrregularHours_Click(bool checked);
@@ -39,6 +48,8 @@ private:
     std::array<std::array<QComboBox*, 7>, 4> cboTimes{}; ///< in the order of kDayTimes
     std::array<QLineEdit*, 7> txtTotalHours{};
     std::array<QLineEdit*, 7> txtTotalMinutes{};
+    std::array<QPushButton*, 7> cmdClearDay{};
+    QPushButton* cmdCopyMonday = nullptr;
     QCheckBox* chkIrregularHours;
     const QWidget* refusedFor_ = nullptr; ///< where the focus went from the total that was refused last
 };

@@ -193,13 +193,9 @@ std::optional<Fault> CheckTotals(EmployeeRecord& record)
 
 void EmptyWeek(EmployeeRecord& record)
 {
-    for (const ClockTimeInfo& info : kDayTimes)
-        (record.*info.Member).fill(0);
-    record.HoursWorked.fill(0);
-    record.HoursSpecified.fill(false);
+    for (int day = 0; day < kDays; ++day)
+        ClearDay(record, day);
     record.HoursWorkedDaily = 0;
-    record.TotalHours.fill(QString());
-    record.TotalMinutes.fill(QString());
 }
 } // namespace
 
@@ -253,6 +249,30 @@ void LeaveTime(EmployeeRecord& record, ClockTime time, int day)
 {
     if (record.RecalculationPending && TimeOf(record, time, day) > 0 && TimeOf(record, InfoOf(time).OtherEnd, day) > 0)
         CalculateWorkingDay(record, day);
+}
+
+void ClearDay(EmployeeRecord& record, int day)
+{
+    for (const ClockTimeInfo& info : kDayTimes)
+        (record.*info.Member)[day] = 0;
+    record.HoursWorked[day] = 0;
+    record.HoursSpecified[day] = false;
+    record.TotalHours[day].clear();
+    record.TotalMinutes[day].clear();
+    record.RecalculationPending = record.HoursMismatchAccepted = false;
+}
+
+void CopyDay(EmployeeRecord& record, int from, int to)
+{
+    for (int day = from + 1; day <= to; ++day) {
+        for (const ClockTimeInfo& info : kDayTimes)
+            (record.*info.Member)[day] = (record.*info.Member)[from];
+        record.HoursWorked[day] = record.HoursWorked[from];
+        record.HoursSpecified[day] = record.HoursSpecified[from];
+        record.TotalHours[day] = record.TotalHours[from];
+        record.TotalMinutes[day] = record.TotalMinutes[from];
+    }
+    record.RecalculationPending = record.HoursMismatchAccepted = false;
 }
 
 void TypeTotal(EmployeeRecord& record, int day, const QString& hours, const QString& minutes)

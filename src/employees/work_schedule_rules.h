@@ -39,6 +39,11 @@ void OfferTime(EmployeeRecord& record, ClockTime time, int day);
 /// A list of times loses the focus.
 void LeaveTime(EmployeeRecord& record, ClockTime time, int day);
 
+/// Empties a day: no times, no total.
+void ClearDay(EmployeeRecord& record, int day);
+/// The days after `from` up to `to` take over its times and its total.
+void CopyDay(EmployeeRecord& record, int from, int to);
+
 enum class TotalBox
 {
     Hours,

@@ -2,6 +2,7 @@
 
 #include "foundation/common_services.h"
 
+#include <QKeyEvent>
 #include <QScrollArea>
 #include <QShowEvent>
 #include <QTimer>
@@ -35,6 +36,21 @@ QScrollArea* MakePageArea()
     area->setFocusPolicy(Qt::NoFocus);
     area->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     return area;
+}
+
+/// What a person has entered in a control, as text; empty for what takes no entry.
+QString ContentOf(const QWidget* control)
+{
+    if (const auto* list = qobject_cast<const QListWidget*>(control)) {
+        const QList<QListWidgetItem*> marked = list->selectedItems(); // an entry can be current without being chosen
+        return marked.isEmpty() ? QString() : QString::number(list->row(marked.first()));
+    }
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+        return QString::number(button->isChecked());
+    for (const char* property : {"plainText", "currentText", "text"})
+        if (control->focusPolicy() != Qt::NoFocus && control->property(property).isValid())
+            return control->property(property).toString();
+    return {};
 }
 } // namespace
 
@@ -117,7 +133,37 @@ void FormBase::showEvent(QShowEvent* event)
     if (!std::exchange(activated_, true)) {
         if (!testAttribute(Qt::WA_Resized))
             resize(sizeHint());
-        QTimer::singleShot(0, this, [this] { Form_Activate(); });
+        QTimer::singleShot(0, this, [this] {
+            Form_Activate();
+            KeepContents();
+        });
     }
     QDialog::showEvent(event);
+}
+
+QStringList FormBase::Contents() const
+{
+    QStringList contents;
+    for (const QWidget* control : findChildren<QWidget*>())
+        contents << ContentOf(control);
+    return contents;
+}
+
+bool FormBase::MayBeLeft()
+{
+    return !asksBeforeLosing_ || Contents() == kept_ || AskToAbandonChanges();
+}
+
+void FormBase::closeEvent(QCloseEvent* event)
+{
+    if (MayBeLeft())
+        QDialog::closeEvent(event);
+    else
+        event->ignore();
+}
+
+void FormBase::keyPressEvent(QKeyEvent* event)
+{
+    if (!event->matches(QKeySequence::Cancel) || MayBeLeft())
+        QDialog::keyPressEvent(event);
 }

@@ -42,15 +42,28 @@ protected:
 
     /// Called once, when the form has been shown.
     virtual void Form_Activate() {}
+    /// From here on the form asks before Escape or the window's own close button throw away what was entered.
+    void AskBeforeLosing() { asksBeforeLosing_ = true; }
+    /// What stands in the controls now can be thrown away without a question.
+    void KeepContents() { kept_ = Contents(); }
+    /// Asked when the user leaves by Escape or the window's own close button; the form's buttons do as they are told. A
+    /// form with a question of its own for each way out answers true.
+    virtual bool MayBeLeft();
     void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     DataControl datAbsence;
     bool Loading = false; ///< code fills the controls: their handlers stay silent
 
 private:
+    QStringList Contents() const;
+
     QScrollArea* scroll_ = nullptr;
     QVBoxLayout* page_ = nullptr;
     QHBoxLayout* foot_ = nullptr;
     QSize size_;
     bool activated_ = false;
+    bool asksBeforeLosing_ = false;
+    QStringList kept_; ///< the contents that nobody would miss
 };

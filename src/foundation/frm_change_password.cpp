@@ -21,6 +21,7 @@ void ShowStars(QLineEdit* field)
 frmChangePassword::frmChangePassword(QWidget* parent) : FormBase("frmChangePassword", parent)
 {
     SetTitle(this, {"Change password", "Changement de mot-clé"});
+    AskBeforeLosing();
     QGridLayout* fields = FieldGrid();
     fields->setColumnMinimumWidth(1, kFieldWidth);
     const auto add = [fields](const char* name, const Text& label) {

@@ -10,6 +10,7 @@ constexpr Text kDeactivate = {"&Deactivate", "&Désactiver"};
 TwoPressForm::TwoPressForm(const char* name, QWidget* parent, const EditingTexts& texts)
     : FormBase(name, parent), save_(texts.Save)
 {
+    AskBeforeLosing();
     cmdAdd = AddButton("cmdAdd", kAdd, [this] { Press(EditingMode::Adding); });
     cmdModify = AddButton("cmdModify", kModify, [this] { Press(EditingMode::Modifying); });
     cmdDeactivate = AddButton("cmdDeactivate", kDeactivate, [this] { Press(EditingMode::Deactivating); });
@@ -49,6 +50,7 @@ void TwoPressForm::ShowMode()
     for (QPushButton* button : idleOnly_)
         button->setEnabled(IsIdle());
     EnableControls();
+    KeepContents();
 }
 
 void TwoPressForm::ShowButton(QPushButton* button, EditingMode its, const Text& caption)

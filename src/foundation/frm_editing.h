@@ -34,6 +34,7 @@ protected:
 
     EditingMode Mode() const { return mode_; }
     bool IsIdle() const { return mode_ == EditingMode::Idle; }
+    bool MayBeLeft() override { return IsIdle() || FormBase::MayBeLeft(); }
 
     /// The first press: false when there is nothing to work on, which ends the mode again.
     virtual bool Begin(EditingMode mode) = 0;
@@ -49,7 +50,8 @@ protected:
     /// Lays the foot: the ways out at the left; at the right `further` commands, which cannot be pressed in a mode, and
     /// those of every such form, Add last. Called when the page is complete.
     void LayCommands(const std::vector<QPushButton*>& further = {});
-    /// Shows which buttons can be pressed now, and which one is the main button.
+    /// Shows which buttons can be pressed now, and which one is the main button. What stands in the fields then is the
+    /// record as it was.
     void ShowMode();
     virtual void cmdCancelOperation_Click();
 

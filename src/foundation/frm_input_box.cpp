@@ -7,9 +7,10 @@ constexpr int kInputGap = 6;
 } // namespace
 
 frmInputBox::frmInputBox(const QString& title, const QString& prompt, QWidget* parent)
-    : FormBase("frmInputBox", parent), txtInput(MakeField("txtInput", KeyFilter::MessageInput))
+    : FormBase("frmInputBox", parent), txtInput(MakeField("txtInput", KeyFilter::FreeText))
 {
     setWindowTitle(title);
+    AskBeforeLosing();
     auto* lblPrompt = WrappedLabel("lblPrompt");
     lblPrompt->setText(prompt);
     lblPrompt->setFixedWidth(kPromptWidth);

@@ -26,6 +26,7 @@ std::optional<Fault> FaultIn(const AdministratorInfo& info)
 frmUpdateAdminInfo::frmUpdateAdminInfo(QWidget* parent) : FormBase("frmUpdateAdminInfo", parent)
 {
     SetTitle(this, {"System administrator", "Administrateur du système"});
+    AskBeforeLosing();
     QGridLayout* fields = FieldGrid();
     fields->setColumnMinimumWidth(1, kAdminFieldWidth);
     txtFirstName = AddField(fields, "txtFirstName", {"&First name", "&Prénom"}, KeyFilter::FreeText, 35);

@@ -1,5 +1,6 @@
 #include "reference/frm_unit.h"
 
+#include "platform/controls/entry_lists.h"
 #include "platform/controls/remark_delegate.h"
 
 namespace
@@ -59,7 +60,7 @@ frmUnit::frmUnit(const UnitKind& kind, QWidget* parent) : EditingForm(kind.FormN
 
 void frmUnit::BuildList()
 {
-    cboRecords = Named<QComboBox>("cboRecords");
+    cboRecords = Named<WalkedList>("cboRecords");
     cboRecords->setItemDelegate(new RemarkDelegate(NameOf, RemarkOf, cboRecords));
     cboRecords->setMaxVisibleItems(kEntriesShown);
     SetPlaceholder(cboRecords, kind_.Texts.ListPrompt);

@@ -13,6 +13,9 @@ public:
     void SetRange(int from, int to);
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& entry, int role = Qt::DisplayRole) const override;
+    /// What a person types is found with and without the weekday, the hyphens and the leading zero: "29 jun".
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                          Qt::MatchFlags flags) const override;
 
 private:
     int from_ = 0;

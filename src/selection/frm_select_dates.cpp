@@ -2,6 +2,7 @@
 
 #include "foundation/common_services.h"
 #include "platform/clock.h"
+#include "platform/controls/entry_lists.h"
 #include "selection/frm_weekday_boxes.h"
 
 #include <algorithm>
@@ -59,7 +60,7 @@ frmSelectDates::frmSelectDates(const Period& period, const WorkSchedule& schedul
 QComboBox* frmSelectDates::AddDates(QGridLayout* range, int column, const char* name, const Text& label,
                                     DateRangeModel* days)
 {
-    auto* dates = Named<QComboBox>(name);
+    auto* dates = Named<WalkedList>(name);
     dates->setMinimumWidth(kDateWidth);
     dates->setModel(days);
     range->addLayout(Headed(label, dates), 0, column);
@@ -83,16 +84,17 @@ void frmSelectDates::LoadRecords()
     cboFrom->setCurrentIndex(std::max(cboFrom->findData(Today()), 0));
     boxes_->SetChecked(WorkingDays(schedule_));
     connect(cboFrom, &QComboBox::currentIndexChanged, this, &frmSelectDates::cboFrom_Click);
+    connect(cboTo, &QComboBox::activated, this, [this] { endPicked_ = true; });
     connect(cboTo, &QComboBox::currentIndexChanged, this, &frmSelectDates::ShowCount);
     connect(boxes_, &WeekdayBoxes::Changed, this, &frmSelectDates::ShowCount);
     cboFrom_Click();
 }
 
-/// The end cannot precede the start; an end that still fits is kept.
+/// The end follows the start until somebody picks it; from then on it is kept where it does not precede the start.
 void frmSelectDates::LoadDatesTo()
 {
     const LoadingGuard loading(Loading);
-    const int before = cboTo->currentData().toInt();
+    const int before = endPicked_ ? cboTo->currentData().toInt() : 0;
     daysTo_->SetRange(cboFrom->currentData().toInt(), period_.End);
     cboTo->setCurrentIndex(std::max(cboTo->findData(before), 0));
 }

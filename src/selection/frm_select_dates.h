@@ -32,6 +32,7 @@ private:
     const WorkSchedule schedule_;
     QVector<Holiday> holidays_;
     DateList dates_{};
+    bool endPicked_ = false;
     DateRangeModel* daysFrom_;
     DateRangeModel* daysTo_;
     QComboBox* cboFrom;

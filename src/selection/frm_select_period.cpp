@@ -1,6 +1,7 @@
 #include "selection/frm_select_period.h"
 
 #include "foundation/common_services.h"
+#include "platform/controls/entry_lists.h"
 #include "selection/date_range_model.h"
 
 #include <QButtonGroup>
@@ -40,8 +41,8 @@ constexpr Text kMonths[] = {{"January", "Janvier"}, {"February", "Février"},  {
 } // namespace
 
 frmSelectPeriod::frmSelectPeriod(PeriodMode mode, QWidget* parent)
-    : FormBase("frmSelectPeriod", parent), mode_(mode), cboFrom(Named<QComboBox>("cboFrom")),
-      cboTo(Named<QComboBox>("cboTo")), options_(new QButtonGroup(this))
+    : FormBase("frmSelectPeriod", parent), mode_(mode), cboFrom(Named<WalkedList>("cboFrom")),
+      cboTo(Named<WalkedList>("cboTo")), options_(new QButtonGroup(this))
 {
     const ModeTexts& texts = kModes[static_cast<int>(mode)];
     SetTitle(this, texts.Title);

@@ -155,7 +155,7 @@ TEST_F(EmployeeRows, TheSummarySpeaksTheUsersLanguage)
                         "Global = 2\r\nOrganisation = 0\r\nDépartement = 1\r\nGroupe = 3\r\nIndividuel = 1";
     EXPECT_EQ(EmployeeSummary(record, {"Ateliers du Nord", {}, {}}, false),
               "Souhaitez-vous ajouter l'employé(e) suivant(e) à votre banque de données?\r\n\r\n"
-              "Nom et identification:\t\tChris Davis     12\r\nOrganisation:\t\tAteliers du Nord\r\n"
+              "Nom et identification:\tChris Davis     12\r\nOrganisation:\t\tAteliers du Nord\r\n"
               "Heures travaillées:\t\tLun - 07:00, Mar - 07:00, Mer - 07:00, \r\n\t\t\tJeu - 07:00, Ven - 07:00" +
                   end);
     record.IrregularHours = true;

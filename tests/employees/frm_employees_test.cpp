@@ -85,7 +85,7 @@ protected:
         user.Picks("lstOrganizations", "Southern Trade").Picks("lstDepartments", "Production");
         EXPECT_EQ(user.ReadsAll({"lstOrganizations", "lstGroups"}), "Northern Works|");
         user.Enters({{"lstGroups", "Assembly"}, {"txtName", "o'brien-smith 2"}, {"txtFirstName", "jean-MARC"}});
-        user.Enters({{"txtEmployeeID", "E#12"}, {"txtHourlyRate", "$31.5"}, {"txtAddressLine1", "12, \"Elm\" St."}});
+        user.Enters({{"txtEmployeeID", "E#12"}, {"txtHourlyRate", "$31,5"}, {"txtAddressLine1", "12, \"Elm\" St."}});
         user.Enters({{"txtCity", "Laval"}, {"txtStateProvince", "Québec 1"}, {"txtPostalCode", "h2x 1y4"}});
         user.Enters({{"txtCountry", "Canada"}, {"txtPhoneHome", "514-555 0101"}, {"txtPhoneWork", "(514)555-0102"}});
         user.Enters({{"txtEMail", "j m@example.org"}, {"txtComment", "Don't #call "}, {"cboBirthYear", "1980"}});
@@ -146,7 +146,8 @@ TEST_F(FrmEmployees, ANewEmployeeIsWrittenWithAllThatWasTypedAndHisEntitlements)
 
 TEST_F(FrmEmployees, AModifiedEmployeeIsAuditedAndHisRateReachesBackAsFarAsTold)
 {
-    Alters("PreviousID = 99, EMailAddress = ' c@example.org ', EmployeeType = 3, DateOfBirth = 29280, "
+    Alters("FirstName = 'McChris', PreviousID = 99, EMailAddress = ' c@example.org ', EmployeeType = 3, DateOfBirth = "
+           "29280, "
            "IsAllowedToCarryOverVacation = 1");
     for (const QDate& date : {QDate(2026, 3, 31), QDate(2026, 4, 1)})
         house.Record(chris, "Sick", date, 7.25F);
@@ -165,7 +166,7 @@ TEST_F(FrmEmployees, AModifiedEmployeeIsAuditedAndHisRateReachesBackAsFarAsTold)
     user.Types("txtHourlyRate", "25.5").Types("txtCity", "Laval").Types("cboBirthDay", "");
     user.WhenOpens<frmSelectPeriod>(
         [this](frmSelectPeriod&) { user.Picks("cboFrom", "Wed 01-Apr-2026").Clicks("cmdOK"); });
-    user.WillConfirm("Modify the selected employee record as follows?\r\n\r\nName and ID:\t\tChris Davis     \r\n")
+    user.WillConfirm("Modify the selected employee record as follows?\r\n\r\nName and ID:\t\tMcChris Davis     \r\n")
         .WillAnswer("New hourly rate specified:", "Yes",
                     " » Previous rate:\t20.55\r\n » New rate:\t\t25.50\r\n\r\nDo you wish to apply this hourly rate "
                     "retroactively to the attendance records entered so far in fiscal year 2026?")
@@ -266,11 +267,11 @@ TEST_F(FrmEmployees, ADeactivatedEmployeeIsClosedInBothYearsWithHisEntitlements)
     EXPECT_EQ(house.Rows(closed), "0||\n0||");
     SessionState.English = false;
     Starts("cmdDeactivate", "Davis");
-    willGive("l'école", "cmdOK");
+    willGive("l'école, 100 % | \"A\" & B", "cmdOK");
     user.WillConfirm("Souhaitez-vous vraiment désactiver Chris Davis?")
         .WillBeDone("L'employé(e) sélectionné(e) a été désactivé(e).")
         .Clicks("cmdDeactivate");
-    EXPECT_EQ(house.Rows(closed), "46083|ADMIN|l`école\n46083|ADMIN|l`école");
+    EXPECT_EQ(house.Rows(closed), "46083|ADMIN|l`école, 100 % | \"A\" & B\n46083|ADMIN|l`école, 100 % | \"A\" & B");
     EXPECT_EQ(house.Rows("SELECT Active, ModifiedBy, ModifiedDate FROM Entitlements ORDER BY RecordID"),
               "0|ADMIN|46083\n1||0\n1||0")
         << "those of the next year stay";
@@ -279,7 +280,8 @@ TEST_F(FrmEmployees, ADeactivatedEmployeeIsClosedInBothYearsWithHisEntitlements)
 
     house.Refuses("UPDATE ON Employees WHEN OLD.FiscalYear = 2");
     DeactivateEmployee(datAbsence, chris, "again");
-    EXPECT_EQ(house.Rows(closed), "46083|ADMIN|again\n46083|ADMIN|l`école") << "the next year may fail";
+    EXPECT_EQ(house.Rows(closed), "46083|ADMIN|again\n46083|ADMIN|l`école, 100 % | \"A\" & B")
+        << "the next year may fail";
 }
 
 TEST_F(FrmEmployees, AnEmployeeWhomSomebodyElseDeactivatedMeanwhileIsNotWorkedOn)
@@ -406,7 +408,9 @@ TEST_F(FrmEmployees, ATemplateBringsWorkplaceScheduleAndRightsAndGoesWithoutATra
               "Production|Assembly|1|1|1|||");
     user.Picks("cboSecondHalfEndTime(1)", "18:00");
     EXPECT_EQ(user.ReadsAll({"txtTotalHours(1)", "txtTotalMinutes(1)"}), "7|0") << "totals count as typed";
-    user.Presses("", Qt::Key_Escape);
+    user.WillAnswer("CONFIRM:", "No", "Changes have not been saved!").Presses("", Qt::Key_Escape);
+    EXPECT_EQ(user.Reads("cboSecondHalfEndTime(1)"), "18:00");
+    user.WillConfirm().Presses("", Qt::Key_Escape);
     EXPECT_TRUE(user.CanUse("cmdAdd") && user.CanUse("cmdModify")) << "Escape ends the operation first";
     user.Presses("", Qt::Key_Escape);
     EXPECT_FALSE(user.The<frmEmployees>().isVisible());
@@ -425,8 +429,24 @@ TEST_F(FrmEmployees, TheScheduleFillsInWhileThePersonTabsThroughIt)
     EXPECT_EQ(user.ReadsAll(
                   {"cboFirstHalfStartTime(2)", "cboSecondHalfEndTime(2)", "txtTotalHours(2)", "txtTotalMinutes(2)"}),
               "08:00|16:20|7|20");
+    const auto looks = [this](const char* list) {
+        return user.The<frmEmployees>().findChild<QComboBox*>(list)->property("look").toString();
+    };
+    EXPECT_EQ(looks("cboFirstHalfEndTime(2)") + looks("cboFirstHalfEndTime(1)"), "copied");
+    auto* times = user.The<frmEmployees>().findChild<QComboBox*>("cboSecondHalfEndTime(2)");
     user.Types("cboSecondHalfEndTime(2)", "1");
     EXPECT_EQ(user.ReadsAll({"cboSecondHalfEndTime(2)", "txtTotalHours(2)"}), "|") << "typing clears";
+    QTest::keyClicks(times->view(), "7:");
+    QTest::keyClick(times->view(), Qt::Key_Return);
+    EXPECT_EQ(user.ReadsAll({"cboSecondHalfEndTime(2)", "txtTotalHours(2)"}), "17:00|8");
+    EXPECT_EQ(looks("cboSecondHalfEndTime(2)"), "");
+    user.Clicks("cmdClearDay(2)");
+    EXPECT_EQ(user.ReadsAll({"cboFirstHalfStartTime(2)", "txtTotalHours(2)", "txtTotalHours(1)"}), "||7");
+    user.Clicks("cmdCopyMonday");
+    EXPECT_EQ(user.ReadsAll({"cboFirstHalfStartTime(2)", "cboSecondHalfEndTime(5)", "txtTotalMinutes(5)",
+                             "cboFirstHalfStartTime(6)"}),
+              "08:00|16:20|20|");
+    user.Clicks("cmdClearDay(3)");
     user.Types("txtTotalHours(3)", "24").Presses("txtTotalHours(3)", Qt::Key_Return);
     EXPECT_TRUE(user.HasFocus("txtTotalHours(3)")) << "nothing is saved, nothing is asked";
     user.Types("txtTotalHours(3)", "24");

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(AskingForText, TheAnswerComesBackWithoutWhatWouldBreakAStatementAndCancelAndEscapeGiveNothing)
+TEST(AskingForText, TheAnswerComesBackWholeButForTheApostropheAndCancelAndEscapeGiveNothing)
 {
     const House house;
     User user;
@@ -11,11 +11,13 @@ TEST(AskingForText, TheAnswerComesBackWithoutWhatWouldBreakAStatementAndCancelAn
     user.WhenOpens<frmInputBox>([&](frmInputBox& box) {
         EXPECT_EQ(box.windowTitle(), "Employee deactivation:");
         EXPECT_EQ(user.Reads("lblPrompt"), "Please specify the reason.");
-        user.Types("txtInput", "  didn't \"fit\" ").Presses("txtInput", Qt::Key_Return);
+        user.Types("txtInput", "  didn't \"fit\" 100 % | A & B ").Presses("txtInput", Qt::Key_Return);
     });
-    EXPECT_EQ(asks(), "didn`t fit");
+    EXPECT_EQ(asks(), "didn`t \"fit\" 100 % | A & B");
     user.WhenOpens<frmInputBox>([&](frmInputBox&) { user.Types("txtInput", "retired").Clicks("cmdCancel"); });
     EXPECT_EQ(asks(), "");
-    user.WhenOpens<frmInputBox>([&](frmInputBox&) { user.Types("txtInput", "x").Presses("txtInput", Qt::Key_Escape); });
+    user.WhenOpens<frmInputBox>([&](frmInputBox&) {
+        user.Types("txtInput", "x").WillConfirm("not been saved").Presses("txtInput", Qt::Key_Escape);
+    });
     EXPECT_EQ(asks(), "");
 }

@@ -1,8 +1,10 @@
 #include "reference/frm_unit.h"
 #include "support/company_test.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QPushButton>
+#include <QTest>
 
 namespace
 {
@@ -31,6 +33,24 @@ protected:
         return house.Rows(kActive).split('\n').filter(active ? "=1" : "=0").join(' ').remove(active ? "=1" : "=0");
     }
 };
+
+TEST_F(FrmUnits, TheArrowsWalkTheListBeforeAUnitIsTakenAndEscapeAsksBeforeChangesAreLost)
+{
+    user.Opens<frmOrganizations>().Clicks("cmdModify").Presses("cboRecords", Qt::Key_Down);
+    auto& form = user.The<frmOrganizations>();
+    QAbstractItemView* entries = form.findChild<QComboBox*>("cboRecords")->view();
+    QTest::keyClick(entries, Qt::Key_Down);
+    EXPECT_EQ(user.Reads("txtEnglishName"), "") << "nothing is taken yet";
+    QTest::keyClick(entries, Qt::Key_Return);
+    EXPECT_EQ(user.Reads("txtEnglishName"), "Southern Trade");
+    user.Types("txtCity", "Laval").WillAnswer("CONFIRM:", "No", "Changes have not been saved!");
+    form.close();
+    EXPECT_TRUE(form.isVisible() && user.Reads("txtCity") == "Laval");
+    user.WillConfirm().Presses("txtCity", Qt::Key_Escape);
+    ExpectIdle();
+    user.Clicks("cmdAdd").Types("txtCity", "Laval").Clicks("cmdCancelOperation"); // its button does as it is told
+    ExpectIdle();
+}
 
 TEST_F(FrmUnits, AnOrganizationIsAddedInTwoPresses)
 {

@@ -20,6 +20,8 @@ TEST_F(ApproverFromList, ApproversOfTheWholeYearStandUnderTheirUnitsInTheUsersLa
                             "Abel, Anna", "Fox, Fred", "Southern Trade / Stores", "Ellis, Eva"));
     EXPECT_EQ(ListFlag(), 0) << "the flagged list was rebuilt first";
     EXPECT_FALSE(user.CanUse("cmdSelect"));
+    user.Presses("lstApprovers", Qt::Key_Down);
+    EXPECT_EQ(user.Reads("lstApprovers"), "Cote, Carla") << "the first who can be chosen, not the second";
     user.Picks("lstApprovers", "Abel").Picks("lstApprovers", "Southern Trade");
     EXPECT_FALSE(user.CanUse("cmdSelect")) << "a unit is no approver";
     user.Picks("lstApprovers", "Ellis").Clicks("cmdSelect");

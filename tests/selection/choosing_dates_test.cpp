@@ -5,6 +5,10 @@
 #include "selection/frm_select_weekdays.h"
 #include "support/company_test.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QTest>
+
 using testing::ElementsAre;
 
 namespace
@@ -40,7 +44,12 @@ TEST_F(ChoosingDates, HolidaysAndDaysOffFallOutUntilTheirBoxIsCleared)
     Opens();
     EXPECT_EQ(user.ReadsAll({"cboFrom", "chkWeekday(4)", "chkWeekday(5)"}), Shown(3, 2) + "|1|0")
         << "today, and Friday is a day off";
-    user.Picks("cboFrom", Shown(6, 29)).Picks("cboTo", Shown(7, 6)).Picks("cboFrom", Shown(6, 30));
+    user.Presses("cboFrom", Qt::Key_2);
+    auto* from = user.The<frmSelectDates>().findChild<QComboBox*>("cboFrom");
+    QTest::keyClicks(from->view(), "9 jun");
+    QTest::keyClick(from->view(), Qt::Key_Return);
+    EXPECT_EQ(user.ReadsAll({"cboFrom", "cboTo"}), Shown(6, 29) + "|" + Shown(6, 29)) << "the end follows the start";
+    user.Picks("cboTo", Shown(7, 6)).Picks("cboFrom", Shown(6, 30));
     EXPECT_EQ(user.Reads("cboTo"), Shown(7, 6)) << "an end that still fits is kept";
     EXPECT_EQ(user.Entries("cboTo").first(), Shown(6, 30)) << "the end cannot precede the start";
     user.Checks("chkWeekday(5)");

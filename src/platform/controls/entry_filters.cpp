@@ -124,6 +124,15 @@ public:
     }
 
 private:
+    /// A number has one point: a comma becomes it unless the point is there already.
+    QString Passing(QString text) const
+    {
+        if (filter_ == KeyFilter::DecimalNumber && !text.contains('.') &&
+            !field_->property("text").toString().contains('.'))
+            text.replace(',', '.');
+        return Filtered(text, filter_);
+    }
+
     bool FilterKey(const QKeyEvent* key)
     {
         if (key->matches(QKeySequence::Paste)) {
@@ -135,7 +144,7 @@ private:
             key->modifiers().testFlag(Qt::ControlModifier) && !key->modifiers().testFlag(Qt::AltModifier);
         if (typed.isEmpty() || !typed.front().isPrint() || command)
             return false;
-        const QString let = Filtered(typed, filter_);
+        const QString let = Passing(typed);
         if (let == typed)
             return false;
         if (!let.isEmpty())
@@ -146,7 +155,7 @@ private:
     /// Accented letters of a dead key and the like come composed.
     bool FilterComposed(QObject* target, const QInputMethodEvent* event)
     {
-        const QString let = Filtered(event->commitString(), filter_);
+        const QString let = Passing(event->commitString());
         if (let == event->commitString())
             return false;
         QInputMethodEvent composed(event->preeditString(), event->attributes());
@@ -159,7 +168,7 @@ private:
     bool RefuseDrag(QDropEvent* event)
     {
         const QString dragged = event->mimeData()->text();
-        if (Filtered(dragged, filter_) == dragged)
+        if (Passing(dragged) == dragged)
             return false;
         event->ignore();
         return true;
@@ -210,7 +219,7 @@ private:
 
     void Paste(QClipboard::Mode mode)
     {
-        const QString let = Filtered(QApplication::clipboard()->text(mode), filter_);
+        const QString let = Passing(QApplication::clipboard()->text(mode));
         if (!let.isEmpty() && !field_->isReadOnly())
             Insert(field_, let);
     }

@@ -9,7 +9,7 @@
 enum class KeyFilter
 {
     WholeNumber,   ///< 0 to 9
-    DecimalNumber, ///< 0 to 9 and the point
+    DecimalNumber, ///< 0 to 9 and the point; the comma becomes the point
     Phone,         ///< 0 to 9 and "-"
     CategoryName,  ///< ' becomes `; the comma is dropped
     FreeText,      ///< ' becomes `

@@ -1,11 +1,25 @@
 #include "platform/controls/entry_lists.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QStringListModel>
 #include <QStyleOptionComboBox>
 
 namespace
 {
+bool IsAmong(std::initializer_list<int> keys, const QKeyEvent* event)
+{
+    return !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) &&
+           std::find(keys.begin(), keys.end(), event->key()) != keys.end();
+}
+
+/// The list drops down, and the key moves in it.
+void WalkInto(QComboBox* list, QKeyEvent* event)
+{
+    list->showPopup();
+    QApplication::sendEvent(list->view(), event);
+}
+
 /// A list box with a field to type in. The toolkit's own makes the list that drops down, by far its most expensive
 /// part, as soon as somebody asks for its size or moves it about in the form; this one waits until it drops down.
 class EntryBox : public QComboBox
@@ -30,6 +44,14 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (count() > 0 && IsAmong({Qt::Key_Up, Qt::Key_Down}, event))
+            WalkInto(this, event);
+        else
+            QComboBox::keyPressEvent(event);
+    }
+
     /// Until it is polished there is nothing to bring up to date.
     void changeEvent(QEvent* event) override
     {
@@ -49,6 +71,26 @@ QComboBox* EntryCombo(const QString& name, int characters)
     combo->setObjectName(name);
     combo->setMaxVisibleItems(kEntriesShown);
     return combo;
+}
+
+void DropDownAt(QComboBox* list, const QString& typed)
+{
+    const bool found = list->findText(typed, Qt::MatchStartsWith) >= 0;
+    list->showPopup();
+    list->view()->keyboardSearch(found ? typed : '0' + typed);
+}
+
+void WalkedList::keyPressEvent(QKeyEvent* event)
+{
+    const QString typed = event->text().trimmed();
+    if (count() == 0)
+        return QComboBox::keyPressEvent(event);
+    if (IsAmong({Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}, event))
+        WalkInto(this, event);
+    else if (!typed.isEmpty() && typed.front().isLetterOrNumber() && !(event->modifiers() & ~Qt::ShiftModifier))
+        DropDownAt(this, typed);
+    else
+        QComboBox::keyPressEvent(event);
 }
 
 void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries)

@@ -10,6 +10,17 @@
 /// A list with room for `characters` that may also show a text which it does not offer, and that is not completed while
 /// somebody types.
 QComboBox* EntryCombo(const QString& name, int characters);
+/// Drops a list down at the entry that begins with what was typed; hours and days are found without their leading zero.
+void DropDownAt(QComboBox* list, const QString& typed);
+
+/// A list that drops down at the first arrow, letter or digit: a person walks through it, and nothing is taken before
+/// Enter or a click.
+class WalkedList : public QComboBox
+{
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
 /// The lists offer the same entries, which are kept once for all of them. None is chosen.
 void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries);
 

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
+#include <QKeyEvent>
+#include <QListWidget>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QScreen>
@@ -32,6 +34,31 @@ constexpr int kEntryHeight = 22;
 constexpr double kFontPoints = 10;
 
 std::function<int(QDialog&)> modalRunner;
+
+/// The toolkit makes the first entry of a list current without marking it, and the first Down would pass it over.
+class FirstRowTaker : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* target, QEvent* event) override
+    {
+        auto* list = static_cast<QListWidget*>(target);
+        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down &&
+               list->selectedItems().isEmpty() && list->currentRow() <= 0 && TakeFirst(list);
+    }
+
+private:
+    static bool TakeFirst(QListWidget* list)
+    {
+        for (int row = 0; row < list->count(); ++row)
+            if (list->item(row)->flags().testFlag(Qt::ItemIsSelectable)) {
+                list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+                return true;
+            }
+        return false;
+    }
+};
 
 /// Entries of lists stand at a reader's distance. The style sheet cannot see to it: a list that is filled before it is
 /// shown takes its sizes from the style alone.
@@ -63,6 +90,8 @@ public:
         QProxyStyle::polish(widget);
         if (auto* label = qobject_cast<QLabel*>(widget))
             label->setTextFormat(Qt::PlainText);
+        if (qobject_cast<QListWidget*>(widget))
+            widget->installEventFilter(firstRowTaker_);
     }
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
@@ -73,6 +102,9 @@ public:
             room.setHeight(std::max(room.height(), kEntryHeight));
         return room;
     }
+
+private:
+    QObject* firstRowTaker_ = new FirstRowTaker(this);
 };
 
 /// What the style sheet selects by: [look="head"].
@@ -203,14 +235,19 @@ QPushButton* AsMainButton(QPushButton* button)
     return button;
 }
 
+void SetLook(QWidget* control, const char* look)
+{
+    if (control->property("look").toString() == QLatin1String(look))
+        return;
+    control->setProperty("look", QString::fromLatin1(look));
+    control->style()->unpolish(control);
+    control->style()->polish(control);
+}
+
 void SetMainButton(QPushButton* button, bool main)
 {
     button->setDefault(main);
-    if (main == (button->property("look") == "main"))
-        return;
-    button->setProperty("look", main ? "main" : "");
-    button->style()->unpolish(button);
-    button->style()->polish(button);
+    SetLook(button, main ? "main" : "");
 }
 
 QSize FittingScreen(const QWidget* window, const QSize& size)

@@ -43,6 +43,8 @@ QLabel* AsCaption(QLabel* label);
 QLabel* AsFigure(QLabel* label);
 /// A small grey caption above the control that it names.
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control);
+/// The look by which the style sheet knows a control; empty for the plain one.
+void SetLook(QWidget* control, const char* look);
 /// The one blue main button of a form, pressed by Enter.
 QPushButton* AsMainButton(QPushButton* button);
 /// The same for a button that is the main one at times.

@@ -52,6 +52,7 @@ TEST(EntryFilters, EachKindDropsAndReplacesWhatItShouldKeyByKey)
 {
     const std::tuple<KeyFilter, const char*, const char*> cases[] = {
         {KeyFilter::DecimalNumber, "-1a2.3,4 5'", "12.345"},
+        {KeyFilter::DecimalNumber, "24,5,0", "24.50"},
         {KeyFilter::Phone, "(514) 555-0199 x'", "514555-0199"},
         {KeyFilter::Comment, "a'b\"c#d%", "a`bcd%"},
         {KeyFilter::LogIn, "~!@#$%^&*()_+=[]{}\\/|;:\" <>?o'n-e.7,", "o`n-e.7,"},
