@@ -1,6 +1,7 @@
 #include "calendar/frm_program.h"
 #include "foundation/common_services.h"
 #include "foundation/frm_message_box.h"
+#include "foundation/frm_toolkit_texts.h"
 #include "foundation/frm_waiting_notice.h"
 #include "platform/controls/file_dialog.h"
 #include "platform/controls/form_kit.h"
@@ -37,6 +38,7 @@ int main(int argc, char* argv[])
         QStringLiteral("%1.%2.%3").arg(TARVELL_VERSION_MAJOR).arg(TARVELL_VERSION_MINOR).arg(TARVELL_VERSION_REVISION));
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyStyle();
+    InstallToolkitTexts();
     InstallMessageBox();
     InstallWaitingNotice();
     InstallFileDialog();

@@ -1,3 +1,4 @@
+#include "foundation/frm_toolkit_texts.h"
 #include "platform/controls/form_kit.h"
 #include "support/screen.h"
 #include "tour.h"
@@ -14,6 +15,7 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", kScreen);
     QApplication application(argc, argv);
     ApplyStyle();
+    InstallToolkitTexts();
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("tour");
     QDir().mkpath(folder);
     SetComplaintHandler([](const QString& text) {

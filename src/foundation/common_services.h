@@ -55,7 +55,7 @@ struct Message
     Buttons Set = Buttons::Ok;
     Face Picture = Face::Warning;
     QStringList Captions = {};   ///< one per button, left to right
-    bool ScrollBar = false;      ///< a long text can be scrolled; it is cut off otherwise
+    bool ScrollBar = false;      ///< a scroll bar also beside a text that fits
     int DefaultButton = 0;       ///< position of the button that Enter presses
     bool ShowStopAsking = false; ///< a check box, whose state stays in SessionState.MessageStopAsking
     bool UseInputBox = false;    ///< an input box, shown for the rest of the session

@@ -4,6 +4,7 @@
 #include "foundation/texts.h"
 #include "platform/controls/entry_filters.h"
 #include "platform/controls/form_kit.h"
+#include "platform/controls/text_columns.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -22,10 +23,11 @@ constexpr int kButtonWidth = 96;
 constexpr int kTwipsPerLetter = 125;       ///< of one or two captions given by the caller
 constexpr int kTwipsPerLetterNarrow = 120; ///< of three or four
 constexpr int kFaceSize = 88;
-constexpr int kTextWidth = 500;
+constexpr int kLettersPerLine = 84;
 constexpr int kMostLines = 18;
-constexpr int kLettersPerTab = 8;
-constexpr int kFaceDelay = 10; ///< milliseconds: the text appears at once, the face a moment later
+constexpr int kHighest = 4000;
+constexpr int kRoomAroundText = 180; ///< for title, input box, check box and buttons
+constexpr int kFaceDelay = 10;       ///< milliseconds: the text appears at once, the face a moment later
 
 /// In the order of Face.
 constexpr std::array<const char*, 8> kFaces = {"face-warning",           "face-presenting", "face-informing",
@@ -55,11 +57,10 @@ QString WithMnemonic(const QString& caption, QString& taken)
     return caption;
 }
 
-/// As wide as eight average letters, so that the texts' columns line up.
-qreal TabDistance(const QFont& font)
+/// As many letters of each size of type stand on a line.
+int TextWidth(const QFont& font)
 {
-    static const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-    return kLettersPerTab * QFontMetricsF(font).horizontalAdvance(letters) / static_cast<qreal>(letters.size());
+    return kLettersPerLine * QFontMetrics(font).averageCharWidth();
 }
 
 int ShowMessageBox(const Message& message)
@@ -99,8 +100,6 @@ void frmMessageBox::BuildControls()
     txtMessage->setReadOnly(true);
     txtMessage->setTabChangesFocus(true);
     txtMessage->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // This is the part of txtHideScrollBar: without the flag a long text is cut off, with no bar to reach the rest.
-    txtMessage->setVerticalScrollBarPolicy(message_.ScrollBar ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     txtMsgBxInputBox = Named<QLineEdit>("txtMsgBxInputBox");
     txtMsgBxInputBox->setText(inputBox.Contents);
     txtMsgBxInputBox->setVisible(inputBox.Shown);
@@ -145,7 +144,6 @@ void frmMessageBox::LoadCaptions()
     setWindowTitle(message_.Title);
     lblTitle->setText(message_.Title);
     lblTitle->setVisible(!message_.Title.isEmpty());
-    txtMessage->setPlainText(message_.Text);
     txtMessage->setAccessibleName(message_.Title);
     txtMsgBxInputBox->setAccessibleName(message_.Title);
     setAccessibleDescription(message_.Text);
@@ -182,19 +180,41 @@ void frmMessageBox::FitText()
 {
     ensurePolished();
     txtMessage->ensurePolished();
-    const QFont font = txtMessage->font();
-    QTextDocument& shown = *txtMessage->document();
-    shown.setDocumentMargin(0);
-    txtMessage->setTabStopDistance(TabDistance(font));
+    const int width = TextWidth(txtMessage->font());
+    ShowColumns(width);
+    const int lines = QFontMetrics(txtMessage->font()).lineSpacing();
+    const int height = HeightOfText(width);
+    const int most = std::min(kMostLines * lines, FittingScreen(this, {0, kHighest}).height() - kRoomAroundText);
+    const bool scrolls = message_.ScrollBar || height > most;
+    txtMessage->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    const int bar = scrolls ? txtMessage->verticalScrollBar()->sizeHint().width() : 0;
+    txtMessage->setFixedSize(width + bar, std::min(height, most));
+}
+
+/// The text in the box, its columns under each other.
+void frmMessageBox::ShowColumns(int width)
+{
+    constexpr int kWidestEntry = 2; // of the box: one half
+    const TextColumns columns = MeasuredColumns(message_.Text, txtMessage->font(), width / kWidestEntry);
+    QTextOption option = txtMessage->document()->defaultTextOption();
+    QList<QTextOption::Tab> stops;
+    for (const qreal stop : columns.Stops)
+        stops << QTextOption::Tab(stop, QTextOption::LeftTab);
+    option.setTabs(stops);
+    txtMessage->document()->setDefaultTextOption(option);
+    txtMessage->document()->setDocumentMargin(0);
+    txtMessage->setPlainText(columns.Text);
+}
+
+int frmMessageBox::HeightOfText(int width) const
+{
     QTextDocument measure;
-    measure.setDefaultFont(font);
-    measure.setDefaultTextOption(shown.defaultTextOption());
+    measure.setDefaultFont(txtMessage->font());
+    measure.setDefaultTextOption(txtMessage->document()->defaultTextOption());
     measure.setDocumentMargin(0);
-    measure.setPlainText(message_.Text);
-    measure.setTextWidth(kTextWidth);
-    const int most = kMostLines * QFontMetrics(font).lineSpacing();
-    const int bar = message_.ScrollBar ? txtMessage->verticalScrollBar()->sizeHint().width() : 0;
-    txtMessage->setFixedSize(kTextWidth + bar, std::min(static_cast<int>(std::ceil(measure.size().height())), most));
+    measure.setPlainText(txtMessage->toPlainText());
+    measure.setTextWidth(width);
+    return static_cast<int>(std::ceil(measure.size().height()));
 }
 
 void frmMessageBox::ShowFace()

@@ -33,6 +33,8 @@ private:
     QLayout* BodyLayout();
     QLayout* ButtonsLayout();
     void FitText();
+    void ShowColumns(int width);
+    int HeightOfText(int width) const;
     void ShowFace();
     QPushButton* DefaultButton() const;
     int ButtonWidth(int position) const;

@@ -2,7 +2,9 @@
 #include "platform/controls/form_kit.h"
 #include "support/house_test.h"
 
+#include <QMenu>
 #include <QTest>
+#include <QTextBlock>
 
 namespace
 {
@@ -100,16 +102,58 @@ TEST_F(MessageBox, TheCheckBoxIsShownWhereAskedForAndRemembered)
     EXPECT_FALSE(SessionState.MessageStopAsking) << "the next message that asks starts unticked";
 }
 
-TEST_F(MessageBox, ALongTextIsCutUnlessTheCallerAsksForTheScrollBar)
+TEST_F(MessageBox, MoreLinesThanFitScrollAndTheCallerMayAskForTheBarOfAShortText)
 {
-    const QString text = QString("One line\tof many\r\n").repeated(60);
-    for (const bool bar : {false, true})
-        Shows({.Text = text, .ScrollBar = bar}, [&](frmMessageBox& box) {
+    const QString line = "One line of many\r\n";
+    for (const auto& [lines, asked, bar] : {std::tuple(60, false, true), {3, false, false}, {3, true, true}})
+        Shows({.Text = line.repeated(lines), .ScrollBar = asked}, [&, lines = lines, bar = bar](frmMessageBox& box) {
             auto* shown = box.findChild<QPlainTextEdit*>("txtMessage");
             EXPECT_EQ(shown->verticalScrollBarPolicy(), bar ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-            EXPECT_EQ(shown->toPlainText().count('\n'), 60);
+            EXPECT_EQ(shown->toPlainText().count('\n'), lines);
+            EXPECT_LE(box.height(), box.screen()->availableSize().height());
             box.close();
         });
+}
+
+/// The left edge of the entries behind each tab of the text shown.
+QList<QList<int>> ColumnsOf(QPlainTextEdit& shown)
+{
+    QList<QList<int>> edges;
+    for (QTextBlock line = shown.document()->begin(); line.isValid(); line = line.next()) {
+        edges << QList<int>();
+        QTextCursor at(line);
+        for (qsizetype tab = line.text().indexOf('\t'); tab >= 0; tab = line.text().indexOf('\t', tab + 1)) {
+            at.setPosition(line.position() + static_cast<int>(tab) + 1);
+            edges.last() << shown.cursorRect(at).left();
+        }
+    }
+    return edges;
+}
+
+TEST_F(MessageBox, ColumnsStandUnderEachOtherHoweverLongTheirEntriesAndHoweverManyTabsPartThem)
+{
+    const QString sentence = "A line without columns may be as long as it likes, and so may another one.\r\n\r\n";
+    const QString lines = "Jour\t\tDurée spécifiée\t\tDurée calculée\r\nMercredi, le lendemain\t\t07:00\t\t00:00\r\n"
+                          "Nom:      \tChris\r\n\t\t\tDavis";
+    Shows({.Text = sentence + lines}, [](frmMessageBox& box) {
+        const auto edges = ColumnsOf(*box.findChild<QPlainTextEdit*>("txtMessage"));
+        ASSERT_EQ(edges.size(), 6);
+        EXPECT_EQ(edges[2].size(), 2);
+        EXPECT_EQ(edges[3], edges[2]);
+        EXPECT_EQ(edges[4], edges[2].first(1));
+        EXPECT_EQ(edges[5], edges[2].first(1)) << "a line that goes on";
+        box.close();
+    });
+}
+
+TEST_F(MessageBox, TheToolkitsOwnTextsFollowTheLanguageAtOnce)
+{
+    QLineEdit field;
+    for (const auto& [english, undo] : {std::pair(true, "&Undo"), {false, "&Annuler"}, {true, "&Undo"}}) {
+        SessionState.English = english;
+        const std::unique_ptr<QMenu> menu(field.createStandardContextMenu());
+        EXPECT_EQ(menu->actions().first()->text().section('\t', 0, 0), undo);
+    }
 }
 
 TEST_F(MessageBox, TheFaceFollowsAMomentAfterTheText)

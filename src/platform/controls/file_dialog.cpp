@@ -14,11 +14,13 @@ QString QtFilter(const QString& filter)
     return parts.size() == 2 ? parts[0].section('(', 0, 0) + " (" + parts[1] + ")" : filter;
 }
 
+/// Whether a file may be replaced is the caller's to tell: nobody is asked about what is then refused.
 QString Choose(const FileChoice& choice)
 {
     const QString start = NativePath(choice.Folder) + "/" + choice.FileName;
     QWidget* parent = QApplication::activeWindow();
-    return choice.Saving ? QFileDialog::getSaveFileName(parent, choice.Title, start, QtFilter(choice.Filter))
+    return choice.Saving ? QFileDialog::getSaveFileName(parent, choice.Title, start, QtFilter(choice.Filter), nullptr,
+                                                        QFileDialog::DontConfirmOverwrite)
                          : QFileDialog::getOpenFileName(parent, choice.Title, start, QtFilter(choice.Filter));
 }
 } // namespace
