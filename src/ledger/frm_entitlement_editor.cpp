@@ -15,6 +15,7 @@ namespace
 constexpr int kHourDigits = 4;
 constexpr int kMinuteDigits = 2;
 constexpr int kMostMinutes = 59;
+constexpr int kFlagIndent = 30;
 
 QString SignText(bool owedToEmployee)
 {
@@ -153,7 +154,9 @@ void EntitlementEditor::Place()
     setGeometry(row);
     for (int col = 0; col < kEntitlementColumns; ++col)
         controls_[static_cast<std::size_t>(col)]->setGeometry(
-            grid_->CellRect(row_, col).translated(-row.topLeft()).adjusted(0, 0, -1, -1));
+            grid_->CellRect(row_, col)
+                .translated(-row.topLeft())
+                .adjusted(col == kCarryOverColumn ? kFlagIndent : 0, 0, -1, -1));
 }
 
 void EntitlementEditor::Show()

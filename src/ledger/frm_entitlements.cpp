@@ -10,13 +10,13 @@
 
 namespace
 {
-constexpr QSize kSize(900, 640);
+constexpr QSize kSize(960, 640);
 constexpr int kRed = 255;
 constexpr int kRowHeight = 30;
 constexpr int kEntriesShown = 20;
 constexpr int kNameLength = 48;
 constexpr int kGap = 10;
-constexpr int kWidths[kEntitlementColumns] = {0, 80, 80, 56, 80, 80, 110, 120};
+constexpr int kWidths[kEntitlementColumns] = {0, 92, 92, 66, 100, 100, 110, 120};
 constexpr Text kTitle = {"Employee entitlements", "Temps alloué annuellement aux employé(e)s"};
 
 QString ListedEmployee(const QModelIndex& entry)
@@ -44,7 +44,7 @@ frmEntitlements::frmEntitlements(QWidget* parent) : FormBase("frmEntitlements", 
 
 void frmEntitlements::BuildList()
 {
-    cboRecords = Named<QComboBox>("cboRecords");
+    cboRecords = Named<WalkedList>("cboRecords");
     cboRecords->setMaxVisibleItems(kEntriesShown);
     cboRecords->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cboRecords->setMinimumContentsLength(kNameLength);
