@@ -5,6 +5,7 @@
 #include "foundation/connection.h"
 #include "foundation/fault.h"
 #include "foundation/texts.h"
+#include "ledger/allowances.h"
 
 #include <QMap>
 
@@ -42,11 +43,11 @@ Fault FaultIn(const AttendanceEntry& entry)
 void ReadTimeUsed(DataControl& datAbsence, AttendanceEntry& entry)
 {
     const Connection connection(datAbsence);
-    for (const Recordset& sums : datAbsence.Select(
-             "SELECT Submitted, SUM(TotalDuration) AS Used FROM Attendance WHERE CategoryID = ? AND EmployeeID = ? AND "
-             "CancelledDate = 0 AND Submitted IN (0, 1) GROUP BY Submitted",
-             entry.SelectedCategoryID, entry.EmployeeID))
-        sums.Take("Used", sums.Long("Submitted") == 1 ? entry.TimePending : entry.TimeUsed);
+    const auto sum = [&](LiveRecords records) {
+        return TimeInCategory(datAbsence, entry.EmployeeID, entry.SelectedCategoryID, records);
+    };
+    entry.TimeUsed = sum(LiveRecords::Approved);
+    entry.TimePending = sum(LiveRecords::Pending);
 }
 
 QString WithFigures(const Text& text, const AttendanceEntry& entry)
@@ -132,10 +133,10 @@ constexpr Text kOfferToClaimSeveral = {
     "({required})!\r\n\r\nSouhaitez-vous convertir ces absences en «{TimeClaimedName}» plutôt que "
     "{category}?"};
 
-/// The name stays empty on the form, as nothing fills TimeClaimedName; that is required.
+/// The name stays empty on the form and on the calendar, as nothing fills TimeClaimedName; that is required.
 void ClaimInstead(AttendanceEntry& entry)
 {
-    entry.SelectedCategoryID = entry.TimeClaimedCategoryID;
+    entry.SelectedCategoryID = SessionState.SelectedCategoryID = entry.TimeClaimedCategoryID;
     entry.CategoryName = SessionState.TimeClaimedName;
     SessionState.ReloadCalendar = true;
 }

@@ -8,6 +8,7 @@
 #include "foundation/session_rows.h"
 #include "foundation/session_state.h"
 #include "foundation/values.h"
+#include "ledger/allowances.h"
 #include "ledger/time_banks.h"
 #include "platform/clock.h"
 
@@ -133,12 +134,30 @@ void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry)
     if (entry.EmployeeID == 0)
         return;
     if (entry.RequiresMonitoring == 1)
-        entry.Entitlement = datAbsence.Scalar<float>(
-            "SELECT COALESCE(CarriedOver, 0) + COALESCE(AnnualEntitlement, 0) FROM Entitlements WHERE CategoryID = ? "
-            "AND EmployeeID = ?",
-            entry.SelectedCategoryID, entry.EmployeeID);
+        entry.Entitlement = AllowanceOf(datAbsence, entry.EmployeeID, entry.SelectedCategoryID).Limit();
     else if (entry.TimeBankRelated == 1)
         entry.TimeBanked = TimeBankOf(datAbsence, entry);
+}
+
+BalanceLines ExplainBalance(DataControl& datAbsence, const AttendanceEntry& entry)
+{
+    if (entry.EmployeeID == 0)
+        return {};
+    if (entry.RequiresMonitoring == 1)
+        return ExplainEntitlement(datAbsence, entry.EmployeeID, entry.SelectedCategoryID);
+    return entry.TimeBankRelated == 1 ? ExplainTimeBank(datAbsence, entry) : BalanceLines();
+}
+
+QString BalanceText(const AttendanceEntry& entry)
+{
+    if (entry.EmployeeID == 0)
+        return {};
+    if (entry.RequiresMonitoring == 1)
+        return T({"Annual entitlement: {hours}", "Temps alloué annuellement: {hours}"},
+                 {{"hours", DurationText(entry.Entitlement)}});
+    return entry.TimeBankRelated == 1
+               ? T({"Time bank: {hours}", "Banque de temps: {hours}"}, {{"hours", DurationText(entry.TimeBanked)}})
+               : QString();
 }
 
 bool LacksEntitlement(const AttendanceEntry& entry)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "attendance/attendance_entry.h"
+#include "foundation/explained_balance.h"
 #include "foundation/list_entry.h"
 #include "platform/dao/dao.h"
 
@@ -19,6 +20,10 @@ void LoadEmployeeInfo(DataControl& datAbsence, AttendanceEntry& entry);
 
 /// What the selected category says, with the employee's entitlement or bank balance where it matters.
 void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry);
+/// The limit or the bank that the entry draws on, as it was when the category was chosen; empty where there is neither.
+QString BalanceText(const AttendanceEntry& entry);
+/// How much of it is left now, and how that comes about.
+BalanceLines ExplainBalance(DataControl& datAbsence, const AttendanceEntry& entry);
 /// The category is limited by an entitlement, and the employee has none.
 bool LacksEntitlement(const AttendanceEntry& entry);
 

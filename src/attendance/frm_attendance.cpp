@@ -3,6 +3,7 @@
 #include "attendance/attendance_messages.h"
 #include "attendance/attendance_records.h"
 #include "attendance/frm_attendance_pages.h"
+#include "foundation/frm_explained.h"
 #include "foundation/values.h"
 
 #include <QTabWidget>
@@ -58,6 +59,7 @@ void frmAttendance::ConnectControls()
     for (const auto& [box, part] : parts)
         connect(box, &QCheckBox::toggled, this, [this, part = part](bool checked) { DayPart_Click(part, checked); });
     ConnectTimesAndDurations();
+    ExplainFigure(general_->lblBalance, [this] { return ExplainBalance(datAbsence, entry_); });
     connect(additional_->txtHourlyRate, &QLineEdit::editingFinished, this, &frmAttendance::txtHourlyRate_LostFocus);
     connect(additional_->txtComment, &QPlainTextEdit::textChanged, this, &frmAttendance::LimitComment);
 }
@@ -170,6 +172,7 @@ void frmAttendance::ShowEntry()
     const LoadingGuard loading(Loading);
     ShowParts();
     general_->lblEmployeeName->setText(entry_.EmployeeName);
+    general_->lblBalance->setText(BalanceText(entry_));
     ShowClockTime(general_->cboStartTime, entry_.StartTimeText);
     ShowClockTime(general_->cboEndTime, entry_.EndTimeText);
     general_->txtDurationInHours->setText(entry_.HoursText);

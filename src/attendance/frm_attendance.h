@@ -56,6 +56,7 @@ private:
 
     void cmdAddOrUpdate_Click();
     bool PassesGuards();
+    void TakeUpCategory();
     bool FindApprovers();
     bool Dispatch();
     bool NewAttendance();

@@ -22,11 +22,23 @@ void frmAttendance::cmdAddOrUpdate_Click()
         SessionState.ReloadCalendar = true; // the records written before the failure stay
     sstAttendance->setEnabled(true);
     SetButtonsEnabled(true);
-    if (!updated)
+    if (!updated) {
+        TakeUpCategory();
         return FocusFieldInError();
+    }
     entry_.CurrentSelection = entry_.EmployeeName;
     SessionState.ReloadCalendar = true;
     accept();
+}
+
+/// A click that ends with nothing written may have turned borrowed time into claimed time: what the category says is
+/// read anew, and its name stays empty.
+void frmAttendance::TakeUpCategory()
+{
+    if (entry_.SelectedCategoryID == 0 || entry_.SelectedCategoryID == general_->cboCategories->currentData().toInt())
+        return;
+    Attempt([this] { ReadCategory(datAbsence, entry_); });
+    ShowEntry();
 }
 
 /// Some guards change what the form shows: the comment, the category.

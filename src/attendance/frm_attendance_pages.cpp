@@ -34,7 +34,6 @@ QComboBox* MakeList(const QString& name)
 
 AttendanceGeneralPage::AttendanceGeneralPage()
 {
-    cboCategories = MakeList("cboCategories");
     chkWholeDay = MakeButton<QCheckBox>("chkWholeDay", {"&Whole day", "&Toute la journée"});
     chkFirstHalf = MakeButton<QCheckBox>("chkFirstHalf", {"&First half of the day", "&Première moitié de la journée"});
     chkSecondHalf =
@@ -43,7 +42,7 @@ AttendanceGeneralPage::AttendanceGeneralPage()
     parts->setSpacing(2 * kGap);
     auto* page = TabLayout(this);
     page->addLayout(PeopleAndDates(), 1);
-    page->addLayout(Headed({"Why?", "Pourquoi?"}, cboCategories));
+    page->addLayout(Category());
     page->addLayout(parts);
     page->addLayout(TimesAndDurations());
 }
@@ -66,6 +65,16 @@ QGridLayout* AttendanceGeneralPage::PeopleAndDates()
     grid->addWidget(lblEmployeeName, 0, 0, Qt::AlignTop | Qt::AlignRight);
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 2);
+    return grid;
+}
+
+QGridLayout* AttendanceGeneralPage::Category()
+{
+    cboCategories = MakeList("cboCategories");
+    lblBalance = AsCaption(MakeLabel("lblBalance"));
+    auto* grid = new QGridLayout;
+    grid->addLayout(Headed({"Why?", "Pourquoi?"}, cboCategories), 0, 0);
+    grid->addWidget(lblBalance, 0, 0, Qt::AlignTop | Qt::AlignRight);
     return grid;
 }
 

@@ -20,6 +20,7 @@ public:
     QListWidget* lstWho;
     QPlainTextEdit* txtWhen;
     QComboBox* cboCategories;
+    QLabel* lblBalance; ///< what the category draws on
     QCheckBox* chkWholeDay;
     QCheckBox* chkFirstHalf;
     QCheckBox* chkSecondHalf;
@@ -32,6 +33,7 @@ public:
 
 private:
     QGridLayout* PeopleAndDates();
+    QGridLayout* Category();
     QGridLayout* TimesAndDurations();
 };
 

@@ -36,7 +36,7 @@ QString ConflictLine(const Recordset& row)
 {
     QString line = CategoryOfRow(row) + "\t";
     if (row.Single("StartTime") != 0)
-        line += Fill(T("From: {start}\tTo: {end}\t", "De: {start}\tÀ: {end}\t"),
+        line += Fill(T("From:{start}\tTo:{end}\t", "De:{start}\tÀ:{end}\t"),
                      {{"start", DurationText(row.Single("StartTime"))}, {"end", DurationText(row.Single("EndTime"))}});
     line += T("Duration: ", "Durée: ") + DurationText(row.Single("Duration"));
     if (row.Long("Submitted") == 1)

@@ -1,14 +1,18 @@
 #include "calendar/calendar_records.h"
 
 #include "attendance/record_lines.h"
+#include "foundation/category_row.h"
 #include "foundation/common_services.h"
+#include "foundation/connection.h"
 #include "foundation/names.h"
 #include "foundation/texts.h"
+#include "ledger/allowances.h"
 
 namespace
 {
 /// What follows "WHERE ..." in every calendar query: the employee, or else the unit shown; the chosen category; hidden
-/// categories; live records only; effective or pending ones. Its two values go in the place of its question marks.
+/// categories; live records only, and of these the ones asked for. Its two values go in the place of its question
+/// marks.
 struct ScopeFilter
 {
     QString Sql;
@@ -16,7 +20,12 @@ struct ScopeFilter
     int Category = 0; ///< 0 all
 };
 
-ScopeFilter CalendarScope()
+LiveRecords RecordsShown()
+{
+    return SessionState.ShowApproved ? LiveRecords::Approved : LiveRecords::Pending;
+}
+
+ScopeFilter CalendarScope(LiveRecords records = RecordsShown())
 {
     const auto [column, id] = SessionState.Narrowest();
     ScopeFilter filter{{}, id, SessionState.SelectedCategoryID};
@@ -24,23 +33,44 @@ ScopeFilter CalendarScope()
     filter.Sql += filter.Category > 0 ? " AND Attendance.CategoryID = ?2" : " AND ?2 = 0";
     if (SessionState.AccessToRestrictedCategory == 0)
         filter.Sql += " AND Categories.Restricted = 0";
-    filter.Sql += " AND Attendance.CancelledDate = 0";
-    filter.Sql += SessionState.ShowApproved ? " AND Attendance.Submitted = 0" : " AND Attendance.Submitted = 1";
+    filter.Sql += " AND Attendance.CancelledDate = 0" + ConditionOf(records);
     return filter;
 }
 
 const char* kTimesOfRecord =
     "SELECT Attendance.StartTime, Attendance.EndTime, Attendance.Duration, Attendance.TimeMultiplicator, "
     "Attendance.TotalDuration, Attendance.Submitted, Categories.CategoryFrenchName, Categories.CategoryEnglishName";
-} // namespace
 
-float TotalForTheYear(DataControl& datAbsence)
+float TotalOf(DataControl& datAbsence, LiveRecords records)
 {
-    const ScopeFilter filter = CalendarScope();
+    const ScopeFilter filter = CalendarScope(records);
     return datAbsence.Scalar<float>("SELECT SUM(Attendance.TotalDuration) FROM Attendance, Categories WHERE "
                                     "Attendance.CategoryID = Categories.RecordID AND Attendance.FiscalYear = ?3" +
                                         filter.Sql,
                                     filter.Scope, filter.Category, SessionState.FiscalYearID);
+}
+
+bool IsLimited(DataControl& datAbsence, int categoryID)
+{
+    const auto category = Find<CategoryRow>(datAbsence, categoryID);
+    return category && category->RequiresMonitoring == 1;
+}
+} // namespace
+
+float TotalForTheYear(DataControl& datAbsence)
+{
+    return TotalOf(datAbsence, RecordsShown());
+}
+
+BalanceLines ExplainTotal(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    const int employee = SessionState.EmployeeID, category = SessionState.SelectedCategoryID;
+    if (employee != 0 && category != 0 && IsLimited(datAbsence, category))
+        return ExplainEntitlement(datAbsence, employee, category);
+    return {{kTakenToDate, TotalOf(datAbsence, LiveRecords::TakenToDate)},
+            {kBookedAhead, TotalOf(datAbsence, LiveRecords::BookedAhead)},
+            {kPending, TotalOf(datAbsence, LiveRecords::Pending)}};
 }
 
 QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence)

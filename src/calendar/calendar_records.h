@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/explained_balance.h"
 #include "platform/dao/dao.h"
 
 #include <QString>
@@ -18,6 +19,9 @@ struct CalendarRecord
 
 /// Total of the year within the scope, decimal hours; 0 for none.
 float TotalForTheYear(DataControl& datAbsence);
+/// How it comes about: for one employee in a limited category what is left to him, otherwise what has been taken, is
+/// booked ahead, and waits for approval.
+BalanceLines ExplainTotal(DataControl& datAbsence);
 /// The year's records within the scope in order of date, one per date and category.
 QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence);
 

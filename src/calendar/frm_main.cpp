@@ -111,7 +111,12 @@ void frmMain::BuildControls()
 void frmMain::ConnectControls()
 {
     toolBar_->Chosen = header_->YearChosen = [this](const Command& command) { Run(command); };
-    header_->CategoryChosen = [this](int category) { SelectCategory(category); };
+    header_->CategoryChosen = [this](int category) {
+        SelectCategory(category);
+        DoesUserKnowAboutTimeBank();
+    };
+    header_->Explain([this] { return ExplainTotal(datAbsence); },
+                     [this] { return ExplainTimeBank(datAbsence, SessionState); });
     legend_->CategoryClicked = [this](int category) { SelectCategory(category); };
     pane_->DateClicked = [this](int date) { tools_.DateClicked(date); };
     connect(timAbsence, &QTimer::timeout, this, &frmMain::timAbsence_Timer);
@@ -197,6 +202,19 @@ void frmMain::SelectCategory(int categoryID)
         SessionState.SelectedCategoryID = categoryID;
         ReloadCalendar();
     });
+}
+
+/// Only those who may enter records need to know.
+void frmMain::DoesUserKnowAboutTimeBank()
+{
+    if (SessionState.SelectedCategoryID == 0 || !(toolBar_->Shows("imgCreateSingle") || toolBar_->Shows("imgSubmit")))
+        return;
+    const LoadingGuard busy(Busy);
+    try {
+        ::DoesUserKnowAboutTimeBank(datAbsence, SessionState.SelectedCategoryID, header_->CategoryName());
+    } catch (const RuntimeError& error) {
+        TellError(error);
+    }
 }
 
 /// The legend also offers categories that the employee's department does not use.

@@ -77,6 +77,7 @@ private:
     void ReloadSelection(Category category);
     void LoadLists(Category category);
     void SelectCategory(int categoryID);
+    void DoesUserKnowAboutTimeBank();
     void ShowCategory();
     void ActivateAllowedControls();
     void DeactivateAllControls(const QString& usableTool = {});

@@ -102,7 +102,11 @@ void frmMain::RefreshDate(int date)
 /// The calendar keeps what it shows, and follows to another employee only when records were written for him.
 void frmMain::ShowAttendance(const AttendanceJob& job)
 {
-    if (const auto written = EnterAttendance(job, this)) {
+    const int category = SessionState.SelectedCategoryID;
+    const auto written = EnterAttendance(job, this);
+    if (SessionState.SelectedCategoryID != category)
+        header_->BlankCategory(); // borrowed time became claimed time, whose name nothing knows, as required
+    if (written) {
         const bool another = written->EmployeeID != SessionState.EmployeeID;
         static_cast<CalendarSelection&>(SessionState) = *written;
         if (another)

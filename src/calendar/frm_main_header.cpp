@@ -1,6 +1,7 @@
 #include "calendar/frm_main_header.h"
 
 #include "foundation/frm_captions.h"
+#include "foundation/frm_explained.h"
 
 namespace
 {
@@ -84,6 +85,23 @@ void MainHeader::SelectCategory(int categoryID, const QString& name)
     cboCategories->setCurrentIndex(cboCategories->findData(categoryID));
 }
 
+void MainHeader::BlankCategory()
+{
+    const LoadingGuard guard(Loading);
+    cboCategories->setCurrentIndex(-1);
+}
+
+QString MainHeader::CategoryName() const
+{
+    return cboCategories->currentText();
+}
+
+void MainHeader::Explain(const std::function<BalanceLines()>& total, const std::function<BalanceLines()>& timeBank)
+{
+    ExplainFigure(lblTotalForTheYear_DISPLAY, total);
+    ExplainFigure(txtTimeBanked, timeBank);
+}
+
 void MainHeader::cboCategories_Click()
 {
     if (!Loading)
@@ -104,7 +122,7 @@ void MainHeader::ShowTotal(const QString& total)
 void MainHeader::ShowTimeBank(const QString& balance)
 {
     txtTimeBanked->setText(balance);
-    fraTimeBank->setVisible(!balance.isEmpty() && SessionState.EmployeeID != 0);
+    fraTimeBank->setVisible(!balance.isEmpty());
 }
 
 void MainHeader::ShowTimeOut(const QString& announcement)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calendar/frm_main_command_table.h"
+#include "foundation/explained_balance.h"
 #include "reference/category_list.h"
 
 #include <QWidget>
@@ -25,6 +26,11 @@ public:
     void ShowCategories(const QVector<CategoryItem>& categories);
     /// A category that is not in the list joins it under its name.
     void SelectCategory(int categoryID, const QString& name);
+    /// The list shows a category without a name.
+    void BlankCategory();
+    QString CategoryName() const;
+    /// How the total and the balance of the bank come about; asked only when somebody wants to know.
+    void Explain(const std::function<BalanceLines()>& total, const std::function<BalanceLines()>& timeBank);
     void ShowNames();
     void ShowTotal(const QString& total);
     /// An empty balance hides the time bank.

@@ -76,6 +76,12 @@ void ToolBar::Deactivate(const QString& usableTool)
         SetTool(tool, tool.Of.Name == usableTool);
 }
 
+bool ToolBar::Shows(const char* name) const
+{
+    const auto* image = findChild<QToolButton*>(name);
+    return image && image->isVisibleTo(this);
+}
+
 void ToolBar::SetTool(const Tool& tool, bool enabled)
 {
     const bool shown = tool.Of.Shown.Holds();

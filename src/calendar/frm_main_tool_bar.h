@@ -19,6 +19,8 @@ public:
     void ActivateAllowed();
     /// Disables all tools but one, "" for none.
     void Deactivate(const QString& usableTool);
+    /// The tool can be seen and used.
+    bool Shows(const char* name) const;
 
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;

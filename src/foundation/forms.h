@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <functional>
 
 class DataControl;
@@ -16,6 +18,7 @@ struct Forms
     std::function<void(QWidget* parent)> ShowEmployeesList;
     std::function<void(AttendanceEntry&)> ShowGetApprovedBy;       ///< finds a FirstApprover for a request
     std::function<void(const AttendanceEntry&)> SendRequestNotice; ///< tells the approvers of a written request
+    std::function<void(const QString& page)> ShowTutorial;         ///< a page below the distributor's web site
 };
 
 /// Filled by WireForms and by the start of the program. A form that is not there is not available in this version.

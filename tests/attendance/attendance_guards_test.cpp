@@ -1,5 +1,6 @@
 #include "attendance/attendance_fixture.h"
 #include "attendance/attendance_guards.h"
+#include "foundation/common_services.h"
 
 namespace
 {
@@ -66,6 +67,17 @@ TEST_F(AttendanceGuards, TheEntitlementCountsWhatIsApprovedAndWhatIsAskedFor)
     entry.Kind = AttendanceKind::Submit;
     user.WillAnswer("OPERATION DENIED!", "OK", "Ask your supervisor to process your request for leave.");
     EXPECT_FALSE(IsCovered(11.5F));
+}
+
+TEST_F(AttendanceGuards, LimitsAreComparedInSinglePrecisionAndHoldForAnEntitlementOutOfForce)
+{
+    Entitle(chris, "Sick", 0, 4);
+    house.Sql("UPDATE Entitlements SET Active = 0");
+    Record(chris, "Sick", 3, DecimalHours(3, 40));
+    Begin({2}, chris, "Sick");
+    EXPECT_TRUE(IsCovered(DecimalHours(0, 20)));
+    user.WillAnswer("WARNING:", "No", "New balance:  \t\t-(00:01)");
+    EXPECT_FALSE(IsCovered(DecimalHours(0, 21)));
 }
 
 TEST_F(AttendanceGuards, WhatIsTakenOffTheBankMustBeThereAndWhatIsBorrowedThoughItIsMayBecomeAClaim)

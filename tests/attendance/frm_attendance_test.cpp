@@ -234,7 +234,10 @@ TEST_F(FrmAttendance, AGuardThatRefusesEndsTheEntryAndBorrowedTimeIsStoredAsClai
     user.WillConfirm("instead of Time borrowed?").WillAnswer("CONFIRM:", "No", "Duration: -(05:00)");
     user.Clicks("cmdAddOrUpdate");
     EXPECT_EQ(user.Reads("cboCategories"), "") << "nothing fills the name of the category";
-    user.WillConfirm().WillConfirm().Clicks("cmdAddOrUpdate");
+    EXPECT_EQ(Entered().SystemName + user.Reads("lblBalance"), "Time claimedTime bank: 08:00") << "it is known again";
+    EXPECT_EQ(SessionState.SelectedCategoryID, house.CategoryID("Time claimed"));
+    user.Types("txtDurationInHours", "9").WillAnswer("OPERATION DENIED!", "OK").Clicks("cmdAddOrUpdate");
+    user.Types("txtDurationInHours", "5").WillConfirm().Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Rows("SELECT CategoryID, Duration, TotalDuration FROM Attendance WHERE RecordDate = 46083"),
               QString::number(house.CategoryID("Time claimed")) + "|-5|-5");
 }

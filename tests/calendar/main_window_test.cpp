@@ -53,7 +53,7 @@ TEST_F(MainWindow, AUnitShowsTheHoursOfAllItsPeopleAndHiddenCategoriesStayHidden
     Opens("LROY");
     EXPECT_EQ(Figures(), "2026|(All categories)|Luc Roy|00:00|00:00");
     Selects("lstDepartments", "Production");
-    EXPECT_EQ(Figures(), "2026|(All categories)|Production|09:00|no bank");
+    EXPECT_EQ(Figures(), "2026|(All categories)|Production|09:00|00:00");
     EXPECT_EQ(Days({{3, 2}, {3, 3}}), "2 c0c000, 3 ffffff");
     EXPECT_EQ(user.ReadsAll({"lblLegend(0)", "lblLegend(1)"}), "V  Vacation|P  Personal time");
     EXPECT_FALSE(Visible("lblLegend(2)"));
@@ -126,7 +126,7 @@ TEST_F(MainWindow, OneDateIsAskedAboutAndAnotherEmployeeIsFollowedOnlyWhenRecord
     user.WillAnswer("WARNING:", "No", "According to your database, Marie Bouchard doesn't work on Saturdays!");
     ClicksDay(12, 5);
     user.WillAnswer("WARNING:", "No",
-                    "\r\n\r\nSick\tFrom: 00:00\tTo: 03:00\tDuration: 03:00  (TO BE APPROVED)\r\n\r\nProceed");
+                    "\r\n\r\nSick\tFrom:00:00\tTo:03:00\tDuration: 03:00  (TO BE APPROVED)\r\n\r\nProceed");
     ClicksDay(12, 7);
     user.WillAnswer("WARNING:", "Yes").WhenOpens<frmAttendance>([this](frmAttendance& form) {
         EXPECT_EQ(user.Reads("txtWhen"), "Mon   07-Dec-2026");

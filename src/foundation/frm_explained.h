@@ -1,0 +1,11 @@
+#pragma once
+
+#include "foundation/explained_balance.h"
+
+#include <functional>
+
+class QLabel;
+
+/// Tells how a figure comes about in a tip over it, and at a click on it. `explain` is asked only then; without lines
+/// there is no tip. A figure that cannot be read just now is not explained either.
+void ExplainFigure(QLabel* figure, const std::function<BalanceLines()>& explain);
