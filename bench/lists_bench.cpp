@@ -1,4 +1,5 @@
 #include "attendance/frm_attendance.h"
+#include "ledger/frm_entitlements.h"
 #include "opening.h"
 #include "platform/clock.h"
 #include "selection/frm_select_employee.h"
@@ -15,4 +16,5 @@ void RegisterLists(BigCompany& company)
 {
     Register<Opening<frmSelectEmployee>>("Opening frmSelectEmployee", company, Floor::Statements, {0, 40});
     Register<Opening<frmAttendance, OneDate>>("Opening frmAttendance", company, Floor::Statements, {0, 40});
+    Register<Opening<frmEntitlements>>("Opening frmEntitlements", company, Floor::Statements, {0, 40});
 }

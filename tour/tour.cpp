@@ -59,8 +59,12 @@ void Tour::Walk()
     FallSick();
     AccumulateTime();
     ModifyRecord();
+    AdjustEntitlement();
+    WarnOfExceededEntitlement();
+    BorrowTime();
     VisitSmallForms();
     RequestLeave();
+    RequestTooMuch();
     Confirm();
 }
 
@@ -316,6 +320,12 @@ void Tour::Confirm()
          "= "
          "C.RecordID AND SystemName = 'Time accumulated'",
          "2.5|3.75|25.0"},
+        {"SELECT SUM(TotalDuration) FROM Attendance A, Categories C WHERE A.CategoryID = C.RecordID AND "
+         "TimeBankRelated = 1",
+         "-3.25"},
+        {"SELECT COUNT(*) || '|' || SUM(E.CarriedOver) || '|' || SUM(M.CarriedOver) FROM Entitlements E, "
+         "Entitlements_Modifications M WHERE E.RecordID = M.RecordID",
+         "1|3.5|0.0"},
         {"SELECT COUNT(*) || '|' || SUM(RequestStatus) FROM Attendance WHERE Submitted = 1", "2|0"},
         {"SELECT COUNT(*) || '|' || Duration FROM Attendance_Modifications", "1|3.5"},
         {"SELECT COUNT(*) FROM Attendance WHERE UnitCost <> 2450", "0"},

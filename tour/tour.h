@@ -51,7 +51,11 @@ private:
     void FallSick();
     void AccumulateTime();
     void ModifyRecord();
+    void AdjustEntitlement();
+    void WarnOfExceededEntitlement();
+    void BorrowTime();
     void RequestLeave();
+    void RequestTooMuch();
     void VisitSmallForms();
     void Confirm();
 
