@@ -67,15 +67,20 @@ TEST_F(OnAShare, EveryClickCostsFewCalls)
     });
     user.Leaves().Works(*main);
     change("Abel");
-    user.WhenOpens<frmAttendance>([&](frmAttendance&) {
-        user.Types("txtDurationInHours", "2").Picks("cboCategories", "Vacation").WillConfirm();
-        calls.StartCounting();
-        user.Clicks("cmdAddOrUpdate");
-    });
-    user.Clicks("imgCreateSingle");
-    user.ClicksDay({2026, 3, 4});
-    EXPECT_LE(calls.All(), 115);
-    EXPECT_LE(calls.Of(FileCall::Sync), 4);
+    user.Picks("cboCategories", "Vacation");
+    for (const QString tool : {"imgCreateSingle", "imgModify"}) {
+        user.WhenOpens<frmAttendance>([&](frmAttendance&) {
+            user.Types("txtDurationInHours", "2").Picks("cboCategories", "Vacation").WillConfirm();
+            if (tool == "imgModify")
+                user.WillBeDone("has been modified");
+            calls.StartCounting();
+            user.Clicks("cmdAddOrUpdate");
+        });
+        user.Clicks(tool);
+        user.ClicksDay({2026, 3, 4});
+        EXPECT_LE(calls.All(), 115) << qPrintable(tool);
+        EXPECT_LE(calls.Of(FileCall::Sync), 4) << qPrintable(tool);
+    }
 
     QFile::remove(house.DatabaseFile());
     main->timAbsence_Timer(); // whoever does nothing is told nothing when the share is away for a moment

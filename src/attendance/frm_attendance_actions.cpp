@@ -18,8 +18,10 @@ void frmAttendance::cmdAddOrUpdate_Click()
     RecalculateTotalTime(entry_);
     SetButtonsEnabled(false);
     bool updated = false;
-    if (!Attempt([&] { updated = PassesGuards() && FindApprovers() && Dispatch(); }))
+    if (!Attempt([&] { updated = PassesGuards() && FindApprovers() && Dispatch(); })) {
         SessionState.ReloadCalendar = true; // the records written before the failure stay
+        entry_.ConflictsAccepted = false;   // another press finds them
+    }
     sstAttendance->setEnabled(true);
     SetButtonsEnabled(true);
     if (!updated) {

@@ -24,7 +24,7 @@ struct EmployeeRecord : EmployeeRow
     EmployeeRecord() { SelfLevelRead = 1; }
     explicit EmployeeRecord(const EmployeeRow& row) : EmployeeRow(row), Loaded(row) {}
 
-    EmployeeRow Loaded; ///< as the row was read: what is still so when the record is saved is left as others have it
+    EmployeeRow Loaded; ///< as the form first showed it: what is still so when it is saved is left as others have it
 
     QString HourlyRateText; ///< the point as decimal sign; HourlyRate stays that of the row
     QString NewPassword;    ///< empty keeps the one of the row

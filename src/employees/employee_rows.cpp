@@ -36,24 +36,31 @@ constexpr int EmployeeRow::*kKept[] = {
     &EmployeeRow::FiscalYear, &EmployeeRow::OrganizationID, &EmployeeRow::DepartmentID, &EmployeeRow::GroupID,
     &EmployeeRow::ReportTo,   &EmployeeRow::Gender,         &EmployeeRow::Language};
 
-/// The row as the employee file writes it.
-EmployeeRow WrittenRow(const EmployeeRecord& record)
+/// The row as the form has it.
+EmployeeRow TypedRow(const EmployeeRecord& record)
 {
     EmployeeRow row = record;
     row.DateOfBirth = record.Birth.IsFilled() ? record.DateOfBirth : 0;
     row.DateOfHire = record.Hire.IsFilled() ? record.DateOfHire : 0;
-    row.DateEntered = Today();
-    row.EnteredBy = UserStamp();
-    row.DeactivatedBy = row.ReasonForDeactivation = " ";
-    row.EmployeeType = 0;
     row.HourlyRate = Val(record.HourlyRateText);
-    row.PreviousID = 0; // cuts the link to the year before, also on a modification; that is kept
-    row.IsAllowedToCarryOverVacation = row.IsAllowedToCarryOverTimeBanked = 0;
     row.Username = record.LoginID.left(kUsernameWidth);
     if (!record.NewPassword.isEmpty())
         row.Password = record.NewPassword;
     for (const RightColumn& right : kRights)
         row.*right.Member = row.*right.Member == 1 ? 1 : 0;
+    return row;
+}
+
+/// The row as the employee file writes it.
+EmployeeRow WrittenRow(const EmployeeRecord& record)
+{
+    EmployeeRow row = TypedRow(record);
+    row.DateEntered = Today();
+    row.EnteredBy = UserStamp();
+    row.DeactivatedBy = row.ReasonForDeactivation = " ";
+    row.EmployeeType = 0;
+    row.PreviousID = 0; // cuts the link to the year before, also on a modification; that is kept
+    row.IsAllowedToCarryOverVacation = row.IsAllowedToCarryOverTimeBanked = 0;
     row.SelfLevelRead = 1;
     row.AccessToOrganizationsModule = 0; // has no box
     return row;
@@ -85,6 +92,8 @@ bool LoadEmployeeRecord_ACCESS(DataControl& datAbsence, EmployeeRecord& record)
     CompleteLoadedRights(record);
     TakeSchedule(*row, record);
     ShowDayLengths(record);
+    record.Loaded = TypedRow(record);
+    record.Loaded.SelfLevelRead = row->SelfLevelRead; // saving gives it to whoever has not got it
     return true;
 }
 
@@ -120,6 +129,15 @@ QStringList AddEmployee(DataControl& datAbsence, const EmployeeRecord& record)
     return reminders;
 }
 
+namespace
+{
+/// By somebody else, while he stood in the form.
+bool WasDeactivated(DataControl& datAbsence, const EmployeeRecord& record)
+{
+    return datAbsence.Scalar<int>("SELECT DeactivatedDate FROM Employees WHERE RecordID = ?", record.RecordID) > 0;
+}
+} // namespace
+
 void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record)
 {
     InOpenYear(datAbsence, [&] {
@@ -128,6 +146,10 @@ void ModifyEmployee(DataControl& datAbsence, const EmployeeRecord& record)
             row.*kept = record.Loaded.*kept;
         row.Title = record.Loaded.Title;
         row.LoggedIn = record.Loaded.LoggedIn;
+        if (WasDeactivated(datAbsence, record)) {
+            row.DeactivatedBy = record.Loaded.DeactivatedBy;
+            row.ReasonForDeactivation = record.Loaded.ReasonForDeactivation;
+        }
         Change(datAbsence, record.Loaded, row);
         EmployeesListToBeReloaded(datAbsence);
     });

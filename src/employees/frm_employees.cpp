@@ -385,7 +385,8 @@ void frmEmployees::Write(EditingMode mode, const EmployeeRecord& record)
         ApplyNewRate(record);
 }
 
-/// Attendance that is entered already keeps its costs unless the user says from which day the new rate counts.
+/// Attendance that is entered already keeps its costs unless the user says from which day the new rate counts. The
+/// employee is saved by then: a failure here is told for itself.
 void frmEmployees::ApplyNewRate(const EmployeeRecord& record)
 {
     if (!AskForRetroactiveRate(record))
@@ -393,7 +394,7 @@ void frmEmployees::ApplyNewRate(const EmployeeRecord& record)
     frmSelectPeriod form(PeriodMode::SingleDate, this);
     ShowModal(form);
     if (form.PeriodStart() != 0)
-        UpdateHourlyRate(datAbsence, record, form.PeriodStart());
+        Attempt([&] { UpdateHourlyRate(datAbsence, record, form.PeriodStart()); });
 }
 
 void frmEmployees::TellDone(EditingMode mode, const EmployeeRecord& record)

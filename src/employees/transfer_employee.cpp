@@ -103,12 +103,14 @@ bool ConfirmTransfer(const EmployeeTransfer& transfer, const QString& fromLines,
 void TransferEmployee(DataControl& datAbsence, const EmployeeTransfer& transfer)
 {
     InOpenYear(datAbsence, [&] {
+        TransferPlace from = transfer.From;
+        TakePlaceOfEmployee(datAbsence, transfer.RecordID, from); // another user may have moved him meanwhile
         Change<EmployeeRow>(datAbsence, transfer.RecordID,
                             {{&EmployeeRow::OrganizationID, transfer.To.OrganizationID},
                              {&EmployeeRow::DepartmentID, transfer.To.DepartmentID},
                              {&EmployeeRow::GroupID, transfer.To.GroupID}});
         UpdateAttendance(datAbsence, transfer);
-        if (transfer.From.DepartmentID != transfer.To.DepartmentID)
+        if (from.DepartmentID != transfer.To.DepartmentID)
             UpdateEntitlements(datAbsence, transfer.RecordID);
         EmployeesListToBeReloaded(datAbsence);
     });

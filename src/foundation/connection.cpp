@@ -57,8 +57,14 @@ void TryToConnect(DataControl& datAbsence)
         OpenFile();
         connections = 0;
     }
-    LogConnection(datAbsence.FormName, true);
     ++connections;
+    try {
+        LogConnection(datAbsence.FormName, true);
+    } catch (const RuntimeError&) {
+        --connections;
+        DefaultWorkspace().PauseReading(); // without its line in the log there is no connection, nor a lock
+        throw;
+    }
 }
 
 void ConnectToDatabase(DataControl& datAbsence)

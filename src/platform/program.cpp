@@ -1,5 +1,7 @@
 #include "platform/program.h"
 
+#include "platform/dao/dao.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -111,6 +113,7 @@ void SetEndHandler(std::function<void()> handler)
 
 QString ChooseFile(const FileChoice& choice)
 {
+    DefaultWorkspace().PauseReading(); // nobody else waits while a person looks for a file
     return FileChooser() ? FileChooser()(choice) : QString();
 }
 

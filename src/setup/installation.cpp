@@ -52,7 +52,11 @@ void InstallDatabase(DataControl& datAbsence, const SetUpChoices& choices)
         FillDatabase(datAbsence, choices);
     } catch (const RuntimeError&) {
         // A configured workstation without a fiscal year could never start, nor run the wizard again.
-        RemoveConfiguration();
+        try {
+            RemoveConfiguration();
+        } catch (const RuntimeError&) {
+            // The first failure is the one to tell.
+        }
         throw;
     }
 }

@@ -26,6 +26,7 @@ constexpr int DuplicateKey = 3022;
 constexpr int FileNotFound = 3024;
 constexpr int ReadOnly = 3027;
 constexpr int WrongPassword = 3031;
+constexpr int OutOfMemory = 3035;
 constexpr int DiskError = 3043;
 constexpr int Damaged = 3049;
 constexpr int CannotOpen = 3051;  ///< no permission to the file or its folder

@@ -44,6 +44,7 @@ Failure FailureOf(int code, const QString& words, FileAccess access)
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
+    case SQLITE_PROTOCOL:
         if (AreLocksRefused())
             return {EngineError::LockRefused, "The folder of the database cannot lock files"};
         return {EngineError::Locked, "The database is locked by another user"};
@@ -63,6 +64,8 @@ Failure FailureOf(int code, const QString& words, FileAccess access)
         return {EngineError::CannotOpen, "There is no permission to open the file or to write in its folder"};
     case SQLITE_CONSTRAINT:
         return {EngineError::DuplicateKey, "The values would break a rule of the table"};
+    case SQLITE_NOMEM:
+        return {EngineError::OutOfMemory, "There is not enough memory"};
     default:
         return FailureOfStatement(words);
     }

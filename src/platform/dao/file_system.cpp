@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
+#include <cstring>
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -29,7 +30,7 @@ int NotingControl(int file, int command, ...)
     va_start(arguments, command);
     void* argument = va_arg(arguments, void*);
     va_end(arguments);
-    if (command != F_SETLK)
+    if (command != F_SETLK || static_cast<const struct flock*>(argument)->l_type == F_UNLCK)
         return AskSystem(file, command, argument);
     const int result = lockCall(file, command, argument);
     locksRefused = result != 0 && errno == ENOLCK;
@@ -39,13 +40,17 @@ int NotingControl(int file, int command, ...)
 
 void RequireFile(const QString& file)
 {
-    struct stat found;
+    struct stat found = {};
     const QByteArray path = file.toLocal8Bit();
+    const int failure = stat(path.constData(), &found) == 0 ? 0 : errno;
     const bool tooLong = path.size() > sqlite3_vfs_find(nullptr)->mxPathname - static_cast<int>(sizeof "-journal");
-    if (tooLong || (stat(path.constData(), &found) != 0 && errno == ENAMETOOLONG))
+    if (tooLong || failure == ENAMETOOLONG)
         throw RuntimeError(EngineError::CannotOpen, "The path of the file is longer than the system allows: " + file);
-    if (!QFileInfo(file).isFile())
+    if (failure == ENOENT || failure == ENOTDIR || (failure == 0 && !S_ISREG(found.st_mode)))
         throw RuntimeError(EngineError::FileNotFound, "Could not find the file '" + file + "'.");
+    if (failure != 0)
+        throw RuntimeError(failure == EACCES ? EngineError::CannotOpen : EngineError::DiskError,
+                           QStringLiteral("The file '%1' cannot be reached (%2).").arg(file, std::strerror(failure)));
 }
 
 void ShareAsFolder(const QString& file)
