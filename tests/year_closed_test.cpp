@@ -58,7 +58,8 @@ TEST_F(YearClosedElsewhere, NothingIsWrittenIntoItAndWhatWasTypedStays)
     ClosesBefore("cmdModify");
     EXPECT_EQ(user.Reads("txtCity"), "Laval");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Employees WHERE City = 'Laval'"), 0);
-    user.Leaves();
+    user.WillConfirm().WillBeDone().Clicks("cmdModify").Leaves();
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Employees WHERE City = 'Laval'"), 1);
 }
 
 TEST_F(YearClosedElsewhere, TheToolsFollowWithTheMinute)
