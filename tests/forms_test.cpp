@@ -13,7 +13,9 @@
 #include "ledger/frm_entitlement_history.h"
 #include "ledger/frm_entitlements.h"
 #include "platform/clock.h"
+#include "reference/frm_categories.h"
 #include "reference/frm_holidays.h"
+#include "reference/frm_select_color.h"
 #include "reference/frm_unit.h"
 #include "reports/frm_lists.h"
 #include "selection/frm_get_approver_from_list.h"
@@ -59,6 +61,8 @@ const std::pair<const char*, Maker> kForms[] = {
     {"frmOrganizations", Make<frmOrganizations>},
     {"frmDepartments", Make<frmDepartments>},
     {"frmGroups", Make<frmGroups>},
+    {"frmCategories", Make<frmCategories>},
+    {"frmSelectColor", [] { return std::unique_ptr<QWidget>(new frmSelectColor(0, "Vacation")); }},
     {"frmHolidays", Make<frmHolidays>},
     {"frmEmployees", Make<frmEmployees>},
     {"frmCloneEmployee", [] { return std::unique_ptr<QWidget>(new frmCloneEmployee(newEmployee)); }},
@@ -90,8 +94,8 @@ const std::pair<const char*, Maker> kForms[] = {
 };
 
 /// What reads the same in both languages, and who speaks both at once until a language is chosen.
-const QStringList kSameInFrench = {"OK",    "&OK",   "Tarvell", "Global",       "Minutes",
-                                   "Total", "ADMIN", "1 date",  "Version 1.2.0"};
+const QStringList kSameInFrench = {"OK",    "&OK",    "Tarvell",       "Global",        "Minutes", "Total",
+                                   "ADMIN", "1 date", "Version 1.2.0", "Configuration", "h",       "min"};
 const QString kBilingual = "frmSetUpWizard";
 /// Whom Escape does not close: the wizard asks first.
 const QStringList kStaying = {"frmMain", kBilingual};

@@ -6,6 +6,7 @@
 #include "foundation/frm_change_password.h"
 #include "ledger/frm_entitlements.h"
 #include "platform/controls/form_kit.h"
+#include "reference/frm_categories.h"
 #include "reference/frm_holidays.h"
 #include "reference/frm_unit.h"
 
@@ -107,7 +108,7 @@ List FileMenu()
             Entry("mnuFileEntitlements", {"E&ntitlements...", "&Temps alloué..."},
                   Module(&P::AccessToEntitlementsModule), Opens<frmEntitlements>),
             Entry("mnuFileCategories", {"&Categories of attendance...", "&Catégories d'absentéisme..."},
-                  Module(&P::AccessToCategoriesModule)),
+                  Module(&P::AccessToCategoriesModule), Edits<frmCategories>),
             Entry("mnuFileHolidays", {"&Statutory holidays...", "Congés &fériés..."}, AdminOnly() && InOpenYear(),
                   Edits<frmHolidays>),
             Below(Entry("mnuFilePrintCalendar", {"&Print calendar...", "&Imprimer le calendrier..."}, Everybody(),

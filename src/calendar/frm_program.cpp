@@ -19,6 +19,10 @@ void WireForms()
         frmLists list(ListKind::Employees, parent);
         ShowModal(list);
     };
+    FormsAbove.ShowCategoriesList = [](QWidget* parent) {
+        frmLists list(ListKind::Categories, parent);
+        ShowModal(list);
+    };
 }
 
 Program::Program()

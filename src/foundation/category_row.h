@@ -26,6 +26,8 @@ struct CategoryRow
     int IsPublic = 0;
     QString CategoryCode;
     QString CategoryColorCode; ///< a number, 0xBBGGRR
+
+    bool operator==(const CategoryRow&) const = default;
 };
 
 template <>

@@ -73,14 +73,19 @@ void ChangeRow(DataControl& datAbsence, const TableShape& table, int recordID, c
 
 void CopyToAuditTwin(DataControl& datAbsence, const TableShape& table, int recordID)
 {
+    CopyToAuditTwin(datAbsence, table, "RecordID = ?", {recordID});
+}
+
+void CopyToAuditTwin(DataControl& datAbsence, const TableShape& table, const QString& conditions, const Values& values)
+{
     if (table.Audit == Twin::None)
         return;
     const QStringList columns = QStringList("RecordID") + table.Columns.mid(0, table.Columns.size() - table.FileOnly);
     const QString all = columns.join(", ");
     try {
-        datAbsence.Execute(QStringLiteral("INSERT INTO %1_Modifications (%2) SELECT %3 FROM %1 WHERE RecordID = ?")
-                               .arg(table.Name, all, IsServerChosen() ? "*" : all),
-                           recordID);
+        datAbsence.Run(QStringLiteral("INSERT INTO %1_Modifications (%2) SELECT %3 FROM %1 WHERE %4")
+                           .arg(table.Name, all, IsServerChosen() ? "*" : all, conditions),
+                       values);
     } catch (const RuntimeError&) {
         if (table.Audit != Twin::Tried)
             throw;

@@ -110,6 +110,9 @@ void WriteRow(DataControl& datAbsence, const TableShape& table, int recordID, co
 /// Writes the same values into all records of a table that name `id` in the column `key`.
 void WriteRowsOf(DataControl& datAbsence, const char* table, const char* key, int id, const RowValues& values);
 void CopyToAuditTwin(DataControl& datAbsence, const TableShape& table, int recordID);
+/// The same of all rows that "SELECT ... WHERE `conditions`" finds.
+void CopyToAuditTwin(DataControl& datAbsence, const TableShape& table, const QString& conditions,
+                     const Values& values = {});
 QString SelectFrom(const TableShape& table, const QString& conditions);
 /// Those of `now` that `before` has not got.
 RowValues Differing(const RowValues& before, const RowValues& now);

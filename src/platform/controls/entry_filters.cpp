@@ -26,6 +26,7 @@ constexpr FilterRule kRules[] = {
     {KeyFilter::WholeNumber, "0123456789", "", false},
     {KeyFilter::DecimalNumber, "0123456789.", "", false},
     {KeyFilter::Phone, "0123456789-", "", false},
+    {KeyFilter::CategoryCode, "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ", "", false},
     {KeyFilter::CategoryName, nullptr, ",", true},
     {KeyFilter::FreeText, nullptr, "", true},
     {KeyFilter::MessageInput, nullptr, "\"%|&", true},
@@ -54,7 +55,7 @@ QString Filtered(const QString& text, KeyFilter filter)
 {
     const FilterRule& rule = kRules[static_cast<int>(filter)];
     QString let;
-    for (const QChar character : text) {
+    for (const QChar character : filter == KeyFilter::CategoryCode ? text.toUpper() : text) {
         const bool passes = rule.Allowed ? QLatin1String(rule.Allowed).contains(character)
                                          : !QLatin1String(rule.Dropped).contains(character);
         if (passes)

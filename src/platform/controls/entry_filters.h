@@ -11,6 +11,7 @@ enum class KeyFilter
     WholeNumber,   ///< 0 to 9
     DecimalNumber, ///< 0 to 9 and the point; the comma becomes the point
     Phone,         ///< 0 to 9 and "-"
+    CategoryCode,  ///< 0 to 9 and letters, made upper case
     CategoryName,  ///< ' becomes `; the comma is dropped
     FreeText,      ///< ' becomes `
     MessageInput,  ///< ' becomes `; " % | & are dropped

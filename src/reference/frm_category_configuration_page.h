@@ -1,0 +1,54 @@
+#pragma once
+
+#include "foundation/frm_captions.h"
+#include "reference/category_rules.h"
+
+/// What a category is: names, code, colour, its annual entitlement, and how its records count.
+class CategoryConfigurationPage : public QWidget
+{
+public:
+    CategoryConfigurationPage();
+
+    void Show(const CategoryEntry& entry);
+    void Read(CategoryEntry& entry) const;
+    /// Of a category of the time bank only names, code, colour and the hidden flag can be changed.
+    void SetEntryEnabled(bool entering, bool timeBank);
+    void FocusFirstField();
+    /// Marks a colour, 0xBBGGRR.
+    void ShowColor(int color);
+
+    std::function<void(bool isPublic)> PublicChanged;
+    QPushButton* cmdColorAssigned;
+
+private:
+    QLayout* Names();
+    QLayout* CodeAndColor();
+    QLayout* Entitlement();
+    QLayout* Time();
+    QLayout* Flags();
+    QRadioButton* AddOption(QVBoxLayout* options, const char* name, const Text& caption, EntitlementKind kind);
+    void ChooseKind(EntitlementKind kind);
+    void EnableTime();
+    QString CategoryName() const;
+
+    void chkConstitutesAnAbsence_Click(bool checked);
+    void Minutes_LostFocus();
+
+    EntitlementKind kind_ = EntitlementKind::NotChosen;
+    int color_ = 0;
+    bool entitles_ = false; ///< the entitlement can be changed now
+    QLineEdit* txtEnglishName;
+    QLineEdit* txtFrenchName;
+    QLineEdit* txtCategoryCode;
+    QLabel* lblColorAssigned;
+    QWidget* fraEntitlement;
+    QRadioButton* optStandardEntitlement;
+    QRadioButton* optEntitlementVaries;
+    QRadioButton* optNoAnnualEntitlement;
+    QLineEdit* txtAnnualEntitlement_Hours;
+    QLineEdit* txtAnnualEntitlement_Minutes;
+    QCheckBox* chkCarryOver;
+    QCheckBox* chkConstitutesAnAbsence;
+    QCheckBox* chkHiddenCategory;
+    QCheckBox* chkCategoryIsPublic;
+};
