@@ -22,6 +22,7 @@ protected:
     bool HasRecord() const override { return record_.RecordID != 0; }
     void EnableControls() override;
     void cmdCancelOperation_Click() override;
+    bool MayBeLeft() override { return true; } // cancelling asks
     void Show(const CategoryEntry& entry) override;
     CategoryEntry Read() const override;
     std::optional<Fault> Validate(CategoryEntry& entry) override;

@@ -167,6 +167,13 @@ HolidayEntry frmHolidays::Read() const
     return entry;
 }
 
+/// The name of a holiday that was chosen is nothing that could be lost.
+bool frmHolidays::MayBeLeft()
+{
+    const HolidayEntry entry = Read();
+    return (entry.Dates.isEmpty() && entry.Name == cboHolidayName->currentText()) || AskToAbandonChanges();
+}
+
 bool frmHolidays::Confirm(const HolidayEntry& entry)
 {
     return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
@@ -212,6 +219,8 @@ void frmHolidays::cmdRemove_Click()
                {{"holiday", cboHolidayName->currentText()}})))
         return;
     RemoveHoliday(datAbsence, cboHolidayName->currentData().toInt());
+    if (Read().Dates.isEmpty())
+        txtHolidayName->clear();
     TellHolidayDone({"The selected statutory holiday has been removed from your database.",
                      "Le congé férié sélectionné a été retiré de votre banque de données."});
     LoadHolidays();

@@ -14,6 +14,7 @@ public:
 
 protected:
     void Form_Activate() override;
+    bool MayBeLeft() override;
 
 private:
     QFrame* ExistingHolidays();

@@ -69,10 +69,9 @@ TEST_F(FrmHolidays, OneDateOfTwoIsRemovedAndCanBeUsedAgain)
               "46380|Fermeture||0|ADMIN|46083\n46384|Fermeture||0||0");
     EXPECT_EQ(user.Entries("cboHolidayName").filter("Fermeture").size(), 1);
     EXPECT_FALSE(user.CanUse("cmdRemove"));
-    user.Picks("lstHolidayDates", "Thu 24-Dec-2026")
-        .WillConfirm("Nom du congé:     Fermeture\r\nDate(s) du congé: Thu 24-Dec")
-        .WillBeDone()
-        .Clicks("cmdAdd");
+    user.Types("txtHolidayName", "Fermeture").Picks("lstHolidayDates", "Thu 24-Dec-2026");
+    user.WillAnswer("VEUILLEZ CONFIRMER:", "Non", "Vos changements n'ont pas été").Presses("", Qt::Key_Escape);
+    user.WillConfirm("Nom du congé:     Fermeture\r\nDate(s) du congé: Thu 24-Dec").WillBeDone().Clicks("cmdAdd");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Holidays WHERE HolidayDate = 46380"), 2);
 }
 
