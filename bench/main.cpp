@@ -22,6 +22,7 @@ int main(int argc, char* argv[])
     RegisterAttendance(company);
     RegisterLists(company);
     RegisterEmployees(company);
+    RegisterCategories(company);
     benchmark::RunSpecifiedBenchmarks();
     return TellVerdicts() ? 0 : 1;
 }

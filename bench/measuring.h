@@ -56,3 +56,4 @@ void RegisterCalendar(BigCompany& company);
 void RegisterAttendance(BigCompany& company);
 void RegisterLists(BigCompany& company);
 void RegisterEmployees(BigCompany& company);
+void RegisterCategories(BigCompany& company);

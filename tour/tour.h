@@ -2,6 +2,7 @@
 
 #include "support/user.h"
 
+#include <QDate>
 #include <QString>
 
 #include <memory>
@@ -37,6 +38,8 @@ private:
     void AddOrganization(const QString& english, const QString& french, const QString& city);
     void AddUnit(const char* menu, const QString& parentList, const QString& parent, const QString& english,
                  const QString& french);
+    void AddHolidays();
+    void AddHoliday(const QString& name, const QVector<QDate>& dates);
     void AddPeople();
     void AddEmployee(const NewEmployee& person);
     void FillEmployee(const NewEmployee& person);
@@ -44,6 +47,9 @@ private:
     void DeactivateEmployee();
     void ModifyEmployee();
     void ListEmployees();
+    void MaintainCategories();
+    void StartCategory(const QString& english, const QString& french, const QString& code, const QString& color);
+    void RecordCategory(const QString& button);
     void Choose(const char* menu);
     void ChooseEmployee(const QString& department, const QString& name);
     void TakeVacation();
@@ -54,6 +60,8 @@ private:
     void AdjustEntitlement();
     void WarnOfExceededEntitlement();
     void BorrowTime();
+    void TakeHiddenLeave();
+    void ExpectHidden(bool hidden);
     void RequestLeave();
     void RequestTooMuch();
     void VisitSmallForms();

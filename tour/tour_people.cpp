@@ -41,9 +41,6 @@ void Tour::AddUnits()
     AddUnit("mnuFileDepartments", "lstOrganizations", south, "Stores", "Magasins");
     AddUnit("mnuFileDepartments", "lstOrganizations", south, "Accounting", "Comptabilité");
     AddUnit("mnuFileGroups", "lstDepartments", T("Production", "Fabrication"), "Assembly", "Assemblage");
-    house_.Sql("INSERT INTO Holidays (HolidayDate, HolidayName, EnteredBy, EnteredDate, CancelledDate) VALUES "
-               "(?, 'Canada Day', 'ADMIN', 0, 0), (?, 'Labour Day', 'ADMIN', 0, 0), (?, 'Christmas', 'ADMIN', 0, 0)",
-               {SerialOfDate({2026, 7, 1}), SerialOfDate({2026, 9, 7}), SerialOfDate({2026, 12, 25})});
 }
 
 void Tour::AddOrganization(const QString& english, const QString& french, const QString& city)
@@ -212,7 +209,7 @@ void Tour::ModifyEmployee()
 
 void Tour::ListEmployees()
 {
-    Say("The lists of employees and categories");
+    Say("The list of employees");
     user_.WhenOpens<frmEmployees>([this](frmEmployees& form) {
         user_.WhenOpens<frmLists>([this](frmLists&) {
             Photo("lists_employees");
@@ -221,10 +218,4 @@ void Tour::ListEmployees()
         user_.Works(form).Clicks("cmdListRecords").Clicks("cmdQuit");
     });
     Choose("mnuFileEmployees");
-    user_.WhenOpens<frmLists>([this](frmLists&) {
-        Photo("lists_categories");
-        user_.Clicks("cmdOK");
-    });
-    frmLists categories(ListKind::Categories, main_);
-    ShowModal(categories);
 }

@@ -6,9 +6,13 @@
 #include "employees/transfer_employee.h"
 #include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
+#include "foundation/entitlement_row.h"
 #include "foundation/user_profile.h"
 #include "platform/dao/server.h"
+#include "reference/category_records.h"
 #include "reference/employees_list.h"
+#include "reference/holiday_row.h"
+#include "reference/holidays.h"
 #include "reference/unit_records.h"
 #include "reference/unit_row.h"
 #include "support/company_test.h"
@@ -146,5 +150,28 @@ TEST_F(ServerTwin, WhatIsReadIsEmpty)
               "DELETE FROM Employees_List WHERE FiscalYear = 1\n"
               "INSERT INTO ErrorLog (ErrorCode, ErrorDescription, Form, ProcedureName, Occurred, SQL) VALUES "
               "(1, 'it`s', 'frmX', 'Routine', 1.5, 'SELECT `x`')");
+}
+TEST_F(ServerTwin, CategoriesAndHolidaysAreSentWithWhatFollowsFromThem)
+{
+    CategoryEntry entry = NewCategory();
+    entry.CategoryEnglishName = "Training";
+    AddCategory(datAbsence, entry);
+    EXPECT_EQ(Sent(kTable<CategoryRow>).section(" VALUES", 0, 0), "INSERT INTO Categories (...)");
+    entry.RecordID = 9;
+    DeactivateCategory(datAbsence, entry);
+    EXPECT_EQ(Sent(kTable<CategoryRow>),
+              "INSERT INTO Categories_Modifications (RecordID, ...) SELECT * FROM Categories WHERE RecordID = 9\n"
+              "UPDATE Categories SET Active = 0, CategoryFrenchName = '«DEACTIVATED»', CategoryEnglishName = "
+              "'«DEACTIVATED»', STAMP WHERE RecordID = 9\n"
+              "INSERT INTO Entitlements_Modifications (RecordID, " +
+                  kTable<EntitlementRow>.Columns.join(", ") +
+                  ") SELECT * FROM Entitlements WHERE CategoryID = 9\n"
+                  "UPDATE Entitlements SET Active = 0, STAMP WHERE CategoryID = 9");
+    EXPECT_TRUE(AddHolidays(datAbsence, {{kMonday, "Closed"}}));
+    RemoveHoliday(datAbsence, kMonday);
+    EXPECT_EQ(Sent(kTable<HolidayRow>),
+              "INSERT INTO Holidays (...) VALUES (46083, 'Closed', 'ADMIN', 46083, '', 0)\n"
+              "UPDATE Holidays SET CancelledDate = 46083, CancelledBy = 'ADMIN' WHERE HolidayDate = 46083 AND "
+              "CancelledDate = 0");
 }
 } // namespace
