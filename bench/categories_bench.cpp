@@ -1,5 +1,7 @@
-#include "measuring.h"
+#include "opening.h"
 #include "reference/category_records.h"
+#include "reference/frm_categories.h"
+#include "reference/frm_holidays.h"
 
 namespace
 {
@@ -65,6 +67,8 @@ private:
 
 void RegisterCategories(BigCompany& company)
 {
+    Register<Opening<frmCategories>>("Opening frmCategories", company, Floor::Statements, {0, 40});
+    Register<Opening<frmHolidays>>("Opening frmHolidays", company, Floor::Statements, {0, 40});
     Register<CategoryAdded>("Category added", company, Floor::Commit, {0, 1000});
     Register<KindChanged>("Kind of category changed", company, Floor::Commit, {0, 1000});
 }

@@ -7,6 +7,8 @@
 #include "reports/frm_lists.h"
 #include "support/company_test.h"
 
+#include <QApplication>
+
 namespace
 {
 const QString kLedger = "SELECT LoginID, AnnualEntitlement, MayBeCarriedOver, Entitlements.Active FROM Entitlements, "
@@ -158,10 +160,52 @@ TEST_F(FrmCategories, AChangeOfKindSetsEverybodysHoursAndSaysSoBefore)
 
     Modifies("Training").Clicks("optNoAnnualEntitlement");
     EXPECT_EQ(user.Reads("txtAnnualEntitlement_Hours"), "");
+    house.Sql("UPDATE Categories SET RequiresMonitoring = 0, StandardEntitlement = 30, CarryOverAtYearEnd = 1 WHERE "
+              "RecordID = 9"); // by somebody else
     Saves("Employees whose annual entitlement ends: 6; set one by one until now: 0");
-    EXPECT_EQ(Row("RequiresMonitoring, StandardEntitlement"), "0|0");
+    EXPECT_EQ(Row("RequiresMonitoring, StandardEntitlement, CarryOverAtYearEnd"), "0|0|0") << "as the form said";
     EXPECT_EQ(house.Rows("SELECT SUM(Active), SUM(AnnualEntitlement) FROM Entitlements"), "0|120");
     EXPECT_EQ(Twins(), 11);
+}
+
+/// The texts of notices as they come up.
+class Notices : public QObject
+{
+public:
+    Notices() { QApplication::instance()->installEventFilter(this); }
+    bool eventFilter(QObject* target, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show && target->property("look") == "notice")
+            Texts << target->property("text").toString();
+        return false;
+    }
+
+    QStringList Texts;
+};
+
+TEST_F(FrmCategories, ManyEmployeesAreWaitedForAndEachIsGrantedHisTime)
+{
+    Notices notices;
+    house.Sql("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 95) INSERT INTO Employees "
+              "(FiscalYear, DepartmentID, LoginID) SELECT 1, 1, 'E' || i FROM n");
+    AddTraining();
+    EXPECT_EQ(notices.Texts, QStringList()) << "a hundred";
+    user.Clicks("cmdAdd").Types("txtEnglishName", "Jury").Clicks("optEntitlementVaries");
+    house.Hire({"FRANK", "Frank", "Fox", "Sales"});
+    user.WillConfirm().WillBeDone().Clicks("cmdAdd");
+    EXPECT_EQ(notices.Texts, QStringList("***  WAIT!  ***\r\n\r\nSetting up an annual entitlement for each employee "
+                                         "in your database..."));
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Entitlements WHERE CategoryID = 10"), 101);
+}
+
+TEST_F(FrmCategories, InAClosedYearNothingIsWritten)
+{
+    user.Opens<frmCategories>().Clicks("cmdAdd").Types("txtEnglishName", "Training").Clicks("optEntitlementVaries");
+    house.Sql("UPDATE FiscalYears SET ClosedDate = 46000");
+    user.WillConfirm().WillAnswer("FISCAL YEAR CLOSED:", "OK").Clicks("cmdAdd");
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Categories"), 8);
+    EXPECT_EQ(user.Reads("txtEnglishName"), "Training");
+    EXPECT_FALSE(SessionState.ReloadCalendar);
 }
 
 TEST_F(FrmCategories, ADepartmentTakenBackGetsItsEntitlementsBack)
