@@ -1,9 +1,8 @@
 #include "reference/frm_category_configuration_page.h"
 
 #include "foundation/common_services.h"
+#include "foundation/frm_option_caption.h"
 #include "platform/controls/flex_grid.h"
-
-#include <QMouseEvent>
 
 namespace
 {
@@ -16,29 +15,6 @@ constexpr int kShortWidth = 52;
 constexpr int kPartGap = 12;
 constexpr int kLineGap = 7;
 constexpr int kIndent = 22; ///< under the caption of an option
-
-/// The long caption of an option, its lines wrapped; a click on it is a click on the option.
-class OptionCaption : public QLabel
-{
-public:
-    OptionCaption(QRadioButton* option, const Text& caption) : option_(option)
-    {
-        setObjectName(QString(option->objectName()).replace("opt", "lbl"));
-        setWordWrap(true);
-        SetCaption(this, caption);
-        SetAccessibleName(option, caption);
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent* /*event*/) override
-    {
-        option_->setFocus(Qt::MouseFocusReason);
-        option_->click();
-    }
-
-private:
-    QRadioButton* option_;
-};
 
 QLineEdit* TimeField(const char* name, int digits, const Text& accessible)
 {

@@ -1,6 +1,7 @@
 #include "setup/frm_step_kind.h"
 
 #include "foundation/common_services.h"
+#include "foundation/frm_option_caption.h"
 
 namespace
 {
@@ -60,28 +61,6 @@ constexpr KindText kKinds[] = {
       "qui y donnent accès."}},
 };
 
-/// The caption of an option as a wrapped label beside it; a click on it is a click on the option.
-class OptionText : public QLabel
-{
-public:
-    OptionText(QRadioButton* option, const Text& caption) : option_(option)
-    {
-        setWordWrap(true);
-        SetCaption(this, caption);
-        SetAccessibleName(option, caption);
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent* /*event*/) override
-    {
-        option_->setFocus(Qt::MouseFocusReason);
-        option_->click();
-    }
-
-private:
-    QRadioButton* option_;
-};
-
 QPushButton* InfoButton(const KindText& kind)
 {
     constexpr Text kPurpose = {"More about this option", "Plus d'information sur cette option"};
@@ -114,7 +93,7 @@ QWidget* KindStep::AddOption(std::size_t index)
     options_.push_back(Named<QRadioButton>(QLatin1String("opt") + kind.Name));
     connect(options_.back(), &QRadioButton::clicked, this, [this, &kind] { Choose(kind.Kind); });
     auto* row = Beside(kOptionGap, {options_.back()});
-    row->addWidget(new OptionText(options_.back(), kind.Caption), 1);
+    row->addWidget(new OptionCaption(options_.back(), kind.Caption), 1);
     row->addWidget(InfoButton(kind));
     return MakeCard(row);
 }
