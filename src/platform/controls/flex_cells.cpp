@@ -17,7 +17,9 @@ QVariant FlexCells::data(const QModelIndex& index, int role) const
     const FlexCell* cell = At(index.row(), index.column());
     if (!cell || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
         return {};
-    return cell->Text;
+    const QStringList hints =
+        role == Qt::AccessibleTextRole && Hints ? Hints(index.row(), index.column()) : QStringList();
+    return hints.isEmpty() ? cell->Text : hints.join(", ");
 }
 
 /// Titles and separators, the cells without lines, are nothing to pick.

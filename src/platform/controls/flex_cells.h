@@ -3,7 +3,17 @@
 #include <QAbstractTableModel>
 #include <QString>
 
+#include <functional>
+#include <memory>
 #include <vector>
+
+/// What a cell may show besides its text.
+struct FlexNote
+{
+    QString Corner;        ///< small, at the upper right
+    QString Lead;          ///< at the left; the text then stands at the right
+    bool Triangle = false; ///< at the lower right
+};
 
 /// What a cell of a flex grid shows.
 struct FlexCell
@@ -14,6 +24,7 @@ struct FlexCell
     Qt::Alignment Alignment; ///< none: that of the column
     bool Bold = false;
     bool Lines = true;
+    std::shared_ptr<const FlexNote> Note = nullptr; ///< null for none
 };
 
 /// The cells of a flex grid. During a silent time, changes are told to the view all at once at its end.
@@ -42,6 +53,9 @@ public:
     void SetRowData(int row, int value);
     Qt::Alignment AlignmentOf(const FlexCell& cell, int col) const;
     void SetColAlignment(int col, Qt::Alignment alignment);
+
+    /// What hover text and screen readers say of a cell, a line each; its text where that is empty.
+    std::function<QStringList(int row, int col)> Hints;
 
     void SetSilent(bool silent);
     /// Tells the view of rows that were added during a silent time.

@@ -160,6 +160,16 @@ void FlexGrid::SetCellLines(int row, int col, bool lines)
     SetCell(row, col, [&](FlexCell& cell) { cell.Lines = lines; });
 }
 
+void FlexGrid::SetCellNote(int row, int col, std::shared_ptr<const FlexNote> note)
+{
+    SetCell(row, col, [&](FlexCell& cell) { cell.Note = std::move(note); });
+}
+
+void FlexGrid::SetCellHints(std::function<QStringList(int row, int col)> hints)
+{
+    cells_->Hints = std::move(hints);
+}
+
 void FlexGrid::MergeCells(int row, int col, int rowSpan, int colSpan)
 {
     WhenShown(row, [=, this] { setSpan(row, col, rowSpan, colSpan); });

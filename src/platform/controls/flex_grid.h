@@ -49,6 +49,9 @@ public:
     void SetColAlignment(int col, Qt::Alignment alignment);
     /// A cell without lines around it is a title or a separator: it takes no clicks, and the arrow keys pass over it.
     void SetCellLines(int row, int col, bool lines);
+    void SetCellNote(int row, int col, std::shared_ptr<const FlexNote> note);
+    /// What hover text and screen readers say of a cell, a line each; nothing leaves them its text.
+    void SetCellHints(std::function<QStringList(int row, int col)> hints);
     /// In fixed rows, cells merge sideways only.
     void MergeCells(int row, int col, int rowSpan, int colSpan);
 

@@ -1,6 +1,7 @@
 #include "platform/controls/flex_painting.h"
 
 #include "platform/controls/flex_grid.h"
+#include "platform/ink.h"
 
 #include <QHelpEvent>
 #include <QPaintEvent>
@@ -10,6 +11,8 @@
 namespace
 {
 constexpr int kPadding = 4;
+constexpr int kCornerMargin = 3;
+constexpr double kCornerShare = 0.7; ///< of the font that the cell has
 const QColor kLine(0xd9, 0xde, 0xe7);
 const QColor kText(0x1b, 0x23, 0x30);
 const QColor kHeadText(0x14, 0x21, 0x3d);
@@ -17,16 +20,86 @@ const QColor kHeadBack(0xee, 0xf1, 0xf5);
 const QColor kTint(0xe3, 0xec, 0xfb);
 const QColor kRing(0x2f, 0x6f, 0xde);
 
-void PaintText(QPainter& painter, const QRect& rect, const QString& text, bool bold, Qt::Alignment alignment)
+void SetBold(QPainter& painter, bool bold)
+{
+    if (painter.font().bold() == bold)
+        return;
+    QFont font = painter.font();
+    font.setBold(bold);
+    painter.setFont(font);
+}
+
+void PaintPlate(QPainter& painter, const QRect& text, const QColor& color)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(text.adjusted(-3, 0, 3, 0), 3, 3);
+    painter.restore();
+}
+
+void PaintText(QPainter& painter, const QRect& rect, const QString& text, Qt::Alignment alignment, const Ink& ink)
 {
     if (text.isEmpty())
         return;
-    if (painter.font().bold() != bold) {
-        QFont font = painter.font();
-        font.setBold(bold);
-        painter.setFont(font);
-    }
-    painter.drawText(rect.adjusted(kPadding, 0, -kPadding, 0), static_cast<int>(alignment), text);
+    const QRect inside = rect.adjusted(kPadding, 0, -kPadding, 0);
+    if (ink.Plate.isValid())
+        PaintPlate(painter, painter.fontMetrics().boundingRect(inside, static_cast<int>(alignment), text) & inside,
+                   ink.Plate);
+    painter.setPen(ink.Fill);
+    painter.drawText(inside, static_cast<int>(alignment), text);
+}
+
+QFont CornerFont(QFont font)
+{
+    font.setBold(false);
+    font.setPointSizeF(kCornerShare * font.pointSizeF());
+    return font;
+}
+
+/// As much of the corner's text as there is room for beside a number: all of it, or its first letter.
+QString FittingCorner(const QPainter& painter, const QRect& rect, const QString& text)
+{
+    const QFontMetrics small(CornerFont(painter.font()));
+    const int room = rect.width() - painter.fontMetrics().horizontalAdvance("00") - 2 * kPadding;
+    return small.horizontalAdvance(text) <= room ? text : text.contains('+') ? QStringLiteral("+") : text.left(1);
+}
+
+void PaintCorner(QPainter& painter, const QRect& rect, const QString& text, const QColor& color)
+{
+    painter.save();
+    painter.setFont(CornerFont(painter.font()));
+    painter.setPen(color);
+    painter.drawText(rect.adjusted(0, 1, -kCornerMargin, 0), Qt::AlignRight | Qt::AlignTop, text);
+    painter.restore();
+}
+
+void PaintTriangle(QPainter& painter, const QRect& rect, const QColor& color)
+{
+    const int side = std::max(5, rect.height() / 3);
+    const QPoint corner = rect.bottomRight() - QPoint(1, 1);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawPolygon(QPolygon({corner, corner - QPoint(side, 0), corner - QPoint(0, side)}));
+    painter.restore();
+}
+
+/// What a note leaves of the cell for its text.
+QRect PaintNote(QPainter& painter, const QRect& rect, const FlexNote& note, const Ink& ink, const QColor& back)
+{
+    const QColor small = ReadableInk(Qt::black, back).Fill;
+    if (note.Triangle)
+        PaintTriangle(painter, rect, small);
+    PaintText(painter, rect, note.Lead, Qt::AlignLeft | Qt::AlignVCenter, ink);
+    if (note.Corner.isEmpty() || !note.Lead.isEmpty())
+        return rect;
+    const QString corner = FittingCorner(painter, rect, note.Corner);
+    PaintCorner(painter, rect, corner, small);
+    const int taken = QFontMetrics(CornerFont(painter.font())).horizontalAdvance(corner) + kCornerMargin;
+    return rect.adjusted(0, 0, -std::min(taken, rect.width() / 3), 0);
 }
 
 /// Lines stand at the right and the foot of a cell, inside it.
@@ -46,9 +119,24 @@ bool HasLines(const FlexCell* cell, bool outside)
     return cell ? cell->Lines : !outside;
 }
 
+/// Names from the data may look like markup.
+QString PlainTip(const QString& text)
+{
+    return text.isEmpty() ? text : "<p style='white-space:pre'>" + text.toHtmlEscaped() + "</p>";
+}
+
 QColor ColorOr(int code, const QColor& own)
 {
     return code < 0 ? own : ColorOfCode(code);
+}
+
+/// The cell with the focus: two rings, of which one stands out on any colour.
+void PaintRing(QPainter& painter, const QRect& rect)
+{
+    painter.setPen(QPen(kRing, 2));
+    painter.drawRect(rect.adjusted(1, 1, -2, -2));
+    painter.setPen(Qt::white);
+    painter.drawRect(rect.adjusted(2, 2, -4, -4));
 }
 
 void PaintHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment)
@@ -56,8 +144,8 @@ void PaintHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::A
     painter.fillRect(rect, ColorOr(cell.Back, kHeadBack));
     if (cell.Lines)
         PaintLines(painter, rect, false, false);
-    painter.setPen(ColorOr(cell.Fore, kHeadText));
-    PaintText(painter, rect, cell.Text, true, alignment);
+    SetBold(painter, true);
+    PaintText(painter, rect, cell.Text, alignment, {ColorOr(cell.Fore, kHeadText), {}});
 }
 } // namespace
 
@@ -77,12 +165,15 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
         PaintLines(*painter, rect, !HasLines(cells.At(row, col - 1), outside),
                    !HasLines(cells.At(row - 1, col), outside));
     }
-    painter->setPen(ColorOr(cell.Fore, kText));
-    PaintText(*painter, rect, cell.Text, cell.Bold, cells.AlignmentOf(cell, col));
-    if (!grid_->rowSelection_ && grid_->hasFocus() && index == grid_->currentIndex()) {
-        painter->setPen(QPen(kRing, 2));
-        painter->drawRect(rect.adjusted(1, 1, -2, -2));
-    }
+    const QColor back = ColorOr(cell.Back, tinted ? kTint : Qt::white);
+    const Ink ink = ReadableInk(ColorOr(cell.Fore, kText), back);
+    SetBold(*painter, cell.Bold);
+    const QRect room = cell.Note ? PaintNote(*painter, rect, *cell.Note, ink, back) : rect;
+    const bool led = cell.Note && !cell.Note->Lead.isEmpty();
+    const Qt::Alignment alignment = led ? Qt::AlignRight | Qt::AlignVCenter : cells.AlignmentOf(cell, col);
+    PaintText(*painter, room, led ? cell.Text.trimmed() : cell.Text, alignment, ink);
+    if (!grid_->rowSelection_ && grid_->hasFocus() && index == grid_->currentIndex())
+        PaintRing(*painter, rect);
 }
 
 bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
@@ -94,7 +185,10 @@ bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
     const QSize needed = option.fontMetrics.size(0, cell->Text);
     const QRect rect = view->visualRect(index);
     const bool cut = needed.width() > rect.width() - 2 * kPadding || needed.height() > rect.height();
-    QToolTip::showText(event->globalPos(), cut ? cell->Text : QString(), view);
+    const FlexCells& cells = *grid_->cells_;
+    const QStringList hints = cells.Hints ? cells.Hints(index.row(), index.column()) : QStringList();
+    const QString tip = !hints.isEmpty() ? hints.join('\n') : cut ? cell->Text : QString();
+    QToolTip::showText(event->globalPos(), PlainTip(tip), view);
     return true;
 }
 
