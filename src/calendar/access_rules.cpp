@@ -2,14 +2,23 @@
 
 #include <algorithm>
 
-Rule When(std::function<bool()> holds)
+namespace
 {
-    return Rule(std::move(holds));
+constexpr Text kNoRight = {"Your security profile does not allow this.", "Votre profil de sécurité ne le permet pas."};
+} // namespace
+
+Rule When(std::function<bool()> holds, const Text& otherwise)
+{
+    return Rule([holds = std::move(holds), otherwise] { return holds() ? Text() : otherwise; });
 }
 
+/// The first thing in the way is told.
 Rule operator&&(const Rule& one, const Rule& other)
 {
-    return When([one, other] { return one.Holds() && other.Holds(); });
+    return Rule([one, other] {
+        const Text why = one.WhyNot();
+        return why.IsEmpty() ? other.WhyNot() : why;
+    });
 }
 
 Rule Everybody()
@@ -19,17 +28,19 @@ Rule Everybody()
 
 Rule AdminOnly()
 {
-    return When([] { return SessionState.LoginID == "ADMIN"; });
+    return When([] { return SessionState.LoginID == "ADMIN"; },
+                {"For the system administrator only.", "Réservé à l'administrateur du système."});
 }
 
 Rule InOpenYear()
 {
-    return When([] { return SessionState.ClosedDate == 0; });
+    return When([] { return SessionState.ClosedDate == 0; },
+                {"This fiscal year is closed.", "Cette année fiscale est fermée."});
 }
 
 Rule WithRight(Right right)
 {
-    return When([right] { return SessionState.*right == 1; });
+    return When([right] { return SessionState.*right == 1; }, kNoRight);
 }
 
 Rule Module(Right right)
@@ -39,7 +50,9 @@ Rule Module(Right right)
 
 Rule AtAnyLevel(Access access, const Level& narrowest)
 {
-    return When([access, end = &narrowest + 1] {
-        return std::any_of(&kGlobalLevel, end, [access](const Level& level) { return level.IsHeld(access); });
-    });
+    return When(
+        [access, end = &narrowest + 1] {
+            return std::any_of(&kGlobalLevel, end, [access](const Level& level) { return level.IsHeld(access); });
+        },
+        kNoRight);
 }

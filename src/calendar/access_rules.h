@@ -1,26 +1,31 @@
 #pragma once
 
 #include "foundation/levels.h"
+#include "foundation/texts.h"
 
 #include <functional>
 
-/// When a command may be used. It comes from the functions below only, so that no command can stand without one. A
-/// right is held when it equals 1.
+/// When a command may be used, and why not otherwise. It comes from the functions below only, so that no command can
+/// stand without one. A right is held when it equals 1.
 class Rule
 {
 public:
     /// The session's user may use the command now.
-    bool Holds() const { return holds_(); }
+    bool Holds() const { return WhyNot().IsEmpty(); }
+    /// What is in the way, as the tip of a command tells it; empty for nothing.
+    Text WhyNot() const { return whyNot_(); }
 
-    friend Rule When(std::function<bool()> holds);
+    friend Rule When(std::function<bool()> holds, const Text& otherwise);
+    friend Rule operator&&(const Rule& one, const Rule& other);
 
 private:
-    explicit Rule(std::function<bool()> holds) : holds_(std::move(holds)) {}
+    explicit Rule(std::function<Text()> whyNot) : whyNot_(std::move(whyNot)) {}
 
-    std::function<bool()> holds_;
+    std::function<Text()> whyNot_;
 };
 
-Rule When(std::function<bool()> holds);
+constexpr Text kNotNow = {"Not available at the moment.", "Non disponible en ce moment."};
+Rule When(std::function<bool()> holds, const Text& otherwise = kNotNow);
 Rule operator&&(const Rule& one, const Rule& other);
 
 Rule Everybody();

@@ -76,14 +76,19 @@ BalanceLines ExplainTotal(DataControl& datAbsence)
 QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence)
 {
     const ScopeFilter filter = CalendarScope();
+    const QString hours = filter.Scope == 0 ? "0" : "SUM(Attendance.TotalDuration)";
     QVector<CalendarRecord> records;
     for (const Recordset& row : datAbsence.Select(
-             "SELECT Days.RecordDate, Days.CategoryID, Categories.CategoryColorCode FROM Categories, (SELECT DISTINCT "
-             "Attendance.RecordDate, Attendance.CategoryID FROM Attendance, Categories WHERE Attendance.CategoryID = "
-             "Categories.RecordID AND Attendance.RecordDate BETWEEN ?3 AND ?4" +
-                 filter.Sql + ") AS Days WHERE Days.CategoryID = Categories.RecordID ORDER BY Days.RecordDate ASC",
+             "SELECT Days.RecordDate, Days.CategoryID, Days.Hours, Categories.CategoryColorCode, "
+             "Categories.CategoryCode, Categories." +
+                 NameColumn("Category") + " AS Name FROM Categories, (SELECT Attendance.RecordDate, " +
+                 "Attendance.CategoryID, " + hours + " AS Hours FROM Attendance, Categories WHERE " +
+                 "Attendance.CategoryID = Categories.RecordID AND Attendance.RecordDate BETWEEN ?3 AND ?4" +
+                 filter.Sql + " GROUP BY Attendance.RecordDate, Attendance.CategoryID) AS Days WHERE " +
+                 "Days.CategoryID = Categories.RecordID ORDER BY Days.RecordDate ASC",
              filter.Scope, filter.Category, SessionState.CommencingDate, SessionState.EndingDate))
-        records.append({row.Long("RecordDate"), row.Long("CategoryID"), row.Long("CategoryColorCode")});
+        records.append({row.Long("RecordDate"), row.Long("CategoryID"), row.Long("CategoryColorCode"),
+                        row.Text("Name").trimmed(), row.Text("CategoryCode").trimmed(), row.Single("Hours")});
     return records;
 }
 

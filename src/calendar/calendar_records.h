@@ -6,12 +6,16 @@
 #include <QString>
 #include <QVector>
 
-/// One category on one date of the calendar. `Color` is 0xBBGGRR, 0 none.
+/// One category on one date of the calendar. `Color` is 0xBBGGRR, 0 none. `Hours`, decimal, are those of all records of
+/// the category within the scope, 0 where they are not known.
 struct CalendarRecord
 {
     int RecordDate = 0;
     int CategoryID = 0;
     int Color = 0;
+    QString Name = {}; ///< of the category, in the session's language
+    QString Code = {}; ///< empty for none
+    float Hours = 0;
 };
 
 /// What the calendar shows is its scope: an employee or a unit, in a category or all of them, effective records or
@@ -22,7 +26,8 @@ float TotalForTheYear(DataControl& datAbsence);
 /// How it comes about: for one employee in a limited category what is left to him, otherwise what has been taken, is
 /// booked ahead, and waits for approval.
 BalanceLines ExplainTotal(DataControl& datAbsence);
-/// The year's records within the scope in order of date, one per date and category.
+/// The year's records within the scope in order of date, one per date and category. Those of the whole company have no
+/// hours: they would take the reading of each of its records.
 QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence);
 
 /// The lines that list the records of one date: name, category, times, duration.

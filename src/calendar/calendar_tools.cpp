@@ -1,5 +1,6 @@
 #include "calendar/calendar_tools.h"
 
+#include "calendar/day_notes.h"
 #include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
@@ -125,7 +126,8 @@ void CalendarTools::Begin(const Tool& tool)
     SessionState.MarkedDates.clear();
     markedRecords_.clear();
     conflictsAccepted_ = false;
-    host_.BeginTool(tool.OnDate && tool.Finish ? tool.Name : QString());
+    range_ = {};
+    host_.BeginTool(tool.Name, tool.OnDate && tool.Finish);
     host_.ShowHint(T(tool.Hint));
     if (!tool.OnDate)
         (this->*tool.Finish)();
@@ -297,9 +299,58 @@ void CalendarTools::SelectSingleDate(int date)
 void CalendarTools::SelectMultipleDates(int date)
 {
     if (host_.Calendar().IsMarked(date))
-        return Unmark(date);
-    if (AcceptsDate(date))
+        Unmark(date);
+    else if (AcceptsDate(date))
         Mark(date, kMark);
+    ShowCount();
+}
+
+bool CalendarTools::TakesRanges() const
+{
+    return tool_ && tool_->OnDate == &CalendarTools::SelectMultipleDates;
+}
+
+void CalendarTools::MarkRange(int from, int to)
+{
+    if (!TakesRanges())
+        return;
+    const Connection connection(host_.Data());
+    if (range_.From != from)
+        range_ = {from, {}, {}};
+    const auto [first, last] = std::minmax({from, to});
+    LeaveOutside(first, last);
+    for (int date = first; date <= last; ++date)
+        if (!host_.Calendar().IsMarked(date) && !range_.Refused.contains(date)) {
+            const bool accepted = AcceptsInRange(date);
+            (accepted ? range_.Marked : range_.Refused) << date;
+            if (accepted)
+                Mark(date, kMark);
+        }
+    ShowCount();
+}
+
+/// A range that has become shorter gives back what it had marked.
+void CalendarTools::LeaveOutside(int first, int last)
+{
+    for (const int date : DateList(range_.Marked))
+        if (date < first || date > last) {
+            range_.Marked.removeAll(date);
+            Unmark(date);
+        }
+}
+
+/// As a period leaves them out: whoever wants one of those days clicks it.
+bool CalendarTools::AcceptsInRange(int date)
+{
+    const bool dayOff = SessionState.HasSchedule && SessionState.HoursWorked[WeekdayIndex(date)] == 0;
+    return !dayOff && !host_.Calendar().IsHoliday(date) && AcceptsDate(date);
+}
+
+/// What is marked so far stands below the hint.
+void CalendarTools::ShowCount()
+{
+    const QString count = CountOfDays(SessionState.MarkedDates);
+    host_.ShowHint(T(tool_->Hint) + (count.isEmpty() ? count : "\n\n" + count));
 }
 
 void CalendarTools::EnterMarkedDates()

@@ -20,8 +20,9 @@ public:
     virtual bool NothingRecorded() const = 0;
     /// The floating hint; empty hides it.
     virtual void ShowHint(const QString& hint) = 0;
-    /// A tool begins: only the named tool stays usable ("" none). EndTool restores what is allowed.
-    virtual void BeginTool(const QString& usableTool) = 0;
+    /// The named tool begins: only it stays usable, and only where a second click ends it. EndTool restores what is
+    /// allowed.
+    virtual void BeginTool(const QString& tool, bool usable) = 0;
     virtual void EndTool() = 0;
     /// The mark of a date has changed.
     virtual void RefreshDate(int date) = 0;
@@ -52,6 +53,11 @@ public:
     void imgZoom_Click(const QString& hoveredTool);
     /// A day cell of the calendar was clicked.
     void DateClicked(int date);
+    /// Dates are being marked, so that a range of them can be chosen at once.
+    bool TakesRanges() const;
+    /// Marks the dates between two, in either order, but for holidays and the employee's days off. A further range that
+    /// begins on the same date takes the place of the one before.
+    void MarkRange(int from, int to);
     /// Escape: clears marks, flags and hint of a running selection. Nothing happens without one.
     void Abort();
 
@@ -83,11 +89,21 @@ private:
     bool AreThereConflictingRecords(int date);
     int RecordOnDate(int date, bool pending);
     bool MayChangeOwnRecords(const Text& refusal) const;
+    struct Range
+    {
+        int From = 0; ///< 0 none
+        DateList Marked;
+        DateList Refused; ///< not to be asked about again
+    };
+    void LeaveOutside(int first, int last);
+    bool AcceptsInRange(int date);
+    void ShowCount();
     void Mark(int date, const QString& mark);
     void Unmark(int date);
 
     ToolHost& host_;
     const Tool* tool_ = nullptr; ///< the one in use
     bool conflictsAccepted_ = false;
+    Range range_;
     std::vector<std::pair<int, int>> markedRecords_; ///< dates and RecordIDs marked for removal
 };

@@ -1,6 +1,7 @@
 #include "calendar/frm_main.h"
 
 #include "calendar/frm_main_calendar.h"
+#include "calendar/frm_main_grid.h"
 #include "calendar/frm_main_header.h"
 #include "calendar/frm_main_legend.h"
 #include "calendar/frm_main_tool_bar.h"
@@ -16,11 +17,13 @@
 #include "platform/clock.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
+#include "platform/user_settings.h"
 #include "selection/frm_select_employee.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScopeGuard>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -29,6 +32,7 @@
 namespace
 {
 constexpr QSize kSize(1280, 860);
+const QString kPlaceSetting = "WindowPlace";
 
 /// A failure leaves the session as it was before, so that it goes with what the window still shows.
 void WholeOrNotAtAll(const std::function<void()>& change)
@@ -81,7 +85,6 @@ void frmMain::BuildControls()
 {
     setObjectName("frmMain");
     setWindowIcon(PictureIcon("app"));
-    resize(FittingScreen(this, kSize));
     menus_ = std::make_unique<MainMenus>(menuBar(), [this](const Command& command) { Run(command); });
     toolBar_ = new ToolBar;
     header_ = new MainHeader;
@@ -106,6 +109,26 @@ void frmMain::BuildControls()
     all->addWidget(toolBar_);
     all->addLayout(content, 1);
     setCentralWidget(page);
+    RestorePlace();
+}
+
+/// Where the user left it, as far as the screen of today has room.
+void frmMain::RestorePlace()
+{
+    resize(FittingScreen(this, kSize));
+    if (!restoreGeometry(UserSetting(SessionState.LoginID, kPlaceSetting).toByteArray()) || isMaximized())
+        return;
+    const QRect room = screen()->availableGeometry();
+    QRect place(pos(), FittingScreen(this, size()));
+    place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
+    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
+    if (place != geometry())
+        setGeometry(place);
+}
+
+void frmMain::KeepPlace() const
+{
+    SetUserSetting(SessionState.LoginID, kPlaceSetting, saveGeometry());
 }
 
 void frmMain::ConnectControls()
@@ -119,6 +142,8 @@ void frmMain::ConnectControls()
                      [this] { return ExplainTimeBank(datAbsence, SessionState); });
     legend_->CategoryClicked = [this](int category) { SelectCategory(category); };
     pane_->DateClicked = [this](int date) { tools_.DateClicked(date); };
+    pane_->Days().TakesRanges = [this] { return tools_.TakesRanges(); };
+    pane_->Days().RangeChosen = [this](int from, int to) { tools_.MarkRange(from, to); };
     connect(timAbsence, &QTimer::timeout, this, &frmMain::timAbsence_Timer);
     connect(timTimeOut, &QTimer::timeout, this, &frmMain::timTimeOut_Timer);
     for (QWidget* widget : findChildren<QWidget*>()) {
@@ -139,7 +164,9 @@ void frmMain::Form_Load()
     ActivateAllowedControls();
     header_->ShowNames();
     header_->ShowTotal(DurationText(0));
+    pane_->Days().ShowCodes(ShowsCodes());
     pane_->Cover();
+    pane_->setFocus();
     timAbsence->start(1000);
     timTimeOut->start(1000);
 }
@@ -261,9 +288,9 @@ void frmMain::ActivateAllowedControls()
     toolBar_->ActivateAllowed();
 }
 
-void frmMain::DeactivateAllControls(const QString& usableTool)
+void frmMain::DeactivateAllControls(const QString& toolInUse, bool usable)
 {
-    toolBar_->Deactivate(usableTool);
+    toolBar_->Deactivate(toolInUse, usable);
     menus_->Deactivate();
     header_->Activate(false);
     legend_->SetUsable(false);
@@ -291,6 +318,7 @@ void frmMain::imgUpdateSelection_Click()
             return;
         const LoadingGuard busy(Busy);
         ReloadSelection();
+        pane_->setFocus();
     });
 }
 
@@ -314,6 +342,7 @@ bool frmMain::LogIn(int year, const QString& name)
 void frmMain::cmdQuit_Click()
 {
     Busy = true;
+    KeepPlace();
     LogOutUser(datAbsence);
     EndProgram();
 }
@@ -325,7 +354,7 @@ void frmMain::closeEvent(QCloseEvent*)
 
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape && !pane_->HideRecords())
         tools_.Abort();
     QMainWindow::keyPressEvent(event);
 }

@@ -41,6 +41,10 @@ public:
     void DisplayRecords(bool approved); ///< or the pending ones
     void mnuSpecialSwitchLanguage_Click();
     void mnuSpecialUpdateAdminInfo_Click();
+    void mnuSpecialCategoryCodes_Click();
+    void mnuHelpKeys_Click();
+    /// This user wants the days to tell their categories by letters.
+    static bool ShowsCodes();
     void imgUpdateSelection_Click();
     void UseTool(const QString& tool);
     void ChangeToYear(Neighbour direction);
@@ -80,15 +84,18 @@ private:
     void DoesUserKnowAboutTimeBank();
     void ShowCategory();
     void ActivateAllowedControls();
-    void DeactivateAllControls(const QString& usableTool = {});
+    void DeactivateAllControls(const QString& toolInUse = {}, bool usable = false);
 
     void LookWhetherYearWasClosed();
     void RunMinuteWork();
 
+    void RestorePlace();
+    void KeepPlace() const;
+
     DataControl& Data() override { return datAbsence; }
     bool NothingRecorded() const override { return total_ == 0; }
     void ShowHint(const QString& hint) override;
-    void BeginTool(const QString& usableTool) override;
+    void BeginTool(const QString& tool, bool usable) override;
     void EndTool() override;
     void RefreshDate(int date) override;
     void ShowAttendance(const AttendanceJob& job) override;

@@ -1,7 +1,7 @@
 #include "calendar/frm_main_calendar.h"
 
+#include "calendar/frm_main_grid.h"
 #include "foundation/frm_captions.h"
-#include "platform/controls/flex_grid.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -12,56 +12,32 @@
 
 namespace
 {
-constexpr int kNoDay = 0xF8F6F5; // cells of a month block that hold no date
-constexpr int kSeparatorWidth = 14;
-constexpr int kSpacerHeight = 14;
-constexpr int kDayColumns = 28;
-constexpr int kTextRows = 24;
+constexpr int kFewestDays = 8; ///< in sight at once, each way; the rest scrolls
 constexpr int kRecordsWidth = 560;
 constexpr int kFewestLines = 2;
 constexpr int kMostLines = 9;
 const QPoint kHintOffset(18, 22);
-
-/// The pixels of part `index` when `whole` is divided into parts that differ by one pixel at most.
-int Share(int whole, int parts, int index)
-{
-    constexpr int kSmallest = 16;
-    return std::max(kSmallest, whole * (index + 1) / parts - whole * index / parts);
-}
 } // namespace
 
 CalendarPane::CalendarPane(QWidget* parent) : QWidget(parent)
 {
+    setMinimumSize(kFewestDays * fontMetrics().horizontalAdvance("000"), kFewestDays * fontMetrics().height());
     BuildGrid();
     BuildOverlays();
 }
 
 void CalendarPane::BuildGrid()
 {
-    flxCalendar = Named<FlexGrid>("flxCalendar", this);
-    flxCalendar->SetSize(YearCalendar::kRows, YearCalendar::kCols);
-    SetAccessibleName(flxCalendar, {"Year calendar", "Calendrier de l'année"});
-    flxCalendar->SetBordered(false);
-    flxCalendar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    flxCalendar->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    flxCalendar->SetRowHidden(YearCalendar::kRows - 1, true);
-    for (int row = 0; row < YearCalendar::kRows; ++row)
-        for (int col = 0; col < YearCalendar::kCols; ++col) {
-            flxCalendar->SetCellAlignment(row, col, Qt::AlignCenter);
-            const bool day = !YearCalendar::IsTitleRow(row) && !YearCalendar::IsWeekdayRow(row) &&
-                             !YearCalendar::IsSpacerRow(row) && !YearCalendar::IsSeparatorColumn(col);
-            flxCalendar->SetCellLines(row, col, day);
-            if (YearCalendar::IsTitleRow(row) && col % YearCalendar::kBlockCols == 0)
-                flxCalendar->MergeCells(row, col, 1, YearCalendar::kBlockCols - 1);
-        }
+    flxCalendar = new CalendarGrid(this);
+    setFocusProxy(flxCalendar);
     flxCalendar->viewport()->setMouseTracking(true);
     flxCalendar->viewport()->installEventFilter(this);
     connect(flxCalendar, &FlexGrid::CellClicked, this, [this](int row, int col) {
-        const int date = shown_ ? shown_->StoredDate(row, col) : 0;
-        if (date != 0)
+        if (const int date = flxCalendar->DateAt(row, col); date != 0)
             DateClicked(date);
     });
     connect(flxCalendar, &FlexGrid::CellEntered, this, [this](int, int) { HideRecords(); });
+    flxCalendar->Moved = [this] { FollowCursor(); };
 }
 
 void CalendarPane::BuildOverlays()
@@ -101,32 +77,8 @@ void CalendarPane::BuildOverlays()
 
 void CalendarPane::Show(const YearCalendar& calendar)
 {
-    shown_ = &calendar;
     HideRecords();
-    flxCalendar->BeginUpdate();
-    for (int row = 0; row < YearCalendar::kRows; ++row)
-        for (int col = 0; col < YearCalendar::kCols; ++col)
-            ShowCell(calendar, row, col);
-    flxCalendar->EndUpdate();
-}
-
-void CalendarPane::ShowCell(const YearCalendar& calendar, int row, int col)
-{
-    if (YearCalendar::IsSpacerRow(row) || YearCalendar::IsSeparatorColumn(col))
-        return;
-    const CalendarCell& cell = calendar.Cell(row, col);
-    const bool empty = cell.BackColor != CalendarColor::Head && calendar.StoredDate(row, col) == 0;
-    flxCalendar->SetTextMatrix(row, col, cell.Text);
-    flxCalendar->SetCellBackColor(row, col, empty ? kNoDay : cell.BackColor);
-    flxCalendar->SetCellForeColor(row, col, cell.ForeColor);
-    flxCalendar->SetCellFontBold(row, col, cell.Bold);
-}
-
-void CalendarPane::RefreshDate(const YearCalendar& calendar, int date)
-{
-    const QPoint place = calendar.PlaceOf(date);
-    if (place.x() >= 0)
-        ShowCell(calendar, place.y(), place.x());
+    flxCalendar->Show(calendar);
 }
 
 void CalendarPane::Cover()
@@ -176,28 +128,45 @@ void CalendarPane::PlaceRecords()
     fraShowRecords->setGeometry(QRect(QPoint(left, top), size));
 }
 
-void CalendarPane::HideRecords()
+bool CalendarPane::HideRecords()
 {
+    const bool shown = !fraShowRecords->isHidden();
     fraShowRecords->hide();
+    return shown;
 }
 
 void CalendarPane::ShowHint(const QString& hint)
 {
+    const bool began = txtSelect->isHidden();
     txtSelect->setText(hint);
     txtSelect->adjustSize();
-    txtSelect->move(kHintOffset);
+    if (began)
+        txtSelect->move(kHintOffset);
     txtSelect->setVisible(!hint.isEmpty() && SessionState.ShowSelectHint);
     txtSelect->raise();
 }
 
+void CalendarPane::PlaceHint(const QPoint& pointer)
+{
+    const QPoint wanted = pointer + kHintOffset;
+    txtSelect->move(std::min(wanted.x(), width() - txtSelect->width()),
+                    std::min(wanted.y(), height() - txtSelect->height()));
+}
+
+/// The cursor has come to another day. The hint keeps out of its way.
+void CalendarPane::FollowCursor()
+{
+    HideRecords();
+    const QRect cell = flxCalendar->CellRect(flxCalendar->Row(), flxCalendar->Col());
+    const QPoint place = flxCalendar->viewport()->mapTo(this, cell.bottomLeft());
+    const bool below = place.y() + kHintOffset.y() + txtSelect->height() < height();
+    PlaceHint(below ? place : place - QPoint(0, cell.height() + txtSelect->height() + 2 * kHintOffset.y()));
+}
+
 bool CalendarPane::eventFilter(QObject* target, QEvent* event)
 {
-    if (event->type() == QEvent::MouseMove && !txtSelect->isHidden()) {
-        const QPoint mouse = flxCalendar->viewport()->mapTo(this, static_cast<QMouseEvent*>(event)->pos());
-        const QPoint wanted = mouse + kHintOffset;
-        txtSelect->move(std::min(wanted.x(), width() - txtSelect->width()),
-                        std::min(wanted.y(), height() - txtSelect->height()));
-    }
+    if (event->type() == QEvent::MouseMove && !txtSelect->isHidden())
+        PlaceHint(flxCalendar->viewport()->mapTo(this, static_cast<QMouseEvent*>(event)->pos()));
     return QWidget::eventFilter(target, event);
 }
 
@@ -211,17 +180,5 @@ void CalendarPane::ResizeScreen()
 {
     flxCalendar->setGeometry(rect());
     fraHideCalendar->setGeometry(rect());
-    const int separators = 3 * kSeparatorWidth;
-    const int spacers = 2 * kSpacerHeight;
-    flxCalendar->BeginUpdate();
-    int day = 0;
-    for (int col = 0; col < YearCalendar::kCols; ++col)
-        flxCalendar->SetColWidth(col, YearCalendar::IsSeparatorColumn(col)
-                                          ? kSeparatorWidth
-                                          : Share(width() - separators, kDayColumns, day++));
-    int text = 0;
-    for (int row = 0; row < YearCalendar::kRows; ++row)
-        flxCalendar->SetRowHeight(row, YearCalendar::IsSpacerRow(row) ? kSpacerHeight
-                                                                      : Share(height() - spacers, kTextRows, text++));
-    flxCalendar->EndUpdate();
+    flxCalendar->FitInto(size());
 }

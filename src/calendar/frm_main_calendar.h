@@ -6,7 +6,7 @@
 
 #include <functional>
 
-class FlexGrid;
+class CalendarGrid;
 class QFrame;
 class QLabel;
 class QPlainTextEdit;
@@ -20,17 +20,19 @@ public:
     explicit CalendarPane(QWidget* parent = nullptr);
 
     std::function<void(int date)> DateClicked; ///< a cell with a date was clicked
+    /// The days as such: ranges of dates are chosen there.
+    CalendarGrid& Days() { return *flxCalendar; }
 
     void Show(const YearCalendar& calendar);
-    void RefreshDate(const YearCalendar& calendar, int date);
 
     void Cover();
     void Uncover();
     void ShowProgress(int done, int all);
 
-    /// The records of a day below its title; it closes when the mouse moves on.
+    /// The records of a day below its title; it closes when the mouse or the cursor moves on.
     void ShowRecords(const QString& title, const QString& records);
-    void HideRecords();
+    /// False when none were shown.
+    bool HideRecords();
     void ShowHint(const QString& hint);
     void ResizeScreen();
 
@@ -41,15 +43,15 @@ protected:
 private:
     void BuildGrid();
     void BuildOverlays();
-    void ShowCell(const YearCalendar& calendar, int row, int col);
     void PlaceRecords();
+    void PlaceHint(const QPoint& pointer);
+    void FollowCursor();
 
-    FlexGrid* flxCalendar = nullptr;
+    CalendarGrid* flxCalendar = nullptr;
     QFrame* fraHideCalendar = nullptr;
     QProgressBar* pgrLoadingCalendar = nullptr;
     QFrame* fraShowRecords = nullptr;
     QLabel* lblRecordsDate = nullptr;
     QPlainTextEdit* txtAttendanceRecords = nullptr;
     QLabel* txtSelect = nullptr;
-    const YearCalendar* shown_ = nullptr;
 };

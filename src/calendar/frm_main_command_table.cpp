@@ -114,7 +114,7 @@ List FileMenu()
             Below(Entry("mnuFilePrintCalendar", {"&Print calendar...", "&Imprimer le calendrier..."}, Everybody(),
                         NotYet, Qt::CTRL | Qt::Key_P)),
             Entry("mnuFilePrintRequest", {"Print &request for leave form...", "Imprimer un formulaire de de&mande..."},
-                  When(OneEmployeeShown)),
+                  When(OneEmployeeShown, {"Select an employee first.", "Choisissez d'abord un(e) employé(e)."})),
             Below(Entry("mnuFileDatabaseLocation",
                         {"Database &location...", "&Localisation de la banque de données..."}, AdminOnly(),
                         &frmMain::mnuFileDatabaseLocation_Click)),
@@ -246,6 +246,9 @@ List SpecialMenu()
             CheckedWhen(ShowsPending, Entry("mnuSpecialDisplayPending",
                                             {"Display &pending requests", "Afficher les &demandes non traitées"},
                                             When(HasFileBackEnd), [](frmMain& main) { main.DisplayRecords(false); })),
+            CheckedWhen(&frmMain::ShowsCodes,
+                        Entry("mnuSpecialCategoryCodes", {"Show &category codes", "Afficher les c&odes de catégorie"},
+                              Everybody(), &frmMain::mnuSpecialCategoryCodes_Click)),
             Below(Entry("mnuSpecialSwitchLanguage", {"&Français", "En&glish"}, Everybody(),
                         &frmMain::mnuSpecialSwitchLanguage_Click, Qt::CTRL | Qt::Key_L)),
             Entry("mnuSpecialChangePassword", {"C&hange password...", "Changer de &mot-clé..."}, Everybody(),
@@ -268,7 +271,8 @@ List HelpMenu()
     return Menu(
         "mnuHelp", {"&Help", "&Aide"}, Everybody(),
         {
-            Entry("mnuHelpTutorial", {"On-line &tutorial", "&Manuel d'aide en ligne"}, Everybody(), NotYet, Qt::Key_F1),
+            Entry("mnuHelpTutorial", {"On-line &tutorial", "&Manuel d'aide en ligne"}, Everybody()),
+            Entry("mnuHelpKeys", {"&Keyboard...", "&Clavier..."}, Everybody(), &frmMain::mnuHelpKeys_Click, Qt::Key_F1),
             Entry("mnuHelpAbout", {"&About Tarvell...", "À &propos de Tarvell..."}, Everybody(), Opens<frmAbout>),
         });
 }
@@ -289,7 +293,9 @@ std::vector<List> Tools()
 {
     const Rule create = AtAnyLevel(Access::Create) && InOpenYear();
     const Rule modify = AtAnyLevel(Access::Modify) && InOpenYear();
-    const Rule mustRequest = When([] { return SessionState.SelfLevelCreate == 0; });
+    const Rule mustRequest = When([] { return SessionState.SelfLevelCreate == 0; },
+                                  {"You enter your own records: you need not request them.",
+                                   "Vous enregistrez vos propres absences : vous n'avez pas à les demander."});
     const Rule approved = When(ShowsApproved);
     const Rule approvedOrOwn =
         When([] { return ShowsApproved() || SessionState.CurrentSelection == SessionState.UserName; });
@@ -324,12 +330,23 @@ std::vector<List> YearButtons()
 {
     return {
         Button(Place::Years, "cmdPreviousYear", "previous", {}, {"Previous fiscal year", "Année fiscale précédente"},
-               When([] { return SessionState.PreviousFYID > 0; }),
+               When([] { return SessionState.PreviousFYID > 0; },
+                    {"There is no fiscal year before this one.", "Aucune année fiscale ne précède celle-ci."}),
                [](frmMain& main) { main.ChangeToYear(Neighbour::Previous); }),
         Button(Place::Years, "cmdNextYear", "next", {}, {"Next fiscal year", "Année fiscale suivante"},
-               When([] { return SessionState.NextFYID > 0; }),
+               When([] { return SessionState.NextFYID > 0; },
+                    {"There is no fiscal year after this one yet.", "Aucune année fiscale ne suit encore celle-ci."}),
                [](frmMain& main) { main.ChangeToYear(Neighbour::Next); }),
     };
+}
+
+/// Ctrl and a digit, from the left.
+void NumberTools(List& all)
+{
+    int digit = Qt::Key_1;
+    for (Command& command : all)
+        if (command.In == Place::ToolBar)
+            command.Shortcut = QKeySequence(Qt::CTRL | static_cast<Qt::Key>(digit++));
 }
 
 List AllCommands()
@@ -340,6 +357,7 @@ List AllCommands()
           Tools(), YearButtons()})
         for (const List& commands : part)
             all.insert(all.end(), commands.begin(), commands.end());
+    NumberTools(all);
     return all;
 }
 } // namespace

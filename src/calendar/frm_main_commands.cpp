@@ -1,6 +1,7 @@
 #include "attendance/frm_attendance.h"
 #include "calendar/frm_main.h"
 #include "calendar/frm_main_calendar.h"
+#include "calendar/frm_main_grid.h"
 #include "calendar/frm_main_header.h"
 #include "calendar/frm_main_legend.h"
 #include "calendar/frm_main_tool_bar.h"
@@ -13,6 +14,7 @@
 #include "foundation/user_profile.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
+#include "platform/user_settings.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
 
@@ -23,6 +25,7 @@ namespace
 {
 constexpr int kMinute = 60'000;
 constexpr int kShutDownSeconds = 60;
+const QString kCodesSetting = "CategoryCodes";
 } // namespace
 
 void frmMain::Run(const Command& command)
@@ -62,6 +65,34 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
     ReloadSelection(Category::KeepIfListed);
 }
 
+void frmMain::mnuSpecialCategoryCodes_Click()
+{
+    SetUserSetting(SessionState.LoginID, kCodesSetting, !ShowsCodes());
+    pane_->Days().ShowCodes(ShowsCodes());
+    ActivateAllowedControls();
+}
+
+bool frmMain::ShowsCodes()
+{
+    return UserSetting(SessionState.LoginID, kCodesSetting).toBool();
+}
+
+void frmMain::mnuHelpKeys_Click()
+{
+    Tell(T("KEYBOARD:", "CLAVIER:"),
+         T("Arrows\tday by day, week by week\r\nHome, End\tfirst and last day of the month (with Ctrl: of the "
+           "year)\r\nPage Up, Page Down\tmonth by month\r\nEnter or Space\tas a click on the day\r\nShift + "
+           "arrows\tmark a range, for «Several dates» and «Request»\r\nEscape\tclose the list of a day, give a tool "
+           "up\r\nCtrl+1 to Ctrl+8\tthe tools, from left to right\r\nCtrl+E\temployees\r\nCtrl+P\tprint the "
+           "calendar\r\nCtrl+L\tfrançais\r\nCtrl+Q\texit\r\nAlt or F10\tthe menus\r\nF1\tthis list",
+           "Flèches\tjour par jour, semaine par semaine\r\nDébut, Fin\tpremier et dernier jour du mois (avec Ctrl : "
+           "de l'année)\r\nPage préc., Page suiv.\tmois par mois\r\nEntrée ou Espace\tcomme un clic sur le "
+           "jour\r\nMaj + flèches\tmarquer une suite de jours, pour «Plusieurs dates» et «Demande»\r\nÉchap\tfermer la "
+           "liste d'un jour, abandonner un outil\r\nCtrl+1 à Ctrl+8\tles outils, de gauche à droite\r\nCtrl+E\temployés"
+           "\r\nCtrl+P\timprimer le calendrier\r\nCtrl+L\tEnglish\r\nCtrl+Q\tquitter\r\nAlt ou F10\tles menus\r\nF1"
+           "\tcette liste"));
+}
+
 void frmMain::mnuSpecialUpdateAdminInfo_Click()
 {
     frmUpdateAdminInfo form(this);
@@ -79,11 +110,12 @@ void frmMain::ShowHint(const QString& hint)
     pane_->ShowHint(hint);
 }
 
-void frmMain::BeginTool(const QString& usableTool)
+void frmMain::BeginTool(const QString& tool, bool usable)
 {
     Busy = true;
     setCursor(Qt::CrossCursor);
-    DeactivateAllControls(usableTool);
+    pane_->setFocus(); // dates can be taken with the keyboard at once
+    DeactivateAllControls(tool, usable);
 }
 
 void frmMain::EndTool()
@@ -96,7 +128,7 @@ void frmMain::EndTool()
 
 void frmMain::RefreshDate(int date)
 {
-    pane_->RefreshDate(calendar_, date);
+    pane_->Days().RefreshDate(date);
 }
 
 /// The calendar keeps what it shows, and follows to another employee only when records were written for him.
@@ -196,6 +228,8 @@ void frmMain::timTimeOut_Timer()
     header_->ShowTimeOut(Fill(
         T("Tarvell will be shut down in {seconds} seconds...", "Tarvell sera interrompu dans {seconds} secondes..."),
         {{"seconds", QString::number(left)}}));
-    if (left <= -kShutDownSeconds)
-        EndProgram();
+    if (left > -kShutDownSeconds)
+        return;
+    KeepPlace();
+    EndProgram();
 }

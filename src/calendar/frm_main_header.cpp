@@ -3,8 +3,33 @@
 #include "foundation/frm_captions.h"
 #include "foundation/frm_explained.h"
 
+#include <QPainter>
+#include <QStyle>
+
 namespace
 {
+constexpr int kListWidth = 200;
+
+/// A figure that is cut with dots, and told whole by its tip, where there is no room for it.
+class ElidedLabel : public QLabel
+{
+public:
+    QSize minimumSizeHint() const override
+    {
+        return {fontMetrics().averageCharWidth() * 8, QLabel::sizeHint().height()};
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        setToolTip(shown == text() ? QString() : text());
+        QPainter painter(this);
+        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+                              foregroundRole());
+    }
+};
+
 /// A small caption above a large figure.
 QFrame* FigureCard(const QString& name, const Text& caption, QLabel* figure)
 {
@@ -41,11 +66,12 @@ QFrame* MainHeader::YearCard()
     grid->setColumnStretch(4, 1);
     grid->setColumnMinimumWidth(3, 16);
     AddYears(grid);
-    lblCurrentSelection_DISPLAY = AsFigure(MakeLabel("lblCurrentSelection_DISPLAY"));
+    lblCurrentSelection_DISPLAY = AsFigure(Named<ElidedLabel>("lblCurrentSelection_DISPLAY"));
     grid->addWidget(AsCaption(MakeLabel("lblCurrentSelection", {"Attendance of", "Absences de"})), 0, 4);
     grid->addWidget(lblCurrentSelection_DISPLAY, 1, 4);
     cboCategories = Named<QComboBox>("cboCategories");
-    cboCategories->setMinimumWidth(240);
+    cboCategories->setMinimumWidth(kListWidth);
+    cboCategories->setMaximumWidth(2 * kListWidth);
     connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);
     grid->addWidget(AsCaption(LabelOf(cboCategories, {"Ca&tegory", "Ca&tégorie"})), 0, 5);
     grid->addWidget(cboCategories, 1, 5);
@@ -134,6 +160,9 @@ void MainHeader::ShowTimeOut(const QString& announcement)
 void MainHeader::Activate(bool active)
 {
     cboCategories->setEnabled(active);
-    for (const auto& [command, button] : years_)
-        button->setEnabled(active && command.Allowed.Holds());
+    for (const auto& [command, button] : years_) {
+        const Text why = command.Allowed.WhyNot();
+        button->setEnabled(active && why.IsEmpty());
+        button->setToolTip(T(why.IsEmpty() ? command.Tip : why));
+    }
 }

@@ -7,6 +7,17 @@
 #include <QMenu>
 #include <QMenuBar>
 
+namespace
+{
+/// A menu whose greyed entries tell why.
+QMenu* AddMenu(QMenuBar* bar, QMenu* parent)
+{
+    QMenu* menu = parent ? parent->addMenu(QString()) : bar->addMenu(QString());
+    menu->setToolTipsVisible(true);
+    return menu;
+}
+} // namespace
+
 MainMenus::MainMenus(QMenuBar* bar, const Run& run)
 {
     QHash<QString, QMenu*> menus;
@@ -15,7 +26,7 @@ MainMenus::MainMenus(QMenuBar* bar, const Run& run)
         if (command->AfterLine)
             parent->addSeparator();
         if (command->IsMenu)
-            menus[command->Name] = parent ? parent->addMenu(QString()) : bar->addMenu(QString());
+            menus[command->Name] = AddMenu(bar, parent);
         QAction* action = command->IsMenu ? menus[command->Name]->menuAction() : parent->addAction(QString());
         action->setObjectName(command->Name);
         SetCaption(action, command->Caption);
@@ -44,7 +55,9 @@ void MainMenus::ActivateBar()
 void MainMenus::ActivateAllowed()
 {
     for (const auto& [command, action] : items_) {
-        action->setEnabled(command.Allowed.Holds());
+        const Text why = command.Allowed.WhyNot();
+        action->setEnabled(why.IsEmpty());
+        action->setToolTip(why.IsEmpty() ? QString() : T(why));
         action->setVisible(command.Shown.Holds());
         if (command.Checked)
             action->setChecked(command.Checked());

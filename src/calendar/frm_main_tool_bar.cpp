@@ -4,13 +4,38 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QShortcut>
+#include <QStyle>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace
 {
 constexpr int kIconSize = 24;
 constexpr int kZoomedIconSize = 32;
 constexpr int kToolWidth = 96;
+constexpr int kWordMargin = 20; ///< what a tool has around its word or image
+constexpr int kToolGap = 15;    ///< between tools, the lines between their groups included
+constexpr int kLowWindow = 640; ///< below it the calendar needs the room of the words
+
+void SetLook(QToolButton* image, const char* look)
+{
+    if (image->property("look").toString() == QLatin1String(look))
+        return;
+    image->setProperty("look", QString::fromLatin1(look));
+    image->style()->unpolish(image);
+    image->style()->polish(image);
+}
+
+/// The tool in use keeps its colours, also while it takes no click.
+QIcon UngreyedIcon(const QString& picture)
+{
+    QIcon icon;
+    icon.addPixmap(Picture(picture, kIconSize), QIcon::Normal);
+    icon.addPixmap(Picture(picture, kIconSize), QIcon::Disabled);
+    return icon;
+}
 
 void AddGroupLine(QHBoxLayout* row)
 {
@@ -34,6 +59,7 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
         const Tool tool{*command, MakeImage(*command, command->Name), MakeImage(*command, command->Name + "_DISABLED")};
         tool.Image->installEventFilter(this);
         connect(tool.Image, &QToolButton::clicked, this, [this, command] { Chosen(*command); });
+        AddShortcut(tool);
         tool.Disabled->setEnabled(false);
         tool.Disabled->hide();
         row->addWidget(tool.Image);
@@ -50,6 +76,16 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
     connect(imgZoom, &QToolButton::clicked, this, [this] { Chosen(*hovered_); });
 }
 
+/// The key of a tool that may not be used does nothing.
+void ToolBar::AddShortcut(const Tool& tool)
+{
+    auto* shortcut = new QShortcut(tool.Of.Shortcut, this);
+    connect(shortcut, &QShortcut::activated, this, [this, tool] {
+        if (tool.Image->isVisible())
+            Chosen(tool.Of);
+    });
+}
+
 QToolButton* ToolBar::MakeImage(const Command& command, const QString& name)
 {
     auto* image = Named<QToolButton>(name);
@@ -59,21 +95,24 @@ QToolButton* ToolBar::MakeImage(const Command& command, const QString& name)
     image->setAutoRaise(true);
     image->setIcon(PictureIcon(command.Picture));
     SetCaption(image, command.Caption);
-    SetToolTip(image, command.Tip);
     return image;
 }
 
 void ToolBar::ActivateAllowed()
 {
     for (const Tool& tool : tools_)
-        SetTool(tool, tool.Of.Allowed.Holds());
+        SetTool(tool, tool.Of.Allowed.Holds(), false, tool.Of.Allowed.WhyNot());
 }
 
-void ToolBar::Deactivate(const QString& usableTool)
+void ToolBar::Deactivate(const QString& toolInUse, bool usable)
 {
+    constexpr Text kWait = {"Another command is in progress. Press «Escape» to give a tool up.",
+                            "Une autre commande est en cours. Appuyez sur «Échap» pour abandonner un outil."};
     imgZoom->hide();
-    for (const Tool& tool : tools_)
-        SetTool(tool, tool.Of.Name == usableTool);
+    for (const Tool& tool : tools_) {
+        const bool inUse = tool.Of.Name == toolInUse;
+        SetTool(tool, inUse && usable, inUse, inUse ? tool.Of.Tip : kWait);
+    }
 }
 
 bool ToolBar::Shows(const char* name) const
@@ -82,11 +121,46 @@ bool ToolBar::Shows(const char* name) const
     return image && image->isVisibleTo(this);
 }
 
-void ToolBar::SetTool(const Tool& tool, bool enabled)
+void ToolBar::SetTool(const Tool& tool, bool enabled, bool inUse, const Text& why)
 {
     const bool shown = tool.Of.Shown.Holds();
+    const QString tip = T(tool.Of.Tip) + "   " + tool.Of.Shortcut.toString(QKeySequence::NativeText);
+    tool.Image->setToolTip(tip);
+    tool.Disabled->setToolTip(why.IsEmpty() || inUse ? tip : tip + "\n" + T(why));
+    for (QToolButton* image : {tool.Image, tool.Disabled})
+        SetLook(image, inUse ? "active" : "");
+    tool.Disabled->setIcon(inUse ? UngreyedIcon(tool.Of.Picture) : PictureIcon(tool.Of.Picture));
     tool.Image->setVisible(shown && enabled);
     tool.Disabled->setVisible(shown && !enabled);
+}
+
+void ToolBar::ShowWords(bool shown)
+{
+    imgZoom->hide();
+    for (QToolButton* image : findChildren<QToolButton*>()) {
+        image->setToolButtonStyle(shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+        image->setMinimumWidth(shown ? kToolWidth : 0);
+    }
+}
+
+/// Hidden twins take no room, so that one of each pair counts.
+int ToolBar::WidthWithWords() const
+{
+    int width = 0;
+    for (const Tool& tool : tools_)
+        width += std::max(kToolWidth, fontMetrics().horizontalAdvance(T(tool.Of.Caption)) + kWordMargin) + kToolGap;
+    return width;
+}
+
+QSize ToolBar::minimumSizeHint() const
+{
+    return {static_cast<int>(tools_.size()) * (kIconSize + kWordMargin), kIconSize + kWordMargin};
+}
+
+void ToolBar::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    ShowWords(width() >= WidthWithWords() && window()->height() >= kLowWindow);
 }
 
 void ToolBar::ShowZoom(const Tool& tool)
@@ -95,6 +169,8 @@ void ToolBar::ShowZoom(const Tool& tool)
     imgZoom->setText(tool.Image->text());
     imgZoom->setIcon(tool.Image->icon());
     imgZoom->setToolTip(tool.Image->toolTip());
+    imgZoom->setToolButtonStyle(tool.Image->toolButtonStyle());
+    SetLook(imgZoom, tool.Image->property("look") == "active" ? "active" : "");
     imgZoom->setGeometry(tool.Image->geometry());
     imgZoom->show();
     imgZoom->raise();

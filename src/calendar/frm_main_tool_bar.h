@@ -17,14 +17,18 @@ public:
 
     /// Shows the tools that are to be seen, and enables them by their rules.
     void ActivateAllowed();
-    /// Disables all tools but one, "" for none.
-    void Deactivate(const QString& usableTool);
+    /// Disables all tools. The one in use looks so, and stays usable where a second click ends it; "" for none.
+    void Deactivate(const QString& toolInUse, bool usable);
     /// The tool can be seen and used.
     bool Shows(const char* name) const;
+
+    /// Without the words below the images, where there is no room for them.
+    QSize minimumSizeHint() const override;
 
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     struct Tool
@@ -34,9 +38,12 @@ private:
         QToolButton* Disabled;
     };
 
+    void AddShortcut(const Tool& tool);
     static QToolButton* MakeImage(const Command& command, const QString& name);
-    static void SetTool(const Tool& tool, bool enabled);
+    static void SetTool(const Tool& tool, bool enabled, bool inUse, const Text& why);
     void ShowZoom(const Tool& tool);
+    void ShowWords(bool shown);
+    int WidthWithWords() const;
 
     std::vector<Tool> tools_;
     const Command* hovered_ = nullptr; ///< the tool under imgZoom

@@ -3,6 +3,8 @@
 #include "foundation/texts.h"
 #include "platform/clock.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr int kMonths = 12;
@@ -52,6 +54,9 @@ void YearCalendar::LoadDates(const FiscalYear& year, const QVector<CalendarRecor
                              const QVector<Holiday>& holidays, const std::function<void(int, int)>& progress)
 {
     commencingDate_ = year.CommencingDate;
+    endingDate_ = year.EndingDate;
+    records_ = records;
+    holidays_ = holidays;
     PaintFrame();
     for (int date = year.CommencingDate; date <= year.EndingDate; ++date)
         PaintDay(date);
@@ -124,4 +129,15 @@ bool YearCalendar::IsHoliday(int date) const
 {
     const QPoint place = PlaceOf(date);
     return place.x() >= 0 && cells_[place.y()][place.x()].ForeColor == CalendarColor::Holiday;
+}
+
+std::span<const CalendarRecord> YearCalendar::RecordsOn(int date) const
+{
+    struct ByDate
+    {
+        bool operator()(const CalendarRecord& record, int date) const { return record.RecordDate < date; }
+        bool operator()(int date, const CalendarRecord& record) const { return date < record.RecordDate; }
+    };
+    const auto [first, last] = std::equal_range(records_.begin(), records_.end(), date, ByDate());
+    return {first, last};
 }

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <functional>
+#include <span>
 
 /// The calendar's colours, 0xBBGGRR.
 namespace CalendarColor
@@ -60,6 +61,12 @@ public:
     void Mark(int date, const QString& mark);
     bool IsMarked(int date) const;
     bool IsHoliday(int date) const;
+    QString HolidayOn(int date) const { return HolidayName(holidays_, date); }
+    /// What was painted on a date.
+    std::span<const CalendarRecord> RecordsOn(int date) const;
+
+    int FirstDate() const { return commencingDate_; }
+    int LastDate() const { return endingDate_; }
 
 private:
     QPoint ComputedPlace(int date) const;
@@ -69,6 +76,9 @@ private:
     CalendarCell* At(int date);
 
     int commencingDate_ = 0;
+    int endingDate_ = 0;
+    QVector<CalendarRecord> records_;
+    QVector<Holiday> holidays_;
     std::array<std::array<CalendarCell, kCols>, kRows> cells_;
     std::array<std::array<int, kCols>, kRows> flxStoreDates{};
 };

@@ -117,4 +117,56 @@ TEST_F(MainWindow, TheMinuteLocksTheWindowOnlyForAStepThatIsDue)
     }
     EXPECT_EQ(looked, 2) << "what was not told yet is looked for again, what was told is not";
 }
+
+TEST_F(MainWindow, TheWindowStandsWhereItWasLeftAndFitsTheSmallestScreens)
+{
+    Opens("MBOUCHARD");
+    EXPECT_LE(main->minimumSizeHint().width(), 940);
+    EXPECT_LE(main->minimumSizeHint().height(), 490);
+    for (const bool english : {false, true}) {
+        EXPECT_EQ(SessionState.English, !english);
+        main->resize(main->minimumSizeHint());
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(main->rect().contains(main->findChild<QWidget*>("fraLegendCard")->geometry()));
+        user.Presses("flxCalendar", Qt::Key_End, Qt::ControlModifier);
+        const QRect last = Grid().CellRect(Grid().Row(), Grid().Col());
+        EXPECT_TRUE(Grid().viewport()->rect().contains(last)) << "the cursor is scrolled into sight";
+        user.ChoosesMenu("mnuSpecialSwitchLanguage");
+    }
+    main->setGeometry(30, 60, 1000, 600);
+    const QRect place = main->geometry();
+    EXPECT_THROW(main->cmdQuit_Click(), ProgramEnded);
+    Opens("MBOUCHARD");
+    EXPECT_EQ(main->geometry(), place);
+    main->showMaximized();
+    EXPECT_THROW(main->cmdQuit_Click(), ProgramEnded);
+    Opens("MBOUCHARD");
+    EXPECT_TRUE(main->isMaximized());
+    Opens("ADMIN");
+    EXPECT_FALSE(main->isMaximized()) << "each user has his own place";
+}
+
+TEST_F(MainWindow, TheToolInUseLooksSoAndWhatIsGreyedSaysWhy)
+{
+    const auto tip = [this](const char* control) { return main->findChild<QWidget*>(control)->toolTip(); };
+    const auto looks = [this](const QString& control) {
+        return main->findChild<QWidget*>(control)->property("look").toString();
+    };
+    OpensOnMarie();
+    EXPECT_TRUE(tip("imgSubmit_DISABLED").contains("You enter your own records"));
+    EXPECT_EQ(tip("imgCreateSingle"), "New attendance record on one date   Ctrl+1");
+    for (const QString tool : {"imgCreateSingle", "imgCreateMultiple"}) {
+        user.Clicks(tool);
+        EXPECT_EQ(looks(tool) + looks(tool + "_DISABLED") + looks("imgModify_DISABLED"), "activeactive");
+        EXPECT_TRUE(tip("imgModify_DISABLED").contains("Escape"));
+        user.Presses("", Qt::Key_Escape);
+        EXPECT_EQ(looks(tool), "");
+    }
+    house.Sql("UPDATE FiscalYears SET ClosedDate = 46000");
+    SessionState.English = false;
+    main->timAbsence_Timer();
+    EXPECT_TRUE(tip("imgCreateSingle_DISABLED").endsWith("Cette année fiscale est fermée."));
+    EXPECT_EQ(main->findChild<QAction*>("mnuFileGroups")->toolTip(), "Cette année fiscale est fermée.");
+    EXPECT_EQ(tip("cmdNextYear"), "Aucune année fiscale ne suit encore celle-ci.");
+}
 } // namespace

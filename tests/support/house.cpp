@@ -10,6 +10,7 @@
 #include "platform/clock.h"
 #include "platform/dao/server.h"
 #include "platform/program.h"
+#include "platform/user_settings.h"
 #include "setup/first_rows.h"
 
 #include <QDir>
@@ -77,6 +78,7 @@ House::House(const QString& folder)
     WireForms();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::Canada));
     SetProgramFolder(folder_);
+    SetUserSettingsFolder(folder_ + "/settings");
     for (const char* name : {"/Tarvell.mdb", "/Config.mdb"})
         QFile::copy(DeliveredFolder() + name, folder_ + name);
     SetClockSource({[] { return moment; }, [](int) {}});

@@ -1,0 +1,135 @@
+#include "calendar/day_notes.h"
+#include "calendar/main_window_fixture.h"
+
+namespace
+{
+class CalendarKeys : public MainWindow
+{
+protected:
+    /// Presses keys in the calendar and tells on which day they end, such as "12-04".
+    QString After(std::initializer_list<Qt::Key> keys, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        for (const Qt::Key key : keys)
+            user.Presses("flxCalendar", key, modifiers);
+        return DateOfSerial(main->Calendar().StoredDate(Grid().Row(), Grid().Col())).toString("MM-dd");
+    }
+    QPoint Center(int month, int day)
+    {
+        const QPoint place = Place(month, day);
+        return Grid().CellRect(place.y(), place.x()).center();
+    }
+    void Drags(std::pair<int, int> from, std::pair<int, int> to)
+    {
+        QTest::mousePress(Grid().viewport(), Qt::LeftButton, {}, Center(from.first, from.second));
+        QTest::mouseMove(Grid().viewport(), Center(to.first, to.second));
+        QTest::mouseRelease(Grid().viewport(), Qt::LeftButton, {}, Center(to.first, to.second));
+    }
+    /// What a screen reader says of a day.
+    QString Said(int month, int day)
+    {
+        const QPoint place = Place(month, day);
+        return Grid().model()->index(place.y(), place.x()).data(Qt::AccessibleTextRole).toString();
+    }
+    QImage Painted(int month, int day)
+    {
+        const QPoint place = Place(month, day);
+        return Grid().viewport()->grab(Grid().CellRect(place.y(), place.x())).toImage();
+    }
+    QString Counted() { return user.Reads("txtSelect").section('\n', -1); }
+};
+
+TEST_F(CalendarKeys, DaysWeeksAndMonthsAreWalkedFromTodayWithinTheYear)
+{
+    OpensOnMarie();
+    EXPECT_TRUE(user.HasFocus("flxCalendar"));
+    EXPECT_EQ(After({}), "11-23");
+    EXPECT_EQ(After({Qt::Key_Left, Qt::Key_Up}), "11-15");
+    EXPECT_EQ(After({Qt::Key_Home, Qt::Key_Left}), "10-31") << "a month goes on in the next block";
+    EXPECT_EQ(After({Qt::Key_PageUp}), "09-30");
+    EXPECT_EQ(After({Qt::Key_PageDown, Qt::Key_End, Qt::Key_Down}), "11-07");
+    EXPECT_EQ(After({Qt::Key_Home}, Qt::ControlModifier), "01-01");
+    EXPECT_EQ(After({Qt::Key_Up, Qt::Key_PageUp}), "01-01");
+    EXPECT_EQ(After({Qt::Key_End}, Qt::ControlModifier), "12-31");
+    EXPECT_EQ(After({Qt::Key_Right, Qt::Key_Down}), "12-31");
+
+    EXPECT_EQ(After({Qt::Key_Return}), "12-31");
+    EXPECT_EQ(user.Reads("lblRecordsDate"), "Thu 31-Dec-2026");
+    EXPECT_TRUE(Visible("fraShowRecords"));
+    After({Qt::Key_Escape});
+    EXPECT_FALSE(Visible("fraShowRecords"));
+    house.FiscalYear("2027", 2027);
+    Opens("ADMIN");
+    user.Clicks("cmdNextYear");
+    EXPECT_EQ(After({}), "01-01") << "where today is not";
+}
+
+TEST_F(CalendarKeys, ARangeIsMarkedWithShiftOrByDraggingAndCounted)
+{
+    house.Record(marie, "Sick", {2026, 12, 9}, 3);
+    OpensOnMarie();
+    After({Qt::Key_2}, Qt::ControlModifier);
+    ASSERT_TRUE(Visible("txtSelect") && user.HasFocus("flxCalendar"));
+    EXPECT_EQ(After({Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right}), "12-04");
+    user.WillAnswer("WARNING:", "No", "There are other attendance records");
+    After({Qt::Key_Down}, Qt::ShiftModifier);
+    EXPECT_EQ(Counted(), "5 days, 35:00") << "neither the weekend nor what was refused";
+    After({Qt::Key_Left}, Qt::ShiftModifier);
+    EXPECT_EQ(Counted(), "4 days, 28:00") << "what was refused is not asked about again";
+    EXPECT_EQ(Days({{12, 4}, {12, 5}, {12, 9}, {12, 10}, {12, 11}}),
+              " X ffffff, 5 ffffff, 9 ffc0c0,  X ffffff, 11 ffffff");
+    EXPECT_TRUE(Said(12, 10).contains("Selected"));
+    After({Qt::Key_Space});
+    EXPECT_EQ(Counted(), "3 days, 21:00");
+    Drags({12, 28}, {12, 21});
+    EXPECT_EQ(Counted(), "8 days, 56:00") << "Christmas is left out";
+    After({Qt::Key_Escape});
+    EXPECT_EQ(Days({{12, 4}, {12, 21}, {12, 28}}), "4 ffffff, 21 ffffff, 28 ffffff");
+
+    user.ChoosesMenu("mnuSpecialSwitchLanguage");
+    After({Qt::Key_2}, Qt::ControlModifier);
+    Drags({12, 1}, {12, 2});
+    Drags({12, 1}, {12, 1});
+    EXPECT_EQ(Counted(), "1 jour, 07:00") << "a press and release on one day is a click";
+    After({Qt::Key_Escape});
+    After({Qt::Key_1}, Qt::ControlModifier);
+    Drags({12, 1}, {12, 4});
+    EXPECT_EQ(Days({{12, 2}}), "2 ffffff") << "one date is one date";
+    After({Qt::Key_5}, Qt::ControlModifier); // does nothing while another tool is in use
+    After({Qt::Key_Escape});
+}
+
+TEST_F(CalendarKeys, ADaySaysItsDateHolidayCategoriesAndHours)
+{
+    house.Record(marie, "Vacation", {2026, 7, 13}, 7);
+    house.Record(marie, "Sick", {2026, 7, 14}, 2);
+    house.Record(marie, "Sick", {2026, 7, 14}, 1.5F);
+    house.Record(marie, "Personal time", {2026, 7, 14}, 1);
+    house.Sql("UPDATE Categories SET CategoryCode = '' WHERE SystemName = 'Personal time'");
+    OpensOnMarie();
+    EXPECT_EQ(Said(11, 23), "Monday, November 23, 2026, Today");
+    EXPECT_EQ(Said(7, 1), "Wednesday, July 1, 2026, Canada Day");
+    EXPECT_EQ(Said(7, 14), "Tuesday, July 14, 2026, Sick 03:30, Personal time 01:00");
+    EXPECT_EQ(Grid().model()->index(0, 0).data(Qt::AccessibleTextRole).toString(), "JANUARY 2026");
+
+    const auto code = [this](int day) {
+        const int date = SerialOfDate({2026, 7, day});
+        return DayCode(main->Calendar(), date) + (IsPartOfDay(main->Calendar(), date) ? " part" : "");
+    };
+    EXPECT_EQ(code(13) + ", " + code(14) + ", " + code(15), "V, S+P part, ");
+    const QImage plain = Painted(7, 14);
+    user.ChoosesMenu("mnuSpecialCategoryCodes");
+    EXPECT_NE(Painted(7, 14), plain);
+    user.ChoosesMenu("mnuSpecialSwitchLanguage");
+    EXPECT_EQ(Said(7, 13), "lundi 13 juillet 2026, Vacances 07:00");
+
+    OpensOnMarie();
+    EXPECT_TRUE(main->findChild<QAction*>("mnuSpecialCategoryCodes")->isChecked()) << "the workstation remembers it";
+    user.ChoosesMenu("mnuSpecialCategoryCodes");
+    EXPECT_EQ(Painted(7, 14), plain);
+    Opens("MBOUCHARD");
+    EXPECT_FALSE(main->findChild<QAction*>("mnuSpecialCategoryCodes")->isChecked()) << "for each user";
+    static_cast<CalendarSelection&>(SessionState) = {};
+    main->LoadDates();
+    EXPECT_EQ(Said(7, 13), "Monday, July 13, 2026, Vacation") << "the hours of a whole company are not summed up";
+}
+} // namespace
