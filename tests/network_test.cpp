@@ -1,6 +1,7 @@
 #include "attendance/frm_attendance.h"
 #include "calendar/frm_main.h"
 #include "employees/frm_employees.h"
+#include "ledger/frm_entitlements.h"
 #include "selection/frm_select_employee.h"
 #include "support/file_calls.h"
 #include "support/main_window.h"
@@ -27,6 +28,7 @@ protected:
             "LoginID, Password) SELECT FiscalYear, OrganizationID, DepartmentID, GroupID, 'No', 'Employee ' || i, "
             "'E' || i, 'PASS' FROM Employees, n WHERE RecordID = ?",
             {anna});
+        house.Sql("INSERT INTO Entitlements (CategoryID, EmployeeID, Active) VALUES (1, ?, 1)", {anna});
     }
 
     FileCalls calls;
@@ -59,6 +61,13 @@ TEST_F(OnAShare, EveryClickCostsFewCalls)
     costs(35, [&] { change("Employee 7,"); });
     costs(35, [&] { user.Clicks("cmdNextYear"); });
     user.Clicks("cmdPreviousYear");
+
+    user.WillAnswer("MANAGING EMPLOYEE TIME BANKS", "No");
+    costs(25, [&] { user.Picks("cboCategories", "Time claimed"); });
+    user.Picks("cboCategories", "(All categories)");
+    costs(40, [&] { user.Opens<frmEntitlements>(); });
+    costs(40, [&] { user.Picks("cboRecords", "Abel"); });
+    user.Leaves();
 
     costs(40, [&] { user.Opens<frmEmployees>(); });
     costs(40, [&] {

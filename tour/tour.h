@@ -64,6 +64,7 @@ private:
     void ExpectHidden(bool hidden);
     void RequestLeave();
     void RequestTooMuch();
+    void PhotoExplanation(const QString& figure, const QString& name);
     void VisitSmallForms();
     void Confirm();
 

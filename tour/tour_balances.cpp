@@ -5,6 +5,7 @@
 #include "platform/controls/flex_grid.h"
 #include "tour.h"
 
+#include <QApplication>
 #include <QTest>
 
 void Tour::AdjustEntitlement()
@@ -56,6 +57,18 @@ void Tour::BorrowTime()
     if (user_.Reads("txtTimeBanked") != "-(03:15)")
         Complain("the bank holds " + user_.Reads("txtTimeBanked"));
     Photo("main_window_bank");
+    PhotoExplanation("txtTimeBanked", "explained_bank");
+    user_.Picks("cboCategories", T("Vacation", "Vacances"));
+    PhotoExplanation("lblTotalForTheYear_DISPLAY", "explained_total");
+    user_.Picks("cboCategories", T("(All categories)", "(Toutes les catégories)"));
+}
+
+void Tour::PhotoExplanation(const QString& figure, const QString& name)
+{
+    user_.Clicks(figure);
+    for (QWidget* tip : QApplication::topLevelWidgets())
+        if (tip->inherits("QTipLabel") && tip->isVisible())
+            tip->grab().save(QStringLiteral("%1/%2_%3.png").arg(folder_, name, english_ ? "en" : "fr"));
 }
 
 void Tour::RequestTooMuch()

@@ -11,13 +11,15 @@
 
 namespace
 {
-QString TableOf(const BalanceLines& lines)
+/// A line each, the figures in front and one below the other.
+QString TextOf(const BalanceLines& lines)
 {
-    QString rows;
+    const QChar kRoomOfDigit(0x2007);
+    constexpr int kFigureWidth = 8;
+    QStringList texts;
     for (const BalanceLine& line : lines)
-        rows += QStringLiteral("<tr><td>%1</td><td align='right'>&nbsp;&nbsp;%2</td></tr>")
-                    .arg(T(line.Caption).toHtmlEscaped(), DurationText(line.Hours));
-    return rows.isEmpty() ? rows : "<table>" + rows + "</table>";
+        texts << DurationText(line.Hours).rightJustified(kFigureWidth, kRoomOfDigit) + "  " + T(line.Caption);
+    return texts.join('\n');
 }
 
 class FigureExplainer : public QObject
@@ -47,7 +49,7 @@ private:
         if (figure_->text().isEmpty())
             return;
         try {
-            QToolTip::showText(place, TableOf(explain_()), figure_);
+            QToolTip::showText(place, TextOf(explain_()), figure_);
         } catch (const RuntimeError&) {
             QToolTip::hideText();
         }

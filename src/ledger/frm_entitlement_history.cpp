@@ -31,7 +31,6 @@ frmEntitlementHistory::frmEntitlementHistory(const EntitlementLine& line, const 
     SetAccessibleName(flxHistory, kHistoryTitle);
     auto* heading = AsHead(MakeLabel("lblHeading"));
     heading->setText(employee + " - " + line.Category);
-    heading->setTextFormat(Qt::PlainText);
     flxHistory->SetRowSelection(true);
     Page()->addWidget(MakeCard(Stack(kHistoryGap, {heading, flxHistory})), 1);
     LayFoot({AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { accept(); })});

@@ -186,18 +186,16 @@ TEST_F(Balances, AFigureIsExplainedWhenSomebodyLooks)
     OpensOnMarie();
     const auto explained = [this](const QString& figure) {
         user.Clicks(figure);
-        return QToolTip::text()
-            .remove(QRegularExpression("</?table>|</?tr>|<td>"))
-            .replace(QRegularExpression("</td><td align='right'>(&nbsp;)*|</td>"), " ");
+        return QToolTip::text().remove(QChar(0x2007)).replace('\n', ", ");
     };
-    EXPECT_EQ(explained("lblTotalForTheYear_DISPLAY"), "Taken to date 15:00 Booked ahead 01:30 Pending 02:00 ");
+    EXPECT_EQ(explained("lblTotalForTheYear_DISPLAY"), "15:00  Taken to date, 01:30  Booked ahead, 02:00  Pending");
     EXPECT_EQ(explained("txtTimeBanked"),
-              "Put in the bank 08:00 Taken to date 00:00 Booked ahead 02:00 Pending 00:00 Left 06:00 ");
+              "08:00  Put in the bank, 00:00  Taken to date, 02:00  Booked ahead, 00:00  Pending, 06:00  Left");
     user.Picks("cboCategories", "Vacation");
     SessionState.English = false;
     EXPECT_EQ(explained("lblTotalForTheYear_DISPLAY"),
-              "Solde de l'année précédente -(05:30) Temps alloué 70:15 Pris à ce jour 07:00 Prévu après aujourd'hui "
-              "03:30 En attente d'approbation 02:00 Reste 52:15 ");
+              "-(05:30)  Solde de l'année précédente, 70:15  Temps alloué, 07:00  Pris à ce jour, 03:30  Prévu après "
+              "aujourd'hui, 02:00  En attente d'approbation, 52:15  Reste");
 }
 
 TEST_F(Balances, WhoeverChoosesATimeBankForTheFirstTimeIsOfferedHelp)
