@@ -31,10 +31,12 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QMap>
 #include <QPushButton>
 #include <QScreen>
+#include <QStackedWidget>
 #include <QTabWidget>
 
 namespace
@@ -151,6 +153,7 @@ protected:
             if (isCaption && control->sizeHint().width() > control->width())
                 clipped << control->property("text").toString();
         }
+        clipped.removeAll(QString()); // the arrows of a row of tabs
         return clipped;
     }
 
@@ -169,27 +172,118 @@ protected:
         return nameless;
     }
 
-    static bool FitsTheScreen(const QWidget& form)
+    /// What a screen reader says of two controls alike, so that they cannot be told apart.
+    static QStringList SaidTwice(const QWidget& form)
     {
+        QStringList said, twice;
+        for (QWidget* control : form.findChildren<QWidget*>()) {
+            QAccessibleInterface* reader =
+                control->focusPolicy() & Qt::TabFocus ? QAccessible::queryAccessibleInterface(control) : nullptr;
+            if (!reader || control->focusProxy() || !control->isVisible() || control->inherits("QTabWidget") ||
+                control->inherits("QTabBar") || control->inherits("QScrollArea") ||
+                qobject_cast<QComboBox*>(control->parentWidget()))
+                continue;
+            const QString own = control->accessibleName(); // of a list the toolkit tells its entry
+            const QString name = own.isEmpty() ? reader->text(QAccessible::Name) : own;
+            if (said.contains(QString::number(reader->role()) + name))
+                twice << name;
+            said << QString::number(reader->role()) + name;
+        }
+        return twice;
+    }
+
+    /// The controls in the order of the Tab key that can be reached by it now.
+    static QList<QWidget*> TabOrder(QWidget& form)
+    {
+        QList<QWidget*> order;
+        for (QWidget* next = form.nextInFocusChain(); next != &form; next = next->nextInFocusChain())
+            if (next->focusPolicy() & Qt::TabFocus && next->isVisible() && !next->focusProxy() &&
+                form.isAncestorOf(next))
+                order << next;
+        return order;
+    }
+
+    /// Where the Tab key goes up without going right, and the ways out that it meets before a main button.
+    static QStringList AgainstTheOrder(QWidget& form)
+    {
+        QStringList against;
+        bool mainPassed = false;
+        const QWidget* before = nullptr;
+        for (const QWidget* control : TabOrder(form)) {
+            const auto* button = qobject_cast<const QPushButton*>(control);
+            mainPassed = mainPassed || (button && button->property("look") == "main");
+            if (button && QStringList{"cmdQuit", "cmdCancel"}.contains(button->objectName()) && !mainPassed)
+                against << button->objectName() + " before the main button";
+            const QRect place(control->mapTo(&form, QPoint()), control->size());
+            if (before) {
+                const QRect last(before->mapTo(&form, QPoint()), before->size());
+                if (place.bottom() < last.top() && place.left() <= last.left())
+                    against << before->objectName() + " then up to " + control->objectName();
+            }
+            before = control;
+        }
+        return against;
+    }
+
+    /// What stands outside the form, or in its foot below the edge of the screen.
+    static QStringList Outside(const QWidget& form)
+    {
+        QStringList outside;
         const QSize screen = form.screen()->availableSize();
-        return form.frameGeometry().width() <= screen.width() && form.frameGeometry().height() <= screen.height();
+        if (form.frameGeometry().width() > screen.width() || form.frameGeometry().height() > screen.height())
+            outside << "the form itself";
+        for (const auto* control : form.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            if (control->isVisible() && !control->isWindow() && !form.rect().contains(control->geometry()))
+                outside << control->objectName();
+        return outside;
+    }
+
+    /// Turns to each tab and each step of a form.
+    static void OnEachPage(QWidget& form, const std::function<void()>& check)
+    {
+        QStackedWidget* pages = nullptr;
+        for (auto* stack : form.findChildren<QStackedWidget*>())
+            pages = stack;
+        for (int page = 0; pages && page < pages->count(); ++page) {
+            auto* tabs = qobject_cast<QTabWidget*>(pages->parentWidget());
+            tabs ? tabs->setCurrentIndex(page) : pages->setCurrentIndex(page);
+            QCoreApplication::processEvents();
+            check();
+        }
+        if (!pages)
+            check();
+        else if (auto* tabs = qobject_cast<QTabWidget*>(pages->parentWidget()))
+            tabs->setCurrentIndex(0);
+    }
+
+    /// As if the form had been opened on that screen.
+    static void MovesTo(QWidget& form, QScreen* screen)
+    {
+        form.setScreen(screen);
+        form.move(screen->availableGeometry().topLeft() + QPoint(8, 40));
+        form.resize(form.sizeHint());
+        QCoreApplication::processEvents();
     }
 
     std::unique_ptr<QWidget> form_;
 };
 
-TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsClipsNothingAndLeavesAtEscape)
+TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndLeavesAtEscape)
 {
     for (const auto& [name, make] : kForms) {
         SCOPED_TRACE(name);
         QMap<QString, QString> english;
         for (const bool inEnglish : {true, false}) {
             SessionState.English = inEnglish;
-            const QWidget& form = Open(make);
+            QWidget& form = Open(make);
             EXPECT_EQ(form.objectName(), name);
-            EXPECT_EQ(Clipped(form), QStringList());
-            EXPECT_EQ(Nameless(form), QStringList());
-            EXPECT_TRUE(FitsTheScreen(form)) << form.frameGeometry().width() << "x" << form.frameGeometry().height();
+            OnEachPage(form, [&form] {
+                EXPECT_EQ(Clipped(form), QStringList());
+                EXPECT_EQ(Outside(form), QStringList());
+                EXPECT_EQ(Nameless(form), QStringList());
+                EXPECT_EQ(SaidTwice(form), QStringList());
+                EXPECT_EQ(AgainstTheOrder(form), QStringList());
+            });
             const QMap<QString, QString> captions = Captions(form);
             for (auto caption = captions.begin(); caption != captions.end() && name != kBilingual; ++caption)
                 EXPECT_TRUE(caption.value() != english.value(caption.key()) || kSameInFrench.contains(caption.value()))
@@ -202,21 +296,33 @@ TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsClipsNothingAndLeavesAtEsca
     }
 }
 
-/// Twice the letters, and the smallest screen: pages scroll, and the buttons at the foot can be reached.
-TEST_F(Forms, WithLettersTwiceAsLargeTheirButtonsStayOnTheScreen)
+/// Letters of each size, on each screen down to 1920x1080 at 200 %, in the longer language: pages scroll, nothing is
+/// cut, and the buttons at the foot can be reached.
+TEST_F(Forms, AtEachSizeOfLettersAndScreenNothingIsCutAndTheButtonsCanBeReached)
 {
     const QFont font = QApplication::font();
-    QFont large = font;
-    large.setPointSizeF(2 * font.pointSizeF());
-    QApplication::setFont(large);
-    for (const auto& [name, make] : kForms) {
-        const QWidget& form = Open(make);
-        if (!dynamic_cast<const FormBase*>(&form))
-            continue;
-        EXPECT_TRUE(FitsTheScreen(form)) << name;
-        for (const auto* button : form.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly))
-            EXPECT_TRUE(!button->isVisible() || form.rect().contains(button->geometry()))
-                << name << " " << qPrintable(button->objectName());
+    SessionState.English = false;
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        QFont scaled = font;
+        scaled.setPointSizeF(scale * font.pointSizeF());
+        QApplication::setFont(scaled);
+        for (const auto& [name, make] : kForms) {
+            QWidget& form = Open(make);
+            if (!dynamic_cast<const FormBase*>(&form))
+                continue;
+            for (QScreen* screen : QApplication::screens()) {
+                MovesTo(form, screen);
+                SCOPED_TRACE(QStringLiteral("%1 at %2 on %3 pixels")
+                                 .arg(name)
+                                 .arg(scale)
+                                 .arg(screen->size().width())
+                                 .toStdString());
+                OnEachPage(form, [&form] {
+                    EXPECT_EQ(Outside(form), QStringList());
+                    EXPECT_EQ(Clipped(form), QStringList());
+                });
+            }
+        }
     }
     form_.reset();
     QApplication::setFont(font);

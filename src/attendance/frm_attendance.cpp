@@ -16,6 +16,8 @@ constexpr int kCommentLimit = 500;
 constexpr Text kActions[] = {{"&Add new attendance record(s)", "&Ajouter nouveaux enregistrements"},
                              {"&Submit new attendance record(s)", "S&oumettre nouveaux enregistrements"},
                              {"&Record modifications", "En&registrer modifications"}}; // in the order of AttendanceKind
+constexpr Text kNotInSchedule = {"The employee's schedule does not tell these hours: specify the duration",
+                                 "L'horaire de l'employé(e) n'indique pas ces heures: spécifiez la durée"};
 } // namespace
 
 frmAttendance::frmAttendance(const AttendanceJob& job, QWidget* parent) : FormBase("frmAttendance", parent), entry_(job)
@@ -103,7 +105,8 @@ void frmAttendance::LoadJob()
     if (IsModifying())
         ReloadRecord(datAbsence, entry_);
     ShowEntry();
-    general_->lstWho->setEnabled(!IsModifying() && !entry_.EmployeeLocked);
+    EnableOrExplain(general_->lstWho, !IsModifying() && !entry_.EmployeeLocked,
+                    {"These records are this employee's", "Ces enregistrements sont ceux de cet(te) employé(e)"});
     (general_->lstWho->isEnabled() ? static_cast<QWidget*>(general_->lstWho) : general_->cboCategories)->setFocus();
 }
 
@@ -187,9 +190,9 @@ void frmAttendance::ShowEntry()
 
 void frmAttendance::ShowParts()
 {
-    general_->chkWholeDay->setEnabled(entry_.WholeDayEnabled());
-    general_->chkFirstHalf->setEnabled(entry_.FirstHalfEnabled);
-    general_->chkSecondHalf->setEnabled(entry_.SecondHalfEnabled);
+    EnableOrExplain(general_->chkWholeDay, entry_.WholeDayEnabled(), kNotInSchedule);
+    EnableOrExplain(general_->chkFirstHalf, entry_.FirstHalfEnabled, kNotInSchedule);
+    EnableOrExplain(general_->chkSecondHalf, entry_.SecondHalfEnabled, kNotInSchedule);
     general_->chkWholeDay->setChecked(entry_.Part == DayPart::WholeDay);
     general_->chkFirstHalf->setChecked(entry_.Part == DayPart::FirstHalf);
     general_->chkSecondHalf->setChecked(entry_.Part == DayPart::SecondHalf);

@@ -52,6 +52,9 @@ EmployeeGeneralPage::EmployeeGeneralPage()
     columns->addLayout(right, 2);
     TabLayout(this)->addLayout(columns, 1);
     txtName = fields_.front().first;
+    for (QWidget* required :
+         {static_cast<QWidget*>(txtName), static_cast<QWidget*>(fields_[1].first), static_cast<QWidget*>(lstUnits[0])})
+        Require(required);
 }
 
 void EmployeeGeneralPage::AddField(QGridLayout* raster, const Place& place, const QString& name,
@@ -80,7 +83,7 @@ QVBoxLayout* EmployeeGeneralPage::DateField(const Text& caption, DateCombos& dat
     row->addWidget(date.Day, 3);
     auto* column = Captioned(caption, parts, date.Year);
     for (QComboBox* part : {date.Year, date.Month, date.Day})
-        part->setAccessibleName(part->toolTip());
+        part->setAccessibleName(T(caption) + " " + part->toolTip());
     return column;
 }
 

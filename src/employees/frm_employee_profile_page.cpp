@@ -77,6 +77,7 @@ QWidget* EmployeeProfilePage::LogInCard()
           {txtPassword, &EmployeeRecord::NewPassword}})
         connect(field, &QLineEdit::editingFinished, this,
                 [field = field, member = member] { ShowText(field, TextWhenLeft(member, field->text())); });
+    Require(txtUserName);
     auto& [first, second] = approvers_;
     QWidget* firstLevel = Approvers(first, "cboApprovedBy_FirstLevel", "cmdGetApprover1FromList");
     QWidget* secondLevel = Approvers(second, "cboApprovedBy_SecondLevel", "cmdGetApprover2FromList");
@@ -84,6 +85,8 @@ QWidget* EmployeeProfilePage::LogInCard()
     auto* row = new QHBoxLayout;
     row->addLayout(Captioned({"&Username:", "Nom d'&usager:"}, txtUserName), 3);
     row->addLayout(Captioned({"Password:", "Mot-clé:"}, txtPassword), 2);
+    SetAccessibleName(first.FromList, {"List of approvers, first level", "Liste des approbateurs, premier niveau"});
+    SetAccessibleName(second.FromList, {"List of approvers, second level", "Liste des approbateurs, second niveau"});
     row->addLayout(Captioned({"Requests approved by, first level:", "Demandes approuvées par, premier niveau:"},
                              firstLevel, first.List),
                    4);

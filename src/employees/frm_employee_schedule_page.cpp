@@ -20,12 +20,16 @@ struct WeekColumn
 {
     int Column;
     Text Caption;
+    Text Head;
 };
-constexpr WeekColumn kTimeColumns[] = {{2, {"Start time", "Heure de début"}},
-                                       {3, {"End time", "Heure de fin"}},
-                                       {5, {"Start time", "Heure de début"}},
-                                       {6, {"End time", "Heure de fin"}}};
-constexpr WeekColumn kTotalColumns[] = {{8, {"Hours", "Heures"}}, {9, {"Minutes", "Minutes"}}};
+constexpr Text kFirstHalf = {"First half of the day", "Première moitié de la journée"};
+constexpr Text kSecondHalf = {"Second half of the day", "Seconde moitié de la journée"};
+constexpr Text kTotal = {"Total", "Total"};
+constexpr WeekColumn kTimeColumns[] = {{2, {"Start time", "Heure de début"}, kFirstHalf},
+                                       {3, {"End time", "Heure de fin"}, kFirstHalf},
+                                       {5, {"Start time", "Heure de début"}, kSecondHalf},
+                                       {6, {"End time", "Heure de fin"}, kSecondHalf}};
+constexpr WeekColumn kTotalColumns[] = {{8, {"Hours", "Heures"}, kTotal}, {9, {"Minutes", "Minutes"}, kTotal}};
 constexpr int kClearColumn = 11;
 constexpr int kFirstDayRow = 2;
 constexpr int kMonday = 1;
@@ -60,22 +64,20 @@ private:
 
 void AddHeads(QGridLayout* week)
 {
-    week->addWidget(AsHead(MakeLabel("lblFirstHalf", {"First half of the day", "Première moitié de la journée"})), 0, 2,
-                    1, 2);
-    week->addWidget(AsHead(MakeLabel("lblSecondHalf", {"Second half of the day", "Seconde moitié de la journée"})), 0,
-                    5, 1, 2);
-    week->addWidget(AsHead(MakeLabel("lblTotal", {"Total", "Total"})), 0, 8, 1, 2);
+    week->addWidget(AsHead(MakeLabel("lblFirstHalf", kFirstHalf)), 0, 2, 1, 2);
+    week->addWidget(AsHead(MakeLabel("lblSecondHalf", kSecondHalf)), 0, 5, 1, 2);
+    week->addWidget(AsHead(MakeLabel("lblTotal", kTotal)), 0, 8, 1, 2);
     int number = 0;
     for (const auto& columns : {std::span<const WeekColumn>(kTimeColumns), std::span<const WeekColumn>(kTotalColumns)})
-        for (const auto& [column, caption] : columns)
+        for (const auto& [column, caption, head] : columns)
             week->addWidget(AsCaption(MakeLabel(ArrayName("lblScheduleColumn", number++), caption)), 1, column);
 }
 
-/// A screen reader says the weekday and the head of the column.
+/// A screen reader says the weekday and the heads of the column.
 void Place(QGridLayout* week, QWidget* control, int day, const WeekColumn& column)
 {
     week->addWidget(control, day + kFirstDayRow, column.Column);
-    control->setAccessibleName(WeekdayName(day) + ", " + T(column.Caption));
+    control->setAccessibleName(WeekdayName(day) + ", " + T(column.Head) + ", " + T(column.Caption));
 }
 } // namespace
 

@@ -104,7 +104,7 @@ void TellDeactivated(const EmployeeRecord& record)
 } // namespace
 
 frmEmployees::frmEmployees(QWidget* parent)
-    : EditingForm("frmEmployees", parent, {{"Ca&ncel", "A&nnuler"}, {"&Close", "&Fermer"}, {}})
+    : EditingForm("frmEmployees", parent, {{"Ca&ncel", "A&nnuler"}, {"&Close", "&Fermer"}})
 {
     SetTitle(this, {"Employees", "Employé(e)s"});
     auto* txtFiscalYear = Named<QLineEdit>("txtFiscalYear", SessionState.FiscalYearName);

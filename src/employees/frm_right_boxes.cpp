@@ -18,5 +18,7 @@ void RightBoxes::Show(const SecurityProfile& profile)
 void RightBoxes::SetEnabled(bool enabled, bool modifying)
 {
     for (const Box& box : boxes_)
-        box.Control->setEnabled(enabled && MayTick(box.Member, modifying));
+        EnableOrExplain(box.Control, enabled && MayTick(box.Member, modifying),
+                        enabled ? Text{"You cannot grant this right", "Vous ne pouvez accorder ce droit"}
+                                : Text{"Press Add or Modify first", "Appuyez d'abord sur Ajouter ou Modifier"});
 }

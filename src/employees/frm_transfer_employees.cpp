@@ -25,6 +25,12 @@ List* MakeTransferList(const QString& name)
     return list;
 }
 
+/// Both sides have the same lists; a screen reader says which is meant.
+void SayWhichSide(QWidget* list, const Text& side, const Text& caption)
+{
+    FollowLanguage(list, [=] { list->setAccessibleName(T(side) + ": " + T(caption)); });
+}
+
 QWidget* StepCard(const QString& name, const Text& head, QLayout* lists)
 {
     auto* content = Stack(kListGap, {AsHead(MakeLabel(name, head))});
@@ -69,6 +75,7 @@ QVBoxLayout* frmTransferEmployees::BuildSide(UnitLists& side, const QString& nam
     for (std::size_t i = 0; i < side.Lists.size(); ++i) {
         side.Lists[i] = MakeTransferList<ChoiceList>("lst" + name + kUnitKinds[i].Name);
         lists->addLayout(Captioned(kUnitKinds[i].Caption, side.Lists[i]));
+        SayWhichSide(side.Lists[i], name == "From" ? Text{"From", "De"} : Text{"To", "Vers"}, kUnitKinds[i].Caption);
     }
     return lists;
 }

@@ -3,6 +3,7 @@
 #include "foundation/common_services.h"
 
 #include <QKeyEvent>
+#include <QScreen>
 #include <QScrollArea>
 #include <QShowEvent>
 #include <QTimer>
@@ -18,24 +19,12 @@ public:
     int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
 };
 
-/// As large as its page, where the screen has room for it.
-class PageArea : public QScrollArea
-{
-public:
-    QSize sizeHint() const override { return widget()->sizeHint(); }
-};
+constexpr char kWayOut[] = "wayOut";
 
-QScrollArea* MakePageArea()
+bool IsWayOut(const QWidget* control)
 {
-    auto* area = new PageArea;
-    auto* page = new PageWidget;
-    page->setProperty("look", "page");
-    area->setWidget(page);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    return area;
+    static const QStringList names = {"cmdQuit", "cmdCancel", "cmdCancelOperation"};
+    return control->property(kWayOut).toBool() || names.contains(control->objectName());
 }
 
 /// What a person has entered in a control, as text; empty for what takes no entry.
@@ -54,15 +43,16 @@ QString ContentOf(const QWidget* control)
 }
 } // namespace
 
-FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbsence(name), scroll_(MakePageArea())
+FormBase::FormBase(const char* name, QWidget* parent)
+    : QDialog(parent), datAbsence(name), scroll_(ScrollingPage(new PageWidget))
 {
     setObjectName(name);
     auto* layout = PageLayout(this);
     page_ = new QVBoxLayout(scroll_->widget());
     page_->setContentsMargins(0, 0, 0, 0);
     page_->setSpacing(layout->spacing());
-    foot_ = Beside(layout->spacing());
-    foot_->addStretch();
+    foot_ = new FootLayout;
+    foot_->setSpacing(layout->spacing());
     layout->addWidget(scroll_, 1);
     layout->addLayout(foot_);
 }
@@ -86,16 +76,33 @@ QPushButton* FormBase::AddMainButton(const char* name, const Text& caption, cons
 
 QPushButton* FormBase::AddWayOut(const Text& caption, const char* name)
 {
-    return AddButton(name, caption, [this] { reject(); });
+    QPushButton* button = AddButton(name, caption, [this] { reject(); });
+    button->setProperty(kWayOut, true);
+    return button;
 }
 
-void FormBase::LayFoot(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right)
+void FormBase::LayFoot(const std::vector<QWidget*>& left, const std::vector<QWidget*>& right)
 {
-    int place = 0;
-    for (QWidget* control : left)
-        foot_->insertWidget(place++, control);
-    for (QWidget* control : right)
-        foot_->addWidget(control);
+    for (const auto& [controls, group] :
+         {std::pair(&left, FootLayout::Group::Left), {&right, FootLayout::Group::Command}})
+        for (QWidget* control : *controls)
+            foot_->Add(control, IsWayOut(control) ? FootLayout::Group::WayOut : group);
+}
+
+/// The Tab key meets the main button first and the ways out last.
+void FormBase::OrderTabs()
+{
+    const QList<QWidget*> foot = foot_->TabOrder();
+    for (qsizetype i = 1; i < foot.size(); ++i)
+        setTabOrder(foot[i - 1], foot[i]);
+}
+
+/// A form with nothing behind it, such as the log-in.
+void FormBase::CentreOnScreen()
+{
+    QRect frame(QPoint(), size());
+    frame.moveCenter(screen()->availableGeometry().center());
+    move(frame.topLeft());
 }
 
 bool FormBase::Attempt(const std::function<void()>& work)
@@ -111,6 +118,7 @@ bool FormBase::Attempt(const std::function<void()>& work)
 
 void FormBase::ShowFault(const Fault& fault, const Text& title)
 {
+    ShowMissing(this);
     if (!fault.Text.isEmpty())
         Tell(T(title), fault.Text, Face::Warning);
     GoTo(fault.Control);
@@ -125,14 +133,19 @@ void FormBase::GoTo(const QString& control)
     if (field->focusPolicy() == Qt::NoFocus)
         return;
     field->setFocus();
-    scroll_->ensureWidgetVisible(field);
+    for (QWidget* above = field->parentWidget(); above; above = above->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(above))
+            area->ensureWidgetVisible(field);
 }
 
 void FormBase::showEvent(QShowEvent* event)
 {
     if (!std::exchange(activated_, true)) {
+        OrderTabs();
         if (!testAttribute(Qt::WA_Resized))
             resize(sizeHint());
+        if (!parentWidget() && !testAttribute(Qt::WA_Moved))
+            CentreOnScreen();
         QTimer::singleShot(0, this, [this] {
             Form_Activate();
             KeepContents();

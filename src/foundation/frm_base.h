@@ -2,9 +2,12 @@
 
 #include "foundation/fault.h"
 #include "foundation/frm_captions.h"
+#include "platform/controls/foot_layout.h"
 #include "platform/dao/dao.h"
 
 #include <QDialog>
+
+#include <vector>
 
 class QScrollArea;
 
@@ -29,13 +32,14 @@ protected:
     QPushButton* AddMainButton(const char* name, const Text& caption, const std::function<void()>& clicked);
     /// The button that leaves the form as Escape does.
     QPushButton* AddWayOut(const Text& caption = {"&Cancel", "&Annuler"}, const char* name = "cmdCancel");
-    /// The form's foot: what stands at its left, and at its right, the main button last.
-    void LayFoot(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right);
-    void LayFoot(std::initializer_list<QWidget*> right) { LayFoot({}, right); }
+    /// The form's foot: what stands at its left, and at its right, the main button last. The ways out (cmdQuit,
+    /// cmdCancel, cmdCancelOperation and those of AddWayOut) stand beside the main button in every form.
+    void LayFoot(const std::vector<QWidget*>& left, const std::vector<QWidget*>& right);
+    void LayFoot(const std::vector<QWidget*>& right) { LayFoot({}, right); }
 
     /// Runs `work`. A failure is told, and the form stays as it is: false then.
     bool Attempt(const std::function<void()>& work);
-    /// Tells a fault and takes the user to the control to be mended.
+    /// Tells a fault and takes the user to the control to be mended; whatever else is required and missing is marked.
     void ShowFault(const Fault& fault, const Text& title = {"ERROR:", "ERREUR:"});
     /// Puts the focus into a control, its tab in front and in sight. A page of tabs only comes to the front.
     void GoTo(const QString& control);
@@ -58,10 +62,12 @@ protected:
 
 private:
     QStringList Contents() const;
+    void OrderTabs();
+    void CentreOnScreen();
 
     QScrollArea* scroll_ = nullptr;
     QVBoxLayout* page_ = nullptr;
-    QHBoxLayout* foot_ = nullptr;
+    FootLayout* foot_ = nullptr;
     QSize size_;
     bool activated_ = false;
     bool asksBeforeLosing_ = false;

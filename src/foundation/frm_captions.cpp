@@ -15,6 +15,18 @@ public:
     const std::function<void()> Show;
 };
 
+constexpr char kRequired[] = "required";
+constexpr char kOwnTip[] = "ownTip";
+
+bool IsMissing(const QWidget* control)
+{
+    if (!control->property(kRequired).toBool() || !control->isEnabled())
+        return false;
+    if (const auto* list = qobject_cast<const QListWidget*>(control))
+        return list->selectedItems().isEmpty();
+    return control->property("text").toString().trimmed().isEmpty();
+}
+
 QString WithoutMnemonic(QString text)
 {
     return text.remove('&');
@@ -56,6 +68,35 @@ void SetToolTip(QWidget* control, const Text& text)
     FollowLanguage(control, [=] { control->setToolTip(T(text)); });
 }
 
+void EnableOrExplain(QWidget* control, bool enabled, const Text& reason)
+{
+    if (control->property(kOwnTip).isNull())
+        control->setProperty(kOwnTip, control->toolTip());
+    control->setEnabled(enabled);
+    control->setToolTip(enabled ? control->property(kOwnTip).toString() : T(reason));
+}
+
+void Require(QWidget* control)
+{
+    constexpr Text kRemark = {"required", "obligatoire"};
+    control->setProperty(kRequired, true);
+    const auto filled = [control] { SetLook(control, ""); };
+    if (auto* field = qobject_cast<QLineEdit*>(control)) {
+        FollowLanguage(field, [=] { field->setPlaceholderText(T(kRemark)); });
+        QObject::connect(field, &QLineEdit::textChanged, field, filled);
+    } else if (auto* list = qobject_cast<QListWidget*>(control)) {
+        QObject::connect(list, &QListWidget::itemSelectionChanged, list, filled);
+    }
+    FollowLanguage(control, [=] { control->setAccessibleDescription(T(kRemark)); });
+}
+
+void ShowMissing(QWidget* form)
+{
+    for (QWidget* control : form->findChildren<QWidget*>())
+        if (control->property(kRequired).toBool())
+            SetLook(control, IsMissing(control) ? "missing" : "");
+}
+
 void SetAccessibleName(QWidget* control, const Text& text)
 {
     FollowLanguage(control, [=] { control->setAccessibleName(WithoutMnemonic(T(text))); });
@@ -63,7 +104,7 @@ void SetAccessibleName(QWidget* control, const Text& text)
 
 void AddTab(QTabWidget* tabs, QWidget* page, const Text& caption)
 {
-    const int tab = tabs->addTab(page, QString());
+    const int tab = tabs->addTab(ScrollingPage(page), QString());
     FollowLanguage(page, [=] { tabs->setTabText(tab, T(caption)); });
 }
 

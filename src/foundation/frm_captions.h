@@ -29,7 +29,13 @@ void SetTitle(QWidget* window, const Text& text);
 void SetPlaceholder(QComboBox* list, const Text& text);
 void SetToolTip(QWidget* control, const Text& text);
 void SetAccessibleName(QWidget* control, const Text& text);
-/// A page of a tab widget; it comes last.
+/// Enables a control, or greys it and tells the reason in its tip; its own tip comes back with it.
+void EnableOrExplain(QWidget* control, bool enabled, const Text& reason);
+/// A field or a list without which its form does not save: it is marked, and says so while it is empty.
+void Require(QWidget* control);
+/// Shows which of the required controls of a form are still empty; each stops showing it as soon as it is filled.
+void ShowMissing(QWidget* form);
+/// A page of a tab widget, which scrolls where it must; it comes last.
 void AddTab(QTabWidget* tabs, QWidget* page, const Text& caption);
 
 QLabel* MakeLabel(const QString& name, const Text& text = {});

@@ -37,10 +37,15 @@ frmChangePassword::frmChangePassword(QWidget* parent) : FormBase("frmChangePassw
 
     for (QLineEdit* field : {txtOldPassword, txtNewPassword, txtRepeatedPassword})
         ShowStars(field);
+    for (QLineEdit* field : {txtNewPassword, txtRepeatedPassword})
+        Require(field);
     // Nobody can log in with an empty password by accident: there must be a new one.
-    cmdAccept->setEnabled(false);
-    connect(txtNewPassword, &QLineEdit::textChanged, cmdAccept,
-            [cmdAccept](const QString& text) { cmdAccept->setEnabled(!text.isEmpty()); });
+    const auto enable = [cmdAccept](const QString& text) {
+        EnableOrExplain(cmdAccept, !text.isEmpty(),
+                        {"Type the new password first", "Inscrivez d'abord le nouveau mot-clé"});
+    };
+    enable({});
+    connect(txtNewPassword, &QLineEdit::textChanged, cmdAccept, enable);
     txtUserID->setReadOnly(true);
     txtUserID->setText(SessionState.LoginID);
     txtOldPassword->setFocus();

@@ -5,6 +5,9 @@ namespace
 constexpr Text kAdd = {"&Add", "&Ajouter"};
 constexpr Text kModify = {"&Modify", "&Modifier"};
 constexpr Text kDeactivate = {"&Deactivate", "&Désactiver"};
+constexpr Text kNothingToCancel = {"No operation has been started", "Aucune opération n'est en cours"};
+constexpr Text kInMode = {"Complete or cancel the operation first", "Complétez ou annulez d'abord l'opération"};
+constexpr Text kNoRecord = {"Choose a record first", "Choisissez d'abord un enregistrement"};
 } // namespace
 
 TwoPressForm::TwoPressForm(const char* name, QWidget* parent, const EditingTexts& texts)
@@ -20,10 +23,8 @@ TwoPressForm::TwoPressForm(const char* name, QWidget* parent, const EditingTexts
 
 void TwoPressForm::LayCommands(const std::vector<QPushButton*>& further)
 {
-    LayFoot({cmdQuit, cmdCancelOperation}, {});
-    for (QPushButton* button : further)
-        LayFoot({button});
-    LayFoot({cmdDeactivate, cmdModify, cmdAdd});
+    LayFoot(std::vector<QWidget*>(further.begin(), further.end()));
+    LayFoot({cmdDeactivate, cmdModify, cmdCancelOperation, cmdQuit, cmdAdd});
     idleOnly_ = further;
     idleOnly_.push_back(cmdQuit);
     for (QPushButton* button : findChildren<QPushButton*>()) // Enter presses the main button, wherever the focus is
@@ -46,9 +47,9 @@ void TwoPressForm::ShowMode()
     ShowButton(cmdAdd, EditingMode::Adding, kAdd);
     ShowButton(cmdModify, EditingMode::Modifying, kModify);
     ShowButton(cmdDeactivate, EditingMode::Deactivating, kDeactivate);
-    cmdCancelOperation->setEnabled(!IsIdle());
+    EnableOrExplain(cmdCancelOperation, !IsIdle(), kNothingToCancel);
     for (QPushButton* button : idleOnly_)
-        button->setEnabled(IsIdle());
+        EnableOrExplain(button, IsIdle(), kInMode);
     EnableControls();
     KeepContents();
 }
@@ -57,7 +58,7 @@ void TwoPressForm::ShowButton(QPushButton* button, EditingMode its, const Text& 
 {
     const bool usable = mode_ == its && (its == EditingMode::Adding || HasRecord());
     const bool saves = mode_ == its && its != EditingMode::Deactivating && !save_.IsEmpty();
-    button->setEnabled(IsIdle() || usable);
+    EnableOrExplain(button, IsIdle() || usable, mode_ == its ? kNoRecord : kInMode);
     button->setText(T(saves ? save_ : caption));
     SetMainButton(button, IsIdle() ? button == cmdAdd : mode_ == its);
 }

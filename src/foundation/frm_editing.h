@@ -17,7 +17,7 @@ enum class EditingMode
 struct EditingTexts
 {
     Text Cancel = {"&Cancel operation", "A&nnuler l'opération"};
-    Text Quit = {"C&lose", "&Sortir"};
+    Text Quit = {"C&lose", "&Fermer"};
     Text Save = {"&Save", "&Enregistrer"}; ///< of Add and Modify in their modes; empty where they keep their captions
 };
 
@@ -47,8 +47,8 @@ protected:
     /// Enables fields and lists as the mode asks.
     virtual void EnableControls() = 0;
 
-    /// Lays the foot: the ways out at the left; at the right `further` commands, which cannot be pressed in a mode, and
-    /// those of every such form, Add last. Called when the page is complete.
+    /// Lays the foot: `further` commands, which cannot be pressed in a mode, then those of every such form, Add last.
+    /// Called when the page is complete.
     void LayCommands(const std::vector<QPushButton*>& further = {});
     /// Shows which buttons can be pressed now, and which one is the main button. What stands in the fields then is the
     /// record as it was.

@@ -23,9 +23,10 @@ constexpr int kButtonWidth = 96;
 constexpr int kTwipsPerLetter = 125;       ///< of one or two captions given by the caller
 constexpr int kTwipsPerLetterNarrow = 120; ///< of three or four
 constexpr int kFaceSize = 88;
-constexpr int kLettersPerLine = 84;
+constexpr int kLettersPerLine = 64;
 constexpr int kMostLines = 18;
 constexpr int kHighest = 4000;
+constexpr int kRoomBesideText = 200; ///< for face, bar and margins
 constexpr int kRoomAroundText = 180; ///< for title, input box, check box and buttons
 constexpr int kFaceDelay = 10;       ///< milliseconds: the text appears at once, the face a moment later
 
@@ -180,7 +181,8 @@ void frmMessageBox::FitText()
 {
     ensurePolished();
     txtMessage->ensurePolished();
-    const int width = TextWidth(txtMessage->font());
+    const int width =
+        std::min(TextWidth(txtMessage->font()), FittingScreen(this, {kHighest, kHighest}).width() - kRoomBesideText);
     ShowColumns(width);
     const int lines = QFontMetrics(txtMessage->font()).lineSpacing();
     const int height = HeightOfText(width);

@@ -35,6 +35,8 @@ frmUpdateAdminInfo::frmUpdateAdminInfo(QWidget* parent) : FormBase("frmUpdateAdm
         AddField(fields, "txtPhoneOffice", {"&Phone number", "Numéro de &téléphone"}, KeyFilter::Phone, 20);
     txtEMailAddress =
         AddField(fields, "txtEMailAddress", {"&E-mail address", "&Courriel"}, KeyFilter::EMailAddress, 75);
+    for (QLineEdit* field : {txtFirstName, txtFamilyName, txtEMailAddress})
+        Require(field);
     Page()->addWidget(MakeCard(fields));
     LayFoot({AddWayOut(), AddMainButton("cmdSave", {"&Save", "&Enregistrer"}, [this] { cmdSave_Click(); })});
     LoadRecords();

@@ -77,6 +77,7 @@ QHBoxLayout* frmUnit::Names()
     txtFrenchName = MakeField("txtFrenchName", KeyFilter::FreeText, kNameLimit);
     auto* names = new QHBoxLayout;
     names->setSpacing(kCardGap);
+    Require(SessionState.English ? txtEnglishName : txtFrenchName);
     names->addLayout(Captioned(kind_.Texts.EnglishNameLabel, txtEnglishName), 1);
     names->insertLayout(SessionState.English ? 1 : 0, Captioned(kind_.Texts.FrenchNameLabel, txtFrenchName), 1);
     return names;
@@ -91,6 +92,8 @@ QLayout* frmUnit::Address()
     for (int line = 0; line < kAddressLines; ++line) {
         const AddressField& field = kAddressFields[line];
         address_ << MakeField(field.Control, KeyFilter::FreeText, field.Limit);
+        if (!field.Missing.IsEmpty())
+            Require(address_.last());
         const auto& [row, column, span] = kPlaces[line];
         grid->addLayout(Captioned(field.Label, address_.last()), row, column, 1, span);
     }
@@ -105,6 +108,7 @@ QLayout* frmUnit::Parents()
 {
     lstParents = Named<QListWidget>(kind_.ParentList);
     lstParents->setFixedHeight(kListHeight);
+    Require(lstParents);
     return Captioned(kind_.Texts.ParentLabel, lstParents);
 }
 

@@ -55,7 +55,8 @@ void frmGetApproverFromList::AddHead(const QString& place)
 
 void frmGetApproverFromList::lstApprovers_Click()
 {
-    cmdSelect->setEnabled(ChosenID(lstApprovers) != 0);
+    EnableOrExplain(cmdSelect, ChosenID(lstApprovers) != 0,
+                    {"Choose an approver in the list first", "Choisissez d'abord un approbateur dans la liste"});
 }
 
 void frmGetApproverFromList::cmdSelect_Click()

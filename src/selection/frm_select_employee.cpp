@@ -62,7 +62,7 @@ frmSelectEmployee::frmSelectEmployee(QWidget* parent, Purpose purpose)
     Page()->addWidget(MakeCard(content));
     lblChoice = AsFigure(MakeLabel("lblChoice"));
     cmdSelect = AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); });
-    LayFoot({lblChoice}, {AddWayOut({"&Quit", "&Quitter"}, "cmdQuit"), cmdSelect});
+    LayFoot({lblChoice}, {AddWayOut({"&Cancel", "&Annuler"}, "cmdQuit"), cmdSelect});
     SetSize(kOpeningSize);
     LoadListBoxes();
 }
@@ -147,7 +147,11 @@ void frmSelectEmployee::NameStartingUnit()
 void frmSelectEmployee::ShowChoice()
 {
     lblChoice->setText(CanBeSelected() ? choice_.CurrentSelection : QString());
-    cmdSelect->setEnabled(CanBeSelected());
+    EnableOrExplain(cmdSelect, CanBeSelected(),
+                    purpose_ == Purpose::Calendar
+                        ? Text{"Choose a unit or an employee whom you may see first",
+                               "Choisissez d'abord une unité ou un(e) employé(e) que vous pouvez voir"}
+                        : Text{"Choose an employee first", "Choisissez d'abord un(e) employé(e)"});
 }
 
 bool frmSelectEmployee::CanBeSelected() const

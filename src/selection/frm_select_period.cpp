@@ -91,7 +91,8 @@ QRadioButton* frmSelectPeriod::AddOption(const QString& name, const Text& captio
 {
     QRadioButton* option = MakeButton<QRadioButton>(name, caption);
     options_->addButton(option);
-    option->setEnabled(period != Period());
+    EnableOrExplain(option, period != Period(),
+                    {"The fiscal year does not have this month", "L'année fiscale ne comporte pas ce mois"});
     option->setChecked(period == Shown());
     connect(option, &QRadioButton::clicked, this, [this, period] { Show(period); });
     return option;

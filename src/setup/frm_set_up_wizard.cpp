@@ -57,7 +57,7 @@ frmSetUpWizard::frmSetUpWizard(QWidget* parent)
     cmdCancel = AddWayOut(kCancel);
     cmdPrevious = AddButton("cmdPrevious", kPrevious, [this] { GoToStep(CurrentStep - 1); });
     cmdNext = AddMainButton("cmdNext", kNext, [this] { cmdNext_Click(); });
-    LayFoot({cmdCancel}, {cmdPrevious, cmdNext});
+    LayFoot({cmdPrevious}, {cmdCancel, cmdNext});
     SetSize(kSize);
     GoToStep(1);
 }
@@ -116,7 +116,8 @@ bool frmSetUpWizard::IsLastStep() const
 void frmSetUpWizard::UpdateButtons()
 {
     cmdPrevious->setVisible(CurrentStep > 1);
-    cmdNext->setEnabled(Step()->IsComplete());
+    EnableOrExplain(cmdNext, Step()->IsComplete(),
+                    {"Answer what this step asks first", "Répondez d'abord à ce que cette étape demande"});
 }
 
 void frmSetUpWizard::cmdNext_Click()

@@ -24,6 +24,8 @@ AdministratorStep::AdministratorStep(SetUpChoices& choices)
     content->addSpacing(kHelpGap);
     content->addLayout(Fields());
     content->addStretch();
+    for (QLineEdit* field : {txtAdminFamilyName, txtAdminFirstName, txtAdminPassword})
+        Require(field);
     for (QLineEdit* field : {txtAdminFamilyName, txtAdminFirstName, txtAdminPhoneNumber, txtAdminPassword})
         connect(field, &QLineEdit::textChanged, this, &AdministratorStep::TakeChoices);
     connect(txtAdminPassword, &QLineEdit::editingFinished, this, &AdministratorStep::txtAdminPassword_LostFocus);

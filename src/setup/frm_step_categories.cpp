@@ -128,7 +128,7 @@ void CategoriesStep::NameControls(const Column& column)
                                                   {column.Varies, kLines[VariesLine]},
                                                   {column.NoEntitlement, kLines[NoEntitlementLine]},
                                                   {column.CarryOver, kLines[CarryOverLine]}};
-    column.Name->setAccessibleName(T(kLines[NameLine]));
+    column.Name->setAccessibleName(T(kLines[NameLine]) + ": " + column.Name->text());
     for (const auto& [control, text] : controls) {
         control->setAccessibleName(column.Name->text() + ": " + T(text));
         control->setToolTip(T(text));

@@ -92,6 +92,7 @@ QWidget* DatabaseStep::MakeFilePage()
 {
     lblDatabasePath = WrappedLabel("lblDatabasePath");
     lblDatabasePath->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    SetAccessibleName(lblDatabasePath, {"Location of the database", "Emplacement de la banque de données"});
     auto* cmdRelocateDatabase =
         ByKind(Named<QPushButton>("cmdRelocateDatabase"), {"&Relocate database", "&Relocaliser la banque de données"},
                {"&Specify path to existing database", "Spécifier l'&emplacement de la banque de données existante"});

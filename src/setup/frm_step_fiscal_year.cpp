@@ -29,6 +29,7 @@ FiscalYearStep::FiscalYearStep(SetUpChoices& choices)
       lblFiscalYearEnd(AsFigure(MakeLabel("lblFiscalYearEnd")))
 {
     txtFiscalYearName->setFixedWidth(kFieldWidth);
+    Require(txtFiscalYearName);
     FollowLanguage(cboStartMonth, [this] { ShowMonths(); });
     LoadYears();
     LayControls();

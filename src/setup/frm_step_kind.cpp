@@ -63,12 +63,12 @@ constexpr KindText kKinds[] = {
 
 QPushButton* InfoButton(const KindText& kind)
 {
-    constexpr Text kPurpose = {"More about this option", "Plus d'information sur cette option"};
+    static constexpr Text kPurpose = {"More about this option", "Plus d'information sur cette option"};
     auto* info = MakeButton(QLatin1String("cmdInfo_") + kind.Name, {"?", "?"});
     info->setProperty("look", "arrow");
     info->setFixedWidth(info->sizeHint().height());
     SetToolTip(info, kPurpose);
-    SetAccessibleName(info, kPurpose);
+    FollowLanguage(info, [info, &kind] { info->setAccessibleName(T(kPurpose) + ": " + T(kind.Caption)); });
     QObject::connect(info, &QPushButton::clicked, info,
                      [&kind] { Tell(T("INFORMATION:", "INFORMATION:"), T(kind.Note)); });
     return info;

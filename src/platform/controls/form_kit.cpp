@@ -115,6 +115,13 @@ Widget* WithLook(Widget* widget, const char* look)
     return widget;
 }
 
+/// As large as its page, where the screen has room for it.
+class PageArea : public QScrollArea
+{
+public:
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
 QString PicturePath(const QString& name)
 {
     LoadResources();
@@ -166,6 +173,17 @@ QVBoxLayout* TabLayout(QWidget* page)
     layout->setContentsMargins(kCardMargin, kCardMargin, kCardMargin, kCardMargin);
     layout->setSpacing(kCardMargin);
     return layout;
+}
+
+QScrollArea* ScrollingPage(QWidget* page)
+{
+    auto* area = new PageArea;
+    area->setWidget(WithLook(page, "page"));
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    return area;
 }
 
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls)

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 
 #include <functional>
 
@@ -28,6 +29,8 @@ inline QString ArrayName(const QString& name, int index)
 QVBoxLayout* PageLayout(QWidget* form);
 /// The outermost layout of a tab's page.
 QVBoxLayout* TabLayout(QWidget* page);
+/// Scrolls a page where it has less room than it needs; as large as the page otherwise.
+QScrollArea* ScrollingPage(QWidget* page);
 /// Controls side by side, the rest of the row empty.
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls);
 /// Controls side by side or one below the other, `gap` pixels apart.
