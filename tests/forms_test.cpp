@@ -12,6 +12,8 @@
 #include "foundation/frm_update_admin_info.h"
 #include "ledger/frm_entitlement_history.h"
 #include "ledger/frm_entitlements.h"
+#include "mail/frm_mail.h"
+#include "mail/frm_targetted_email.h"
 #include "platform/clock.h"
 #include "reference/frm_categories.h"
 #include "reference/frm_holidays.h"
@@ -87,6 +89,9 @@ const std::pair<const char*, Maker> kForms[] = {
      [] {
          return std::unique_ptr<QWidget>(new frmSelectAttendanceRecord({{"1", 1}, {"2", 2}}));
      }},
+    {"frmTargettedEMail",
+     [] { return std::unique_ptr<QWidget>(new frmTargettedEMail({.WebAddress = "http://example.org/2026"})); }},
+    {"frmMail", [] { return std::unique_ptr<QWidget>(new frmMail("report.pdf")); }},
     {"frmInputBox", [] { return std::unique_ptr<QWidget>(new frmInputBox(T("A", "B"), T("A", "B"))); }},
     {"frmAbout", Make<frmAbout>},
     {"frmChangePassword", Make<frmChangePassword>},

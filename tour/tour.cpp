@@ -143,6 +143,8 @@ void Tour::WorkWizard()
     Photo("wizard_6_administrator");
     user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui"));
     user_.WillAnswer(T("CONFIGURATION COMPLETED SUCCESSFULLY:", "CONFIGURATION INITIALE COMPLÉTÉE:"), "OK");
+    user_.WillAnswer(T("SENDING E-MAIL USING TARVELL:", "ENVOI DE COURRIELS AVEC TARVELL:"), // at the first tick
+                     T("Outlook Express or others", "Outlook Express ou autres"));
     user_.Clicks("cmdNext");
 }
 

@@ -14,6 +14,8 @@
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
 #include "ledger/time_banks.h"
+#include "mail/mail_component.h"
+#include "mail/mail_set_up.h"
 #include "platform/clock.h"
 #include "platform/controls/form_kit.h"
 #include "platform/program.h"
@@ -144,6 +146,9 @@ void frmMain::ConnectControls()
     pane_->DateClicked = [this](int date) { tools_.DateClicked(date); };
     pane_->Days().TakesRanges = [this] { return tools_.TakesRanges(); };
     pane_->Days().RangeChosen = [this](int from, int to) { tools_.MarkRange(from, to); };
+    minuteWork_.SetWork("DownloadRedemption", DownloadRedemption);
+    minuteWork_.SetWork("UpgradeMailerDLL", UpgradeMailerDLL);
+    minuteWork_.SetWork("SpecifyMailerComponent", SpecifyMailerComponent);
     connect(timAbsence, &QTimer::timeout, this, &frmMain::timAbsence_Timer);
     connect(timTimeOut, &QTimer::timeout, this, &frmMain::timTimeOut_Timer);
     for (QWidget* widget : findChildren<QWidget*>()) {
@@ -343,6 +348,7 @@ void frmMain::cmdQuit_Click()
 {
     Busy = true;
     KeepPlace();
+    SignOffMail();
     LogOutUser(datAbsence);
     EndProgram();
 }

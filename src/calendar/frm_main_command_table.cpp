@@ -5,6 +5,7 @@
 #include "foundation/frm_about.h"
 #include "foundation/frm_change_password.h"
 #include "ledger/frm_entitlements.h"
+#include "mail/mail_set_up.h"
 #include "platform/controls/form_kit.h"
 #include "reference/frm_categories.h"
 #include "reference/frm_holidays.h"
@@ -255,7 +256,8 @@ List SpecialMenu()
                   Opens<frmChangePassword>),
             Entry("mnuSpecialUpdateAdminInfo", {"A&dministrator profile...", "&Profil de l'administrateur..."},
                   AdminOnly(), &frmMain::mnuSpecialUpdateAdminInfo_Click),
-            Entry("mnuSpecialSpecifyMailerProgram", {"&Mail program...", "Programme de &courriel..."}, Everybody()),
+            Entry("mnuSpecialSpecifyMailerProgram", {"&Mail program...", "Programme de &courriel..."}, Everybody(),
+                  [](frmMain&) { SpecifyMailerComponent(); }),
             Below(FiscalYearMenu()),
             Below(ShownTo(AdminOnly(), Entry("mnuSpecialBatchUpdates", {"&Batch updates...", "Mises à &jour en lot..."},
                                              employees))),

@@ -13,6 +13,7 @@
 #include "foundation/texts.h"
 #include "foundation/user_profile.h"
 #include "platform/controls/form_kit.h"
+#include "platform/mail/mail_programs.h"
 #include "platform/program.h"
 #include "platform/user_settings.h"
 #include "selection/frm_select_attendance_record.h"
@@ -180,7 +181,7 @@ void frmMain::DisplayDailyAttendance(int date)
 
 void frmMain::timAbsence_Timer()
 {
-    if (Busy || TimerBusy)
+    if (Busy || TimerBusy || MailOnItsWay::IsAny())
         return;
     if (!CalendarLoaded) {
         CalendarLoaded = true;

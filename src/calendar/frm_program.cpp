@@ -1,5 +1,6 @@
 #include "calendar/frm_program.h"
 
+#include "attendance/request_notice.h"
 #include "calendar/frm_main.h"
 #include "foundation/common_services.h"
 #include "foundation/forms.h"
@@ -23,6 +24,7 @@ void WireForms()
         frmLists list(ListKind::Categories, parent);
         ShowModal(list);
     };
+    FormsAbove.SendRequestNotice = EMailRequest;
 }
 
 Program::Program()

@@ -36,7 +36,7 @@ constexpr Step kSteps[] = {
     {"DownloadRedemption", Phase::Open, false, [] { return SessionState.LastUpgradeDate == 0; }},
     {"DoesUserNeedTraining", Phase::Open, true, Always},
     {"UpgradeMailerDLL", Phase::Open, true, Always},
-    {"SpecifyMailerComponent", Phase::Open, false, [] { return SessionState.LastUpgradeDate == 333; }},
+    {"SpecifyMailerComponent", Phase::Open, true, [] { return SessionState.LastUpgradeDate == 333; }},
     {"WereRequestsApproved", Phase::Locked, true, MayOnlyRequest},
     {"IsFYClosingScheduled", Phase::Locked, true, EntersRecords},
     {"AreThereRequestsToApprove", Phase::Locked, false, [] { return SessionState.IsAuthorizedToApprove == 1; }},

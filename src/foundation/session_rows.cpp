@@ -19,6 +19,7 @@ void TakeUser(const EmployeeRow& employee)
     Session& s = SessionState;
     s.UserID = s.EmployeeID = employee.RecordID;
     s.UserApprovedBy = employee.ApprovedByMain;
+    s.UserEMail = employee.EMailAddress;
     s.UserOrganizationID = s.EmployeeOrganizationID = employee.OrganizationID;
     s.UserDepartmentID = s.EmployeeDepartmentID = employee.DepartmentID;
     s.UserGroupID = s.EmployeeGroupID = employee.GroupID;

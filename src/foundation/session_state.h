@@ -22,10 +22,11 @@ struct Workstation
     QString IP_Address;
     QString Username;
     QString Password;
-    QString DatabasePath; ///< folder of Tarvell.mdb, no separator at its end
-    QString DatabaseName; ///< empty until a database is configured
-    bool MailConfigured = false;
-    int LastUpgradeDate = 0; ///< stage of the mail component: 333 next step pending, 666 done
+    QString DatabasePath;        ///< folder of Tarvell.mdb, no separator at its end
+    QString DatabaseName;        ///< empty until a database is configured
+    bool MailConfigured = false; ///< true: the automation route; false: MAPI
+    int LastUpgradeDate = 0;     ///< stage of the mail component: 333 next step pending, 666 done
+    int MAPISessionID = 0;       ///< 0 while not signed on
     QString AdminName;
     QString AdminEMail;
     QString VersionText;
@@ -37,6 +38,7 @@ struct LoggedUser
     QString UserName; ///< first and family name; empty for ADMIN
     QString LoginID;
     QString UserPassword;
+    QString UserEMail; ///< may be empty
     int UserID = 0;
     int UserApprovedBy = 0;
     int UserOrganizationID = 0;

@@ -13,6 +13,8 @@
 
 namespace
 {
+constexpr int kChooseMailProgram = 333; // the stage of a workstation that no earlier version was on
+
 std::unique_ptr<Database> OpenConfiguration()
 {
     return Database::Open(JoinPath(ProgramFolder(), "Config.mdb"), kConfigPassword);
@@ -81,7 +83,8 @@ void WriteConfiguration()
     const auto config = OpenConfiguration();
     Transaction transaction(*config);
     if (config->OpenRecordset("SELECT English FROM Configuration").AtEnd())
-        config->Execute("INSERT INTO Configuration (English) VALUES (?)", {s.English});
+        config->Execute("INSERT INTO Configuration (English, LastUpgradeDate) VALUES (?, ?)",
+                        {s.English, kChooseMailProgram});
     config->Execute("UPDATE Configuration SET SQL_Server = ?, IP_Address = ?, Username = ?, Password = ?, "
                     "DatabasePath = ?, DatabaseName = ?",
                     {s.SQL_Server, s.IP_Address, s.Username, s.Password, s.DatabasePath, s.DatabaseName});

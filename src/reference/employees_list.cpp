@@ -6,7 +6,7 @@
 
 namespace
 {
-void InsertYear(DataControl& datAbsence, ListedEmployees which)
+void InsertYear(DataControl& datAbsence, ListedEmployees which, int year)
 {
     const QString active = which == ListedEmployees::ActiveOnly ? " AND Employees.DeactivatedDate = 0" : "";
     datAbsence.Execute(
@@ -24,7 +24,7 @@ void InsertYear(DataControl& datAbsence, ListedEmployees which)
         "LEFT JOIN Groups ON Groups.RecordID = Employees.GroupID "
         "WHERE Employees.FiscalYear = ?" +
             active,
-        SessionState.FiscalYearID);
+        year);
 }
 } // namespace
 
@@ -34,21 +34,21 @@ void EmployeesListToBeReloaded(DataControl& datAbsence)
     Set<FiscalYearRow>(datAbsence, SessionState.FiscalYearID, {{&FiscalYearRow::ReloadEmployeesList, 1}});
 }
 
-void ReloadEmployeesList(DataControl& datAbsence, ListedEmployees which)
+void ReloadEmployeesList(DataControl& datAbsence, ListedEmployees which, int year)
 {
     InTransaction(datAbsence, [&] {
-        datAbsence.Execute("DELETE FROM Employees_List WHERE FiscalYear = ?", SessionState.FiscalYearID);
+        datAbsence.Execute("DELETE FROM Employees_List WHERE FiscalYear = ?", year);
         if (IsServerChosen()) // whose list is only emptied
             return;
-        InsertYear(datAbsence, which);
-        Set<FiscalYearRow>(datAbsence, SessionState.FiscalYearID, {{&FiscalYearRow::ReloadEmployeesList, 0}});
+        InsertYear(datAbsence, which, year);
+        Set<FiscalYearRow>(datAbsence, year, {{&FiscalYearRow::ReloadEmployeesList, 0}});
     });
 }
 
-void ReloadEmployeesListIfFlagged(DataControl& datAbsence, ListedEmployees which)
+void ReloadEmployeesListIfFlagged(DataControl& datAbsence, ListedEmployees which, int year)
 {
     const Connection connection(datAbsence);
-    const auto year = Find<FiscalYearRow>(datAbsence, SessionState.FiscalYearID);
-    if (year && year->ReloadEmployeesList == 1)
-        ReloadEmployeesList(datAbsence, which);
+    const auto found = Find<FiscalYearRow>(datAbsence, year);
+    if (found && found->ReloadEmployeesList == 1)
+        ReloadEmployeesList(datAbsence, which, year);
 }

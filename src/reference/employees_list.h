@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/session_state.h"
 #include "platform/dao/dao.h"
 
 /// `Employees_List` is the flat copy of a year's employees and their units that lists, reports and schedules read. A
@@ -14,8 +15,8 @@ enum class ListedEmployees
     All
 };
 
-/// Rebuilds the list of the session's year and clears the flag. Throws when it cannot be written; the list is then as
+/// Rebuilds the list of a year and clears the flag. Throws when it cannot be written; the list is then as
 /// it was.
-void ReloadEmployeesList(DataControl& datAbsence, ListedEmployees which);
+void ReloadEmployeesList(DataControl& datAbsence, ListedEmployees which, int year = SessionState.FiscalYearID);
 /// The same, only when the flag is set.
-void ReloadEmployeesListIfFlagged(DataControl& datAbsence, ListedEmployees which);
+void ReloadEmployeesListIfFlagged(DataControl& datAbsence, ListedEmployees which, int year = SessionState.FiscalYearID);

@@ -71,20 +71,22 @@ TEST_F(FrmAttendance, ARequestNeedsAnApproverGoesToBothAndBearsTheRoundedMoment)
     user.WillAnswer("PAS ENCORE DISPONIBLE:", "OK").Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 0);
 
-    QStringList notice;
     FormsAbove.ShowGetApprovedBy = [this](AttendanceEntry& request) { request.FirstApprover = marc; };
-    FormsAbove.SendRequestNotice = [&](const AttendanceEntry& sent) {
-        notice = {sent.FirstApproverName,   sent.FirstApproverEMail, sent.SecondApproverName,
-                  sent.SecondApproverEMail, sent.CategoryName,       sent.RequestedDates};
-        EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 1) << "the notice follows the writing";
-    };
+    house.MailEnds["automation"] = {75, "no server"};
+    house.MailEnds["MAPI"] = {3, "no mail program"};
     user.WillAnswer("DEMANDE DE CONGÉ:", "Oui", "\r\n\r\nTue 03-03-2026\tDébut: 23:00\tFin: 01:00   \tDurée: 02:00\r\n")
         .WillAnswer("DEMANDE DE CONGÉ ENREGISTRÉE:", "OK", "à Marc Roy copie conforme à Ève Émond. Si vous")
         .Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Rows(kWholeRows), "1|1|3|1|1|1|3|46084|2|23|25|1|2|0||0|1|46084|3|2|4|0|0||0|||CHRIS|46083||0||0|"
                                       "20.55|2055|4110");
-    EXPECT_EQ(notice.join('|'), "Marc Roy|marc@example.org|Ève Émond|eve@example.org|Temps personnel|"
-                                "Tue 03-03-2026\tDébut: 23:00\tFin: 01:00   \tDurée: 02:00\r\n");
+    ASSERT_EQ(house.Mail.size(), 3) << "the request stands, although nobody could be told";
+    EXPECT_TRUE(
+        house.Mail[0].startsWith("MAPI|smtp:marc@example.org|TARVELL  -  Demande de congé|Chris Davis viens de"));
+    EXPECT_TRUE(house.Mail[0].contains("Catégorie: Temps personnel\r\n\r\nDate(s) demandé(e)s:\r\n\r\nTue "
+                                       "03-03-2026\tDébut: 23:00\tFin: 01:00   \tDurée: 02:00\r\n"));
+    EXPECT_TRUE(house.Mail[2].startsWith("automation|eve@example.org|"));
+    EXPECT_TRUE(house.Mail[2].contains("soumise à Marc Roy pour fin"));
+    EXPECT_EQ(house.ReadFile("EMailErrors.log").count('\n'), 2);
     entry.FirstApprover = entry.SecondApprover = marc;
     GetApprovalNames(datAbsence, entry);
     EXPECT_EQ(entry.FirstApproverName + "|" + entry.SecondApproverName + "|" + entry.SecondApproverEMail,

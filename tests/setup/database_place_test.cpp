@@ -26,7 +26,7 @@ TEST_F(DatabasePlace, ANewDatabaseMovesToAnotherFolder)
     WillFinish().Clicks("cmdNext");
     EXPECT_EQ(RowsIn(share + "/Tarvell.mdb", "Categories"), 8);
     EXPECT_EQ(RowsIn(house.DatabaseFile(), "FiscalYears"), 0) << "the delivered one stays empty";
-    EXPECT_TRUE(Configuration().contains("\\RÉSEAU||0|0")) << qPrintable(Configuration());
+    EXPECT_TRUE(Configuration().contains("\\RÉSEAU||0|333")) << qPrintable(Configuration());
 }
 
 TEST_F(DatabasePlace, APlaceThatWouldHurtIsRefused)
@@ -94,7 +94,7 @@ TEST_F(DatabasePlace, AnExistingDatabaseIsConnectedToAndNothingElseIsAsked)
     user.Clicks("cmdPrevious").Clicks("optExistingAccessDatabase").Clicks("cmdNext");
     Chooses(path).Clicks("cmdNext");
     EXPECT_EQ(started, 1);
-    EXPECT_TRUE(Configuration().startsWith("1|0||||") && Configuration().endsWith("\\SHARE||0|0"));
+    EXPECT_TRUE(Configuration().startsWith("1|0||||") && Configuration().endsWith("\\SHARE||0|333"));
     EXPECT_EQ(RowsIn(path, "FiscalYears"), 1);
 }
 
@@ -104,6 +104,6 @@ TEST_F(DatabasePlace, AnExistingServerIsConfiguredWithoutATest)
     user.Enters({{"txtIPAddress", "srv"}, {"txtUserName", "u"}, {"txtPassword", "p"}, {"txtDatabaseName", "db"}});
     EXPECT_EQ(user.Reads("cmdNext"), "FINISH");
     user.Clicks("cmdNext");
-    EXPECT_EQ(Configuration(), "1|1|srv|u|p||db|0|0");
+    EXPECT_EQ(Configuration(), "1|1|srv|u|p||db|0|333");
     EXPECT_EQ(started, 1);
 }

@@ -25,7 +25,7 @@ TEST_F(NewDatabase, TheWizardLeadsFromAnEmptyFolderToTheFirstRows)
 
     EXPECT_EQ(started, 1) << "the normal start follows";
     EXPECT_FALSE(user.The<frmSetUpWizard>().isVisible());
-    EXPECT_EQ(Configuration(), "1|0||||" + house.Folder() + "||0|0");
+    EXPECT_EQ(Configuration(), "1|0||||" + house.Folder() + "||0|333");
     EXPECT_EQ(house.Filled("FiscalYears", 1),
               "RecordID=1|FiscalYearName=The year 2026 of the North`|CommencingDate=46082|"
               "EndingDate=46446|EnteredDate=46083|EnteredBy=ADMIN");
@@ -133,7 +133,7 @@ TEST_F(NewDatabase, TheServersConnectionIsTestedTheRowsAreComposedAndTheWorkstat
     EntersTheRest("2026", "January");
     user.WillAnswer("CONFIRM:", "Yes", "Microsoft SQL Server");
     user.WillAnswer("CONFIGURATION COMPLETED SUCCESSFULLY:", "OK").Clicks("cmdNext");
-    EXPECT_EQ(Configuration(), "1|1|10.0.0.7|tarvell|s3cret||Absence|0|0");
+    EXPECT_EQ(Configuration(), "1|1|10.0.0.7|tarvell|s3cret||Absence|0|333");
     ASSERT_EQ(sent.size(), 10);
     EXPECT_TRUE(sent[0].startsWith("INSERT INTO FiscalYears (FiscalYearName, ")) << qPrintable(sent[0]);
     EXPECT_TRUE(sent[1].contains("Username") && !sent[1].contains("LoginID")) << qPrintable(sent[1]);

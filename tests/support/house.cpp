@@ -7,6 +7,8 @@
 #include "foundation/log_in.h"
 #include "foundation/session_rows.h"
 #include "foundation/start_up.h"
+#include "mail/mail_component.h"
+#include "platform/browser.h"
 #include "platform/clock.h"
 #include "platform/dao/server.h"
 #include "platform/program.h"
@@ -82,6 +84,9 @@ House::House(const QString& folder)
     for (const char* name : {"/Tarvell.mdb", "/Config.mdb"})
         QFile::copy(DeliveredFolder() + name, folder_ + name);
     SetClockSource({[] { return moment; }, [](int) {}});
+    ForgetUnsentNotices();
+    SetBrowser([](const QString&) { return true; });
+    SetMailRoutes({Route("automation"), Route("MAPI")});
     SetEndHandler([] {
         DefaultWorkspace().Forget();
         throw ProgramEnded();
@@ -90,8 +95,18 @@ House::House(const QString& folder)
     Today(2026, 3, 2);
 }
 
+MailRoute House::Route(const QString& name)
+{
+    return {[] { return true; },
+            [this, name](const MailMessage& message) {
+                Mail << QStringList{name, message.Address, message.Subject, message.Body}.join('|');
+                return MailEnds.value(name);
+            }};
+}
+
 House::~House()
 {
+    SetMailRoutes({});
     DefaultWorkspace().Forget();
     SetServerSink({});
 }
@@ -106,6 +121,7 @@ House& House::Configured()
 {
     SessionState.DatabaseName = "Tarvell.mdb";
     WriteConfiguration();
+    SaveMailConfiguration();
     return *this;
 }
 

@@ -2,7 +2,9 @@
 
 #include "foundation/session_state.h"
 #include "platform/dao/dao.h"
+#include "platform/mail/mail_programs.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -77,6 +79,10 @@ public:
     QString Filled(const QString& table, int recordID);
     /// Returns the RecordID of the record that it added.
     int Sql(const QString& sql, const Values& values = {});
+    /// The messages that went out by either route, oldest first, each as "route|recipient|subject|body".
+    QStringList Mail;
+    /// What becomes of the messages of a route from here on; they go out unless told otherwise.
+    QHash<QString, MailResult> MailEnds;
     int CategoryID(const QString& systemName, int fiscalYear = 1);
     /// From here on the database refuses a change such as "UPDATE ON Employees": the failure says "refused".
     void Refuses(const QString& change);
@@ -87,6 +93,8 @@ public:
     QString DatabaseFile() const { return Folder() + "/Tarvell.mdb"; }
 
 private:
+    MailRoute Route(const QString& name);
+
     std::unique_ptr<QTemporaryDir> temporary_;
     QString folder_;
 };

@@ -1,0 +1,168 @@
+#include "mail/mail_component.h"
+
+#include "foundation/common_services.h"
+#include "foundation/connection.h"
+#include "foundation/session_state.h"
+#include "platform/clock.h"
+#include "platform/mail/mail_programs.h"
+#include "platform/program.h"
+
+#include <QRegularExpression>
+
+namespace
+{
+constexpr int kPause = 2; // seconds
+constexpr int kSession = 1;
+
+QVector<Notice>& Unsent()
+{
+    static QVector<Notice> unsent;
+    return unsent;
+}
+
+QString SenderAddress()
+{
+    return SessionState.LoginID == "ADMIN" ? SessionState.AdminEMail.trimmed() : SessionState.UserEMail.trimmed();
+}
+
+MailMessage MessageOf(const Notice& notice, const char* addressType)
+{
+    return {addressType + notice.Address.trimmed(),
+            notice.Subject,
+            notice.Body,
+            notice.Attachment,
+            SenderName(),
+            SenderAddress()};
+}
+
+QString OneLine(QString text)
+{
+    static const QRegularExpression controls(QStringLiteral("[\\x00-\\x1f\\x7f]+"));
+    return text.replace(controls, QStringLiteral(" "));
+}
+
+/// A log that cannot be written must not take back what the message is about.
+void Log(const Notice& notice, bool configured, const QStringList& failures)
+{
+    try {
+        LogEMailError(OneLine(notice.Subject), configured ? "True" : "False", OneLine(failures.join("; ")));
+    } catch (const RuntimeError&) {
+    }
+}
+
+QString FailureText(const MailResult& result)
+{
+    return QStringLiteral("%1: %2").arg(result.Number).arg(result.Description);
+}
+
+bool HasFailed(const MailResult& result)
+{
+    return result.Number != 0 && result.Number != MailError::Cancelled;
+}
+
+MailResult SendByAutomation(const Notice& notice)
+{
+    PrepareMailComponent();
+    return MailRoutesHere().Automation.Send(MessageOf(notice, ""));
+}
+
+/// A mail window that stays open is worth a line too, although nothing has failed.
+MailResult SendByMapi(const Notice& notice, QStringList& failures)
+{
+    const MailResult result = MailRoutesHere().Desktop.Send(MessageOf(notice, notice.AddressType));
+    if (HasFailed(result) || (result.Number == 0 && !result.Description.isEmpty()))
+        failures << FailureText(result);
+    if (!HasFailed(result))
+        return result;
+    SessionState.MailConfigured = true;
+    return SendByAutomation(notice);
+}
+
+MailResult SendByRoute(const Notice& notice)
+{
+    const bool configured = SessionState.MailConfigured;
+    QStringList failures;
+    const MailResult result = configured ? SendByAutomation(notice) : SendByMapi(notice, failures);
+    if (HasFailed(result))
+        failures << FailureText(result);
+    if (!failures.isEmpty())
+        Log(notice, configured, failures);
+    return result;
+}
+} // namespace
+
+void PrepareMailComponent()
+{
+    Session& s = SessionState;
+    if (!s.MailConfigured && s.MAPISessionID == 0) {
+        s.MAPISessionID = MailRoutesHere().Desktop.IsThere() ? kSession : 0;
+        return;
+    }
+    if (s.MAPISessionID > 0 && !s.MailConfigured) {
+        s.MailConfigured = true;
+        try {
+            SaveMailConfiguration();
+        } catch (const RuntimeError&) {
+            // It holds for the session all the same.
+        }
+    }
+    s.MailConfigured = true;
+}
+
+void SaveMailConfiguration(int stage)
+{
+    SessionState.LastUpgradeDate = stage;
+    Database::Open(JoinPath(ProgramFolder(), "Config.mdb"), kConfigPassword)
+        ->Execute("UPDATE Configuration SET Configured = ?, LastUpgradeDate = ?", {SessionState.MailConfigured, stage});
+}
+
+void SignOffMail()
+{
+    SessionState.MAPISessionID = 0;
+}
+
+QString SenderName()
+{
+    return SessionState.UserName.isEmpty() ? SessionState.AdminName : SessionState.UserName;
+}
+
+MailResult SendNotice(const Notice& notice)
+{
+    if (notice.Address.trimmed().isEmpty())
+        return {MailError::BadAddress, "There is no e-mail address"};
+    const MailOnItsWay onItsWay;
+    DefaultWorkspace().PauseReading();
+    if (!SessionState.MailConfigured && SessionState.MAPISessionID == 0)
+        PrepareMailComponent();
+    const MailResult result = SendByRoute(notice);
+    if (HasFailed(result))
+        Unsent().append(notice);
+    return result;
+}
+
+void SendNotices(const QVector<Notice>& notices)
+{
+    const MailOnItsWay onItsWay;
+    for (const Notice& notice : notices) {
+        if (&notice != &notices.first())
+            Wait(kPause);
+        SendNotice(notice);
+    }
+}
+
+const QVector<Notice>& UnsentNotices()
+{
+    return Unsent();
+}
+
+int SendUnsentNotices()
+{
+    const QVector<Notice> again = std::exchange(Unsent(), {});
+    SendNotices(again);
+    return static_cast<int>(again.size() - Unsent().size());
+}
+
+void ForgetUnsentNotices()
+{
+    Unsent().clear();
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/mail/mail_message.h"
+
+#include <QStringList>
+#include <QVector>
+
+/// A message that the program writes in the user's name.
+struct Notice
+{
+    QString Address;
+    QString Subject;
+    QString Body;
+    QString Attachment = {};           ///< path of a file; empty for none
+    const char* AddressType = "smtp:"; ///< which the MAPI route puts in front of the address
+};
+
+/// Finds out by which route this workstation can send, before each use: signs on to MAPI, or makes the automation route
+/// ready. A workstation that is signed on and comes here again needs the automation route; that is kept for good.
+/// Throws nothing.
+void PrepareMailComponent();
+
+/// Keeps the session's route for good, and with it the stage of the mail component's set-up. Throws RuntimeError.
+void SaveMailConfiguration(int stage = 666);
+
+/// Ends the MAPI session, if there is one.
+void SignOffMail();
+
+/// Who the messages come from: the user's name; the administrator's for ADMIN.
+QString SenderName();
+
+/// Sends one message by the workstation's route. What MAPI cannot send goes by automation, from then on for the whole
+/// session. A message that fails is one line in EMailErrors.log, and is told to nobody; the user's cancelling (32057)
+/// is no failure. An empty address is passed over. Throws nothing.
+MailResult SendNotice(const Notice& notice);
+
+/// Sends them one after the other, two seconds apart, so that the mail program can finish. Windows keep painting.
+void SendNotices(const QVector<Notice>& notices);
+
+/// The messages of this session that could not be sent, oldest first.
+const QVector<Notice>& UnsentNotices();
+/// Tries those again; what fails once more stays among them. Returns how many went out.
+int SendUnsentNotices();
+/// Forgets them.
+void ForgetUnsentNotices();

@@ -1,0 +1,150 @@
+#include "foundation/connection.h"
+#include "mail/leave_notices.h"
+#include "platform/clock.h"
+#include "platform/mail/mail_programs.h"
+#include "support/house_test.h"
+
+#include <QDir>
+
+class MailComponent : public HouseTest
+{
+protected:
+    MailComponent()
+    {
+        house.Configured().Company();
+        dan = house.Hire({"DAN", "Dan", "Dube", "Sales"});
+        house.LogIn("DAN");
+    }
+    QString Log() const { return house.ReadFile("EMailErrors.log"); }
+    QString Kept()
+    {
+        return RowsOf(*Database::Open(house.Folder() + "/Config.mdb", kConfigPassword),
+                      "SELECT Configured, LastUpgradeDate FROM Configuration");
+    }
+
+    int dan = 0;
+    const Notice notice{" anna@example.org ", "TARVELL  -  Hello", "Text"};
+};
+
+TEST_F(MailComponent, EachRouteCarriesAMessageInItsOwnWay)
+{
+    EXPECT_EQ(SendNotice(notice).Number, 0);
+    EXPECT_EQ(SessionState.MAPISessionID, 1) << "signed on at the first use";
+    SessionState.MailConfigured = true;
+    EXPECT_EQ(SendNotice(notice).Number, 0);
+    EXPECT_EQ(house.Mail, QStringList({"MAPI|smtp:anna@example.org|TARVELL  -  Hello|Text",
+                                       "automation|anna@example.org|TARVELL  -  Hello|Text"}));
+    EXPECT_NE(SendNotice({" ", "Hello", "Text"}).Number, 0);
+    EXPECT_EQ(house.Mail.size(), 2) << "an address of blanks is none";
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(MailComponent, TheUsersCancellingIsNoFailure)
+{
+    house.MailEnds["MAPI"] = {MailError::Cancelled, "cancelled"};
+    EXPECT_EQ(SendNotice(notice).Number, MailError::Cancelled);
+    EXPECT_EQ(house.Mail.size(), 1);
+    EXPECT_EQ(Log(), "");
+    EXPECT_FALSE(SessionState.MailConfigured);
+    EXPECT_TRUE(UnsentNotices().isEmpty());
+}
+
+TEST_F(MailComponent, WhatMapiCannotSendGoesByAutomationForTheRestOfTheSession)
+{
+    house.MailEnds["MAPI"] = {3, "no mail\r\nprogram"};
+    EXPECT_EQ(SendNotice(notice).Number, 0);
+    EXPECT_EQ(Log(), "TARVELL  -  Hello\tFalse\t3: no mail program\r\n");
+    EXPECT_EQ(SendNotice(notice).Number, 0);
+    EXPECT_EQ(house.Mail.size(), 3) << "the second one does not try MAPI again";
+    EXPECT_TRUE(house.Mail[2].startsWith("automation|anna@example.org"));
+    EXPECT_EQ(Kept(), "0|666") << "only the menu changes the route for good";
+}
+
+TEST_F(MailComponent, AMessageThatFailsOnBothRoutesIsOneLineAndCanBeSentAgain)
+{
+    house.MailEnds = {{"MAPI", {3, "none"}}, {"automation", {75, "no server"}}};
+    SendNotices({notice, notice});
+    EXPECT_EQ(Log(), "TARVELL  -  Hello\tFalse\t3: none; 75: no server\r\nTARVELL  -  Hello\tTrue\t75: no server\r\n");
+    EXPECT_EQ(SendUnsentNotices(), 0);
+    house.MailEnds.clear();
+    EXPECT_EQ(SendUnsentNotices(), 2);
+    EXPECT_TRUE(UnsentNotices().isEmpty());
+
+    QDir(house.Folder()).remove("EMailErrors.log");
+    QDir(house.Folder()).mkdir("EMailErrors.log");
+    house.MailEnds["automation"] = {75, "no server"};
+    EXPECT_EQ(SendNotice(notice).Number, 75) << "a log that cannot be written stops nobody";
+}
+
+TEST_F(MailComponent, AWorkstationThatIsSignedOnAndComesAgainNeedsTheOtherRouteForGood)
+{
+    PrepareMailComponent();
+    EXPECT_FALSE(SessionState.MailConfigured);
+    PrepareMailComponent();
+    EXPECT_TRUE(SessionState.MailConfigured);
+    EXPECT_EQ(Kept(), "1|666");
+}
+
+TEST_F(MailComponent, MessagesComeFromTheUser)
+{
+    QStringList senders;
+    const auto send = [&senders](const MailMessage& message) {
+        senders << message.SenderName + " " + message.SenderAddress;
+        return MailResult();
+    };
+    SetMailRoutes({{[] { return true; }, send}, {[] { return true; }, send}});
+    SendNotice(notice);
+    house.Sql("UPDATE Employees SET EMailAddress = 'dan@example.org' WHERE LoginID = 'DAN'");
+    house.LogIn("DAN");
+    SendNotice(notice);
+    house.LogIn("ADMIN");
+    SendNotice(notice);
+    EXPECT_EQ(senders, QStringList({"Dan Dube ", "Dan Dube dan@example.org", "Alice Tremblay alice@example.org"}));
+}
+
+TEST_F(MailComponent, BothApproversAreToldTwoSecondsApartEvenWhenTheyAreOnePerson)
+{
+    QStringList waits;
+    SetClockSource({[] { return QDateTime(QDate(2026, 3, 9), QTime(14, 5)); },
+                    [&](int seconds) {
+                        waits << QStringLiteral("%1 after %2").arg(seconds).arg(house.Mail.size());
+                        EXPECT_TRUE(MailOnItsWay::IsAny()) << "the minute's work waits meanwhile";
+                    }});
+    LeaveRequest request{"Dan Dube", "Vacation",        "Mon 02\r\nTue 03", " ",
+                         "Eve Roy",  "eve@example.org", "Eve Roy",          "eve@example.org"};
+    SendNotices(RequestNotices(request));
+    EXPECT_EQ(waits, QStringList{"2 after 1"});
+    ASSERT_EQ(house.Mail.size(), 2);
+    EXPECT_EQ(
+        house.Mail[0],
+        "MAPI|smtp:eve@example.org|TARVELL  -  Request for leave|Dan Dube is submitting the following request for "
+        "leave for your approval:\r\n\r\nCategory: Vacation\r\n\r\nDate(s) requested:\r\n\r\nMon 02\r\nTue "
+        "03\r\n\r\nTo process this request for leave, all you need to do is open «TARVELL» and click on the "
+        "«Approve requests for leave» icon from the toolbar.")
+        << "a comment of blanks is none";
+    EXPECT_TRUE(house.Mail[1].contains("has been submitted to Eve Roy for approval.\r\n\r\nEmployee: Dan Dube\r\n"));
+
+    SessionState.English = false;
+    request.Comment = " {list} merci ";
+    request.SecondApproverEMail = " ";
+    const QVector<Notice> french = RequestNotices(request);
+    ASSERT_EQ(french.size(), 1) << "nobody writes to an address of blanks";
+    EXPECT_EQ(french[0].Subject, "TARVELL  -  Demande de congé");
+    EXPECT_TRUE(french[0].Body.contains("Tue 03\r\n\r\nCOMMENTAIRE: {list} merci\r\n\r\nPour traiter"));
+}
+
+TEST_F(MailComponent, TheOutcomeAndACancellationSayWhoAndWhen)
+{
+    house.Today(2026, 3, 9, 14, 5);
+    EXPECT_EQ(OutcomeNotice("a@b", "Mon 02 APPROVED", " ").Body,
+              "The following requests for leave you recently submitted have been processed by DAN on Mon 09-March at "
+              "14:05:\r\n\r\nMon 02 APPROVED");
+    SessionState.English = false;
+    const Notice refused = OutcomeNotice("a@b", "lun 02 REFUSÉ", "Trop d'absents");
+    EXPECT_TRUE(refused.Body.endsWith("14:05:\r\n\r\nlun 02 REFUSÉ\r\n\r\nRAISON DU REFUS:\r\nTrop d'absents"));
+    EXPECT_EQ(refused.Subject, "TARVELL  -  Votre demande de congé");
+    EXPECT_EQ(
+        CancellationNotice("a@b", "Vacances", "02\r\n03").Body,
+        "Dan Dube vient de supprimer les demandes de congé suivantes que vous deviez approuver:\r\n\r\nCatégorie: "
+        "Vacances\r\n\r\nDate(s) demandé(e)s:\r\n\r\n02\r\n03");
+}
