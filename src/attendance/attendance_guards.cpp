@@ -84,10 +84,17 @@ constexpr Text kEntitlementWarning = {
     "Total du temps requis:     {TAB}{TotalTime}\r\nNouveau solde: {TAB}{TAB}{balance}\r\n\r\n"
     "Souhaitez-vous tout-de-même continuer?"};
 
+/// Beyond what adding up hours that were cut to five decimals can cost: three times 7:40 is 23:00.
+bool IsMore(float hours, float limit)
+{
+    constexpr float kSecond = 1 / 3600.0F;
+    return hours - limit > kSecond;
+}
+
 bool IsBankExceeded(const AttendanceEntry& entry, float required)
 {
     const bool bounded = entry.SystemName == "Time paid" || entry.SystemName == "Time claimed";
-    return bounded && required > entry.TimeBanked;
+    return bounded && IsMore(required, entry.TimeBanked);
 }
 
 QString WithBank(const Text& text, const AttendanceEntry& entry, float required)
@@ -177,7 +184,7 @@ void WillEntitlBeExceeded(DataControl& datAbsence, AttendanceEntry& entry)
 {
     entry.Validated = false;
     ReadTimeUsed(datAbsence, entry);
-    if (entry.Entitlement == 0 || entry.TimeUsed + entry.TimePending + entry.TotalTime <= entry.Entitlement)
+    if (entry.Entitlement == 0 || !IsMore(entry.TimeUsed + entry.TimePending + entry.TotalTime, entry.Entitlement))
         entry.Validated = true;
     else if (entry.Kind == AttendanceKind::Submit)
         Tell(Denied(), WithFigures(kEntitlementRefusal, entry), Face::Warning);

@@ -68,7 +68,7 @@ BalanceLines ExplainTotal(DataControl& datAbsence)
     const int employee = SessionState.EmployeeID, category = SessionState.SelectedCategoryID;
     if (employee != 0 && category != 0 && IsLimited(datAbsence, category))
         return ExplainEntitlement(datAbsence, employee, category);
-    return {{kTakenToDate, TotalOf(datAbsence, LiveRecords::TakenToDate)},
+    return {{{"Recorded to date", "Inscrit à ce jour"}, TotalOf(datAbsence, LiveRecords::TakenToDate)},
             {kBookedAhead, TotalOf(datAbsence, LiveRecords::BookedAhead)},
             {kPending, TotalOf(datAbsence, LiveRecords::Pending)}};
 }

@@ -124,7 +124,8 @@ QString MainHeader::CategoryName() const
 
 void MainHeader::Explain(const std::function<BalanceLines()>& total, const std::function<BalanceLines()>& timeBank)
 {
-    ExplainFigure(lblTotalForTheYear_DISPLAY, total);
+    ExplainFigure(lblTotalForTheYear_DISPLAY, total,
+                  [] { return SessionState.EmployeeID != 0 ? SessionState.HoursWorkedDaily : 0; });
     ExplainFigure(txtTimeBanked, timeBank);
 }
 

@@ -9,24 +9,31 @@
 #include <QMouseEvent>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace
 {
 /// A line each, the figures in front and one below the other.
-QString TextOf(const BalanceLines& lines)
+QString TextOf(const BalanceLines& lines, float hoursPerDay)
 {
     const QChar kRoomOfDigit(0x2007);
-    constexpr int kFigureWidth = 8;
+    QStringList figures;
+    qsizetype width = 0;
+    for (const BalanceLine& line : lines) {
+        figures << DurationText(line.Hours, line.Hours != 0 ? hoursPerDay : 0);
+        width = std::max(width, figures.last().size());
+    }
     QStringList texts;
-    for (const BalanceLine& line : lines)
-        texts << DurationText(line.Hours).rightJustified(kFigureWidth, kRoomOfDigit) + "  " + T(line.Caption);
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        texts << figures[static_cast<int>(i)].rightJustified(width, kRoomOfDigit) + "  " + T(lines[i].Caption);
     return texts.join('\n');
 }
 
 class FigureExplainer : public QObject
 {
 public:
-    FigureExplainer(QLabel* figure, std::function<BalanceLines()> explain)
-        : QObject(figure), figure_(figure), explain_(std::move(explain))
+    FigureExplainer(QLabel* figure, std::function<BalanceLines()> explain, std::function<float()> hoursPerDay)
+        : QObject(figure), figure_(figure), explain_(std::move(explain)), hoursPerDay_(std::move(hoursPerDay))
     {
         figure->installEventFilter(this);
         figure->setCursor(Qt::PointingHandCursor);
@@ -49,7 +56,7 @@ private:
         if (figure_->text().isEmpty())
             return;
         try {
-            QToolTip::showText(place, TextOf(explain_()), figure_);
+            QToolTip::showText(place, TextOf(explain_(), hoursPerDay_ ? hoursPerDay_() : 0), figure_);
         } catch (const RuntimeError&) {
             QToolTip::hideText();
         }
@@ -57,10 +64,12 @@ private:
 
     QLabel* figure_;
     const std::function<BalanceLines()> explain_;
+    const std::function<float()> hoursPerDay_;
 };
 } // namespace
 
-void ExplainFigure(QLabel* figure, const std::function<BalanceLines()>& explain)
+void ExplainFigure(QLabel* figure, const std::function<BalanceLines()>& explain,
+                   const std::function<float()>& hoursPerDay)
 {
-    new FigureExplainer(figure, explain);
+    new FigureExplainer(figure, explain, hoursPerDay);
 }

@@ -31,11 +31,12 @@ BalanceLines ExplainEntitlement(DataControl& datAbsence, int employeeID, int cat
     const auto sum = [&](LiveRecords records) { return TimeInCategory(datAbsence, employeeID, categoryID, records); };
     const Allowance allowance = AllowanceOf(datAbsence, employeeID, categoryID);
     const float pending = sum(LiveRecords::Pending);
-    const float left = allowance.Limit() - (sum(LiveRecords::Approved) + pending);
-    return {{{"Carried over", "Solde de l'année précédente"}, allowance.CarriedOver},
-            {{"Allocated", "Temps alloué"}, allowance.AnnualEntitlement},
-            {kTakenToDate, sum(LiveRecords::TakenToDate)},
-            {kBookedAhead, sum(LiveRecords::BookedAhead)},
-            {kPending, pending},
-            {kLeft, left}};
+    BalanceLines lines{{{"Carried over", "Solde de l'année précédente"}, allowance.CarriedOver},
+                       {{"Allocated", "Temps alloué"}, allowance.AnnualEntitlement},
+                       {kTakenToDate, sum(LiveRecords::TakenToDate)},
+                       {kBookedAhead, sum(LiveRecords::BookedAhead)},
+                       {kPending, pending}};
+    if (allowance.Limit() != 0) // otherwise there is no limit
+        lines.push_back({kLeft, allowance.Limit() - (sum(LiveRecords::Approved) + pending)});
+    return lines;
 }

@@ -6,6 +6,7 @@
 #include "foundation/names.h"
 #include "foundation/session_rows.h"
 #include "foundation/values.h"
+#include "platform/clock.h"
 
 #include <algorithm>
 #include <cmath>
@@ -82,10 +83,14 @@ QVector<EntitlementLine> LoadEntitlements(DataControl& datAbsence, int employeeI
 void SaveEntitlements(DataControl& datAbsence, const QVector<EntitlementLine>& lines)
 {
     InOpenYear(datAbsence, [&] {
-        for (const EntitlementLine& line : lines)
-            Change<EntitlementRow>(datAbsence, line.RecordID,
-                                   {{&EntitlementRow::CarriedOver, BoundValue(line.CarriedOver)},
-                                    {&EntitlementRow::AnnualEntitlement, BoundValue(line.AnnualEntitlement)},
-                                    {&EntitlementRow::MayBeCarriedOver, line.MayBeCarriedOver ? 1 : 0}});
+        for (const EntitlementLine& line : lines) {
+            CopyToAuditTwin(datAbsence, kTable<EntitlementRow>, line.RecordID);
+            Set<EntitlementRow>(datAbsence, line.RecordID,
+                                {{&EntitlementRow::CarriedOver, BoundValue(line.CarriedOver)},
+                                 {&EntitlementRow::AnnualEntitlement, BoundValue(line.AnnualEntitlement)},
+                                 {&EntitlementRow::ModifiedBy, UserStamp()},
+                                 {&EntitlementRow::ModifiedDate, Today()},
+                                 {&EntitlementRow::MayBeCarriedOver, line.MayBeCarriedOver ? 1 : 0}});
+        }
     });
 }

@@ -70,7 +70,8 @@ QLineEdit* EntitlementEditor::MakeBox(const char* name, EntitlementColumn column
 {
     QLineEdit* box = MakeField(name, KeyFilter::WholeNumber, digits > 0 ? digits : kUnlimited);
     box->setAlignment(column == kCategoryColumn ? Qt::AlignLeft : Qt::AlignCenter);
-    box->setAccessibleName(grid_->TextMatrix(0, column) + " " + grid_->TextMatrix(1, column));
+    const int group = digits == kMinuteDigits ? column - 1 : column; // hours and minutes stand below one head
+    box->setAccessibleName(grid_->TextMatrix(0, group) + " " + grid_->TextMatrix(1, column));
     if (digits == 0) {
         box->setReadOnly(true);
         box->setFocusPolicy(Qt::NoFocus);

@@ -38,7 +38,7 @@ frmEntitlements::frmEntitlements(QWidget* parent) : FormBase("frmEntitlements", 
     BuildEditor();
     BuildButtons();
     SetSize(kSize);
-    Attempt([this] { LoadEmployees(); });
+    loaded_ = Attempt([this] { LoadEmployees(); });
     EnableButtons();
 }
 
@@ -127,6 +127,8 @@ void frmEntitlements::Form_Activate()
 {
     if (cboRecords->count() > 0)
         return cboRecords->setFocus();
+    if (!loaded_)
+        return QDialog::reject();
     Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
          T({"There are no entitlement records for your employees in fiscal year {year}!",
             "Il n'y a aucun temps alloué annuellement dans votre base données pour l'année fiscale {year}!"},
@@ -284,6 +286,13 @@ void frmEntitlements::Clear()
     cboRecords->setCurrentIndex(-1);
     cboRecords->setFocus();
     EnableButtons();
+}
+
+/// What was typed into the open row counts as a change.
+void frmEntitlements::closeEvent(QCloseEvent* event)
+{
+    CommitEditor();
+    FormBase::closeEvent(event);
 }
 
 void frmEntitlements::reject()

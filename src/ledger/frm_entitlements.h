@@ -15,6 +15,9 @@ public:
     /// Escape and the window's own button ask before red rows are lost; `cmdQuit` does not, as required.
     void reject() override;
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void BuildList();
     void BuildGrid();
@@ -43,6 +46,7 @@ private:
 
     static constexpr int kHeads = 2;
     QVector<EntitlementLine> lines_; ///< in the order of the rows below the heads
+    bool loaded_ = false;            ///< the employees could be read
     QComboBox* cboRecords;
     FlexGrid* flxEntitlements;
     EntitlementEditor* editor_;

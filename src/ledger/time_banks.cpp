@@ -66,9 +66,9 @@ BalanceLines ExplainTimeBank(DataControl& datAbsence, const CalendarSelection& s
         return TimeBankOf(datAbsence, selection, records, flow);
     };
     return {{{"Put in the bank", "Temps accumulé"}, sum(LiveRecords::Approved, BankFlow::In)},
-            {kTakenToDate, 0 - sum(LiveRecords::TakenToDate, BankFlow::Out)},
-            {kBookedAhead, 0 - sum(LiveRecords::BookedAhead, BankFlow::Out)},
-            {kPending, 0 - sum(LiveRecords::Pending, BankFlow::Balance)},
+            {kTakenToDate, sum(LiveRecords::TakenToDate, BankFlow::Out)},
+            {kBookedAhead, sum(LiveRecords::BookedAhead, BankFlow::Out)},
+            {kPending, sum(LiveRecords::Pending, BankFlow::Balance)},
             {kLeft, sum(LiveRecords::All, BankFlow::Balance)}};
 }
 

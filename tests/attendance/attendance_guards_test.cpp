@@ -78,6 +78,12 @@ TEST_F(AttendanceGuards, LimitsAreComparedInSinglePrecisionAndHoldForAnEntitleme
     EXPECT_TRUE(IsCovered(DecimalHours(0, 20)));
     user.WillAnswer("WARNING:", "No", "New balance:  \t\t-(00:01)");
     EXPECT_FALSE(IsCovered(DecimalHours(0, 21)));
+
+    house.Sql("UPDATE Entitlements SET AnnualEntitlement = 23");
+    house.Sql("DELETE FROM Attendance");
+    for (const int day : {3, 4})
+        Record(chris, "Sick", day, DecimalHours(7, 40));
+    EXPECT_TRUE(IsCovered(DecimalHours(7, 40))) << "three times a third more is no excess";
 }
 
 TEST_F(AttendanceGuards, WhatIsTakenOffTheBankMustBeThereAndWhatIsBorrowedThoughItIsMayBecomeAClaim)

@@ -188,14 +188,16 @@ TEST_F(Balances, AFigureIsExplainedWhenSomebodyLooks)
         user.Clicks(figure);
         return QToolTip::text().remove(QChar(0x2007)).replace('\n', ", ");
     };
-    EXPECT_EQ(explained("lblTotalForTheYear_DISPLAY"), "15:00  Taken to date, 01:30  Booked ahead, 02:00  Pending");
+    EXPECT_EQ(explained("lblTotalForTheYear_DISPLAY"),
+              "2 days 01:00  Recorded to date, 0 days 01:30  Booked ahead, 0 days 02:00  Pending");
     EXPECT_EQ(explained("txtTimeBanked"),
-              "08:00  Put in the bank, 00:00  Taken to date, 02:00  Booked ahead, 00:00  Pending, 06:00  Left");
+              "08:00  Put in the bank, 00:00  Taken to date, -(02:00)  Booked ahead, 00:00  Pending, 06:00  Left");
     user.Picks("cboCategories", "Vacation");
     SessionState.English = false;
     EXPECT_EQ(explained("lblTotalForTheYear_DISPLAY"),
-              "-(05:30)  Solde de l'année précédente, 70:15  Temps alloué, 07:00  Pris à ce jour, 03:30  Prévu après "
-              "aujourd'hui, 02:00  En attente d'approbation, 52:15  Reste");
+              "-(0 jours 05:30)  Solde de l'année précédente, 10 jours 00:15  Temps alloué, 1 jours 00:00  Pris à ce "
+              "jour, 0 jours 03:30  Prévu après aujourd'hui, 0 jours 02:00  En attente d'approbation, 7 jours 03:15  "
+              "Reste");
 }
 
 TEST_F(Balances, WhoeverChoosesATimeBankForTheFirstTimeIsOfferedHelp)

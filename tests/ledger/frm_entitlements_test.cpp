@@ -75,6 +75,10 @@ TEST_F(Entitlements, ArrowsPassRowsWithoutAMarkAndEscapeDropsTheOpenRowAlone)
     EXPECT_TRUE(user.CanUse("cmdUpdateEntitlements"));
 
     user.WillAnswer("CONFIRM:", "No", "Changes have not been saved!").Presses("", Qt::Key_Escape);
+    ClicksCell(kFirst, kAnnualHoursColumn);
+    user.Types("txtEntitlement_Hours", "36").WillAnswer("CONFIRM:", "No");
+    user.The<frmEntitlements>().close();
+    EXPECT_EQ(Shown(kFirst), "Personal time|07|30| + |36|15|43:45|NO red") << "typed is typed";
     user.WillAnswer("CONFIRM:", "No", "Cancelled anyway?").Picks("cboRecords", "Roy");
     EXPECT_EQ(user.Reads("cboRecords").left(4) + Shown(kFirst).right(3), "Dubered");
     user.WillAnswer("CONFIRM:", "Yes").Clicks("cmdCancelOperation");
