@@ -13,6 +13,7 @@
 
 namespace
 {
+constexpr QSize kCategoriesSize(820, 580);
 constexpr int kCategoriesShown = 20;
 constexpr int kManyEmployees = 100;
 
@@ -68,6 +69,7 @@ private:
 frmCategories::frmCategories(QWidget* parent) : EditingForm("frmCategories", parent)
 {
     SetTitle(this, {"Categories of attendance", "Catégories d'absentéisme"});
+    SetSize(kCategoriesSize);
     BuildList();
     AddTabs();
     LayCommands({AddButton("cmdListRecords", {"&List of categories", "&Liste des catégories"},

@@ -34,7 +34,7 @@ CategoryConfigurationPage::CategoryConfigurationPage()
     page->addLayout(CodeAndColor());
     page->addLayout(Entitlement());
     page->addLayout(Flags());
-    page->addStretch();
+    page->addStretch(1);
 }
 
 /// The name that the user's language requires comes first.

@@ -43,9 +43,10 @@ public:
 
     bool eventFilter(QObject* target, QEvent* event) override
     {
-        auto* list = static_cast<QListWidget*>(target);
-        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down &&
-               list->selectedItems().isEmpty() && list->currentRow() <= 0 && TakeFirst(list);
+        if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Down)
+            return false;
+        auto* list = qobject_cast<QListWidget*>(target);
+        return list && list->selectedItems().isEmpty() && list->currentRow() <= 0 && TakeFirst(list);
     }
 
 private:
