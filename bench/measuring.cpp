@@ -63,6 +63,7 @@ QList<QByteArray> StatementsOf(Measured& measured)
     QList<QByteArray> statements;
     {
         const StatementTrace trace;
+        DefaultWorkspace().PauseReading(); // the trace is connected, but holds no lock before the work
         measured.Work();
         statements = trace.Statements();
     }

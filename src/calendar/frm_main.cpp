@@ -121,7 +121,7 @@ void frmMain::RestorePlace()
     if (!restoreGeometry(UserSetting(SessionState.LoginID, kPlaceSetting).toByteArray()) || isMaximized())
         return;
     const QRect room = screen()->availableGeometry();
-    QRect place(pos(), FittingScreen(this, size()));
+    QRect place(geometry().topLeft(), FittingScreen(this, size()));
     place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
     place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
     if (place != geometry())
@@ -367,6 +367,8 @@ void frmMain::keyPressEvent(QKeyEvent* event)
 
 bool frmMain::eventFilter(QObject* target, QEvent* event)
 {
+    if (event->type() == QEvent::KeyPress)
+        IdleSeconds = 0;
     if (event->type() == QEvent::MouseMove) {
         IdleSeconds = 0;
         if (!pane_->isAncestorOf(qobject_cast<QWidget*>(target)))

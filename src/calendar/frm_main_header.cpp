@@ -2,6 +2,7 @@
 
 #include "foundation/frm_captions.h"
 #include "foundation/frm_explained.h"
+#include "platform/controls/entry_lists.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -69,7 +70,7 @@ QFrame* MainHeader::YearCard()
     lblCurrentSelection_DISPLAY = AsFigure(Named<ElidedLabel>("lblCurrentSelection_DISPLAY"));
     grid->addWidget(AsCaption(MakeLabel("lblCurrentSelection", {"Attendance of", "Absences de"})), 0, 4);
     grid->addWidget(lblCurrentSelection_DISPLAY, 1, 4);
-    cboCategories = Named<QComboBox>("cboCategories");
+    cboCategories = Named<WalkedList>("cboCategories");
     cboCategories->setMinimumWidth(kListWidth);
     cboCategories->setMaximumWidth(2 * kListWidth);
     connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);

@@ -28,7 +28,11 @@ QLabel* MakeNotice(QWidget* window)
         MakeLabel("lblWaiting", {"Waiting for the database...", "En attente de la banque de données..."});
     lblWaiting->setProperty("look", "notice");
     lblWaiting->setParent(window);
-    lblWaiting->adjustSize();
+    lblWaiting->setWordWrap(true); // the first window of a start is smaller than the notice
+    lblWaiting->setAlignment(Qt::AlignCenter);
+    lblWaiting->resize(lblWaiting->sizeHint().boundedTo(QSize(window->width(), QWIDGETSIZE_MAX)));
+    if (lblWaiting->heightForWidth(lblWaiting->width()) > lblWaiting->height())
+        lblWaiting->resize(lblWaiting->width(), lblWaiting->heightForWidth(lblWaiting->width()));
     lblWaiting->move((window->width() - lblWaiting->width()) / 2, kNoticeTop);
     lblWaiting->show();
     lblWaiting->raise();

@@ -31,6 +31,7 @@ frmMail::frmMail(const QString& reportFile, QWidget* parent)
     txtContents->selectAll();
     txtContents->setFocus();
     txtContents_Change();
+    AskBeforeLosing();
 }
 
 void frmMail::txtContents_Change()

@@ -40,7 +40,7 @@ frmTargettedEMail::frmTargettedEMail(TargettedEMail job, QWidget* parent)
 QWidget* frmTargettedEMail::RecipientsPage()
 {
     auto* lblInstructions = WrappedLabel("lblInstructions");
-    FollowLanguage(lblInstructions, [=, this] { lblInstructions->setText(InstructionsOf(job_)); });
+    FollowLanguage(lblInstructions, [this, lblInstructions] { lblInstructions->setText(InstructionsOf(job_)); });
     lstEmailAddresses = Named<QListWidget>("lstEmailAddresses");
     lstEmailAddresses->setSelectionMode(QAbstractItemView::MultiSelection);
     lstEmailAddresses->setMinimumSize(kRecipientsSize);

@@ -46,6 +46,14 @@ protected:
         painter.drawText(rect(), Qt::AlignCenter, (isChecked() ? "✓ " : "") + QString::number(position_ + 1));
     }
 
+    /// The arrows mark the colour that they reach.
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        QAbstractButton::keyPressEvent(event);
+        if (auto* reached = dynamic_cast<ColorSwatch*>(window()->focusWidget()); reached && reached != this)
+            reached->setChecked(true);
+    }
+
 private:
     const int position_;
 };
@@ -63,6 +71,8 @@ frmSelectColor::frmSelectColor(int color, const QString& name, QWidget* parent)
     Page()->addWidget(lblInstructions);
     Page()->addWidget(Palette());
     LayFoot({AddWayOut(), AddMainButton("cmdOK", {"&OK", "&OK"}, [this] { accept(); })});
+    if (QAbstractButton* marked = swatches_->checkedButton())
+        marked->setFocus();
 }
 
 /// Clicking a colour marks it; the arrows move from one to the next.

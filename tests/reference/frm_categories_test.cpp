@@ -316,6 +316,9 @@ TEST_F(FrmCategories, EveryColourOfThePaletteLeavesADayReadableAndTheChosenOneIs
     EXPECT_EQ(user.Reads("lblColor(3)"), "1");
     user.Clicks("lblColor(20)").Clicks("cmdOK");
     EXPECT_EQ(user.The<frmSelectColor>().Color(), kCategoryColors[20]);
+    user.Opens<frmSelectColor>(kCategoryColors[20], "Vacation");
+    user.Presses("lblColor(20)", Qt::Key_Right).Presses("lblColor(21)", Qt::Key_Return);
+    EXPECT_EQ(user.The<frmSelectColor>().Color(), kCategoryColors[21]) << "the arrows mark";
     user.Opens<frmSelectColor>(kNoCategoryColor, "Vacation");
     EXPECT_EQ(user.The<frmSelectColor>().Color(), kNoCategoryColor) << "none is marked";
 }

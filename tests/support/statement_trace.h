@@ -12,11 +12,7 @@
 class StatementTrace
 {
 public:
-    StatementTrace()
-    {
-        sqlite3_trace_v2(datAbsence_.Engine().Handle(), SQLITE_TRACE_STMT, Add, this);
-        DefaultWorkspace().PauseReading(); // the trace is not the work: it holds no lock
-    }
+    StatementTrace() { sqlite3_trace_v2(datAbsence_.Engine().Handle(), SQLITE_TRACE_STMT, Add, this); }
     ~StatementTrace() { sqlite3_trace_v2(datAbsence_.Engine().Handle(), 0, nullptr, nullptr); }
     StatementTrace(const StatementTrace&) = delete;
     StatementTrace& operator=(const StatementTrace&) = delete;

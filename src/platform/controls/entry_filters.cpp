@@ -128,7 +128,7 @@ private:
     /// A number has one point: a comma becomes it unless the point is there already.
     QString Passing(QString text) const
     {
-        if (filter_ == KeyFilter::DecimalNumber && !text.contains('.') &&
+        if (filter_ == KeyFilter::DecimalNumber && text.count(',') == 1 && !text.contains('.') &&
             !field_->property("text").toString().contains('.'))
             text.replace(',', '.');
         return Filtered(text, filter_);

@@ -78,7 +78,8 @@ MailResult ResultOf(const QProcess& process, const QByteArray& said)
 
 void End(QProcess& process)
 {
-    ::kill(-static_cast<pid_t>(process.processId()), SIGKILL);
+    if (const auto group = static_cast<pid_t>(process.processId()); group > 0)
+        ::kill(-group, SIGKILL);
     process.waitForFinished(1000);
 }
 
@@ -113,11 +114,12 @@ QStringList ComposeArguments(const MailMessage& message)
     return arguments;
 }
 
-/// The user still writes: his window outlives this program.
+/// The user still writes: his window outlives this program, so nothing owns the process, whose end would kill it.
 void LeaveOpen(Process process)
 {
+    static auto& open = *new QList<QProcess*>;
     QObject::connect(process.get(), &QProcess::finished, process.get(), &QObject::deleteLater);
-    process.release()->setParent(qApp);
+    open << process.release();
 }
 
 MailResult Compose(const MailMessage& message)
