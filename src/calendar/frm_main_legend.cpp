@@ -3,6 +3,7 @@
 #include "calendar/year_calendar.h"
 #include "foundation/frm_captions.h"
 #include "platform/controls/flex_grid.h"
+#include "platform/controls/theme.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -21,7 +22,7 @@ QString LabelStyle(int colorCode)
     const QColor color = ColorOfCode(colorCode);
     const bool dark = qGray(color.rgb()) < 110;
     return QStringLiteral("background: %1; color: %2; border: 1px solid %3; border-radius: 3px; padding: 3px 12px;")
-        .arg(color.name(), dark ? "white" : "#14213d", color.darker(115).name());
+        .arg(color.name(), dark ? QStringLiteral("white") : Paper::kHeadText.name(), color.darker(115).name());
 }
 
 QLabel* ColorLabel(const QString& name, int colorCode, const Text& text)
