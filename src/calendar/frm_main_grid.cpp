@@ -3,6 +3,7 @@
 #include "calendar/day_notes.h"
 #include "foundation/frm_captions.h"
 #include "platform/clock.h"
+#include "platform/controls/theme.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -20,7 +21,6 @@ constexpr int kSeparators = 3;
 constexpr int kSpacers = 2;
 constexpr int kDayColumns = 28;
 constexpr int kTextRows = 24;
-const QColor kRangeRing(0x1f, 0x4f, 0xb0);
 
 /// The pixels of part `index` when `whole` is divided into parts that differ by one pixel at most.
 int Share(int whole, int parts, int index, int smallest)
@@ -230,7 +230,7 @@ void CalendarGrid::paintEvent(QPaintEvent* event)
     if (!IsDragging())
         return;
     QPainter painter(viewport());
-    painter.setPen(QPen(kRangeRing, 2));
+    painter.setPen(QPen(Paper::kRangeRing, 2));
     const auto [first, last] = std::minmax({dragFrom_, dragTo_});
     for (int date = first; date <= last; ++date)
         if (const QPoint place = shown_->PlaceOf(date); place.x() >= 0)

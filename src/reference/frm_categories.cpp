@@ -3,6 +3,7 @@
 #include "foundation/connection.h"
 #include "foundation/forms.h"
 #include "ledger/category_entitlements.h"
+#include "platform/controls/entry_lists.h"
 #include "reference/category_records.h"
 #include "reference/frm_category_configuration_page.h"
 #include "reference/frm_category_departments_page.h"
@@ -80,7 +81,7 @@ frmCategories::frmCategories(QWidget* parent) : EditingForm("frmCategories", par
 
 void frmCategories::BuildList()
 {
-    cboRecords = Named<QComboBox>("cboRecords");
+    cboRecords = Named<WalkedList>("cboRecords");
     cboRecords->setMaxVisibleItems(kCategoriesShown);
     SetPlaceholder(cboRecords, {"Select a category", "Sélectionnez une catégorie"});
     connect(cboRecords, &QComboBox::activated, this, &frmCategories::cboRecords_Click);

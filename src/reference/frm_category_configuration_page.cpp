@@ -3,6 +3,7 @@
 #include "foundation/common_services.h"
 #include "foundation/frm_option_caption.h"
 #include "platform/controls/flex_grid.h"
+#include "platform/controls/theme.h"
 
 namespace
 {
@@ -207,7 +208,8 @@ void CategoryConfigurationPage::ShowColor(int color)
     lblColorAssigned->setStyleSheet(
         QStringLiteral("background: %1; color: %2; border: 1px solid %3; border-radius: "
                        "4px; padding: 4px;")
-            .arg(shown.name(), qGray(shown.rgb()) < 110 ? "white" : "#14213d", shown.darker(115).name()));
+            .arg(shown.name(), qGray(shown.rgb()) < 110 ? QStringLiteral("white") : Paper::kHeadText.name(),
+                 shown.darker(115).name()));
 }
 
 /// Only the standard kind has hours of its own.

@@ -1,6 +1,7 @@
 #include "reference/frm_select_color.h"
 
 #include "platform/controls/flex_grid.h"
+#include "platform/controls/theme.h"
 #include "reference/category_colors.h"
 
 #include <QButtonGroup>
@@ -13,8 +14,6 @@ namespace
 constexpr QSize kSwatchSize(52, 40);
 constexpr int kSwatchGap = 6;
 constexpr int kSwatchRounding = 5;
-constexpr QColor kMarkColor(0x14, 0x21, 0x3d);
-constexpr QColor kFocusColor(0x2f, 0x6f, 0xde);
 
 /// A colour as the calendar shows it, with the number of a day.
 class ColorSwatch : public QAbstractButton
@@ -38,7 +37,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QColor color = ColorOfCode(kCategoryColors[static_cast<std::size_t>(position_)]);
-        const QColor frame = hasFocus() ? kFocusColor : kMarkColor;
+        const QColor frame = ThemeColor(hasFocus() ? "accent" : "head");
         painter.setPen(isChecked() || hasFocus() ? QPen(frame, 3) : QPen(color.darker(115)));
         painter.setBrush(color);
         painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), kSwatchRounding, kSwatchRounding);

@@ -7,7 +7,10 @@
 #include "reports/frm_lists.h"
 #include "support/company_test.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
+#include <QTest>
 
 namespace
 {
@@ -46,6 +49,18 @@ protected:
     }
     int Twins() { return house.Number("SELECT COUNT(*) FROM Entitlements_Modifications"); }
 };
+
+TEST_F(FrmCategories, TheArrowsWalkTheListBeforeACategoryIsTaken)
+{
+    user.Opens<frmCategories>().Clicks("cmdModify").Presses("cboRecords", Qt::Key_Down);
+    auto* list = user.The<frmCategories>().findChild<QComboBox*>("cboRecords");
+    QTest::keyClick(list->view(), Qt::Key_Down);
+    EXPECT_EQ(user.Reads("txtEnglishName"), "") << "nothing is taken yet";
+    QTest::keyClick(list->view(), Qt::Key_Return);
+    EXPECT_NE(user.Reads("txtEnglishName"), "");
+    EXPECT_TRUE(list->currentText().startsWith(user.Reads("txtEnglishName")));
+    EXPECT_TRUE(user.HasFocus("txtEnglishName"));
+}
 
 TEST_F(FrmCategories, AStandardOneIsGrantedToEverybodyWhoIsEmployed)
 {

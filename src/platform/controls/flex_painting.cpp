@@ -1,6 +1,7 @@
 #include "platform/controls/flex_painting.h"
 
 #include "platform/controls/flex_grid.h"
+#include "platform/controls/theme.h"
 #include "platform/ink.h"
 
 #include <QHelpEvent>
@@ -13,12 +14,6 @@ namespace
 constexpr int kPadding = 4;
 constexpr int kCornerMargin = 3;
 constexpr double kCornerShare = 0.7; ///< of the font that the cell has
-const QColor kLine(0xd9, 0xde, 0xe7);
-const QColor kText(0x1b, 0x23, 0x30);
-const QColor kHeadText(0x14, 0x21, 0x3d);
-const QColor kHeadBack(0xee, 0xf1, 0xf5);
-const QColor kTint(0xe3, 0xec, 0xfb);
-const QColor kRing(0x2f, 0x6f, 0xde);
 
 void SetBold(QPainter& painter, bool bold)
 {
@@ -105,7 +100,7 @@ QRect PaintNote(QPainter& painter, const QRect& rect, const FlexNote& note, cons
 /// Lines stand at the right and the foot of a cell, inside it.
 void PaintLines(QPainter& painter, const QRect& rect, bool left, bool top)
 {
-    painter.setPen(kLine);
+    painter.setPen(Paper::kLine);
     painter.drawLine(rect.topRight(), rect.bottomRight());
     painter.drawLine(rect.bottomLeft(), rect.bottomRight());
     if (left)
@@ -133,7 +128,7 @@ QColor ColorOr(int code, const QColor& own)
 /// The cell with the focus: two rings, of which one stands out on any colour.
 void PaintRing(QPainter& painter, const QRect& rect)
 {
-    painter.setPen(QPen(kRing, 2));
+    painter.setPen(QPen(Paper::kRing, 2));
     painter.drawRect(rect.adjusted(1, 1, -2, -2));
     painter.setPen(Qt::white);
     painter.drawRect(rect.adjusted(2, 2, -4, -4));
@@ -141,11 +136,11 @@ void PaintRing(QPainter& painter, const QRect& rect)
 
 void PaintHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment)
 {
-    painter.fillRect(rect, ColorOr(cell.Back, kHeadBack));
+    painter.fillRect(rect, ColorOr(cell.Back, Paper::kHeadBack));
     if (cell.Lines)
         PaintLines(painter, rect, false, false);
     SetBold(painter, true);
-    PaintText(painter, rect, cell.Text, alignment, {ColorOr(cell.Fore, kHeadText), {}});
+    PaintText(painter, rect, cell.Text, alignment, {ColorOr(cell.Fore, Paper::kHeadText), {}});
 }
 } // namespace
 
@@ -159,14 +154,14 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const bool tinted = grid_->rowSelection_ && row == grid_->currentIndex().row();
     const QRect& rect = option.rect;
     if (cell.Back >= 0 || tinted)
-        painter->fillRect(rect, ColorOr(cell.Back, kTint));
+        painter->fillRect(rect, ColorOr(cell.Back, Paper::kTint));
     if (cell.Lines) {
         const bool outside = !grid_->bordered_;
         PaintLines(*painter, rect, !HasLines(cells.At(row, col - 1), outside),
                    !HasLines(cells.At(row - 1, col), outside));
     }
-    const QColor back = ColorOr(cell.Back, tinted ? kTint : Qt::white);
-    const Ink ink = ReadableInk(ColorOr(cell.Fore, kText), back);
+    const QColor back = ColorOr(cell.Back, tinted ? Paper::kTint : Qt::white);
+    const Ink ink = ReadableInk(ColorOr(cell.Fore, Paper::kText), back);
     SetBold(*painter, cell.Bold);
     const QRect room = cell.Note ? PaintNote(*painter, rect, *cell.Note, ink, back) : rect;
     const bool led = cell.Note && !cell.Note->Lead.isEmpty();
@@ -207,7 +202,7 @@ QSize FlexHeads::sizeHint() const
 void FlexHeads::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
-    painter.fillRect(event->rect(), kHeadBack);
+    painter.fillRect(event->rect(), Paper::kHeadBack);
     int top = 0;
     for (int row = 0; row < grid_->fixedRows_; ++row) {
         PaintRow(painter, row, top, grid_->HeadHeight(row));

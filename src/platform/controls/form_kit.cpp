@@ -1,5 +1,6 @@
 #include "platform/controls/form_kit.h"
 
+#include "platform/controls/theme.h"
 #include "platform/dao/dao.h"
 
 #include <QApplication>
@@ -18,12 +19,6 @@
 
 #include <algorithm>
 #include <utility>
-
-/// A static library keeps its resources only when somebody asks for them by name, outside any namespace.
-static void LoadResources()
-{
-    Q_INIT_RESOURCE(pictures);
-}
 
 namespace
 {
@@ -122,33 +117,6 @@ class PageArea : public QScrollArea
 public:
     QSize sizeHint() const override { return widget()->sizeHint(); }
 };
-
-QString PicturePath(const QString& name)
-{
-    LoadResources();
-    return QStringLiteral(":/pictures/%1.svg").arg(name);
-}
-
-/// The program is light on every desktop: the calendar's colours are meant for white paper.
-QPalette LightPalette()
-{
-    const QColor navy("#14213d"), grey("#99a2b1");
-    QPalette palette(QColor("#ffffff"), QColor("#eef1f5"));
-    palette.setColor(QPalette::WindowText, QColor("#1b2330"));
-    palette.setColor(QPalette::Text, QColor("#1b2330"));
-    palette.setColor(QPalette::ButtonText, QColor("#1b2330"));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor("#f6f8fb"));
-    palette.setColor(QPalette::Highlight, QColor("#2f6fde"));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor("#2f6fde"));
-    palette.setColor(QPalette::PlaceholderText, grey);
-    palette.setColor(QPalette::ToolTipBase, Qt::white);
-    palette.setColor(QPalette::ToolTipText, navy);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, grey);
-    return palette;
-}
 
 QFont ProgramFont()
 {
@@ -321,14 +289,11 @@ void KeepFocus(QWidget* field)
 
 void ApplyStyle()
 {
-    LoadResources();
+    const Scheme scheme = DesktopScheme(); // while the colours are still the desktop's
     QApplication::setStyle(new ProgramStyle);
-    QApplication::setPalette(LightPalette());
     QApplication::setFont(ProgramFont());
     QApplication::setWindowIcon(PictureIcon("app"));
-    QFile sheet(":/tarvell.qss");
-    if (sheet.open(QIODevice::ReadOnly))
-        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    ApplyTheme(scheme);
 }
 
 QIcon PictureIcon(const QString& name)

@@ -1,5 +1,7 @@
 #include "platform/controls/remark_delegate.h"
 
+#include "platform/controls/theme.h"
+
 #include <QPainter>
 
 namespace
@@ -16,7 +18,7 @@ void RemarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     QStyledItemDelegate::paint(painter, option, index);
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     painter->save();
-    painter->setPen(selected ? option.palette.highlightedText().color() : option.palette.placeholderText().color());
+    painter->setPen(selected ? option.palette.highlightedText().color() : ThemeColor("caption"));
     painter->drawText(option.rect.adjusted(0, 0, -kRemarkGap, 0), Qt::AlignRight | Qt::AlignVCenter, remarkOf_(index));
     painter->restore();
 }

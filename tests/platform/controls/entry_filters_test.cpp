@@ -1,3 +1,4 @@
+#include "foundation/session_state.h"
 #include "platform/controls/entry_filters.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@ class EntryFields : public testing::Test
 protected:
     void Show(KeyFilter filter)
     {
+        SessionState.English = true; // the toolkit's menu follows it
         auto* layout = new QVBoxLayout(&window);
         for (QWidget* widget : std::initializer_list<QWidget*>{new QLineEdit, line, text, box})
             layout->addWidget(widget);
