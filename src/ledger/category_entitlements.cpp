@@ -93,7 +93,8 @@ EntitledEmployees CountEntitled(DataControl& datAbsence, const CategoryRow& cate
                                              "Entitlements WHERE CategoryID = ?",
                                              category.StandardEntitlement, category.RecordID);
     rows.Take("Listed", count.Listed);
-    rows.Take("SetSingly", count.SetSingly);
+    if (category.RequiresMonitoring == 1) // otherwise the hours are those that stood when it ended
+        rows.Take("SetSingly", count.SetSingly);
     count.All = count.Listed + datAbsence.Scalar<int>("SELECT COUNT(*) FROM " + WithoutEntitlement(category));
     return count;
 }

@@ -25,7 +25,7 @@ struct EntitledEmployees
 {
     int All = 0;       ///< those with an entitlement in the category, and the active ones who have none yet
     int Listed = 0;    ///< those with an entitlement
-    int SetSingly = 0; ///< of these, those whose hours are not the standard ones
+    int SetSingly = 0; ///< of these, those whose hours are not the standard ones; 0 where none applied
 };
 
 /// `category` as it stands before the change.

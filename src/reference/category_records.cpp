@@ -61,6 +61,29 @@ void ForgetEntitlement(CategoryRow& category)
     category.StandardEntitlement = -1;
 }
 
+/// What this user did not change is as another workstation may have stored it meanwhile.
+CategoryEntry AsStored(const CategoryEntry& stored, const CategoryEntry& before, CategoryEntry entry)
+{
+    if (!ChangesDepartments(before, entry)) {
+        entry.IsPublic = stored.IsPublic;
+        entry.UsedBy = stored.UsedBy;
+    }
+    if (!ChangesEntitlements(before, entry))
+        entry.RequiresMonitoring = stored.RequiresMonitoring;
+    return entry;
+}
+
+/// The columns of which only those are written in which `after` differs.
+CategoryRow ReplacedBy(const CategoryEntry& after, const CategoryEntry& stored, const CategoryEntry& before)
+{
+    CategoryRow replaced = before;
+    replaced.IsPublic = stored.IsPublic;
+    replaced.RequiresMonitoring = stored.RequiresMonitoring;
+    if (ChangesEntitlements(before, after))
+        ForgetEntitlement(replaced);
+    return replaced;
+}
+
 void UpdateLedger(DataControl& datAbsence, const CategoryEntry& before, const CategoryEntry& entry)
 {
     const bool changes = ChangesEntitlements(before, entry);
@@ -72,6 +95,12 @@ void UpdateLedger(DataControl& datAbsence, const CategoryEntry& before, const Ca
     } else if (entry.RequiresMonitoring == 1 && ChangesDepartments(before, entry)) {
         ReactivateEntitlements(datAbsence, entry);
     }
+}
+
+void RefuseFor(const std::optional<Fault>& fault)
+{
+    if (fault)
+        throw CategoryRefused(*fault);
 }
 
 /// The calendar's lists and colours follow.
@@ -118,6 +147,7 @@ bool IsCategoryNameTaken(DataControl& datAbsence, const char* column, const QStr
 void AddCategory(DataControl& datAbsence, CategoryEntry entry)
 {
     WriteCategory(datAbsence, [&] {
+        RefuseFor(FaultOfCategoryNames(datAbsence, entry));
         entry.FiscalYear = SessionState.FiscalYearID;
         entry.CanBeRemoved = entry.Active = 1;
         entry.CreatedBy = UserStamp();
@@ -129,21 +159,23 @@ void AddCategory(DataControl& datAbsence, CategoryEntry entry)
     });
 }
 
-void ModifyCategory(DataControl& datAbsence, CategoryEntry before, const CategoryEntry& entry)
+void ModifyCategory(DataControl& datAbsence, const CategoryEntry& before, const CategoryEntry& entry)
 {
     WriteCategory(datAbsence, [&] {
-        const CategoryEntry loaded = before;
-        if (ChangesEntitlements(before, entry))
-            ForgetEntitlement(before);
-        Change<CategoryRow>(datAbsence, before, entry);
-        UpdateCategoriesDepartments(datAbsence, entry);
-        UpdateLedger(datAbsence, loaded, entry);
+        RefuseFor(FaultOfActivity(datAbsence, entry));
+        RefuseFor(FaultOfCategoryNames(datAbsence, entry));
+        const CategoryEntry stored = LoadCategory(datAbsence, entry.RecordID);
+        const CategoryEntry after = AsStored(stored, before, entry);
+        Change<CategoryRow>(datAbsence, ReplacedBy(after, stored, before), after);
+        UpdateCategoriesDepartments(datAbsence, after);
+        UpdateLedger(datAbsence, before, after);
     });
 }
 
 void DeactivateCategory(DataControl& datAbsence, const CategoryEntry& entry)
 {
     WriteCategory(datAbsence, [&] {
+        RefuseFor(FaultOfActivity(datAbsence, entry));
         const QString name = QString::fromUtf8(kDeactivatedName);
         Change<CategoryRow>(datAbsence, entry.RecordID,
                             {{&CategoryRow::Active, 0},

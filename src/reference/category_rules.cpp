@@ -43,35 +43,6 @@ Fault InYear(const char* control, const Text& text)
     return {control, T(text, {{"FiscalYearName", SessionState.FiscalYearName}})};
 }
 
-std::optional<Fault> FaultOfCategoryNames(DataControl& datAbsence, const CategoryRow& category)
-{
-    if (category.CategoryEnglishName.isEmpty())
-        return Fault{SessionState.English ? "txtEnglishName" : "txtFrenchName",
-                     T("You must specify a name for the category!", "Vous devez spécifier le nom de la catégorie!")};
-    if (IsCategoryNameTaken(datAbsence, "CategoryEnglishName", category.CategoryEnglishName, category.RecordID))
-        return InYear("txtEnglishName",
-                      {"The English name you specified for the category has already been used in fiscal year "
-                       "{FiscalYearName}!",
-                       "Le nom anglais de la catégorie a déjà été utilisé au cours de l'année fiscale "
-                       "{FiscalYearName}!"});
-    if (IsCategoryNameTaken(datAbsence, "CategoryFrenchName", category.CategoryFrenchName, category.RecordID))
-        return InYear("txtFrenchName",
-                      {"The French name you specified for the category has already been used in fiscal year "
-                       "{FiscalYearName}!",
-                       "Le nom français de la catégorie a déjà été utilisé au cours de l'année fiscale "
-                       "{FiscalYearName}!"});
-    return {};
-}
-
-/// Another workstation may have deactivated it since it was chosen.
-std::optional<Fault> FaultOfActivity(DataControl& datAbsence, const CategoryRow& category)
-{
-    if (category.RecordID == 0 ||
-        datAbsence.Read("SELECT RecordID FROM Categories WHERE RecordID = ? AND Active = 1", category.RecordID))
-        return {};
-    return Fault{"cboRecords", CategoryInactive()};
-}
-
 std::optional<Fault> FaultOfEntitlement(const CategoryEntry& entry)
 {
     if (entry.Kind == EntitlementKind::NotChosen)
@@ -165,9 +136,32 @@ bool IsReserved(const CategoryRow& category)
     return !category.SystemName.trimmed().isEmpty();
 }
 
-QString CategoryInactive()
+std::optional<Fault> FaultOfCategoryNames(DataControl& datAbsence, const CategoryRow& category)
 {
-    return T("The selected category has been deactivated!", "La catégorie sélectionnée a été désactivée!");
+    if (category.CategoryEnglishName.isEmpty())
+        return Fault{SessionState.English ? "txtEnglishName" : "txtFrenchName",
+                     T("You must specify a name for the category!", "Vous devez spécifier le nom de la catégorie!")};
+    if (IsCategoryNameTaken(datAbsence, "CategoryEnglishName", category.CategoryEnglishName, category.RecordID))
+        return InYear("txtEnglishName",
+                      {"The English name you specified for the category has already been used in fiscal year "
+                       "{FiscalYearName}!",
+                       "Le nom anglais de la catégorie a déjà été utilisé au cours de l'année fiscale "
+                       "{FiscalYearName}!"});
+    if (IsCategoryNameTaken(datAbsence, "CategoryFrenchName", category.CategoryFrenchName, category.RecordID))
+        return InYear("txtFrenchName",
+                      {"The French name you specified for the category has already been used in fiscal year "
+                       "{FiscalYearName}!",
+                       "Le nom français de la catégorie a déjà été utilisé au cours de l'année fiscale "
+                       "{FiscalYearName}!"});
+    return {};
+}
+
+std::optional<Fault> FaultOfActivity(DataControl& datAbsence, const CategoryRow& category)
+{
+    if (category.RecordID == 0 ||
+        datAbsence.Read("SELECT RecordID FROM Categories WHERE RecordID = ? AND Active = 1", category.RecordID))
+        return {};
+    return Fault{"cboRecords", T(kCategoryInactive)};
 }
 
 std::optional<Fault> ValidateRecord(DataControl& datAbsence, CategoryEntry& entry)

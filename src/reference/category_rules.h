@@ -2,6 +2,7 @@
 
 #include "foundation/category_row.h"
 #include "foundation/fault.h"
+#include "foundation/texts.h"
 
 #include <optional>
 
@@ -37,7 +38,13 @@ int ColorOf(const CategoryRow& category);
 bool IsReserved(const CategoryRow& category);
 
 /// Why a category that has been deactivated cannot be modified.
-QString CategoryInactive();
+inline constexpr Text kCategoryInactive = {"The selected category has been deactivated!",
+                                           "La catégorie sélectionnée a été désactivée!"};
+
+/// What another workstation may have brought about since the category was chosen: it is not active any more, or another
+/// one of the year bears its name.
+std::optional<Fault> FaultOfActivity(DataControl& datAbsence, const CategoryRow& category);
+std::optional<Fault> FaultOfCategoryNames(DataControl& datAbsence, const CategoryRow& category);
 
 /// Brings the entry into the form in which it is stored: texts trimmed, a name left empty taken from the other
 /// language, the entitlement from its kind and time. A time that was not changed keeps its hours to the last decimal.

@@ -160,6 +160,9 @@ void frmCategories::EnableControls()
     cboRecords->setEnabled(IsIdle() || mode == EditingMode::Deactivating || (modifying && !HasRecord()));
     if (modifying)
         cmdModify->setText(T("&Modify", "ENREGISTRER"));
+    if (IsIdle() && HasRecord() && record_.Active != 1)
+        for (QPushButton* button : {cmdModify, cmdDeactivate})
+            EnableOrExplain(button, false, kCategoryInactive);
 }
 
 bool frmCategories::Begin(EditingMode mode)
@@ -187,13 +190,25 @@ void frmCategories::TakeListed(int recordID)
 {
     CategoryEntry entry = LoadCategory(datAbsence, recordID);
     if (entry.RecordID != 0 && entry.Active != 1) {
-        Refuse(CategoryInactive());
-        entry = {};
+        Refuse(T(kCategoryInactive));
+        if (!IsIdle()) // it can be looked at, and nothing else
+            entry = {};
     }
     ChooseCategory(entry);
     ShowMode();
     if (Mode() == EditingMode::Modifying && HasRecord())
         configuration_->FocusFirstField();
+}
+
+void frmCategories::Finish(EditingMode mode)
+{
+    if (!configuration_->LeaveMinutesFor(mode == EditingMode::Adding ? cmdAdd : cmdModify))
+        return;
+    try {
+        EditingForm::Finish(mode);
+    } catch (const CategoryRefused& refused) {
+        ShowFault(refused.Why);
+    }
 }
 
 bool frmCategories::HasChanges() const
@@ -267,8 +282,7 @@ void frmCategories::TellDone(EditingMode mode, const CategoryEntry& entry)
 
 void frmCategories::cmdColorAssigned_Click()
 {
-    const CategoryEntry entry = Read();
-    frmSelectColor form(ColorOf(entry), ShownName(entry), this);
+    frmSelectColor form(ColorOf(Read()), configuration_->CategoryName(), this);
     if (ShowModal(form) == QDialog::Accepted)
         configuration_->ShowColor(form.Color());
 }

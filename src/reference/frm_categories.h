@@ -18,6 +18,7 @@ public:
 
 protected:
     bool Begin(EditingMode mode) override;
+    void Finish(EditingMode mode) override;
     void ResetVariables() override;
     bool HasRecord() const override { return record_.RecordID != 0; }
     void EnableControls() override;

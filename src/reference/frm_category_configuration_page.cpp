@@ -127,8 +127,12 @@ QLayout* CategoryConfigurationPage::Time()
     row->addWidget(txtAnnualEntitlement_Minutes);
     row->addWidget(AsCaption(MakeLabel("lblMinutes", {"min", "min"})));
     row->addStretch();
-    connect(txtAnnualEntitlement_Minutes, &QLineEdit::editingFinished, this,
-            &CategoryConfigurationPage::Minutes_LostFocus);
+    connect(txtAnnualEntitlement_Minutes, &QLineEdit::textEdited, this, [this] { refusedFor_ = nullptr; });
+    // Enter finishes the editing too, but stays in the box and presses the main button: see LeaveMinutesFor.
+    connect(txtAnnualEntitlement_Minutes, &QLineEdit::editingFinished, this, [this] {
+        if (!txtAnnualEntitlement_Minutes->hasFocus())
+            Minutes_LostFocus();
+    });
     return row;
 }
 
@@ -259,10 +263,19 @@ void CategoryConfigurationPage::chkConstitutesAnAbsence_Click(bool checked)
         chkConstitutesAnAbsence->setChecked(true);
 }
 
-void CategoryConfigurationPage::Minutes_LostFocus()
+bool CategoryConfigurationPage::Minutes_LostFocus()
 {
     if (txtAnnualEntitlement_Minutes->text().toInt() <= kMostMinutes)
-        return;
+        return true;
+    refusedFor_ = window()->focusWidget();
     txtAnnualEntitlement_Minutes->clear();
     KeepFocus(txtAnnualEntitlement_Minutes);
+    return false;
+}
+
+bool CategoryConfigurationPage::LeaveMinutesFor(const QWidget* button)
+{
+    if (std::exchange(refusedFor_, nullptr) == button)
+        return false; // the press of the mouse was refused: the click that it ends in does not count
+    return Minutes_LostFocus();
 }

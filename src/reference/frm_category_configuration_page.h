@@ -14,6 +14,11 @@ public:
     /// Of a category of the time bank only names, code, colour and the hidden flag can be changed.
     void SetEntryEnabled(bool entering, bool timeBank);
     void FocusFirstField();
+    /// Takes the minutes in before `button` does its work. False when they were refused, also by the press that has
+    /// just moved the focus to the button: they are blank and keep the focus.
+    bool LeaveMinutesFor(const QWidget* button);
+    /// The name that the user sees; as long as only the other language's is typed, that one.
+    QString CategoryName() const;
     /// Marks a colour, 0xBBGGRR.
     void ShowColor(int color);
 
@@ -29,14 +34,14 @@ private:
     QRadioButton* AddOption(QVBoxLayout* options, const char* name, const Text& caption, EntitlementKind kind);
     void ChooseKind(EntitlementKind kind);
     void EnableTime();
-    QString CategoryName() const;
 
     void chkConstitutesAnAbsence_Click(bool checked);
-    void Minutes_LostFocus();
+    bool Minutes_LostFocus();
 
     EntitlementKind kind_ = EntitlementKind::NotChosen;
     int color_ = 0;
-    bool entitles_ = false; ///< the entitlement can be changed now
+    bool entitles_ = false;               ///< the entitlement can be changed now
+    const QWidget* refusedFor_ = nullptr; ///< where the focus went from the minutes that were refused last
     QLineEdit* txtEnglishName;
     QLineEdit* txtFrenchName;
     QLineEdit* txtCategoryCode;

@@ -137,15 +137,16 @@ void frmHolidays::OfferYearBefore()
     QString text =
         T({"Fiscal year {FiscalYearName} has no statutory holidays yet. Do you wish to take over those of "
            "fiscal year {PreviousFYName}?\r\n\r\nPlease check the dates: some holidays move from one year "
-           "to the next.\r\n",
+           "to the next.",
            "L'année fiscale {FiscalYearName} n'a encore aucun congé férié. Souhaitez-vous reprendre ceux "
            "de l'année fiscale {PreviousFYName}?\r\n\r\nVeuillez vérifier les dates: certains congés se "
-           "déplacent d'une année à l'autre.\r\n"},
+           "déplacent d'une année à l'autre."},
           {{"FiscalYearName", SessionState.FiscalYearName}, {"PreviousFYName", SessionState.PreviousFYName}});
+    text += RecordsRemark(CountRecordsOn(datAbsence, DatesOf(before))) + "\r\n";
     for (const Holiday& holiday : before)
         text += "\r\n" + FormatDate(holiday.Date, kDayPattern) + "  (" + holiday.Name + ")";
     if (AskWithList(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), text, before.size()) && !AddHolidays(datAbsence, before))
-        ShowFault(HolidayTaken());
+        return ShowRefusal(HolidayTaken());
     LoadHolidays();
 }
 
@@ -191,17 +192,24 @@ void frmHolidays::cmdAdd_Click()
     const auto fault = ValidateRecord(datAbsence, entry);
     txtHolidayName->setText(entry.Name);
     if (fault)
-        return ShowFault(*fault);
+        return ShowRefusal(*fault);
     if (!Confirm(entry))
         return;
     QVector<Holiday> holidays;
     for (const int date : entry.Dates)
         holidays.append({date, entry.Name});
     if (!AddHolidays(datAbsence, holidays))
-        return ShowFault(HolidayTaken());
+        return ShowRefusal(HolidayTaken());
     TellHolidayDone({"The new statutory holiday has been added to your database.",
                      "Le nouveau congé férié a été ajouté dans votre banque de données."});
     Reset();
+}
+
+/// The list shows first what another workstation has added.
+void frmHolidays::ShowRefusal(const Fault& fault)
+{
+    LoadHolidays();
+    ShowFault(fault);
 }
 
 void frmHolidays::Reset()

@@ -21,6 +21,7 @@ private:
     QFrame* NewHoliday();
     HolidayEntry Read() const;
     bool Confirm(const HolidayEntry& entry);
+    void ShowRefusal(const Fault& fault);
     void Reset();
     void OfferYearBefore();
 

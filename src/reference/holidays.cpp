@@ -59,6 +59,14 @@ QString HolidayName(const QVector<Holiday>& holidays, int date)
     return found == holidays.end() ? QString() : found->Name;
 }
 
+DateList DatesOf(const QVector<Holiday>& holidays)
+{
+    DateList dates;
+    for (const Holiday& holiday : holidays)
+        dates << holiday.Date;
+    return dates;
+}
+
 QVector<Holiday> HolidaysOfYearBefore(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
@@ -69,7 +77,8 @@ QVector<Holiday> HolidaysOfYearBefore(DataControl& datAbsence)
     QVector<Holiday> holidays;
     for (const Holiday& before : HolidaysBetween(datAbsence, year.Long("CommencingDate"), year.Long("EndingDate"))) {
         const int date = SerialOfDate(DateOfSerial(before.Date).addYears(1));
-        if (date >= SessionState.CommencingDate && date <= SessionState.EndingDate)
+        const bool given = !holidays.isEmpty() && holidays.last().Date == date; // by the 28th of February
+        if (!given && date >= SessionState.CommencingDate && date <= SessionState.EndingDate)
             holidays.append({date, before.Name});
     }
     return holidays;
@@ -105,12 +114,9 @@ int CountRecordsOn(DataControl& datAbsence, const DateList& dates)
 
 bool AddHolidays(DataControl& datAbsence, const QVector<Holiday>& holidays)
 {
-    DateList dates;
-    for (const Holiday& holiday : holidays)
-        dates << holiday.Date;
     bool added = false;
     InOpenYear(datAbsence, [&] {
-        if (HasHoliday(datAbsence, dates))
+        if (HasHoliday(datAbsence, DatesOf(holidays)))
             return;
         for (const Holiday& holiday : holidays)
             Add(datAbsence, NewHoliday(holiday));

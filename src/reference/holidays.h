@@ -25,8 +25,12 @@ QVector<Holiday> LoadHolidays(DataControl& datAbsence);
 /// The name of the holiday on a date, empty for none.
 QString HolidayName(const QVector<Holiday>& holidays, int date);
 
+/// Their dates, in their order.
+DateList DatesOf(const QVector<Holiday>& holidays);
+
 /// What a year without holidays can take over: those of the year before, each on the same day of the same month, as far
-/// as that lies in the session's year. None when there is no year before.
+/// as that lies in the session's year. The 28th and the 29th of February give one date, named by the first. None when
+/// there is no year before.
 QVector<Holiday> HolidaysOfYearBefore(DataControl& datAbsence);
 
 /// Why a date cannot become a holiday: it is one.

@@ -35,6 +35,14 @@ protected:
     {
         user.WillConfirm(containing).WillBeDone("All modifications have been recorded.").Clicks("cmdModify");
     }
+    /// Another workstation writes while the next message stands.
+    void Meanwhile(const QStringList& statements)
+    {
+        user.SeesMessage = [this, statements, done = false](const Message&) mutable {
+            for (const QString& statement : std::exchange(done, true) ? QStringList() : statements)
+                house.Sql(statement);
+        };
+    }
     QString Row(const QString& columns, int recordID = 9)
     {
         return house.Rows("SELECT " + columns + " FROM Categories WHERE RecordID = ?", {recordID});
@@ -87,6 +95,11 @@ TEST_F(FrmCategories, AStandardOneIsGrantedToEverybodyWhoIsEmployed)
     user.WillBeRefused("entitlement for the category «Owner`s rest»!").Clicks("cmdAdd");
     user.Types("txtAnnualEntitlement_Hours", "7").Types("txtAnnualEntitlement_Minutes", "75");
     EXPECT_EQ(user.LeavesField("txtAnnualEntitlement_Minutes").Reads("txtAnnualEntitlement_Minutes"), "");
+    user.Types("txtAnnualEntitlement_Minutes", "75").Clicks("cmdAdd");
+    EXPECT_EQ(user.Reads("txtAnnualEntitlement_Minutes"), "") << "nothing is asked";
+    user.Types("txtAnnualEntitlement_Minutes", "75").Presses("txtAnnualEntitlement_Minutes", Qt::Key_Return);
+    EXPECT_EQ(user.Reads("txtAnnualEntitlement_Minutes"), "");
+    EXPECT_TRUE(user.HasFocus("txtAnnualEntitlement_Minutes"));
     user.Types("txtAnnualEntitlement_Minutes", "30").Checks("chkCarryOver").Checks("chkHiddenCategory");
     user.WillAnswer("WARNING:", "No", "records made under the category «Owner`s rest» are not to be considered")
         .Checks("chkConstitutesAnAbsence", false);
@@ -181,6 +194,38 @@ TEST_F(FrmCategories, AChangeOfKindSetsEverybodysHoursAndSaysSoBefore)
     EXPECT_EQ(Row("RequiresMonitoring, StandardEntitlement, CarryOverAtYearEnd"), "0|0|0") << "as the form said";
     EXPECT_EQ(house.Rows("SELECT SUM(Active), SUM(AnnualEntitlement) FROM Entitlements"), "0|120");
     EXPECT_EQ(Twins(), 11);
+    Modifies("Training").Clicks("optEntitlementVaries");
+    Saves("Employees whose annual entitlement is set: 6; set one by one until now: 0");
+}
+
+TEST_F(FrmCategories, WhatAnotherWorkstationWritesBeforeTheAnswerIsHeeded)
+{
+    AddTraining();
+    user.Clicks("cmdAdd").Types("txtEnglishName", "Jury").Clicks("optNoAnnualEntitlement");
+    Meanwhile({"UPDATE Categories SET CategoryEnglishName = 'Jury' WHERE RecordID = 9"});
+    user.WillConfirm().WillBeRefused("The English name you specified").Clicks("cmdAdd");
+    EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Categories"), 9);
+    EXPECT_EQ(user.Reads("txtEnglishName"), "Jury");
+    user.WillAnswer("CONFIRM:", "Yes").Clicks("cmdCancelOperation");
+    Modifies("Jury").Types("txtCategoryCode", "j");
+    Meanwhile({"UPDATE Categories SET Active = 0 WHERE RecordID = 9"});
+    user.WillConfirm().WillBeRefused("The selected category has been deactivated!").Clicks("cmdModify");
+    EXPECT_EQ(Row("CategoryCode, ModifiedDate"), "|0");
+    EXPECT_EQ(user.Reads("txtCategoryCode"), "J");
+    house.Sql("UPDATE Categories SET Active = 1 WHERE RecordID = 9");
+
+    Meanwhile({"UPDATE Categories SET IsPublic = 0 WHERE RecordID = 9",
+               "UPDATE CategoriesDepartments SET IsUsed = 0 WHERE CategoryID = 9 AND DepartmentID = 1"});
+    Saves();
+    EXPECT_EQ(Row("CategoryCode, IsPublic"), "J|0");
+    EXPECT_EQ(UsedIn(), "1=0 2=1 3=1") << "this user left the departments alone";
+    Modifies("Jury").Checks("chkCategoryIsPublic");
+    Meanwhile(
+        {"UPDATE Categories SET RequiresMonitoring = 0 WHERE RecordID = 9", "UPDATE Entitlements SET Active = 0"});
+    Saves();
+    EXPECT_EQ(Row("IsPublic, RequiresMonitoring"), "1|0");
+    EXPECT_EQ(UsedIn(), "1=1 2=1 3=1");
+    EXPECT_EQ(house.Rows("SELECT SUM(Active) FROM Entitlements"), "0") << "none applies any more";
 }
 
 /// The texts of notices as they come up.
@@ -290,7 +335,11 @@ TEST_F(FrmCategories, ADeactivatedOneGivesItsNameAwayAndAReservedOneStays)
     user.Clicks("cmdModify").WillBeRefused("The selected category has been deactivated!");
     user.Picks("cboRecords", "«DEACT");
     EXPECT_FALSE(user.CanUse("cmdModify"));
-    user.Clicks("cmdCancelOperation").Clicks("cmdAdd").Types("txtEnglishName", "Training");
+    user.Clicks("cmdCancelOperation").WillBeRefused("The selected category has been deactivated!");
+    user.Picks("cboRecords", "«DEACT");
+    EXPECT_EQ(user.ReadsAll({"cboRecords", "txtFrenchName"}), "«DEACTIVATED»|«DEACTIVATED»") << "to be looked at";
+    EXPECT_EQ(user.Usable({"cmdAdd", "cmdModify", "cmdDeactivate"}), "cmdAdd");
+    user.Clicks("cmdAdd").Types("txtEnglishName", "Training");
     user.Clicks("optNoAnnualEntitlement").WillConfirm("There is no annual entitlement").WillBeDone().Clicks("cmdAdd");
     EXPECT_EQ(Row("CategoryEnglishName, RequiresMonitoring", 10), "Training|0");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Entitlements"), 5) << "none for the new one";
@@ -336,5 +385,11 @@ TEST_F(FrmCategories, EveryColourOfThePaletteLeavesADayReadableAndTheChosenOneIs
     EXPECT_EQ(user.The<frmSelectColor>().Color(), kCategoryColors[21]) << "the arrows mark";
     user.Opens<frmSelectColor>(kNoCategoryColor, "Vacation");
     EXPECT_EQ(user.The<frmSelectColor>().Color(), kNoCategoryColor) << "none is marked";
+    user.Opens<frmCategories>().Clicks("cmdAdd").Types("txtFrenchName", "Repos");
+    user.WhenOpens<frmSelectColor>([this](frmSelectColor& form) {
+        EXPECT_TRUE(user.Reads("lblInstructions").contains("«Repos»"));
+        form.reject();
+    });
+    user.Clicks("cmdColorAssigned");
 }
 } // namespace

@@ -53,7 +53,12 @@ TEST_F(FrmHolidays, AHolidayOfSeveralDatesIsAddedWholeOrNotAtAll)
 
     Add("Closed", {"Wed 30-Dec-2026"});
     house.Sql("INSERT INTO Holidays (HolidayDate, HolidayName) VALUES (46386, 'Of another workstation')");
+    user.SeesMessage = [this](const Message&) {
+        EXPECT_EQ(user.Entries("lstHolidayDates")[363], "Wed 30-Dec-2026  (Of another workstation)");
+    };
     user.WillBeRefused("There already is a statutory holiday under one of the selected dates!").Clicks("cmdAdd");
+    EXPECT_EQ(user.Reads("txtHolidayName"), "Closed");
+    EXPECT_EQ(user.The<frmHolidays>().findChild<QListWidget*>("lstHolidayDates")->selectedItems().size(), 1);
 }
 
 TEST_F(FrmHolidays, OneDateOfTwoIsRemovedAndCanBeUsedAgain)
@@ -82,11 +87,25 @@ TEST_F(FrmHolidays, AYearWithoutHolidaysTakesOverThoseOfTheYearBefore)
     user.WillAnswer("CONFIRM:", "No", "Sat 25-Dec-2027").Opens<frmHolidays>();
     EXPECT_EQ(user.Entries("cboHolidayName"), QStringList());
     const QStringList before = house.Rows("SELECT HolidayName FROM Holidays").split('\n');
-    user.WillConfirm("those of fiscal year 2026?").Opens<frmHolidays>();
+    house.Record(anna, "Vacation", {2027, 12, 25}, 7);
+    user.WillConfirm("to the next.\r\n\r\nAttendance records that stand on these dates already: 1\r\n")
+        .Opens<frmHolidays>();
     EXPECT_EQ(user.Entries("cboHolidayName"), before);
     EXPECT_EQ(house.Cell("SELECT MAX(HolidayDate) - (SELECT MAX(HolidayDate) FROM Holidays WHERE EnteredDate = 0) "
                          "FROM Holidays"),
               "365");
+}
+
+TEST_F(FrmHolidays, TheLastTwoDaysOfALeapFebruaryGiveOneDate)
+{
+    house.FiscalYear("2028", 2028);
+    house.FiscalYear("2029", 2029);
+    const int last = SerialOfDate({2028, 2, 28});
+    house.Sql("INSERT INTO Holidays (HolidayDate, HolidayName) VALUES (?, 'Carnival'), (?, 'Leap day')",
+              {last, last + 1});
+    house.Today(2029, 2, 1).LogIn("ADMIN");
+    user.WillConfirm("Wed 28-Feb-2029  (Carnival)").Opens<frmHolidays>();
+    EXPECT_EQ(user.Entries("cboHolidayName"), QStringList("Carnival"));
 }
 
 TEST(HolidaysOfTheProgram, ANewOneStandsOnTheCalendarOnLeaving)
