@@ -73,7 +73,7 @@ frmCategories::frmCategories(QWidget* parent) : EditingForm("frmCategories", par
     SetSize(kCategoriesSize);
     BuildList();
     AddTabs();
-    LayCommands({AddButton("cmdListRecords", {"&List of categories", "&Liste des catégories"},
+    LayCommands({AddButton("cmdListRecords", {"List o&f categories", "&Liste des catégories"},
                            [this] { cmdListRecords_Click(); })});
     ResetVariables();
     ShowMode();
