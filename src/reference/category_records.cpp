@@ -164,7 +164,8 @@ void ModifyCategory(DataControl& datAbsence, const CategoryEntry& before, const 
     WriteCategory(datAbsence, [&] {
         RefuseFor(FaultOfActivity(datAbsence, entry));
         RefuseFor(FaultOfCategoryNames(datAbsence, entry));
-        const CategoryEntry stored = LoadCategory(datAbsence, entry.RecordID);
+        const CategoryEntry found = LoadCategory(datAbsence, entry.RecordID);
+        const CategoryEntry& stored = found.RecordID != 0 ? found : before; // the server's rows are not read
         const CategoryEntry after = AsStored(stored, before, entry);
         Change<CategoryRow>(datAbsence, ReplacedBy(after, stored, before), after);
         UpdateCategoriesDepartments(datAbsence, after);

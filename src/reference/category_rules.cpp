@@ -158,10 +158,9 @@ std::optional<Fault> FaultOfCategoryNames(DataControl& datAbsence, const Categor
 
 std::optional<Fault> FaultOfActivity(DataControl& datAbsence, const CategoryRow& category)
 {
-    if (category.RecordID == 0 ||
-        datAbsence.Read("SELECT RecordID FROM Categories WHERE RecordID = ? AND Active = 1", category.RecordID))
-        return {};
-    return Fault{"cboRecords", T(kCategoryInactive)};
+    if (datAbsence.Read("SELECT RecordID FROM Categories WHERE RecordID = ? AND Active <> 1", category.RecordID))
+        return Fault{"cboRecords", T(kCategoryInactive)};
+    return {};
 }
 
 std::optional<Fault> ValidateRecord(DataControl& datAbsence, CategoryEntry& entry)
