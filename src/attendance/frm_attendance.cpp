@@ -41,12 +41,12 @@ void frmAttendance::BuildControls()
     general_ = new AttendanceGeneralPage;
     additional_ = new AttendanceAdditionalPage;
     sstAttendance = Named<QTabWidget>("sstAttendance");
+    Page()->addWidget(sstAttendance, 1);
     AddTab(sstAttendance, general_, {"General information", "Information générale"});
     AddTab(sstAttendance, additional_, {"Additional information", "Information additionnelle"});
     cmdAddOrUpdate =
         AddMainButton("cmdAddOrUpdate", kActions[static_cast<int>(entry_.Kind)], [this] { cmdAddOrUpdate_Click(); });
     cmdQuit = AddWayOut({"&Close", "So&rtir"}, "cmdQuit");
-    Page()->addWidget(sstAttendance, 1);
     LayFoot({cmdQuit, cmdAddOrUpdate});
     resize(kSize);
 }

@@ -43,18 +43,19 @@ QString ContentOf(const QWidget* control)
 }
 } // namespace
 
-FormBase::FormBase(const char* name, QWidget* parent)
-    : QDialog(parent), datAbsence(name), scroll_(ScrollingPage(new PageWidget))
+FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbsence(name), scroll_(ScrollingPage())
 {
     setObjectName(name);
     auto* layout = PageLayout(this);
-    page_ = new QVBoxLayout(scroll_->widget());
+    auto* page = new PageWidget;
+    page_ = new QVBoxLayout(page);
     page_->setContentsMargins(0, 0, 0, 0);
     page_->setSpacing(layout->spacing());
     foot_ = new FootLayout;
     foot_->setSpacing(layout->spacing());
     layout->addWidget(scroll_, 1);
     layout->addLayout(foot_);
+    SetPage(scroll_, page);
 }
 
 QSize FormBase::sizeHint() const

@@ -104,7 +104,9 @@ void SetAccessibleName(QWidget* control, const Text& text)
 
 void AddTab(QTabWidget* tabs, QWidget* page, const Text& caption)
 {
-    const int tab = tabs->addTab(ScrollingPage(page), QString());
+    QScrollArea* area = ScrollingPage();
+    const int tab = tabs->addTab(area, QString());
+    SetPage(area, page);
     FollowLanguage(page, [=] { tabs->setTabText(tab, T(caption)); });
 }
 

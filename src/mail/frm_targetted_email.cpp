@@ -28,9 +28,9 @@ frmTargettedEMail::frmTargettedEMail(TargettedEMail job, QWidget* parent)
 {
     SetTitle(this, {"Send an e-mail", "Envoyer un courriel"});
     SetSize(kEMailSize);
+    Page()->addWidget(sstEMailInfo, 1);
     AddTab(sstEMailInfo, RecipientsPage(), {"Recipients list", "Liste des destinataires"});
     AddTab(sstEMailInfo, ContentsPage(), {"E-mail contents", "Contenu du courriel"});
-    Page()->addWidget(sstEMailInfo, 1);
     cmdCancel = AddWayOut();
     cmdSend = AddMainButton("cmdSend", {"&Send", "&Envoyer"}, [this] { cmdSend_Click(); });
     LayFoot({lblProgress}, {cmdCancel, cmdSend});

@@ -100,9 +100,9 @@ void frmCategories::AddTabs()
     connect(configuration_->cmdColorAssigned, &QPushButton::clicked, this, &frmCategories::cmdColorAssigned_Click);
     departments_->LoadDepartments(DepartmentsOfTheYear(datAbsence));
     auto* tabs = Named<QTabWidget>("sstCategories");
+    Page()->addWidget(tabs, 1);
     AddTab(tabs, configuration_, {"Configuration", "Configuration"});
     AddTab(tabs, departments_, {"User departments", "Départements utilisateurs"});
-    Page()->addWidget(tabs, 1);
 }
 
 void frmCategories::LoadRecords()

@@ -115,7 +115,7 @@ Widget* WithLook(Widget* widget, const char* look)
 class PageArea : public QScrollArea
 {
 public:
-    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize sizeHint() const override { return widget() ? widget()->sizeHint() : QScrollArea::sizeHint(); }
 };
 
 QFont ProgramFont()
@@ -144,15 +144,19 @@ QVBoxLayout* TabLayout(QWidget* page)
     return layout;
 }
 
-QScrollArea* ScrollingPage(QWidget* page)
+QScrollArea* ScrollingPage()
 {
     auto* area = new PageArea;
-    area->setWidget(WithLook(page, "page"));
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     area->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     return area;
+}
+
+void SetPage(QScrollArea* area, QWidget* page)
+{
+    area->setWidget(WithLook(page, "page"));
 }
 
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls)

@@ -30,7 +30,10 @@ QVBoxLayout* PageLayout(QWidget* form);
 /// The outermost layout of a tab's page.
 QVBoxLayout* TabLayout(QWidget* page);
 /// Scrolls a page where it has less room than it needs; as large as the page otherwise.
-QScrollArea* ScrollingPage(QWidget* page);
+QScrollArea* ScrollingPage();
+/// Fills it. It sizes every control of the page, and to move it afterwards styles each of them anew, so it stands in
+/// its place by then.
+void SetPage(QScrollArea* area, QWidget* page);
 /// Controls side by side, the rest of the row empty.
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls);
 /// Controls side by side or one below the other, `gap` pixels apart.
