@@ -18,6 +18,7 @@
 #include "selection/frm_select_dates.h"
 #include "selection/frm_select_employee.h"
 #include "setup/frm_set_up_wizard.h"
+#include "support/keyboard.h"
 
 #include <QAction>
 #include <QApplication>
@@ -46,17 +47,19 @@ Tour::~Tour() = default;
 
 void Tour::Walk()
 {
+    user_.UsesKeysOnly(!english_); // the first hour in French is one without a mouse
     SetUpWorkstation();
     LogInAsAdministrator();
     AddUnits();
     AddHolidays();
     AddPeople();
+    TakeVacation();
+    user_.UsesKeysOnly(false);
     TransferEmployee();
     DeactivateEmployee();
     ModifyEmployee();
     ListEmployees();
     MaintainCategories();
-    TakeVacation();
     TakePeriod();
     FallSick();
     AccumulateTime();
@@ -86,7 +89,11 @@ void Tour::Photo(const QString& name)
 
 void Tour::Choose(const char* menu)
 {
-    main_->findChild<QAction*>(menu)->trigger();
+    auto* entry = main_->findChild<QAction*>(menu);
+    if (user_.HasKeysOnly())
+        Keyboard::Choose(*main_, *entry);
+    else
+        entry->trigger();
 }
 
 void Tour::PhotoMessage(const Message& message)
@@ -178,6 +185,8 @@ void Tour::ChooseEmployee(const QString& department, const QString& name)
 void Tour::ClickDays(int month, std::initializer_list<int> days)
 {
     auto* grid = main_->findChild<FlexGrid*>("flxCalendar");
+    if (user_.HasKeysOnly())
+        return MarkByKeys(*grid, month, *days.begin(), *std::prev(days.end()));
     for (const int day : days) {
         const QPoint place = main_->Calendar().PlaceOf(SerialOfDate({2026, month, day}));
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -185,11 +194,33 @@ void Tour::ClickDays(int month, std::initializer_list<int> days)
     }
 }
 
+/// Goes to the first day and marks up to the last with Shift.
+void Tour::MarkByKeys(QWidget& calendar, int month, int first, int last)
+{
+    const auto press = [&](Qt::Key key, int times, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        while (times-- > 0)
+            QTest::keyClick(&calendar, key, modifiers);
+    };
+    Keyboard::Reach(*main_, calendar);
+    press(Qt::Key_Home, 1, Qt::ControlModifier);
+    press(Qt::Key_PageDown, month - 1);
+    press(Qt::Key_Right, first - 1);
+    press(Qt::Key_Right, last - first, Qt::ShiftModifier);
+}
+
+void Tour::UseSeveralDates()
+{
+    if (user_.HasKeysOnly())
+        QTest::keyClick(main_->focusWidget(), Qt::Key_2, Qt::ControlModifier);
+    else
+        user_.Clicks("imgCreateMultiple");
+}
+
 void Tour::TakeVacation()
 {
     Say("Marie takes vacation on dates marked one by one");
     ChooseEmployee(T("Production", "Fabrication"), "Bouchard, Marie");
-    user_.Clicks("imgCreateMultiple");
+    UseSeveralDates();
     ClickDays(12, {14, 15, 16});
     Photo("main_window_marking");
     user_.WhenOpens<frmAttendance>([this](frmAttendance&) {
@@ -197,7 +228,7 @@ void Tour::TakeVacation()
         Photo("attendance_general");
         user_.WillAnswer(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), T("Yes", "Oui")).Clicks("cmdAddOrUpdate");
     });
-    user_.Clicks("imgCreateMultiple");
+    UseSeveralDates();
 }
 
 void Tour::TakePeriod()

@@ -71,6 +71,8 @@ private:
     void Start();
     void Photo(const QString& name);
     void PhotoMessage(const Message& message);
+    void MarkByKeys(QWidget& calendar, int month, int first, int last);
+    void UseSeveralDates();
     void ClickDays(int month, std::initializer_list<int> days);
     void Say(const QString& what) const;
 

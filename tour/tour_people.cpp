@@ -13,6 +13,7 @@
 #include "tour.h"
 
 #include <QTabWidget>
+#include <QTest>
 
 /// How the company comes into being, by its forms alone.
 
@@ -109,6 +110,13 @@ void Tour::AddEmployee(const NewEmployee& person)
 void Tour::FillEmployee(const NewEmployee& person)
 {
     auto* tabs = dynamic_cast<QDialog&>(user_.The<frmEmployees>()).findChild<QTabWidget*>("sstEmployees");
+    const auto turnTo = [this, tabs](int page) {
+        if (!user_.HasKeysOnly())
+            tabs->setCurrentIndex(page);
+        else
+            while (tabs->currentIndex() != page)
+                QTest::keyClick(user_.The<frmEmployees>().focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    };
     const bool pictured = person.LoginID == "MBOUCHARD";
     const auto photo = [this, pictured](const QString& name) {
         if (pictured)
@@ -123,7 +131,7 @@ void Tour::FillEmployee(const NewEmployee& person)
         user_.Picks("lstGroups", person.Group);
     photo("employees_1_general");
 
-    tabs->setCurrentIndex(1);
+    turnTo(1);
     if (!person.Start.isEmpty())
         for (int day = 1; day <= 5; ++day) {
             user_.Picks(ArrayName("cboFirstHalfStartTime", day), person.Start);
@@ -135,7 +143,7 @@ void Tour::FillEmployee(const NewEmployee& person)
         user_.WillAnswer(Confirming(), T("Yes", "Oui")).Checks("chkIrregularHours");
     photo("employees_2_schedule");
 
-    tabs->setCurrentIndex(2);
+    turnTo(2);
     user_.Types("txtUserName", person.LoginID).Types("txtPassword", "pass");
     user_.Checks("chkApprovalAuthority", person.Approves);
     if (!person.Approver.isEmpty())
@@ -143,7 +151,7 @@ void Tour::FillEmployee(const NewEmployee& person)
                     user_.Entries("cboApprovedBy_FirstLevel").filter(person.Approver).value(0));
     photo("employees_3_profile");
     if (pictured) {
-        tabs->setCurrentIndex(3);
+        turnTo(3);
         photo("employees_4_modules");
     }
 }

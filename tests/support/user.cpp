@@ -1,7 +1,9 @@
 #include "support/user.h"
 
+#include "foundation/frm_message_box.h"
 #include "foundation/texts.h"
 #include "platform/controls/form_kit.h"
+#include "support/keyboard.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -36,6 +38,14 @@ void ComplainOfLock(const QString& where)
 {
     Complain(text);
     throw std::logic_error("the user cannot go on");
+}
+
+void ShowPageOf(const QWidget& form, const QWidget& control)
+{
+    for (auto* tabs : form.findChildren<QTabWidget*>())
+        for (int page = 0; page < tabs->count(); ++page)
+            if (tabs->widget(page)->isAncestorOf(&control))
+                tabs->setCurrentIndex(page);
 }
 
 void ClickEntry(QAbstractItemView* list, const QModelIndex& entry, Qt::KeyboardModifier modifier)
@@ -80,6 +90,12 @@ User& User::Works(QWidget& form)
     return *this;
 }
 
+User& User::UsesKeysOnly(bool only)
+{
+    keysOnly_ = only;
+    return *this;
+}
+
 User& User::Leaves()
 {
     if (owned_)
@@ -101,12 +117,12 @@ QWidget* User::FindWidget(const QString& name) const
 QWidget* User::TurnsTo(const QString& name)
 {
     QWidget* control = FindWidget(name);
-    for (auto* tabs : form_->findChildren<QTabWidget*>())
-        for (int page = 0; page < tabs->count(); ++page)
-            if (tabs->widget(page)->isAncestorOf(control))
-                tabs->setCurrentIndex(page);
     if (!control->isEnabled())
         GiveUp("cannot use " + name);
+    if (keysOnly_)
+        Keyboard::Reach(*form_, *control);
+    else
+        ShowPageOf(*form_, *control);
     return control;
 }
 
@@ -141,6 +157,8 @@ User& User::Clicks(const QString& name)
     if (auto* button = dynamic_cast<QAbstractButton*>(control)) {
         button->setFocus();
         QTest::keyClick(button, Qt::Key_Space);
+    } else if (keysOnly_) {
+        GiveUp("only a mouse clicks on " + name);
     } else {
         QTest::mouseClick(control, Qt::LeftButton);
     }
@@ -160,7 +178,9 @@ User& User::Picks(const QString& name, const QString& entry)
         entries->match(entries->index(0, 0), Qt::DisplayRole, entry, 1, Qt::MatchStartsWith | Qt::MatchCaseSensitive);
     if (found.isEmpty())
         GiveUp("no entry " + entry + " in " + name + ": " + Entries(name).join(", "));
-    if (auto* combo = dynamic_cast<QComboBox*>(control)) {
+    if (keysOnly_) {
+        Keyboard::Pick(*control, found.first().row());
+    } else if (auto* combo = dynamic_cast<QComboBox*>(control)) {
         combo->setCurrentIndex(found.first().row());
         emit combo->activated(found.first().row());
     } else {
@@ -289,7 +309,28 @@ int User::AnswerMessage(const Message& message)
     const qsizetype position = message.Captions.indexOf(answer->Button);
     if (position < 0)
         Complain("no button " + answer->Button + " on: " + shown);
+    if (keysOnly_ && position >= 0)
+        return PressButton(message, answer->Button);
     return position < 0 ? MessageCode::Cancel : ResultOfButton(answer->Button, static_cast<int>(position));
+}
+
+/// The box itself is shown, and its button pressed.
+int User::PressButton(const Message& message, const QString& caption)
+{
+    const QPointer<QWidget> before = form_;
+    frmMessageBox box(message);
+    box.show();
+    Works(box);
+    for (auto* button : box.findChildren<QPushButton*>())
+        if (QString(button->text()).remove('&') == caption) {
+            Keyboard::Reach(box, *button);
+            QTest::keyClick(button, Qt::Key_Space);
+        }
+    if (box.isVisible())
+        Complain("the keyboard does not press " + caption);
+    if (before)
+        Works(*before);
+    return box.Code();
 }
 
 int User::VisitForm(QDialog& form)

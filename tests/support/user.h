@@ -40,6 +40,10 @@ public:
         return dynamic_cast<Form&>(*form_);
     }
 
+    /// From here on he has no mouse: he reaches controls with Tab, and answers messages in their box.
+    User& UsesKeysOnly(bool only = true);
+    bool HasKeysOnly() const { return keysOnly_; }
+
     User& Types(const QString& name, const QString& text); ///< replaces the contents, key by key
     User& Presses(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     User& Clicks(const QString& name); ///< a button, check box, option or label
@@ -95,10 +99,12 @@ private:
     QWidget* TurnsTo(const QString& name); ///< the control, which must be enabled, on its page
     QAbstractItemModel* FindEntries(const QString& name) const;
     int AnswerMessage(const Message& message);
+    int PressButton(const Message& message, const QString& caption);
     int VisitForm(QDialog& form);
 
     QPointer<QWidget> form_; ///< null once the program has closed and forgotten it
     std::unique_ptr<QWidget> owned_;
+    bool keysOnly_ = false;
     std::deque<Answer> answers_;
     std::deque<QString> files_;
     std::deque<std::function<void(QDialog&)>> visits_;
