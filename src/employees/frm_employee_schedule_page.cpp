@@ -113,10 +113,11 @@ QLayout* EmployeeSchedulePage::Foot()
     SetToolTip(cmdCopyMonday, {"Tuesday to Friday take over the times and the total of Monday",
                                "Mardi à vendredi reprennent les heures et le total du lundi"});
     connect(cmdCopyMonday, &QPushButton::clicked, this, &EmployeeSchedulePage::cmdCopyMonday_Click);
-    auto* lblCopied = MakeLabel("lblCopied", {"Times in blue italics were copied as you passed through their list. "
-                                              "They count until you pick or clear them.",
-                                              "Les heures en italique bleu ont été copiées au passage dans leur liste. "
-                                              "Elles comptent jusqu'à ce que vous les changiez ou les effaciez."});
+    auto* lblCopied =
+        MakeLabel("lblCopied", {"Times in a dashed blue frame were copied as you passed through their list. "
+                                "They count until you pick or clear them.",
+                                "Les heures encadrées de tirets bleus ont été copiées au passage dans leur liste. "
+                                "Elles comptent jusqu'à ce que vous les changiez ou les effaciez."});
     auto* row = Row({chkIrregularHours});
     row->addWidget(cmdCopyMonday);
     auto* foot = Stack(kRowGap);
