@@ -120,8 +120,9 @@ std::shared_ptr<const FlexNote> CalendarGrid::NoteOn(int date) const
     if (codes_) {
         note.Corner = DayCode(*shown_, date);
         note.Triangle = IsPartOfDay(*shown_, date);
+        note.Line = date == Today();
     }
-    const bool empty = note.Lead.isEmpty() && note.Corner.isEmpty();
+    const bool empty = note.Lead.isEmpty() && note.Corner.isEmpty() && !note.Line;
     return empty ? nullptr : std::make_shared<const FlexNote>(note);
 }
 

@@ -17,6 +17,7 @@ constexpr int kEntriesShown = 20;
 constexpr int kNameLength = 48;
 constexpr int kGap = 10;
 constexpr int kWidths[kEntitlementColumns] = {0, 92, 92, 66, 100, 100, 110, 120};
+constexpr Text kChooseEmployee = {"Choose an employee first", "Choisissez d'abord un(e) employé(e)"};
 constexpr Text kTitle = {"Employee entitlements", "Temps alloué annuellement aux employé(e)s"};
 
 QString ListedEmployee(const QModelIndex& entry)
@@ -246,9 +247,10 @@ void frmEntitlements::EnableButtons()
 {
     if (!cmdUpdateEntitlements)
         return;
-    cmdUpdateEntitlements->setEnabled(HasChanges());
-    cmdCancelOperation->setEnabled(!lines_.isEmpty());
-    cmdHistory->setEnabled(flxEntitlements->Row() >= kHeads && !lines_.isEmpty());
+    const bool chosen = !lines_.isEmpty();
+    EnableOrExplain(cmdUpdateEntitlements, HasChanges(), {"Nothing has been changed yet", "Rien n'a été modifié"});
+    EnableOrExplain(cmdCancelOperation, chosen, kChooseEmployee);
+    EnableOrExplain(cmdHistory, chosen && flxEntitlements->Row() >= kHeads, kChooseEmployee);
 }
 
 void frmEntitlements::cmdUpdateEntitlements_Click()

@@ -125,7 +125,8 @@ void frmTargettedEMail::lstEmailAddresses_Click()
 
 void frmTargettedEMail::txtNew_Change()
 {
-    cmdAdd->setEnabled(!txtNewName->text().trimmed().isEmpty() && !txtNewEMail->text().trimmed().isEmpty());
+    EnableOrExplain(cmdAdd, !txtNewName->text().trimmed().isEmpty() && !txtNewEMail->text().trimmed().isEmpty(),
+                    {"Enter a name and an address first", "Entrez d'abord un nom et une adresse"});
 }
 
 void frmTargettedEMail::cmdAdd_Click()

@@ -112,7 +112,7 @@ void frmHolidays::LoadHolidays()
     for (const Holiday& holiday : holidays_)
         cboHolidayName->addItem(holiday.Name, holiday.Date);
     cboHolidayName->setCurrentIndex(-1);
-    cmdRemove->setEnabled(false);
+    EnableOrExplain(cmdRemove, false, {"Choose a holiday first", "Choisissez d'abord un congé férié"});
     for (int row = 0; row < lstHolidayDates->count(); ++row) {
         const int date = SessionState.CommencingDate + row;
         const QString name = HolidayName(holidays_, date);
@@ -154,7 +154,7 @@ void frmHolidays::OfferYearBefore()
 void frmHolidays::cboHolidayName_Click()
 {
     txtHolidayName->setText(cboHolidayName->currentText());
-    cmdRemove->setEnabled(true);
+    EnableOrExplain(cmdRemove, true, {});
     const int row = cboHolidayName->currentData().toInt() - SessionState.CommencingDate;
     lstHolidayDates->scrollToItem(lstHolidayDates->item(row), QAbstractItemView::PositionAtCenter);
 }

@@ -86,6 +86,9 @@ void PaintTriangle(QPainter& painter, const QRect& rect, const QColor& color)
 QRect PaintNote(QPainter& painter, const QRect& rect, const FlexNote& note, const Ink& ink, const QColor& back)
 {
     const QColor small = ReadableInk(Qt::black, back).Fill;
+    if (note.Line)
+        painter.fillRect(QRect(rect.center().x() - rect.width() / 5, rect.bottom() - 2, 2 * rect.width() / 5, 2),
+                         small);
     if (note.Triangle)
         PaintTriangle(painter, rect, small);
     PaintText(painter, rect, note.Lead, Qt::AlignLeft | Qt::AlignVCenter, ink);
