@@ -15,8 +15,8 @@ const Level* CreatingLevel()
     const auto counts = [](const Level& level) {
         return level.IsHeld(Access::Create) && (&level == &kOrganizationLevel || level.HasUnit());
     };
-    const auto* found = std::find_if(&kGlobalLevel, &kIndividualLevel, counts);
-    return found == &kIndividualLevel ? nullptr : found;
+    const Level& widest = WidestLevel(counts);
+    return &widest == &kIndividualLevel ? nullptr : &widest;
 }
 
 /// Whoever creates records for a unit also does so for those whose requests he approves.

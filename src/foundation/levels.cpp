@@ -1,14 +1,11 @@
 #include "foundation/levels.h"
 
-#include <algorithm>
-
 Scope WidestScope(Access access, const char* Level::*column)
 {
-    const auto widest = std::find_if(kLevelTable.begin(), kLevelTable.end() - 1,
-                                     [access](const Level& level) { return level.IsHeld(access) && level.HasUnit(); });
-    if (widest == kLevelTable.begin())
+    const Level& widest = WidestLevel([access](const Level& level) { return level.IsHeld(access) && level.HasUnit(); });
+    if (&widest == &kGlobalLevel)
         return {"? = 0", 0};
-    return {QLatin1String((*widest).*column) + QLatin1String(" = ?"), widest->Unit()};
+    return {QLatin1String(widest.*column) + QLatin1String(" = ?"), widest.Unit()};
 }
 
 bool ReachesShownEmployee(Access access)

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <array>
 
 /// What a right allows at a level; each includes the one before it.
@@ -75,6 +76,13 @@ inline constexpr const Level& kOrganizationLevel = kLevelTable[1];
 inline constexpr const Level& kDepartmentLevel = kLevelTable[2];
 inline constexpr const Level& kGroupLevel = kLevelTable[3];
 inline constexpr const Level& kIndividualLevel = kLevelTable[4];
+
+/// The widest level for which `counts` holds; the individual one when none above it does.
+template <typename Counts>
+const Level& WidestLevel(Counts counts)
+{
+    return *std::find_if(&kGlobalLevel, &kIndividualLevel, counts);
+}
 
 /// A condition on employees and the value that it binds.
 struct Scope

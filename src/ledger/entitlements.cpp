@@ -54,12 +54,13 @@ void RecalculateEntitlement(EntitlementEntry& entry)
 QVector<ListEntry> LoadEntitledEmployees(DataControl& datAbsence)
 {
     const auto reads = [](const Level& level) { return level.IsHeld(Access::Read) && level.HasUnit(); };
-    const auto reach = std::find_if(kLevelTable.begin(), kLevelTable.end(), reads);
-    if (reach == kLevelTable.end())
+    const Level& reach = WidestLevel(reads);
+    if (!reads(reach))
         return {};
-    const QString unit = reach->Column ? " AND " + QLatin1String(reach->Column) + " = ?" : " AND ? = 0";
+    const Scope scope = WidestScope(Access::Read, &Level::Column);
     const Connection connection(datAbsence);
-    return LocatedEmployees(datAbsence.Select(EmployeesWithin(*reach, unit), SessionState.FiscalYearID, reach->Unit()));
+    return LocatedEmployees(
+        datAbsence.Select(EmployeesWithin(reach, " AND " + scope.Condition), SessionState.FiscalYearID, scope.Unit));
 }
 
 QVector<EntitlementLine> LoadEntitlements(DataControl& datAbsence, int employeeID)

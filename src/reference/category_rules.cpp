@@ -136,23 +136,36 @@ bool IsReserved(const CategoryRow& category)
     return !category.SystemName.trimmed().isEmpty();
 }
 
+namespace
+{
+struct NameInUse
+{
+    const char* Column;
+    QString CategoryRow::*Member;
+    const char* Control;
+    Text Told;
+};
+constexpr NameInUse kNamesInUse[] = {
+    {"CategoryEnglishName",
+     &CategoryRow::CategoryEnglishName,
+     "txtEnglishName",
+     {"The English name you specified for the category has already been used in fiscal year {FiscalYearName}!",
+      "Le nom anglais de la catégorie a déjà été utilisé au cours de l'année fiscale {FiscalYearName}!"}},
+    {"CategoryFrenchName",
+     &CategoryRow::CategoryFrenchName,
+     "txtFrenchName",
+     {"The French name you specified for the category has already been used in fiscal year {FiscalYearName}!",
+      "Le nom français de la catégorie a déjà été utilisé au cours de l'année fiscale {FiscalYearName}!"}}};
+} // namespace
+
 std::optional<Fault> FaultOfCategoryNames(DataControl& datAbsence, const CategoryRow& category)
 {
     if (category.CategoryEnglishName.isEmpty())
         return Fault{SessionState.English ? "txtEnglishName" : "txtFrenchName",
                      T("You must specify a name for the category!", "Vous devez spécifier le nom de la catégorie!")};
-    if (IsCategoryNameTaken(datAbsence, "CategoryEnglishName", category.CategoryEnglishName, category.RecordID))
-        return InYear("txtEnglishName",
-                      {"The English name you specified for the category has already been used in fiscal year "
-                       "{FiscalYearName}!",
-                       "Le nom anglais de la catégorie a déjà été utilisé au cours de l'année fiscale "
-                       "{FiscalYearName}!"});
-    if (IsCategoryNameTaken(datAbsence, "CategoryFrenchName", category.CategoryFrenchName, category.RecordID))
-        return InYear("txtFrenchName",
-                      {"The French name you specified for the category has already been used in fiscal year "
-                       "{FiscalYearName}!",
-                       "Le nom français de la catégorie a déjà été utilisé au cours de l'année fiscale "
-                       "{FiscalYearName}!"});
+    for (const NameInUse& name : kNamesInUse)
+        if (IsCategoryNameTaken(datAbsence, name.Column, category.*name.Member, category.RecordID))
+            return InYear(name.Control, name.Told);
     return {};
 }
 

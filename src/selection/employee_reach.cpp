@@ -20,8 +20,7 @@ const Level& LevelOf(ReachList list)
 /// The widest level that the user reads; the individual one when there is none above it.
 const Level& WidestRead()
 {
-    return *std::find_if(&kGlobalLevel, &kIndividualLevel,
-                         [](const Level& level) { return level.IsHeld(Access::Read); });
+    return WidestLevel([](const Level& level) { return level.IsHeld(Access::Read); });
 }
 
 /// Without a unit of his own at his widest level, a user reaches only himself.

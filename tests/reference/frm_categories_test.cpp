@@ -70,12 +70,8 @@ TEST_F(FrmCategories, TheArrowsWalkTheListBeforeACategoryIsTaken)
     EXPECT_TRUE(user.HasFocus("txtEnglishName"));
 }
 
-TEST_F(FrmCategories, AStandardOneIsGrantedToEverybodyWhoIsEmployed)
+TEST_F(FrmCategories, WhatIsMissingOrWrongIsRefusedAndNothingIsAsked)
 {
-    house.FiscalYear("2027", 2027);
-    house.LogIn("ADMIN");
-    Dismiss("EVA");
-    house.Sql("UPDATE Departments SET Active = 0 WHERE RecordID = 3");
     user.Opens<frmCategories>();
     EXPECT_EQ(user.Usable({"cmdAdd", "cmdListRecords", "cmdCancelOperation", "txtEnglishName", "optNoAnnualEntitlement",
                            "cmdColorAssigned", "chkCategoryIsPublic"}),
@@ -100,6 +96,17 @@ TEST_F(FrmCategories, AStandardOneIsGrantedToEverybodyWhoIsEmployed)
     user.Types("txtAnnualEntitlement_Minutes", "75").Presses("txtAnnualEntitlement_Minutes", Qt::Key_Return);
     EXPECT_EQ(user.Reads("txtAnnualEntitlement_Minutes"), "");
     EXPECT_TRUE(user.HasFocus("txtAnnualEntitlement_Minutes"));
+}
+
+TEST_F(FrmCategories, AStandardOneIsGrantedToEverybodyWhoIsEmployed)
+{
+    house.FiscalYear("2027", 2027);
+    house.LogIn("ADMIN");
+    Dismiss("EVA");
+    house.Sql("UPDATE Departments SET Active = 0 WHERE RecordID = 3");
+    user.Opens<frmCategories>();
+    user.Clicks("cmdAdd").Types("txtEnglishName", "Owner's, rest").Types("txtCategoryCode", "o-r1x");
+    user.Clicks("optStandardEntitlement").Types("txtAnnualEntitlement_Hours", "7");
     user.Types("txtAnnualEntitlement_Minutes", "30").Checks("chkCarryOver").Checks("chkHiddenCategory");
     user.WillAnswer("WARNING:", "No", "records made under the category «Owner`s rest» are not to be considered")
         .Checks("chkConstitutesAnAbsence", false);
