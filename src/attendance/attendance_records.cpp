@@ -204,6 +204,23 @@ void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry)
     }
 }
 
+QString ApproversOutOfReach(DataControl& datAbsence, const AttendanceEntry& entry)
+{
+    constexpr Text kHasLeft = {"{name} has left and will not settle this request: see your system administrator.",
+                               "{name} ne travaille plus ici et ne traitera pas cette demande : consultez votre "
+                               "administrateur du système."};
+    constexpr Text kHasNoAddress = {"{name} has no e-mail address and will not be told of this request by mail.",
+                                    "{name} n'a pas d'adresse de courriel et ne sera pas avisé(e) de cette demande."};
+    const Connection connection(datAbsence);
+    QStringList lines;
+    for (const Recordset& person : datAbsence.Select(
+             "SELECT FirstName, FamilyName, EMailAddress, DeactivatedDate FROM Employees WHERE RecordID IN (?, ?) AND "
+             "(DeactivatedDate <> 0 OR TRIM(EMailAddress) = '')",
+             entry.FirstApprover, entry.SecondApprover))
+        lines << T(person.Long("DeactivatedDate") != 0 ? kHasLeft : kHasNoAddress, {{"name", FullName(person)}});
+    return lines.join('\n');
+}
+
 void NewAttendance(DataControl& datAbsence, const AttendanceEntry& entry)
 {
     AddOnEachDate(datAbsence, entry, NewRow(entry));

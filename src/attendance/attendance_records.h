@@ -32,6 +32,8 @@ void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry);
 
 /// Names ("FirstName FamilyName") and mail addresses of the approvers.
 void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry);
+/// Which approvers will not hear of the request by mail, and why, a line each; empty when all will.
+QString ApproversOutOfReach(DataControl& datAbsence, const AttendanceEntry& entry);
 
 /// One record for each selected date. They throw; what was written before the failure stays written.
 void NewAttendance(DataControl& datAbsence, const AttendanceEntry& entry);

@@ -48,6 +48,9 @@ void frmAttendance::BuildControls()
         AddMainButton("cmdAddOrUpdate", kActions[static_cast<int>(entry_.Kind)], [this] { cmdAddOrUpdate_Click(); });
     cmdQuit = AddWayOut({"&Close", "So&rtir"}, "cmdQuit");
     LayFoot({cmdQuit, cmdAddOrUpdate});
+    lblApprovers = AsNotice(WrappedLabel("lblApprovers"));
+    Page()->addWidget(lblApprovers);
+    lblApprovers->hide();
     resize(kSize);
 }
 
@@ -105,9 +108,17 @@ void frmAttendance::LoadJob()
     if (IsModifying())
         ReloadRecord(datAbsence, entry_);
     ShowEntry();
+    if (entry_.Kind == AttendanceKind::Submit)
+        ShowApproversOutOfReach();
     EnableOrExplain(general_->lstWho, !IsModifying() && !entry_.EmployeeLocked,
                     {"These records are this employee's", "Ces enregistrements sont ceux de cet(te) employé(e)"});
     (general_->lstWho->isEnabled() ? static_cast<QWidget*>(general_->lstWho) : general_->cboCategories)->setFocus();
+}
+
+void frmAttendance::ShowApproversOutOfReach()
+{
+    lblApprovers->setText(ApproversOutOfReach(datAbsence, entry_));
+    lblApprovers->setVisible(!lblApprovers->text().isEmpty());
 }
 
 /// The question comes once the form can be seen.

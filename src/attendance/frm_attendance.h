@@ -27,6 +27,7 @@ private:
     void ConnectTimesAndDurations();
     void LoadComboBoxes();
     void LoadJob();
+    void ShowApproversOutOfReach();
     void Form_Activate() override;
 
     void LoadEmployees();
@@ -58,6 +59,7 @@ private:
     bool PassesGuards();
     void TakeUpCategory();
     bool FindApprovers();
+    void GetApprovedBy();
     bool Dispatch();
     bool NewAttendance();
     bool SubmitAttendance();
@@ -72,6 +74,7 @@ private:
     QTabWidget* sstAttendance = nullptr;
     AttendanceGeneralPage* general_ = nullptr;
     AttendanceAdditionalPage* additional_ = nullptr;
+    QLabel* lblApprovers = nullptr; ///< a request: who will not hear of it
     QPushButton* cmdAddOrUpdate = nullptr;
     QPushButton* cmdQuit = nullptr;
 };

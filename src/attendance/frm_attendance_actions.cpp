@@ -5,6 +5,7 @@
 #include "attendance/frm_attendance_pages.h"
 #include "foundation/common_services.h"
 #include "foundation/forms.h"
+#include "selection/frm_get_approved_by.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -64,11 +65,19 @@ bool frmAttendance::FindApprovers()
     if (entry_.Kind != AttendanceKind::Submit)
         return true;
     if (entry_.FirstApprover == 0)
-        OpenAbove(FormsAbove.ShowGetApprovedBy, entry_);
+        GetApprovedBy();
     if (entry_.FirstApprover == 0)
         return false;
     GetApprovalNames(datAbsence, entry_);
     return true;
+}
+
+/// For this request only: the employee's file stays as it is.
+void frmAttendance::GetApprovedBy()
+{
+    frmGetApprovedBy form(entry_, this);
+    ShowModal(form);
+    entry_.FirstApprover = form.ApproverID();
 }
 
 /// True when the records are written.

@@ -441,8 +441,12 @@ void CalendarTools::imgRemove_Click()
     for (const auto& [date, record] : markedRecords_)
         records << record;
     host_.ShowHint({});
-    host_.RemoveMarkedRecords(records);
+    const bool confirmed =
+        Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
+            T("Cancel the selected attendance records?", "Souhaitez-vous supprimer les enregistrements sélectionnés?"));
     End();
+    if (confirmed)
+        host_.CancelRecords(records);
 }
 
 void CalendarTools::Mark(int date, const QString& mark)

@@ -32,7 +32,8 @@ public:
     virtual DateList ShowSelectDates() = 0;
     /// The chosen record among several, 0 none.
     virtual int SelectAttendanceRecord(const QVector<ListEntry>& lines) = 0;
-    virtual void RemoveMarkedRecords(const QVector<int>& records) = 0;
+    /// Cancels attendance records by their RecordIDs; the calendar shows what is left.
+    virtual void CancelRecords(const QVector<int>& records) = 0;
     /// Shows the records of the session's selection anew.
     virtual void ReloadSelection() = 0;
     /// Lists the records of a date; no tool is in use.

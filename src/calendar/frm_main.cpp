@@ -5,6 +5,7 @@
 #include "calendar/frm_main_header.h"
 #include "calendar/frm_main_legend.h"
 #include "calendar/frm_main_tool_bar.h"
+#include "calendar/frm_main_unsent.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/frm_captions.h"
@@ -89,6 +90,7 @@ void frmMain::BuildControls()
     setWindowIcon(PictureIcon("app"));
     menus_ = std::make_unique<MainMenus>(menuBar(), [this](const Command& command) { Run(command); });
     toolBar_ = new ToolBar;
+    unsent_ = new UnsentLine;
     header_ = new MainHeader;
     pane_ = new CalendarPane;
     legend_ = new LegendPane;
@@ -101,6 +103,7 @@ void frmMain::BuildControls()
     auto* content = new QVBoxLayout;
     content->setContentsMargins(16, 12, 16, 12);
     content->setSpacing(12);
+    content->addWidget(unsent_);
     content->addWidget(header_);
     content->addWidget(MakeCard(calendar), 1);
     content->addWidget(legend_);
@@ -285,6 +288,7 @@ void frmMain::ReloadSelection(Category category)
 void frmMain::ActivateAllowedControls()
 {
     menus_->ActivateBar();
+    unsent_->Refresh();
     if (tools_.IsSelecting())
         return;
     menus_->ActivateAllowed();

@@ -14,6 +14,7 @@ class LegendPane;
 class MainHeader;
 class QTimer;
 class ToolBar;
+class UnsentLine;
 
 /// The workspace: the year calendar of the selection, its tools, and the menus from which all other forms open.
 class frmMain : public QMainWindow, private ToolHost
@@ -101,7 +102,7 @@ private:
     void ShowAttendance(const AttendanceJob& job) override;
     DateList ShowSelectDates() override;
     int SelectAttendanceRecord(const QVector<ListEntry>& lines) override;
-    void RemoveMarkedRecords(const QVector<int>& records) override;
+    void CancelRecords(const QVector<int>& records) override;
     void ReloadSelection() override { ReloadSelection(Category::Forget); }
     void DisplayDailyAttendance(int date) override;
 
@@ -115,6 +116,7 @@ private:
 
     std::unique_ptr<MainMenus> menus_;
     ToolBar* toolBar_;
+    UnsentLine* unsent_;
     MainHeader* header_;
     CalendarPane* pane_;
     LegendPane* legend_;

@@ -1,4 +1,5 @@
 #include "attendance/frm_attendance.h"
+#include "attendance/record_cancellation.h"
 #include "calendar/frm_main.h"
 #include "calendar/frm_main_calendar.h"
 #include "calendar/frm_main_grid.h"
@@ -162,9 +163,19 @@ int frmMain::SelectAttendanceRecord(const QVector<ListEntry>& lines)
     return form.SelectedRecordID();
 }
 
-void frmMain::RemoveMarkedRecords(const QVector<int>& /*records*/)
+/// What was cancelled before a failure is no longer shown either.
+void frmMain::CancelRecords(const QVector<int>& records)
 {
-    TellNotYet();
+    const LoadingGuard busy(Busy);
+    WithdrawnRequests withdrawn;
+    try {
+        withdrawn = ::CancelRecords(datAbsence, records);
+    } catch (const RuntimeError& error) {
+        TellError(error);
+    }
+    ReloadIfAsked();
+    EMailRequestCancellation(datAbsence, withdrawn, header_->CategoryName());
+    ActivateAllowedControls();
 }
 
 void frmMain::DisplayDailyAttendance(int date)

@@ -127,11 +127,24 @@ void ToolBar::SetTool(const Tool& tool, bool enabled, bool inUse, const Text& wh
     const QString tip = T(tool.Of.Tip) + "   " + tool.Of.Shortcut.toString(QKeySequence::NativeText);
     tool.Image->setToolTip(tip);
     tool.Disabled->setToolTip(why.IsEmpty() || inUse ? tip : tip + "\n" + T(why));
-    for (QToolButton* image : {tool.Image, tool.Disabled})
+    for (QToolButton* image : {tool.Image, tool.Disabled}) {
         SetLook(image, inUse ? "active" : "");
+        image->setText(WordOf(tool.Of));
+    }
     tool.Disabled->setIcon(inUse ? UngreyedIcon(tool.Of.Picture) : PictureIcon(tool.Of.Picture));
     tool.Image->setVisible(shown && enabled);
     tool.Disabled->setVisible(shown && !enabled);
+}
+
+void ToolBar::ShowWaiting(const QString& tool, int count)
+{
+    waiting_[tool] = count;
+}
+
+QString ToolBar::WordOf(const Command& command) const
+{
+    const int count = waiting_.value(command.Name);
+    return T(command.Caption) + (count == 0 ? QString() : QStringLiteral(" (%1)").arg(count));
 }
 
 void ToolBar::ShowWords(bool shown)
@@ -148,7 +161,7 @@ int ToolBar::WidthWithWords() const
 {
     int width = 0;
     for (const Tool& tool : tools_)
-        width += std::max(kToolWidth, fontMetrics().horizontalAdvance(T(tool.Of.Caption)) + kWordMargin) + kToolGap;
+        width += std::max(kToolWidth, fontMetrics().horizontalAdvance(WordOf(tool.Of)) + kWordMargin) + kToolGap;
     return width;
 }
 

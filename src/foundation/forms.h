@@ -17,7 +17,6 @@ struct Forms
     std::function<void(DataControl&)> UpgradeProbes; ///< looks for an older database at each log-in
     std::function<void(QWidget* parent)> ShowEmployeesList;
     std::function<void(QWidget* parent)> ShowCategoriesList;
-    std::function<void(AttendanceEntry&)> ShowGetApprovedBy;       ///< finds a FirstApprover for a request
     std::function<void(const AttendanceEntry&)> SendRequestNotice; ///< tells the approvers of a written request
     std::function<void(const QString& page)> ShowTutorial;         ///< a page below the distributor's web site
 };

@@ -25,8 +25,7 @@ QWidget* WindowInFront()
 QLabel* MakeNotice(QWidget* window)
 {
     auto* lblWaiting =
-        MakeLabel("lblWaiting", {"Waiting for the database...", "En attente de la banque de données..."});
-    lblWaiting->setProperty("look", "notice");
+        AsNotice(MakeLabel("lblWaiting", {"Waiting for the database...", "En attente de la banque de données..."}));
     lblWaiting->setParent(window);
     lblWaiting->setWordWrap(true); // the first window of a start is smaller than the notice
     lblWaiting->setAlignment(Qt::AlignCenter);

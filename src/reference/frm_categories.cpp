@@ -50,7 +50,7 @@ public:
         if (!shown)
             return;
         lblWait_.setParent(form);
-        lblWait_.setProperty("look", "notice");
+        AsNotice(&lblWait_);
         lblWait_.setText(T("***  WAIT!  ***\r\n\r\nSetting up an annual entitlement for each employee in your "
                            "database...",
                            "***  VEUILLEZ PATIENTER!  ***\r\n\r\nLe temps alloué annuellement pour cette catégorie est "

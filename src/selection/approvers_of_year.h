@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/list_entry.h"
+#include "foundation/session_state.h"
 #include "platform/dao/dao.h"
 
 #include <QVector>
@@ -16,3 +18,8 @@ struct ListedApprover
 /// and name. Rebuilds the list of employees first when it is flagged: throws RuntimeError when that fails. Empty when
 /// nothing can be read.
 QVector<ListedApprover> LoadApproversList(DataControl& datAbsence);
+
+/// Who of the session's fiscal year may approve the requests of an employee, level by level: of his group, of his
+/// department and in no group, of his organization and in no department, of no organization. Within a level they stand
+/// by place and name. Himself is never among them.
+QVector<ListEntry> ApproversAbove(DataControl& datAbsence, const CalendarSelection& requester);

@@ -1,6 +1,6 @@
 #include "attendance/attendance_fixture.h"
 #include "attendance/frm_attendance.h"
-#include "foundation/forms.h"
+#include "selection/frm_get_approved_by.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -68,10 +68,20 @@ TEST_F(FrmAttendance, ARequestNeedsAnApproverGoesToBothAndBearsTheRoundedMoment)
     EXPECT_EQ(user.Entries("lstWho"), QStringList{"Davis, Chris"});
     EXPECT_EQ(user.Reads("txtHourlyRate"), "") << "no access to the employees' files";
     user.Picks("cboStartTime", "23:00").Picks("cboEndTime", "01:00");
-    user.WillAnswer("PAS ENCORE DISPONIBLE:", "OK").Clicks("cmdAddOrUpdate");
+    user.WhenOpens<frmGetApprovedBy>([this](frmGetApprovedBy&) {
+        EXPECT_TRUE(user.Entries("lstApprovers").isEmpty()) << "nobody approves yet";
+        EXPECT_FALSE(user.CanUse("cmdSelect"));
+        user.Clicks("cmdCancel");
+    });
+    user.Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Number("SELECT COUNT(*) FROM Attendance"), 0);
 
-    FormsAbove.ShowGetApprovedBy = [this](AttendanceEntry& request) { request.FirstApprover = marc; };
+    house.Sql("UPDATE Employees SET IsAuthorizedToApprove = 1 WHERE RecordID IN (?, ?)", {marc, chris});
+    user.WhenOpens<frmGetApprovedBy>([this](frmGetApprovedBy&) {
+        EXPECT_TRUE(user.Reads("lblInstructions").startsWith("SÉLECTIONNEZ LE NOM DE L'EMPLOYÉ(E)"));
+        EXPECT_EQ(user.Entries("lstApprovers"), QStringList{"Roy, Marc /          Fabrication"});
+        user.Picks("lstApprovers", "Roy").Clicks("cmdSelect");
+    });
     house.MailEnds["automation"] = {75, "no server"};
     house.MailEnds["MAPI"] = {3, "no mail program"};
     user.WillAnswer("DEMANDE DE CONGÉ:", "Oui", "\r\n\r\nTue 03-03-2026\tDébut: 23:00\tFin: 01:00   \tDurée: 02:00\r\n")
@@ -91,6 +101,22 @@ TEST_F(FrmAttendance, ARequestNeedsAnApproverGoesToBothAndBearsTheRoundedMoment)
     GetApprovalNames(datAbsence, entry);
     EXPECT_EQ(entry.FirstApproverName + "|" + entry.SecondApproverName + "|" + entry.SecondApproverEMail,
               "Marc Roy|Marc Roy|marc@example.org");
+}
+
+TEST_F(FrmAttendance, WhoAsksSeesWhichApproversWillNotHearOfIt)
+{
+    const int eve = house.Hire({"EVE", "Ève", "Émond", "Sales", ""});
+    house.Sql("UPDATE Employees SET AttendanceApprovedBy_Backup = ?", {eve});
+    house.Sql("UPDATE Employees SET DeactivatedDate = 46000 WHERE RecordID = ?", {eve});
+    house.LogIn("CHRIS");
+    Begin({3}, chris, "Vacation");
+    Opens();
+    EXPECT_FALSE(user.CanUse("lblApprovers")) << "records need no approval";
+    entry.Kind = AttendanceKind::Submit;
+    Opens();
+    EXPECT_EQ(user.Reads("lblApprovers"),
+              "Marc Roy has no e-mail address and will not be told of this request by mail.\nÈve Émond has left and "
+              "will not settle this request: see your system administrator.");
 }
 
 TEST_F(FrmAttendance, AModifiedRecordIsAuditedAsItWas)

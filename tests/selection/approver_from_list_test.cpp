@@ -1,3 +1,4 @@
+#include "selection/approvers_of_year.h"
 #include "selection/frm_get_approver_from_list.h"
 #include "support/company_test.h"
 
@@ -34,4 +35,30 @@ TEST_F(ApproverFromList, ApproversOfTheWholeYearStandUnderTheirUnitsInTheUsersLa
     user.Picks("lstApprovers", "Abel").Clicks("cmdCancel");
     EXPECT_EQ(user.The<frmGetApproverFromList>().ApproverID(), 0);
     EXPECT_EQ(user.The<frmGetApproverFromList>().ApproverName(), "");
+}
+
+TEST_F(ApproverFromList, WhoeverHasNoApproverFindsThoseAboveHimLevelByLevel)
+{
+    house.Hire({"FRED", "Fred", "Fox", "Production", "Assembly"});
+    house.Hire({"GUS", "Gus", "Gray", "Production", "Assembly"});
+    const int hugo = house.Hire({"HUGO", "Hugo", "Hart", "Production"});
+    const int ivan = house.Hire({"IVAN", "Ivan", "Ives", "Production"});
+    house.Sql("UPDATE Employees SET IsAuthorizedToApprove = 1 WHERE LoginID <> 'BRUNO'");
+    house.Sql("UPDATE Employees SET DepartmentID = 0 WHERE RecordID = ?", {hugo});
+    house.Sql("UPDATE Employees SET DepartmentID = 0, OrganizationID = 0 WHERE RecordID = ?", {ivan});
+    Dismiss("GUS");
+    const auto candidates = [this](const CalendarSelection& requester) {
+        QStringList lines;
+        for (const ListEntry& line : ApproversAbove(datAbsence, requester))
+            lines << line.Text;
+        return lines;
+    };
+    EXPECT_THAT(candidates({anna, 1, 1, 1, ""}),
+                ElementsAre("Fox, Fred /           Production", "Cote, Carla /           Production",
+                            "Hart, Hugo /       Northern Works", "Ives, Ivan"))
+        << "neither herself nor who has left";
+    EXPECT_THAT(candidates({eva, 2, 3, 0, ""}), ElementsAre("Ives, Ivan"));
+    SessionState.English = false;
+    EXPECT_THAT(candidates({hugo, 1, 0, 0, ""}), ElementsAre("Ives, Ivan"));
+    EXPECT_EQ(candidates({dan, 1, 2, 0, ""}).value(0), "Hart, Hugo /     Ateliers du Nord");
 }

@@ -214,6 +214,11 @@ QLabel* AsFigure(QLabel* label)
     return WithLook(label, "figure");
 }
 
+QLabel* AsNotice(QLabel* label)
+{
+    return WithLook(label, "notice");
+}
+
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control)
 {
     caption->setBuddy(control);

@@ -43,10 +43,11 @@ QVBoxLayout* Stack(int gap, std::initializer_list<QWidget*> controls = {});
 QGridLayout* Raster();
 /// A white card with rounded corners on the quiet page; its layout holds the controls.
 QFrame* MakeCard(QLayout* layout);
-/// The looks of labels: a bold head, a small grey caption, a large figure.
+/// The looks of labels: a bold head, a small grey caption, a large figure, a notice on a ground of its own.
 QLabel* AsHead(QLabel* label);
 QLabel* AsCaption(QLabel* label);
 QLabel* AsFigure(QLabel* label);
+QLabel* AsNotice(QLabel* label);
 /// A small grey caption above the control that it names.
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control);
 /// The look by which the style sheet knows a control; empty for the plain one.

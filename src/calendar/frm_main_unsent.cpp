@@ -1,0 +1,57 @@
+#include "calendar/frm_main_unsent.h"
+
+#include "foundation/frm_captions.h"
+#include "mail/mail_component.h"
+
+#include <QHBoxLayout>
+
+namespace
+{
+/// Whom the message that failed last was for, and how many there are.
+QString UnsentText()
+{
+    const QVector<Notice>& unsent = UnsentNotices();
+    if (unsent.isEmpty())
+        return {};
+    constexpr Text kOne = {"An e-mail to {address} could not be sent.",
+                           "Un courriel destiné à {address} n'a pu être envoyé."};
+    constexpr Text kSeveral = {"{count} e-mails could not be sent, the last one to {address}.",
+                               "{count} courriels n'ont pu être envoyés, le dernier à {address}."};
+    return T(unsent.size() == 1 ? kOne : kSeveral,
+             {{"count", QString::number(unsent.size())}, {"address", unsent.last().Address.simplified()}});
+}
+} // namespace
+
+UnsentLine::UnsentLine(QWidget* parent) : QFrame(parent), lblUnsent(AsNotice(WrappedLabel("lblUnsent")))
+{
+    setObjectName("fraUnsent");
+    auto* cmdSendAgain = MakeButton("cmdSendAgain", {"&Send again", "&Envoyer de nouveau"});
+    auto* cmdForget = MakeButton("cmdForget", {"Do &not send", "&Ne pas envoyer"});
+    connect(cmdSendAgain, &QPushButton::clicked, this, &UnsentLine::cmdSendAgain_Click);
+    connect(cmdForget, &QPushButton::clicked, this, &UnsentLine::cmdForget_Click);
+    lblUnsent->setTextFormat(Qt::PlainText);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(lblUnsent, 1);
+    row->addWidget(cmdForget);
+    row->addWidget(cmdSendAgain);
+    FollowLanguage(this, [this] { Refresh(); });
+}
+
+void UnsentLine::Refresh()
+{
+    lblUnsent->setText(UnsentText());
+    setVisible(!lblUnsent->text().isEmpty());
+}
+
+void UnsentLine::cmdSendAgain_Click()
+{
+    SendUnsentNotices();
+    Refresh();
+}
+
+void UnsentLine::cmdForget_Click()
+{
+    ForgetUnsentNotices();
+    Refresh();
+}

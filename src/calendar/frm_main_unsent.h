@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+
+/// A line in the main window about the notices that could not be sent by mail; without any it is not there.
+class UnsentLine : public QFrame
+{
+public:
+    explicit UnsentLine(QWidget* parent = nullptr);
+
+    /// Says what has not been sent by now.
+    void Refresh();
+
+private:
+    void cmdSendAgain_Click();
+    void cmdForget_Click();
+
+    QLabel* lblUnsent;
+};
