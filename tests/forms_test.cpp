@@ -20,6 +20,7 @@
 #include "reference/frm_select_color.h"
 #include "reference/frm_unit.h"
 #include "reports/frm_lists.h"
+#include "selection/frm_get_approved_by.h"
 #include "selection/frm_get_approver_from_list.h"
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
@@ -84,6 +85,10 @@ const std::pair<const char*, Maker> kForms[] = {
     {"frmSelectDates", [] { return std::unique_ptr<QWidget>(new frmSelectDates(EntireYear(), SessionState)); }},
     {"frmSelectPeriod", Make<frmSelectPeriod>},
     {"frmSelectWeekdays", Make<frmSelectWeekdays>},
+    {"frmGetApprovedBy",
+     [] {
+         return std::unique_ptr<QWidget>(new frmGetApprovedBy(CalendarSelection{1, 1, 1, 1, "Marie Roy"}));
+     }},
     {"frmGetApproverFromList", [] { return std::unique_ptr<QWidget>(new frmGetApproverFromList("Marie Roy")); }},
     {"frmSelectAttendanceRecord",
      [] {

@@ -60,6 +60,7 @@ public:
     /// Where other floors leave the work of the timer's steps.
     MinuteWork& BackgroundWork() { return minuteWork_; }
     YearCalendar& Calendar() override { return calendar_; }
+    DataControl& Data() override { return datAbsence; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -93,7 +94,6 @@ private:
     void RestorePlace();
     void KeepPlace() const;
 
-    DataControl& Data() override { return datAbsence; }
     bool NothingRecorded() const override { return total_ == 0; }
     void ShowHint(const QString& hint) override;
     void BeginTool(const QString& tool, bool usable) override;

@@ -1,5 +1,6 @@
 #include "calendar/frm_main_command_table.h"
 
+#include "attendance/denied_requests.h"
 #include "calendar/frm_main.h"
 #include "employees/frm_employees.h"
 #include "foundation/frm_about.h"
@@ -247,6 +248,8 @@ List SpecialMenu()
             CheckedWhen(ShowsPending, Entry("mnuSpecialDisplayPending",
                                             {"Display &pending requests", "Afficher les &demandes non traitées"},
                                             When(HasFileBackEnd), [](frmMain& main) { main.DisplayRecords(false); })),
+            Entry("mnuSpecialDeniedRequests", {"My de&nied requests...", "Mes demandes refu&sées..."},
+                  When(HasFileBackEnd), [](frmMain& main) { TellDeniedRequests(main.Data()); }),
             CheckedWhen(&frmMain::ShowsCodes,
                         Entry("mnuSpecialCategoryCodes", {"Show &category codes", "Afficher les c&odes de catégorie"},
                               Everybody(), &frmMain::mnuSpecialCategoryCodes_Click)),
