@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/mail_desk.h"
 #include "support/user.h"
 
 #include <QDate>
@@ -62,8 +63,16 @@ private:
     void BorrowTime();
     void TakeHiddenLeave();
     void ExpectHidden(bool hidden);
+    void ChooseMailProgram();
+    void GiveTheApproverADayOff();
+    void LogInAsEmployee(const QString& loginID);
+    void Request(std::initializer_list<int> daysOfDecember, const QString& comment);
     void RequestLeave();
     void RequestTooMuch();
+    void WithdrawRequest();
+    void SettleRequest();
+    void HearOutcome();
+    void KeepMail();
     void PhotoExplanation(const QString& figure, const QString& name);
     void VisitSmallForms();
     void Confirm();
@@ -83,4 +92,5 @@ private:
     std::unique_ptr<Program> program_;
     frmMain* main_ = nullptr; ///< the program's
     int messages_ = 0;
+    std::unique_ptr<MailDesk> mail_; ///< from when notices go out on
 };

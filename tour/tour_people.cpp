@@ -81,7 +81,7 @@ void Tour::AddPeople()
     AddEmployee({"Bouchard", "Marie", "MBOUCHARD", production, assembly, "08:30", "16:30", "Côté"});
     AddEmployee({"Gagnon", "Émilie", "EGAGNON", production, assembly, {}, {}, {}, "Bouchard"});
     AddEmployee({"Roy", "Pierre", "PROY", T("Stores", "Magasins"), {}, "07:00", "15:00"});
-    AddEmployee({"Smith", "Anna", "ASMITH", T("Accounting", "Comptabilité"), {}, {}, {}});
+    AddEmployee({"Smith", "Anna", "ASMITH", T("Accounting", "Comptabilité"), {}, {}, {}, {}, {}, true});
     AddEmployee({"Martin", "Jean-Paul", "JMARTIN", sales, {}, "09:00", "17:00"});
 }
 
@@ -197,12 +197,17 @@ void Tour::ModifyEmployee()
             [this](frmSelectEmployee&) { user_.Picks("lstEmployees", "Roy, Pierre").Clicks("cmdSelect"); });
         user_.Works(form).Clicks("cmdModify").Types("txtHourlyRate", "26");
         form.findChild<QTabWidget*>("sstEmployees")->setCurrentIndex(2);
-        user_.WhenOpens<frmGetApproverFromList>([this](frmGetApproverFromList&) {
-            user_.Picks("lstApprovers", user_.Entries("lstApprovers").filter("Luc").value(0));
-            Photo("get_approver_from_list");
-            user_.Clicks("cmdSelect");
-        });
-        user_.Clicks("cmdGetApprover1FromList").WillAnswer(Confirming(), T("Yes", "Oui"));
+        const std::pair<const char*, const char*> approvers[] = {{"cmdGetApprover1FromList", "Luc"},
+                                                                 {"cmdGetApprover2FromList", "Anna"}};
+        for (const auto& [button, name] : approvers) {
+            user_.WhenOpens<frmGetApproverFromList>([this, name = name](frmGetApproverFromList&) {
+                user_.Picks("lstApprovers", user_.Entries("lstApprovers").filter(name).value(0));
+                Photo("get_approver_from_list");
+                user_.Clicks("cmdSelect");
+            });
+            user_.Clicks(button);
+        }
+        user_.Checks("chkGroup_Absolute").WillAnswer(Confirming(), T("Yes", "Oui"));
         user_.WillAnswer(T("New hourly rate specified:", "Un changement de taux horaire a été détecté!"),
                          T("Yes", "Oui"));
         user_.WhenOpens<frmSelectPeriod>([this](frmSelectPeriod&) {

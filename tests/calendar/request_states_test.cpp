@@ -1,0 +1,132 @@
+#include "attendance/attendance_guards.h"
+#include "attendance/denied_requests.h"
+#include "attendance/request_reports.h"
+#include "calendar/calendar_records.h"
+#include "ledger/allowances.h"
+#include "ledger/time_banks.h"
+#include "platform/clock.h"
+#include "support/company_test.h"
+
+#include <QScopedValueRollback>
+
+namespace
+{
+/// A record of Anna's in each state of its life, and whoever reads records: which of them count it.
+class RequestStates : public CompanyTest
+{
+protected:
+    RequestStates()
+    {
+        house.Sql("UPDATE Categories SET RequiresMonitoring = 1, TimeBankRelated = 1, ConstitutesAnAbsence = 1");
+        house.Sql("UPDATE Employees SET DepartmentID = (SELECT DepartmentID FROM Employees WHERE RecordID = ?)",
+                  {anna});
+        selection = {anna, 1, 1, 1, "Anna Abel"};
+    }
+    /// A record of today with these settings, beside a colleague's request for the same day.
+    void IsIn(const QString& state)
+    {
+        house.Sql("DELETE FROM Attendance");
+        house.Sql("UPDATE Attendance SET SubmittedTo_First = ?, " + state + " WHERE RecordID = ?",
+                  {eva, house.Record(anna, "Vacation", CurrentDateTime().date(), 1)});
+        house.Sql("UPDATE Attendance SET SubmittedTo_First = ? WHERE RecordID = ?",
+                  {eva, house.Record(dan, "Vacation", CurrentDateTime().date(), 1, true)});
+    }
+    template <typename Groups>
+    static bool HasAnna(const Groups& groups)
+    {
+        return std::any_of(groups.begin(), groups.end(),
+                           [](const RequestGroup& group) { return group.FirstName == "Anna"; });
+    }
+    QString Sums()
+    {
+        QStringList counting;
+        if (TimeInCategory(datAbsence, anna, house.CategoryID("Vacation"), LiveRecords::Approved) == 1)
+            counting << "used";
+        if (TimeInCategory(datAbsence, anna, house.CategoryID("Vacation"), LiveRecords::Pending) == 1)
+            counting << "waiting";
+        if (TimeBankOf(datAbsence, selection) == 1)
+            counting << "bank";
+        return counting.join(' ');
+    }
+    QString Views()
+    {
+        QStringList counting;
+        static_cast<CalendarSelection&>(SessionState) = selection;
+        for (const bool approved : {true, false}) {
+            const QScopedValueRollback<bool> shown(SessionState.ShowApproved, approved);
+            if (!RecordsOfTheYear(datAbsence).isEmpty() && TotalForTheYear(datAbsence) == 1 &&
+                !DailyAttendance(datAbsence, Today()).isEmpty())
+                counting << (approved ? "calendar" : "pending");
+        }
+        if (!ConflictingRecords(datAbsence, Today()).isEmpty())
+            counting << "conflict";
+        return counting.join(' ');
+    }
+    QString Approver()
+    {
+        house.LogIn("EVA");
+        QStringList counting;
+        if (HasAnna(ReloadRequests(datAbsence)))
+            counting << "to-settle";
+        if (HasAnna(UntoldRequests(datAbsence)))
+            counting << "new";
+        const RequestGroup dansGroup{
+            .EnteredDate = Today(), .EmployeeID = dan, .CategoryID = house.CategoryID("Vacation")};
+        if (LoadRequestedDates(datAbsence, dansGroup).Dates[0].AlsoAbsent.contains("Anna Abel"))
+            counting << "absent";
+        return counting.join(' ');
+    }
+    /// What Anna herself is told.
+    QString Requester()
+    {
+        house.LogIn("ANNA");
+        QStringList counting;
+        user.SeesMessage = [&](const Message& message) {
+            if (message.Text.contains("Vacation"))
+                counting << message.Title;
+        };
+        user.WillAnswer("DENIED REQUESTS FOR LEAVE:", "OK");
+        TellDeniedRequests(datAbsence);
+        WereRequestsApproved(datAbsence);
+        return counting.join(' ');
+    }
+
+    CalendarSelection selection;
+};
+
+TEST_F(RequestStates, EachReaderCountsWhatItIsAbout)
+{
+    struct State
+    {
+        const char* Name;
+        const char* Columns;
+        const char* Sums;
+        const char* Views;
+        const char* Approver;
+        const char* Requester;
+    };
+    const char* kReport = "REQUEST(S) FOR LEAVE STATUS REPORT:";
+    const char* kDenials = "DENIED REQUESTS FOR LEAVE:";
+    const QString by = QString::number(anna);
+    const State kStates[] = {
+        {"entered", "SubmittedBy = 0", "used bank", "calendar conflict", "absent", ""},
+        {"submitted", "Submitted = 1", "waiting bank", "pending conflict", "to-settle new absent", kReport},
+        {"told", "Submitted = 1, RequestStatus = 1", "waiting bank", "pending conflict", "to-settle absent", kReport},
+        {"approved", "RequestStatus = 2, ApprovedBy = 'EVA'", "used bank", "calendar conflict", "absent", kReport},
+        {"told of approval", "RequestStatus = 4", "used bank", "calendar conflict", "absent", ""},
+        {"denied", "RequestStatus = 3, DeniedBy = 'EVA', CancelledDate = 46083", "", "", "", kDenials},
+        {"told of denial", "RequestStatus = 4, DeniedBy = 'EVA', CancelledDate = 46083", "", "", "", kDenials},
+        {"withdrawn", "RequestStatus = 1, CancelledBy = 'ANNA', CancelledDate = 46083", "", "", "", ""},
+        {"cancelled", "RequestStatus = 4, CancelledBy = 'ANNA', CancelledDate = 46083", "", "", "", ""}};
+    for (const State& state : kStates) {
+        IsIn("SubmittedBy = " + by + ", " + state.Columns);
+        house.LogIn("ADMIN");
+        EXPECT_EQ(Sums() + "|" + Views() + "|" + Approver(),
+                  QStringList({state.Sums, state.Views, state.Approver}).join('|'))
+            << state.Name;
+        if (state.Requester == kReport)
+            user.WillAnswer("DENIED REQUESTS FOR LEAVE:", "OK"), user.WillAnswer(kReport, "OK");
+        EXPECT_EQ(Requester(), state.Requester) << state.Name;
+    }
+}
+} // namespace
