@@ -86,7 +86,9 @@ private:
     void ActivateAllowedControls();
     void DeactivateAllControls(const QString& toolInUse = {}, bool usable = false);
 
-    void LookWhetherYearWasClosed();
+    void LookWhatOthersDid();
+    /// Asks about requests that are new to the user; Yes opens the form that settles them.
+    void AreThereRequestsToApprove();
     void RunMinuteWork();
 
     void RestorePlace();
@@ -110,6 +112,7 @@ private:
     QVector<Holiday> holidays_;
     CalendarTools tools_{*this};
     MinuteWork minuteWork_;
+    bool newRequests_ = false; ///< somebody has asked the user for leave, who has not been told, in an open year
     float total_ = 0;
     bool CalendarLoaded = false;
 

@@ -1,5 +1,6 @@
 #include "calendar/frm_main_command_table.h"
 
+#include "attendance/frm_approval.h"
 #include "calendar/frm_main.h"
 #include "employees/frm_employees.h"
 #include "foundation/frm_about.h"
@@ -320,7 +321,7 @@ std::vector<List> Tools()
                                     {"Remove attendance records", "Supprimer des absences"}, modify)),
         Below(Button(Place::ToolBar, "imgApprove", "tool-approve", {"Approve", "Approuver"},
                      {"Approve or deny requests for leave", "Approuver ou refuser des demandes de congé"},
-                     Module(&P::IsAuthorizedToApprove), NotYet)),
+                     Module(&P::IsAuthorizedToApprove), Edits<frmApproval>)),
         Button(Place::ToolBar, "imgUpdateSelection", "tool-select-employee", {"Employee", "Employé"},
                {"Select the employee or unit shown on the calendar",
                 "Choisir l'employé ou l'unité dont le calendrier est affiché"},
