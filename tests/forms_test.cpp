@@ -1,3 +1,4 @@
+#include "attendance/frm_approval.h"
 #include "attendance/frm_attendance.h"
 #include "calendar/frm_main.h"
 #include "calendar/frm_main_command_table.h"
@@ -81,6 +82,13 @@ const std::pair<const char*, Maker> kForms[] = {
          const AttendanceJob job{SessionState, AttendanceKind::Add, {SerialOfDate({2026, 12, 31})}};
          return std::unique_ptr<QWidget>(new frmAttendance(job));
      }},
+    {"frmApproval",
+     [] {
+         auto form = std::make_unique<frmApproval>();
+         auto* groups = form->findChild<QComboBox*>("cboRecords");
+         groups->setCurrentIndex(groups->count() - 1);
+         return std::unique_ptr<QWidget>(std::move(form));
+     }},
     {"frmSelectEmployee", Make<frmSelectEmployee>},
     {"frmSelectDates", [] { return std::unique_ptr<QWidget>(new frmSelectDates(EntireYear(), SessionState)); }},
     {"frmSelectPeriod", Make<frmSelectPeriod>},
@@ -118,8 +126,10 @@ protected:
     Forms()
     {
         house.Configured().Company();
-        house.Hire({"MARIE", "Marie", "Roy", "Production", "Assembly", {"IsAuthorizedToApprove"}});
+        const int marie = house.Hire({"MARIE", "Marie", "Roy", "Production", "Assembly", {"IsAuthorizedToApprove"}});
         house.LogIn("ADMIN");
+        house.Sql("UPDATE Attendance SET SubmittedTo_Second = ? WHERE RecordID = ?",
+                  {SessionState.UserID, house.Record(marie, "Time claimed", {2026, 3, 9}, -7, true)});
     }
 
     QWidget& Open(Maker make)

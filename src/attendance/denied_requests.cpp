@@ -31,5 +31,5 @@ void TellDeniedRequests(DataControl& datAbsence)
         return Tell(title, T("None of your requests for leave has been denied in this fiscal year.",
                              "Aucune de vos demandes de congé n'a été refusée durant cette année fiscale."));
     const QString head = T("DATE\tCATEGORY\tDENIED BY\tREASON", "DATE\tCATÉGORIE\tREFUSÉE PAR\tRAISON");
-    Tell(title, head + "\r\n" + lines.join("\r\n"));
+    TellWithList(title, head + "\r\n" + lines.join("\r\n"), lines.size());
 }

@@ -1,5 +1,6 @@
 #include "calendar/frm_main.h"
 
+#include "attendance/request_reports.h"
 #include "calendar/frm_main_calendar.h"
 #include "calendar/frm_main_grid.h"
 #include "calendar/frm_main_header.h"
@@ -152,6 +153,9 @@ void frmMain::ConnectControls()
     minuteWork_.SetWork("DownloadRedemption", DownloadRedemption);
     minuteWork_.SetWork("UpgradeMailerDLL", UpgradeMailerDLL);
     minuteWork_.SetWork("SpecifyMailerComponent", SpecifyMailerComponent);
+    minuteWork_.SetWork("WereRequestsApproved", [this] { WereRequestsApproved(datAbsence); });
+    minuteWork_.SetWork(
+        "AreThereRequestsToApprove", [this] { AreThereRequestsToApprove(); }, [this] { return newRequests_; });
     connect(timAbsence, &QTimer::timeout, this, &frmMain::timAbsence_Timer);
     connect(timTimeOut, &QTimer::timeout, this, &frmMain::timTimeOut_Timer);
     for (QWidget* widget : findChildren<QWidget*>()) {

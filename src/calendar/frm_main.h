@@ -47,6 +47,7 @@ public:
     /// This user wants the days to tell their categories by letters.
     static bool ShowsCodes();
     void imgUpdateSelection_Click();
+    void imgApprove_Click();
     void UseTool(const QString& tool);
     void ChangeToYear(Neighbour direction);
     /// Shows what a form has changed, if it has; the category stays chosen where it is still on offer. The window is
@@ -88,7 +89,9 @@ private:
     void ActivateAllowedControls();
     void DeactivateAllControls(const QString& toolInUse = {}, bool usable = false);
 
-    void LookWhetherYearWasClosed();
+    void LookWhatOthersDid();
+    /// Asks about requests that are new to the user; Yes opens the form that settles them.
+    void AreThereRequestsToApprove();
     void RunMinuteWork();
 
     void RestorePlace();
@@ -111,6 +114,7 @@ private:
     QVector<Holiday> holidays_;
     CalendarTools tools_{*this};
     MinuteWork minuteWork_;
+    bool newRequests_ = false; ///< somebody has asked the user for leave, who has not been told, in an open year
     float total_ = 0;
     bool CalendarLoaded = false;
 

@@ -323,7 +323,7 @@ std::vector<List> Tools()
                                     {"Remove attendance records", "Supprimer des absences"}, modify)),
         Below(Button(Place::ToolBar, "imgApprove", "tool-approve", {"Approve", "Approuver"},
                      {"Approve or deny requests for leave", "Approuver ou refuser des demandes de congé"},
-                     Module(&P::IsAuthorizedToApprove), NotYet)),
+                     Module(&P::IsAuthorizedToApprove), &frmMain::imgApprove_Click)),
         Button(Place::ToolBar, "imgUpdateSelection", "tool-select-employee", {"Employee", "Employé"},
                {"Select the employee or unit shown on the calendar",
                 "Choisir l'employé ou l'unité dont le calendrier est affiché"},

@@ -1,5 +1,8 @@
+#include "attendance/frm_approval.h"
 #include "attendance/frm_attendance.h"
+#include "attendance/leave_requests.h"
 #include "attendance/record_cancellation.h"
+#include "attendance/request_reports.h"
 #include "calendar/frm_main.h"
 #include "calendar/frm_main_calendar.h"
 #include "calendar/frm_main_grid.h"
@@ -23,11 +26,22 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace
 {
 constexpr int kMinute = 60'000;
 constexpr int kShutDownSeconds = 60;
 const QString kCodesSetting = "CategoryCodes";
+
+/// A form or a message stands in front of the main window.
+bool IsFormOpen()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && qobject_cast<const QDialog*>(window);
+    });
+}
 } // namespace
 
 void frmMain::Run(const Command& command)
@@ -190,6 +204,22 @@ void frmMain::DisplayDailyAttendance(int date)
     pane_->ShowRecords(holiday.isEmpty() ? title : title + "   " + holiday, lines.join("\r\n"));
 }
 
+void frmMain::AreThereRequestsToApprove()
+{
+    newRequests_ = false;
+    if (OfferApproval(::AreThereRequestsToApprove(datAbsence)))
+        imgApprove_Click();
+}
+
+void frmMain::imgApprove_Click()
+{
+    frmApproval form(this);
+    ShowModal(form);
+    ReloadAfterEditing();
+    LookWhatOthersDid();
+    ActivateAllowedControls();
+}
+
 void frmMain::timAbsence_Timer()
 {
     if (Busy || TimerBusy || MailOnItsWay::IsAny())
@@ -199,30 +229,36 @@ void frmMain::timAbsence_Timer()
         ReloadCalendar();
         pane_->ResizeScreen();
         timAbsence->setInterval(kMinute);
-    } else {
-        LookWhetherYearWasClosed();
     }
+    LookWhatOthersDid();
     RunMinuteWork();
     ActivateAllowedControls();
 }
 
-void frmMain::LookWhetherYearWasClosed()
+/// All of it is read together.
+void frmMain::LookWhatOthersDid()
 {
+    newRequests_ = false;
     try {
+        const Connection connection(datAbsence);
         RereadClosing(datAbsence);
+        if (SessionState.IsAuthorizedToApprove == 0)
+            return;
+        newRequests_ = SessionState.ClosedDate == 0 && !UntoldRequests(datAbsence).isEmpty();
+        toolBar_->ShowWaiting("imgApprove", WaitingRequests(datAbsence));
     } catch (const RuntimeError&) {
         // The next minute looks again; who does nothing must not lose what he has typed because a share was away.
     }
 }
 
 /// A step that fails is told; it must not keep the window locked. Locking closes a list that is open: it waits until
-/// there is something to do, and the list is shut.
+/// there is something to do, and the list is shut. What the locked steps tell does not come over an open form.
 void frmMain::RunMinuteWork()
 {
     const LoadingGuard running(TimerBusy);
     try {
         minuteWork_.Run(MinuteWork::Phase::Open);
-        if (!minuteWork_.IsDue(MinuteWork::Phase::Locked) || QApplication::activePopupWidget())
+        if (!minuteWork_.IsDue(MinuteWork::Phase::Locked) || QApplication::activePopupWidget() || IsFormOpen())
             return;
         DeactivateAllControls();
         minuteWork_.Run(MinuteWork::Phase::Locked);

@@ -43,20 +43,24 @@ constexpr Step kSteps[] = {
 };
 } // namespace
 
+const MinuteWork::Work* MinuteWork::DueWork(const QString& step) const
+{
+    const auto work = work_.constFind(step);
+    const bool due = work != work_.constEnd() && !done_.contains(step) && (!work->Waits || work->Waits());
+    return due ? &*work : nullptr;
+}
+
 bool MinuteWork::IsDue(Phase phase) const
 {
-    return std::any_of(std::begin(kSteps), std::end(kSteps), [&](const Step& step) {
-        return step.When == phase && work_.contains(step.Name) && !done_.contains(step.Name) && step.IsDue();
-    });
+    return std::any_of(std::begin(kSteps), std::end(kSteps),
+                       [&](const Step& step) { return step.When == phase && step.IsDue() && DueWork(step.Name); });
 }
 
 void MinuteWork::Run(Phase phase)
 {
     for (const Step& step : kSteps) {
-        const auto work = work_.constFind(step.Name);
-        if (step.When != phase || work == work_.constEnd() || done_.contains(step.Name) || !step.IsDue())
-            continue;
-        if ((*work)() && step.OncePerSession)
+        const Work* work = step.When == phase && step.IsDue() ? DueWork(step.Name) : nullptr;
+        if (work && work->Do() && step.OncePerSession)
             done_.insert(step.Name);
     }
 }

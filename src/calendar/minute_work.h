@@ -19,14 +19,15 @@ public:
         Locked
     };
 
-    /// Work that gives false has found nothing to do yet: a step that is done once per session comes again then.
+    /// Work that gives false has found nothing to do yet: a step that is done once per session comes again then. A step
+    /// is passed over while `waits`, where it is given, says that there is nothing to do.
     template <typename Function>
-    void SetWork(const QString& step, Function work)
+    void SetWork(const QString& step, Function work, const std::function<bool()>& waits = {})
     {
         if constexpr (std::is_void_v<decltype(work())>)
-            work_[step] = [work] { return work(), true; };
+            work_[step] = {[work] { return work(), true; }, waits};
         else
-            work_[step] = work;
+            work_[step] = {work, waits};
     }
     /// A step of the phase has something to look at now.
     bool IsDue(Phase phase) const;
@@ -34,7 +35,15 @@ public:
     void Run(Phase phase);
 
 private:
-    QHash<QString, std::function<bool()>> work_;
+    struct Work
+    {
+        std::function<bool()> Do;
+        std::function<bool()> Waits; ///< may be empty
+    };
+    /// The work of a step that is to be done now; null for none.
+    const Work* DueWork(const QString& step) const;
+
+    QHash<QString, Work> work_;
     QSet<QString> done_;
 };
 

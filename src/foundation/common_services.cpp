@@ -19,6 +19,7 @@
 namespace
 {
 constexpr auto kLastFace = static_cast<Face>(10);
+constexpr qsizetype kMostLinesShown = 9; ///< of a list without a scroll bar
 
 MessagePresenter& Presenter()
 {
@@ -136,7 +137,12 @@ int ResultOfButton(const QString& caption, int position)
 
 void Tell(const QString& title, const QString& text, Face face)
 {
-    ShowMessage({.Text = text, .Title = title, .Picture = face});
+    TellWithList(title, text, 0, face);
+}
+
+void TellWithList(const QString& title, const QString& text, qsizetype lines, Face face)
+{
+    ShowMessage({.Text = text, .Title = title, .Picture = face, .ScrollBar = lines > kMostLinesShown});
 }
 
 void Refuse(const QString& text)
@@ -151,7 +157,6 @@ bool Ask(const QString& title, const QString& text, Face face)
 
 bool AskWithList(const QString& title, const QString& text, qsizetype lines, Face face)
 {
-    constexpr qsizetype kMostLinesShown = 9;
     const Buttons yesNo = SessionState.English ? Buttons::YesNo : Buttons::OuiNon;
     return ShowMessage(
                {.Text = text, .Title = title, .Set = yesNo, .Picture = face, .ScrollBar = lines > kMostLinesShown}) ==

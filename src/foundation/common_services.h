@@ -74,6 +74,8 @@ int ResultOfButton(const QString& caption, int position);
 
 /// A message with the one button OK.
 void Tell(const QString& title, const QString& text, Face face = Face::Informing);
+/// The same of a list of `lines` records: above nine the text scrolls.
+void TellWithList(const QString& title, const QString& text, qsizetype lines, Face face = Face::Informing);
 /// Says in the message "ERROR:" why something cannot be done.
 void Refuse(const QString& text);
 /// A question with Yes and No in the user's language; true for Yes.

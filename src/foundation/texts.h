@@ -37,8 +37,8 @@ inline QString T(const Text& text, Filling values)
     return Fill(T(text), values);
 }
 
-/// A serial day as text; 0 shows as nothing. `pattern` is one of "dd-mmm-yyyy", "ddd dd-mmm-yyyy", "ddd dd-mm-yyyy",
-/// "ddd   dd-mmm-yyyy"; month and day names follow the system.
+/// A serial day as text; 0 shows as nothing. `pattern` is one of "dd-mmm", "yy-mm-dd", "dd-mmm-yyyy", "ddd
+/// dd-mmm-yyyy", "ddd dd-mm-yyyy", "ddd   dd-mmm-yyyy"; month and day names follow the system.
 QString FormatDate(int serial, const QString& pattern);
 
 /// The name of a weekday (0 Sunday) in the user's language.

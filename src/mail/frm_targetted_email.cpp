@@ -115,12 +115,8 @@ void frmTargettedEMail::SelectAll(bool selected)
 /// Neither option tells any longer what is selected.
 void frmTargettedEMail::lstEmailAddresses_Click()
 {
-    for (QRadioButton* option : {optSelectAll, optDeselectAll})
-        if (!Loading) {
-            option->setAutoExclusive(false);
-            option->setChecked(false);
-            option->setAutoExclusive(true);
-        }
+    if (!Loading)
+        ClearOptions({optSelectAll, optDeselectAll});
 }
 
 void frmTargettedEMail::txtNew_Change()

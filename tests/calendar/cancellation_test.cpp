@@ -83,6 +83,7 @@ TEST_F(Cancellation, WithdrawnRequestsAreToldToTheApproverReadLastInOneMessage)
     const int last = Request("Vacation", 12, 22, luc);
     Request("Sick", 12, 22, luc);
     Request("Sick", 12, 23, luc);
+    user.WillAnswer("REQUEST(S) FOR LEAVE STATUS REPORT:", "OK");
     Opens("MBOUCHARD");
     user.ChoosesMenu("mnuSpecialDisplayPending");
     Marks("Vacation", {{12, 21}, {12, 22}});
@@ -121,6 +122,7 @@ TEST_F(Cancellation, AFailureKeepsWhatWasCancelledBeforeItAndAClosedYearKeepsEve
 {
     const int first = Request("Vacation", 12, 21, luc);
     const int second = Request("Vacation", 12, 22, luc);
+    user.WillAnswer("REQUEST(S) FOR LEAVE STATUS REPORT:", "OK");
     Opens("MBOUCHARD");
     user.ChoosesMenu("mnuSpecialDisplayPending");
     house.Sql("UPDATE FiscalYears SET ClosedDate = 46000");

@@ -252,6 +252,15 @@ QSize FittingScreen(const QWidget* window, const QSize& size)
     return size.boundedTo(window->screen()->availableSize() - kFrame);
 }
 
+void ClearOptions(std::initializer_list<QRadioButton*> options)
+{
+    for (QRadioButton* option : options) {
+        option->setAutoExclusive(false);
+        option->setChecked(false);
+        option->setAutoExclusive(true);
+    }
+}
+
 int ShowModal(QDialog& form)
 {
     DefaultWorkspace().PauseReading();

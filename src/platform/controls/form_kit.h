@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollArea>
 
 #include <functional>
@@ -64,6 +65,9 @@ QSize FittingScreen(const QWidget* window, const QSize& size);
 /// of waiting for a person; an empty runner brings the waiting back.
 int ShowModal(QDialog& form);
 void SetModalRunner(std::function<int(QDialog&)> runner);
+
+/// None of a group of options is chosen any longer.
+void ClearOptions(std::initializer_list<QRadioButton*> options);
 
 /// While it lives the flag is true: change and click handlers of the form stay silent.
 class LoadingGuard
