@@ -20,6 +20,7 @@ int main(int argc, char* argv[])
     BigCompany company(QApplication::applicationDirPath() + "/big-company");
     RegisterCalendar(company);
     RegisterAttendance(company);
+    RegisterApproval(company);
     RegisterLists(company);
     RegisterEmployees(company);
     RegisterCategories(company);

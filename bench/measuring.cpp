@@ -16,7 +16,7 @@ namespace
 constexpr int kRounds = 25;
 constexpr double kNanoseconds = 1e6; // of a millisecond
 
-struct Verdict
+struct Timing
 {
     std::string Name;
     double Measured;
@@ -29,9 +29,9 @@ struct Verdict
     double OnAShare(double call) const { return Measured + Calls * call; }
 };
 
-std::vector<Verdict>& Verdicts()
+std::vector<Timing>& Verdicts()
 {
-    static std::vector<Verdict> verdicts;
+    static std::vector<Timing> verdicts;
     return verdicts;
 }
 
@@ -129,7 +129,7 @@ void Measure(benchmark::State& state, const std::string& name, Measured& measure
     }
     const double least = Median(floors);
     const double speed = Median(yards) / Yardstick::kReference;
-    const Verdict verdict{
+    const Timing verdict{
         name, Median(works), least, speed, bar.Floors * least + bar.Milliseconds * speed, CallsOf(measured)};
     Verdicts().push_back(verdict);
     state.counters["median_ms"] = verdict.Measured;
@@ -152,7 +152,7 @@ bool TellVerdicts()
     int missed = 0;
     std::printf("\n%-40s %10s %10s %10s %10s %8s %8s %8s %8s\n", "median, ms", "measured", "floor", "yardstick", "bar",
                 "", "calls", "at 0.5", "at 5");
-    for (const Verdict& verdict : Verdicts()) {
+    for (const Timing& verdict : Verdicts()) {
         const bool met = verdict.Measured <= verdict.Bar;
         missed += met ? 0 : 1;
         std::printf("%-40s %10.2f %10.2f %9.2fx %10.2f %8s %8d %8.0f %8.0f\n", verdict.Name.c_str(), verdict.Measured,

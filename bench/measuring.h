@@ -54,6 +54,7 @@ bool TellVerdicts();
 
 void RegisterCalendar(BigCompany& company);
 void RegisterAttendance(BigCompany& company);
+void RegisterApproval(BigCompany& company);
 void RegisterLists(BigCompany& company);
 void RegisterEmployees(BigCompany& company);
 void RegisterCategories(BigCompany& company);

@@ -1,4 +1,6 @@
 #include "attendance/attendance_records.h"
+#include "attendance/request_approval.h"
+#include "attendance/request_reports.h"
 #include "employees/employee_deactivation.h"
 #include "employees/employee_rows.h"
 #include "employees/transfer_employee.h"
@@ -51,7 +53,8 @@ class ShareFaults : public CompanyTest
 protected:
     ShareFaults()
     {
-        house.Record(anna, "Vacation", {2026, 3, 4}, 7);
+        house.Record(anna, "Vacation", {2026, 3, 4}, 7, true);
+        house.Sql("UPDATE Attendance SET SubmittedTo_First = ?", {SessionState.UserID});
         house.Sql("INSERT INTO Entitlements (FiscalYear, CategoryID, EmployeeID, AnnualEntitlement, Active) "
                   "VALUES (1, 1, ?, 70, 1)",
                   {anna});
@@ -85,6 +88,16 @@ protected:
     QString Rows()
     {
         return house.All({"Attendance", "Attendance_Modifications", "Employees", "Entitlements", "FiscalYears"});
+    }
+    void SettleRequest()
+    {
+        RequestedDate date;
+        date.RecordID = 1;
+        date.Said = Verdict::Denied;
+        const Settlement settlement = SettleRequests(datAbsence, {date}, "no");
+        EXPECT_EQ(settlement.Settled.isEmpty(), bool(settlement.Failure));
+        if (settlement.Failure)
+            ThrowFailure(settlement);
     }
     /// The failure that is told, 0 for none.
     int Attempt(const Operation& operation)
@@ -143,6 +156,8 @@ TEST_F(ShareFaults, WhatIsToldAsDoneIsInTheFileAndWhatIsToldAsFailedIsNot)
              TransferEmployee(datAbsence, {anna, "Abel, Anna", {1, 1, 1}, {1, 2, 0}});
          }},
         {"employee deactivated", [this] { DeactivateEmployee(datAbsence, anna, "left"); }},
+        {"request told", [this] { AreThereRequestsToApprove(datAbsence); }},
+        {"request settled", [this] { SettleRequest(); }},
     };
     for (const Operation& operation : operations)
         for (const ShareFault& fault : kFaults)

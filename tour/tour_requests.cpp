@@ -83,8 +83,7 @@ void Tour::SettleRequest()
         user_.Picks("cboRecords", user_.Entries("cboRecords").filter("Bouchard").value(0));
         const auto* grid = form.findChild<FlexGrid*>("flxRecordsToApprove");
         for (const auto& [row, column] : {std::pair(0, 0), std::pair(1, 1)})
-            QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
-                              grid->CellRect(grid->FixedRows() + row, column).center());
+            QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->CellRect(1 + row, column).center());
         user_.Types("txtReasonForRefusal",
                     T("Both of us cannot be away", "Nous ne pouvons être absents tous les deux"));
         Photo("approval");

@@ -2,13 +2,10 @@
 
 #include "attendance/frm_approval_grid.h"
 #include "attendance/frm_request_balance.h"
+#include "attendance/frm_request_list.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
-#include "foundation/names.h"
-#include "platform/controls/entry_lists.h"
 
-#include <QFontDatabase>
-#include <QRegularExpression>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -18,20 +15,8 @@ namespace
 constexpr QSize kApprovalSize(1080, 640);
 constexpr int kApprovalGap = 10;
 constexpr int kReasonHeight = 56;
-constexpr int kGroupsShown = 20;
-
-// A group in the list, in letters of one width: where its columns begin, and how many letters it may have.
-constexpr int kNamePlace = 10;
-constexpr int kCategoryPlace = 34;
-constexpr int kNameLength = 22;
-constexpr int kGroupLength = 60;
-constexpr int kInsideList = 6; ///< pixels from the edge of the list to its text
 
 constexpr Text kApprovalTitle = {"Requests for leave approval form", "Formulaire de traitement des demandes de congé"};
-constexpr Text kListHeading = {"Submitted  Employee                                 Category",
-                               "Soumis     Employé(e)                               Catégorie"};
-constexpr Text kListTip = {"Select the request(s) for leave to be processed from this list",
-                           "Sélectionnez les demandes de congé à être traitées à l'intérieur de cette liste"};
 constexpr Text kInstructions = {
     "The following requests for leave require your approval. To approve or deny a request for leave, all you need to "
     "do is click in the appropriate column.",
@@ -40,28 +25,6 @@ constexpr Text kInstructions = {
 constexpr Text kNoneWait = {"No request for leave is waiting for your approval.",
                             "Aucune demande de congé n'attend votre approbation."};
 constexpr Text kChooseRequest = {"Choose a request first", "Choisissez d'abord une demande"};
-
-QFont LettersOfOneWidth()
-{
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSizeF(QFont().pointSizeF());
-    return font;
-}
-
-/// Its words stand where the columns of the groups begin.
-QString HeadingOfGroups()
-{
-    static const QRegularExpression parting("  +");
-    const QStringList words = T(kListHeading).split(parting);
-    return (words[0].leftJustified(kNamePlace) + words[1]).leftJustified(kCategoryPlace) + words[2];
-}
-
-QString GroupText(const RequestGroup& group)
-{
-    const QString text = FormatDate(group.EnteredDate, "yy-mm-dd") + "  " +
-                         ListedName(group.FamilyName, group.FirstName).left(kNameLength);
-    return text.leftJustified(kCategoryPlace) + group.Category;
-}
 } // namespace
 
 frmApproval::frmApproval(QWidget* parent) : FormBase("frmApproval", parent)
@@ -78,24 +41,13 @@ frmApproval::frmApproval(QWidget* parent) : FormBase("frmApproval", parent)
 
 void frmApproval::BuildList()
 {
-    cboRecords = Named<WalkedList>("cboRecords");
-    cboRecords->setFont(LettersOfOneWidth());
-    cboRecords->setMaxVisibleItems(kGroupsShown);
-    cboRecords->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cboRecords->setMinimumContentsLength(kGroupLength);
-    SetToolTip(cboRecords, kListTip);
-    SetAccessibleName(cboRecords, kListTip);
-    SetPlaceholder(cboRecords, {"(Choose a request)", "(Choisir une demande)"});
+    cboRecords = Named<RequestList>("cboRecords");
     connect(cboRecords, &QComboBox::currentIndexChanged, this, &frmApproval::cboRecords_Click);
-    auto* heading = MakeLabel("lblRecords");
-    heading->setFont(LettersOfOneWidth());
-    heading->setIndent(kInsideList);
-    FollowLanguage(heading, [heading] { heading->setText(HeadingOfGroups()); });
     auto* none = WrappedLabel("lblNone", kNoneWait);
     none->setAlignment(Qt::AlignCenter);
     fraNone = MakeCard(Stack(0, {none}));
-    whileSomeWait_ = {
-        MakeCard(Stack(kApprovalGap / 2, {WrappedLabel("lblInstructions", kInstructions), heading, cboRecords}))};
+    whileSomeWait_ = {MakeCard(Stack(
+        kApprovalGap / 2, {WrappedLabel("lblInstructions", kInstructions), RequestList::MakeHeading(), cboRecords}))};
     Page()->addWidget(fraNone);
     Page()->addWidget(whileSomeWait_.back());
 }
@@ -152,10 +104,7 @@ void frmApproval::ReloadRequests()
 {
     const LoadingGuard loading(Loading);
     groups_ = ::ReloadRequests(datAbsence);
-    cboRecords->clear();
-    for (const RequestGroup& group : groups_)
-        cboRecords->addItem(GroupText(group));
-    cboRecords->setCurrentIndex(-1);
+    cboRecords->Load(groups_);
 }
 
 void frmApproval::ShowWhatIsThere()

@@ -5,6 +5,7 @@
 
 class ApprovalGrid;
 class RequestBalancePane;
+class RequestList;
 
 /// Settles the requests for leave that wait for the user, group by group and date by date. Once something is written,
 /// the session is asked for a reload of the calendar.
@@ -42,7 +43,7 @@ private:
 
     QWidget* fraNone = nullptr;
     std::vector<QWidget*> whileSomeWait_; ///< what is seen only then
-    QComboBox* cboRecords = nullptr;
+    RequestList* cboRecords = nullptr;
     ApprovalGrid* flxRecordsToApprove = nullptr;
     QRadioButton* optApproveAll = nullptr;
     QRadioButton* optDenyAll = nullptr;

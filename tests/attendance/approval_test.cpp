@@ -137,13 +137,16 @@ TEST_F(Approval, AFailureKeepsWhatIsSettledTellsItAndNamesTheDate)
         Requests(day);
     house.Refuses("UPDATE ON Attendance WHEN NEW.RecordDate = 46084");
     user.Opens<frmApproval>().Picks("cboRecords", "26-03-02").Clicks("optApproveAll");
-    user.WillConfirm()
+    user.Types("txtReasonForRefusal", "unused")
+        .WillConfirm()
         .WillAnswer("AN ERROR HAS OCCURRED:", "OK",
                     "(refused).\r\n\r\nThe request for 03-Mar-2026 could not be processed.\r\n\r\nThese had been "
                     "processed before:\r\n\r\nSTATUS      \tDATE:\tCATEGORY\r\nApproved     \t02-Mar\tVacation\r\n")
         .Clicks("cmdProcess");
     EXPECT_EQ(Statuses(), "2 0 0");
-    EXPECT_EQ(house.Mail.size(), 1);
+    EXPECT_EQ(house.Mail.filter("02-Mar").filter("unused").size(), 0) << "a reason goes with a denial only";
+    EXPECT_EQ(house.Mail.filter("02-Mar").size(), 1);
+    EXPECT_TRUE(SessionState.ReloadCalendar);
     EXPECT_EQ(Shown().count("[X]|[ ]"), 2) << "what was said of the others stays";
 
     house.Sql("DROP TRIGGER Refusing");
@@ -190,10 +193,9 @@ TEST_F(Approval, BothApproversSeeTheGroupsThatWaitAndOnlyTheFirstIsToldOnce)
 {
     const int withdrawn = Requests(2, "Sick");
     Cancel(withdrawn);
-    house.Sql("UPDATE Attendance SET Submitted = 0 WHERE RecordID = ?", {withdrawn});
-    house.LogIn("MARC");
     EXPECT_EQ(AreThereRequestsToApprove(datAbsence), "");
     EXPECT_EQ(Statuses(), "0") << "nobody is told of a withdrawn one";
+    house.Sql("UPDATE Attendance SET Submitted = 0 WHERE RecordID = ?", {withdrawn});
 
     for (const int day : {2, 3})
         Requests(day);
