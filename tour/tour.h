@@ -35,6 +35,7 @@ private:
     void WorkWizard();
     void LogInAsAdministrator();
     void LogInAs(const QString& loginID, const QString& password);
+    void WillLogInAs(const QString& loginID, const QString& password); ///< once the program starts
     void AddUnits();
     void AddOrganization(const QString& english, const QString& french, const QString& city);
     void AddUnit(const char* menu, const QString& parentList, const QString& parent, const QString& english,
@@ -65,7 +66,7 @@ private:
     void ExpectHidden(bool hidden);
     void ChooseMailProgram();
     void GiveTheApproverADayOff();
-    void LogInAsEmployee(const QString& loginID);
+    void ChooseLanguages();
     void Request(std::initializer_list<int> daysOfDecember, const QString& comment);
     void RequestLeave();
     void RequestTooMuch();

@@ -30,11 +30,15 @@ void Tour::GiveTheApproverADayOff()
     ClickDays(12, {24});
 }
 
-void Tour::LogInAsEmployee(const QString& loginID)
+void Tour::ChooseLanguages()
 {
-    LogInAs(loginID, "pass");
-    if (!english_ && SessionState.English)
+    if (english_)
+        return;
+    Say("Each employee turns to French, and stays with it");
+    for (const char* loginID : {"mbouchard", "proy", "lcote"}) {
+        LogInAs(loginID, "pass");
         Choose("mnuSpecialSwitchLanguage");
+    }
 }
 
 void Tour::Request(std::initializer_list<int> daysOfDecember, const QString& comment)
@@ -55,7 +59,7 @@ void Tour::Request(std::initializer_list<int> daysOfDecember, const QString& com
 void Tour::RequestLeave()
 {
     Say("Marie logs in herself and asks for the days before Christmas");
-    LogInAsEmployee("mbouchard");
+    LogInAs("mbouchard", "pass");
     ExpectHidden(true);
     Photo("main_window_hidden_unseen");
     Request({23, 24}, T("My sister comes to visit", "Ma soeur vient nous voir"));
@@ -66,7 +70,7 @@ void Tour::RequestLeave()
 void Tour::WithdrawRequest()
 {
     Say("Pierre asks for two days of two approvers, and withdraws one of them");
-    LogInAsEmployee("proy");
+    LogInAs("proy", "pass");
     Request({28, 29}, {});
     Choose("mnuSpecialDisplayPending");
     user_.Picks("cboCategories", T("Vacation", "Vacances")).Clicks("imgRemove");
@@ -78,6 +82,7 @@ void Tour::WithdrawRequest()
 void Tour::SettleRequest()
 {
     Say("Luc is asked at log-in, approves one of Marie's days and denies the other");
+    WillLogInAs("lcote", "pass");
     user_.WillAnswer(T("REQUEST(S) FOR LEAVE RECEIVED:", "DEMANDE(S) DE CONGÉ REÇUE(S):"), T("Yes", "Oui"));
     user_.WhenOpens<frmApproval>([this](frmApproval& form) {
         user_.Picks("cboRecords", user_.Entries("cboRecords").filter("Bouchard").value(0));
@@ -91,7 +96,7 @@ void Tour::SettleRequest()
         user_.WillAnswer(T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:"), "OK");
         user_.Clicks("cmdProcess").Clicks("cmdQuit");
     });
-    LogInAsEmployee("lcote");
+    Start();
     Photo("main_window_approver");
 }
 
@@ -99,7 +104,7 @@ void Tour::HearOutcome()
 {
     Say("Marie learns what came of it");
     user_.WillAnswer(T("REQUEST(S) FOR LEAVE STATUS REPORT:", "STATU DE VOS DEMANDES DE CONGÉ:"), "OK");
-    LogInAsEmployee("mbouchard");
+    LogInAs("mbouchard", "pass");
     user_.WillAnswer(T("DENIED REQUESTS FOR LEAVE:", "DEMANDES DE CONGÉ REFUSÉES:"), "OK");
     Choose("mnuSpecialDeniedRequests");
 }
