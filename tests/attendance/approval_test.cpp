@@ -69,7 +69,7 @@ TEST_F(Approval, PartOfAGroupIsSettledAndTheRestGoesOnWaiting)
         Requests(day);
     SessionState.LoginID = "MARC-ANTOINE-ROY-JR";
     user.Opens<frmApproval>();
-    EXPECT_EQ(user.Entries("cboRecords"), QStringList{"26-03-02  Davis, Chris            Vacation"});
+    EXPECT_EQ(user.Entries("cboRecords"), QStringList{"26-03-02  Davis, Chris                              Vacation"});
     EXPECT_EQ(user.Usable({"optApproveAll", "optDenyAll", "cmdProcess", "cmdQuit"}), "cmdQuit");
     user.Picks("cboRecords", "26-03-02").WillBeRefused("You must approve or deny at least one").Clicks("cmdProcess");
 
@@ -111,10 +111,10 @@ TEST_F(Approval, AllOfAGroupIsDeniedInFrenchAndWhoeverHasNoAddressMustBeToldOthe
     Requests(4, "Sick");
     house.Sql("UPDATE Employees SET EMailAddress = ' '");
     SessionState.English = false;
-    user.Opens<frmApproval>().Picks("cboRecords", "26-03-02  Davis, Chris            Vacances");
+    user.Opens<frmApproval>().Picks("cboRecords", "26-03-02  Davis, Chris                              Vacances");
     user.Clicks("optApproveAll").Clicks("optDenyAll").Types("txtReasonForRefusal", "Trop d'absents");
     user.WillAnswer("VEUILLEZ CONFIRMER:", "Non", "Vos changements")
-        .Picks("cboRecords", "26-03-02  Davis, Chris            Mal");
+        .Picks("cboRecords", "26-03-02  Davis, Chris                              Mal");
     EXPECT_EQ(Shown().count("[ ]|[X]"), 2) << "what was said is not lost";
     user.WillConfirm("STATU         \tDATE:\tCATÉGORIE\r\nRefusée        \t02-Mar\tVacances\r\nRefusée        \t03-Mar")
         .WillBeDone("Vous devrez donc le faire vous-même.")
@@ -268,11 +268,11 @@ TEST_F(Approval, TheApproverSeesWhatARequestWouldLeave)
     Record(chris, "Time accumulated", 1, 10);
     Requests(2, "Time claimed", -6.5F);
     Requests(2, "Sick");
-    user.Opens<frmApproval>().Picks("cboRecords", "26-03-02  Davis, Chris            Vac");
+    user.Opens<frmApproval>().Picks("cboRecords", "26-03-02  Davis, Chris                              Vac");
     EXPECT_EQ(user.ReadsAll(figures), "Annual entitlement|28:00|14:00|14:00|03:30|10:30");
-    user.Picks("cboRecords", "26-03-02  Davis, Chris            Time");
+    user.Picks("cboRecords", "26-03-02  Davis, Chris                              Time");
     EXPECT_EQ(user.ReadsAll(figures), "Time bank|10:00|-(06:30)|03:30|00:00|03:30");
-    user.Picks("cboRecords", "26-03-02  Davis, Chris            Sick");
+    user.Picks("cboRecords", "26-03-02  Davis, Chris                              Sick");
     EXPECT_FALSE(user.CanUse("lblBalance")) << "no limit, no bank";
 }
 
