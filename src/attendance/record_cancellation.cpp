@@ -3,6 +3,7 @@
 #include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/names.h"
 #include "foundation/session_rows.h"
 #include "mail/leave_notices.h"
 #include "platform/clock.h"
@@ -34,6 +35,7 @@ WithdrawnRequests CancelRecords(DataControl& datAbsence, const QVector<int>& rec
                 if (SessionState.ShowApproved)
                     continue;
                 withdrawn.Dates += FormatDate(record.RecordDate, "ddd dd-mm-yyyy") + "\r\n";
+                withdrawn.CategoryID = record.CategoryID;
                 withdrawn.Approver = record.SubmittedTo_First;
             }
         },
@@ -41,16 +43,20 @@ WithdrawnRequests CancelRecords(DataControl& datAbsence, const QVector<int>& rec
     return withdrawn;
 }
 
-void EMailRequestCancellation(DataControl& datAbsence, const WithdrawnRequests& withdrawn, const QString& category)
+void EMailRequestCancellation(DataControl& datAbsence, const WithdrawnRequests& withdrawn)
 {
     if (withdrawn.Approver == 0)
         return;
-    QString address;
-    {
+    QString address, category;
+    try {
         const Connection connection(datAbsence);
-        datAbsence.Select("SELECT EMailAddress FROM Employees WHERE RecordID = ?", withdrawn.Approver)
-            .Take("EMailAddress", address);
+        address =
+            datAbsence.Scalar<QString>("SELECT EMailAddress FROM Employees WHERE RecordID = ?", withdrawn.Approver);
+        category = datAbsence.Scalar<QString>(
+            "SELECT " + NameColumn("Category") + " FROM Categories WHERE RecordID = ?", withdrawn.CategoryID);
+    } catch (const RuntimeError&) {
+        return; // without an address nobody can be told
     }
     if (!address.trimmed().isEmpty())
-        SendNotice(CancellationNotice(address, category, withdrawn.Dates));
+        SendNotice(CancellationNotice(address, category.trimmed(), withdrawn.Dates));
 }

@@ -188,7 +188,7 @@ void frmMain::CancelRecords(const QVector<int>& records)
         TellError(error);
     }
     ReloadIfAsked();
-    EMailRequestCancellation(datAbsence, withdrawn, header_->CategoryName());
+    EMailRequestCancellation(datAbsence, withdrawn);
     ActivateAllowedControls();
 }
 
@@ -269,7 +269,7 @@ void frmMain::RunMinuteWork()
 
 void frmMain::timTimeOut_Timer()
 {
-    IdleSeconds = Busy ? 0 : IdleSeconds + 1;
+    IdleSeconds = Busy || MailOnItsWay::IsAny() ? 0 : IdleSeconds + 1;
     const int left = SessionState.TimeOutSeconds - IdleSeconds;
     if (left > 0)
         return header_->ShowTimeOut({});

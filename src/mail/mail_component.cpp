@@ -78,11 +78,14 @@ MailResult SendByMapi(const Notice& notice, QStringList& failures)
     return SendByAutomation(notice);
 }
 
+/// What no route can send says nothing about the route.
 MailResult SendByRoute(const Notice& notice)
 {
     const bool configured = SessionState.MailConfigured;
     QStringList failures;
-    const MailResult result = configured ? SendByAutomation(notice) : SendByMapi(notice, failures);
+    MailResult result = FaultIn(MessageOf(notice, ""));
+    if (result.Number == 0)
+        result = configured ? SendByAutomation(notice) : SendByMapi(notice, failures);
     if (HasFailed(result))
         failures << FailureText(result);
     if (!failures.isEmpty())

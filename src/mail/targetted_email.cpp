@@ -127,7 +127,7 @@ QVector<Recipient> LoadEMailAddresses(DataControl& datAbsence, const TargettedEM
 {
     const Connection connection(datAbsence);
     if (!job.IsSchedule())
-        ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::ActiveOnly, YearOf(job));
+        ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All, YearOf(job));
     QVector<Recipient> people = EmployeesOf(datAbsence, job);
     for (const AddressBookRow& row :
          Where<AddressBookRow>(datAbsence, "EmployeeID = ? ORDER BY Name ASC", SessionState.UserID))

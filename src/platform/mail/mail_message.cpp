@@ -162,7 +162,8 @@ MailResult FaultIn(const MailMessage& message)
 {
     if (!IsMailAddress(BareAddress(message.Address)))
         return {MailError::BadAddress, "This is not one e-mail address: " + OnOneLine(message.Address)};
-    if (!message.Attachment.isEmpty() && !QFileInfo(message.Attachment).isFile())
+    const QFileInfo file(message.Attachment);
+    if (!message.Attachment.isEmpty() && !(file.isFile() && file.isReadable()))
         return {MailError::NoAttachment, "File not found: " + OnOneLine(message.Attachment)};
     return {};
 }

@@ -10,16 +10,18 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <algorithm>
 #include <csignal>
 #include <memory>
 #include <unistd.h>
 
-int MailPatience = 30'000;
+int MailPatience = 15'000;
 
 namespace
 {
 constexpr int kLongestReason = 500;
-constexpr int kSignalBase = 128; // a program ended by signal n counts as ended with 128 + n, as a shell has it
+constexpr int kWindowPatience = 3000; // of a mail window, which may stay open, before the program goes on
+constexpr int kSignalBase = 128;      // a program ended by signal n counts as ended with 128 + n, as a shell has it
 
 using Process = std::unique_ptr<QProcess>;
 
@@ -44,8 +46,9 @@ Process MakeProcess()
     return process;
 }
 
-/// Starts the program and lets the event loop go on until it ends; false when it still works after all patience.
-bool HasEnded(QProcess& process, const QString& program, const QStringList& arguments, const QByteArray& input = {})
+/// Starts the program and lets the event loop go on until it ends; false when it still works after `patience`.
+bool HasEnded(QProcess& process, const QString& program, const QStringList& arguments, int patience,
+              const QByteArray& input = {})
 {
     const MailOnItsWay onItsWay;
     QEventLoop waiting;
@@ -53,7 +56,7 @@ bool HasEnded(QProcess& process, const QString& program, const QStringList& argu
         if (state == QProcess::NotRunning)
             waiting.quit();
     });
-    QTimer::singleShot(MailPatience, &waiting, &QEventLoop::quit);
+    QTimer::singleShot(patience, &waiting, &QEventLoop::quit);
     process.start(program, arguments);
     if (!input.isEmpty())
         process.write(input);
@@ -92,7 +95,7 @@ MailResult Sendmail(const MailMessage& message)
         return NotThere("sendmail");
     const Process process = MakeProcess();
     process->setProcessChannelMode(QProcess::MergedChannels);
-    if (HasEnded(*process, program, {"-t", "-i"}, MimeText(message)))
+    if (HasEnded(*process, program, {"-t", "-i"}, MailPatience, MimeText(message)))
         return ResultOf(*process, process->readAll());
     End(*process);
     return {MailError::NoAnswer, "The mail program does not answer"};
@@ -135,7 +138,7 @@ MailResult Compose(const MailMessage& message)
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());
     process->setStandardErrorFile(said.fileName());
-    if (HasEnded(*process, program, ComposeArguments(message)))
+    if (HasEnded(*process, program, ComposeArguments(message), std::min(MailPatience, kWindowPatience)))
         return ResultOf(*process, said.readAll());
     LeaveOpen(std::move(process));
     return {0, "The mail program stays open"};

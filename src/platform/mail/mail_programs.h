@@ -24,7 +24,7 @@ const MailRoutes& MailRoutesHere();
 /// Tests put their own in; an empty function brings the workstation's own back.
 void SetMailRoutes(const MailRoutes& routes);
 
-/// How long a mail program may work, in milliseconds.
+/// How long a mail program may work, in milliseconds; its window is left alone sooner.
 extern int MailPatience;
 
 /// While one lives, mail is on its way: the minute's work waits.
