@@ -27,6 +27,24 @@ bool IsMissing(const QWidget* control)
     return control->property("text").toString().trimmed().isEmpty();
 }
 
+/// Its picture is the one for the colours in force.
+class ArrowButton : public QPushButton
+{
+public:
+    explicit ArrowButton(const QString& picture) : picture_(picture) { setIcon(PictureIcon(picture_)); }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::StyleChange)
+            setIcon(PictureIcon(picture_));
+        QPushButton::changeEvent(event);
+    }
+
+private:
+    const QString picture_;
+};
+
 QString WithoutMnemonic(QString text)
 {
     return text.remove('&');
@@ -127,9 +145,8 @@ QLabel* WrappedLabel(const QString& name, const Text& text)
 
 QPushButton* MakeArrow(const QString& name, const QString& picture, const Text& tip)
 {
-    auto* button = Named<QPushButton>(name);
+    auto* button = Named<ArrowButton>(name, picture);
     button->setProperty("look", "arrow");
-    button->setIcon(PictureIcon(picture));
     SetToolTip(button, tip);
     SetAccessibleName(button, tip);
     return button;

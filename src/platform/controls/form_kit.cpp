@@ -298,6 +298,7 @@ void ApplyStyle()
     QApplication::setFont(ProgramFont());
     QApplication::setWindowIcon(PictureIcon("app"));
     ApplyTheme(scheme);
+    FollowDesktop();
 }
 
 QIcon PictureIcon(const QString& name)

@@ -3,8 +3,10 @@
 #include "platform/ink.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFile>
 #include <QRegularExpression>
+#include <QTimer>
 
 #include <algorithm>
 #include <iterator>
@@ -98,6 +100,39 @@ QPalette ThemePalette()
         palette.setColor(QPalette::Disabled, role, ThemeColor("faint"));
     return palette;
 }
+
+/// The desktop's colours come into force for a moment, so that they can be asked for.
+void TakeUpDesktop()
+{
+    const Scheme before = schemeInForce;
+    QApplication::setPalette(QPalette());
+    const Scheme scheme = DesktopScheme();
+    if (scheme == before)
+        QApplication::setPalette(ThemePalette());
+    else
+        ApplyTheme(scheme);
+}
+
+/// The toolkit tells each window that the desktop looks otherwise; the colours are taken up once for all of them.
+class DesktopFollower : public QObject
+{
+public:
+    explicit DesktopFollower(QObject* parent) : QObject(parent)
+    {
+        soon_.setSingleShot(true);
+        connect(&soon_, &QTimer::timeout, this, TakeUpDesktop);
+    }
+
+    bool eventFilter(QObject* target, QEvent* event) override
+    {
+        if (event->type() == QEvent::ThemeChange && target->isWindowType())
+            soon_.start(0);
+        return false;
+    }
+
+private:
+    QTimer soon_;
+};
 } // namespace
 
 Scheme SchemeOf(const QPalette& desktop, const QString& themeName)
@@ -126,6 +161,11 @@ void ApplyTheme(Scheme scheme)
     QFile sheet(":/tarvell.qss");
     if (sheet.open(QIODevice::ReadOnly))
         qApp->setStyleSheet(FilledSheet(QString::fromUtf8(sheet.readAll())));
+}
+
+void FollowDesktop()
+{
+    qApp->installEventFilter(new DesktopFollower(qApp));
 }
 
 QColor ThemeColor(const QString& name)
