@@ -3,6 +3,7 @@
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "platform/clock.h"
+#include "platform/controls/entry_lists.h"
 #include "platform/controls/remark_delegate.h"
 
 #include <algorithm>
@@ -75,7 +76,7 @@ frmHolidays::frmHolidays(QWidget* parent) : FormBase("frmHolidays", parent)
 
 QFrame* frmHolidays::ExistingHolidays()
 {
-    cboHolidayName = Named<QComboBox>("cboHolidayName");
+    cboHolidayName = Named<WalkedList>("cboHolidayName");
     cboHolidayName->setItemDelegate(new RemarkDelegate(HolidayNameOf, HolidayDateOf, cboHolidayName));
     cboHolidayName->setMaxVisibleItems(kHolidaysShown);
     cboHolidayName->setMinimumWidth(kHolidaysWidth);
