@@ -197,6 +197,23 @@ protected:
         return twice;
     }
 
+    /// The greyed controls over which no tip says why. That of what holds them counts; one that only names them does
+    /// not.
+    static QStringList Unexplained(const QWidget& form)
+    {
+        QStringList unexplained;
+        for (const QWidget* control : form.findChildren<QWidget*>()) {
+            if (!control->isVisible() || control->isEnabled() || control->focusPolicy() == Qt::NoFocus)
+                continue;
+            const QWidget* told = control;
+            while (told != &form && told->toolTip().isEmpty())
+                told = told->parentWidget();
+            if (!told->testAttribute(Qt::WA_ForceDisabled) || told->toolTip() == told->accessibleName())
+                unexplained << control->metaObject()->className() + QString(" ") + control->objectName();
+        }
+        return unexplained;
+    }
+
     /// The controls in the order of the Tab key that can be reached by it now.
     static QList<QWidget*> TabOrder(QWidget& form)
     {
@@ -287,6 +304,7 @@ TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndLeavesAtEscape)
                 EXPECT_EQ(Outside(form), QStringList());
                 EXPECT_EQ(Nameless(form), QStringList());
                 EXPECT_EQ(SaidTwice(form), QStringList());
+                EXPECT_EQ(Unexplained(form), QStringList());
                 EXPECT_EQ(AgainstTheOrder(form), QStringList());
             });
             const QMap<QString, QString> captions = Captions(form);
@@ -297,6 +315,21 @@ TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndLeavesAtEscape)
                 english = captions;
             EXPECT_TRUE(kStaying.contains(name) || !user.Presses("", Qt::Key_Escape).The<QWidget>().isVisible());
             form_.reset();
+        }
+    }
+}
+
+TEST_F(Forms, WhatIsGreyedInAModeOfAnEditorSaysWhyToo)
+{
+    for (const auto& [name, make] : kForms) {
+        if (!QString(name).contains(QRegularExpression("Organizations|Departments|Groups|Categories")))
+            continue;
+        SCOPED_TRACE(name);
+        QWidget& form = Open(make);
+        for (const char* mode : {"cmdAdd", "cmdModify", "cmdDeactivate"}) {
+            user.Clicks(mode);
+            OnEachPage(form, [&form] { EXPECT_EQ(Unexplained(form), QStringList()); });
+            user.Clicks("cmdCancelOperation");
         }
     }
 }

@@ -161,10 +161,7 @@ void MainHeader::ShowTimeOut(const QString& announcement)
 
 void MainHeader::Activate(bool active)
 {
-    cboCategories->setEnabled(active);
-    for (const auto& [command, button] : years_) {
-        const Text why = command.Allowed.WhyNot();
-        button->setEnabled(active && why.IsEmpty());
-        button->setToolTip(T(why.IsEmpty() ? command.Tip : why));
-    }
+    EnableOrExplain(cboCategories, active, kAnotherInProgress);
+    for (const auto& [command, button] : years_)
+        EnableUnless(button, active ? command.Allowed.WhyNot() : kAnotherInProgress);
 }

@@ -106,12 +106,10 @@ void ToolBar::ActivateAllowed()
 
 void ToolBar::Deactivate(const QString& toolInUse, bool usable)
 {
-    constexpr Text kWait = {"Another command is in progress. Press «Escape» to give a tool up.",
-                            "Une autre commande est en cours. Appuyez sur «Échap» pour abandonner un outil."};
     imgZoom->hide();
     for (const Tool& tool : tools_) {
         const bool inUse = tool.Of.Name == toolInUse;
-        SetTool(tool, inUse && usable, inUse, inUse ? tool.Of.Tip : kWait);
+        SetTool(tool, inUse && usable, inUse, inUse ? tool.Of.Tip : kAnotherInProgress);
     }
 }
 

@@ -15,8 +15,26 @@ public:
     const std::function<void()> Show;
 };
 
+/// What the tip of a control says: why it is greyed, or else what it is for.
+class ControlTip : public LanguageFollower
+{
+public:
+    explicit ControlTip(QWidget* control)
+        : LanguageFollower(control, [this, control] { control->setToolTip(T(Why.IsEmpty() ? Own : Why)); })
+    {}
+
+    Text Own, Why;
+};
+
+ControlTip& TipOf(QWidget* control)
+{
+    for (QObject* child : control->children())
+        if (auto* tip = dynamic_cast<ControlTip*>(child))
+            return *tip;
+    return *new ControlTip(control);
+}
+
 constexpr char kRequired[] = "required";
-constexpr char kOwnTip[] = "ownTip";
 
 bool IsMissing(const QWidget* control)
 {
@@ -83,15 +101,22 @@ void SetPlaceholder(QComboBox* list, const Text& text)
 
 void SetToolTip(QWidget* control, const Text& text)
 {
-    FollowLanguage(control, [=] { control->setToolTip(T(text)); });
+    ControlTip& tip = TipOf(control);
+    tip.Own = text;
+    tip.Show();
 }
 
 void EnableOrExplain(QWidget* control, bool enabled, const Text& reason)
 {
-    if (control->property(kOwnTip).isNull())
-        control->setProperty(kOwnTip, control->toolTip());
+    ControlTip& tip = TipOf(control);
+    tip.Why = enabled ? Text() : reason;
+    tip.Show();
     control->setEnabled(enabled);
-    control->setToolTip(enabled ? control->property(kOwnTip).toString() : T(reason));
+}
+
+void EnableUnless(QWidget* control, const Text& reason)
+{
+    EnableOrExplain(control, reason.IsEmpty(), reason);
 }
 
 void Require(QWidget* control)

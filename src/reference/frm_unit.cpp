@@ -179,10 +179,8 @@ UnitRow frmUnit::Read() const
 
 void frmUnit::EnableControls()
 {
-    const EditingMode mode = Mode();
-    const bool modifying = mode == EditingMode::Modifying;
-    fields_->setEnabled(mode == EditingMode::Adding || (modifying && HasRecord()));
-    cboRecords->setEnabled(IsIdle() || mode == EditingMode::Deactivating || (modifying && !HasRecord()));
+    EnableUnless(fields_, WhyNoEntry());
+    EnableUnless(cboRecords, WhyNoChoice());
 }
 
 bool frmUnit::Begin(EditingMode mode)
