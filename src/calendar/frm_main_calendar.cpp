@@ -12,7 +12,7 @@
 
 namespace
 {
-constexpr int kFewestDays = 8; ///< in sight at once, each way; the rest scrolls
+constexpr int kFewestDays = 6; ///< in sight at once, each way; the rest scrolls
 constexpr int kRecordsWidth = 560;
 constexpr int kFewestLines = 2;
 constexpr int kMostLines = 9;
