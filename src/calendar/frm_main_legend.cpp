@@ -133,8 +133,9 @@ void LegendPane::ShowRow()
     for (int index = 0; index < kMostLabels; ++index)
         lblLegend[index]->setVisible(index >= first_ && index < end);
     row_->layout()->activate();
-    row_->resize(row_->sizeHint());
-    fraLegend->setFixedHeight(std::max(kRowHeight, row_->height()));
+    const QSize room = row_->sizeHint().expandedTo({0, kRowHeight});
+    row_->resize(room);
+    fraLegend->setFixedHeight(room.height());
     EnableOrExplain(cmdPreviousCategories, first_ > 0, kAtStart);
     EnableOrExplain(cmdNextCategories, end < items_.size(), kAtEnd);
 }
