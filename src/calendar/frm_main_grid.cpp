@@ -143,7 +143,7 @@ void CalendarGrid::ShowCodes(bool shown)
 /// A scroll bar takes its room from the days.
 void CalendarGrid::FitInto(const QSize& room)
 {
-    const int lowest = fontMetrics().height();
+    const int lowest = fontMetrics().height() + 1; // or the ring of the current day would cut its number
     const int narrowest = fontMetrics().horizontalAdvance("00") + 10;
     const QSize gaps(kSeparators * kSeparatorWidth, kSpacers * kSpacerHeight);
     const bool scrolls = kTextRows * lowest > room.height() - gaps.height();
@@ -158,6 +158,7 @@ void CalendarGrid::FitInto(const QSize& room)
         SetRowHeight(row,
                      YearCalendar::IsSpacerRow(row) ? kSpacerHeight : Share(days.height(), kTextRows, text++, lowest));
     EndUpdate();
+    scrollTo(currentIndex());
 }
 
 void CalendarGrid::GoTo(int date)
