@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 /// A static library keeps its resources only when somebody asks for them by name, outside any namespace.
 static void LoadResources()
@@ -113,25 +114,33 @@ void TakeUpDesktop()
         ApplyTheme(scheme);
 }
 
-/// The toolkit tells each window that the desktop looks otherwise; the colours are taken up once for all of them.
+/// The toolkit tells each window that the desktop looks otherwise, or some desktops set their colours themselves; they
+/// are taken up once for all.
 class DesktopFollower : public QObject
 {
 public:
     explicit DesktopFollower(QObject* parent) : QObject(parent)
     {
         soon_.setSingleShot(true);
-        connect(&soon_, &QTimer::timeout, this, TakeUpDesktop);
+        connect(&soon_, &QTimer::timeout, this, [this] {
+            const bool foreign = QApplication::palette().color(QPalette::Window) != ThemeColor("page");
+            if (std::exchange(told_, false) || foreign)
+                TakeUpDesktop();
+        });
     }
 
     bool eventFilter(QObject* target, QEvent* event) override
     {
-        if (event->type() == QEvent::ThemeChange && target->isWindowType())
+        const bool told = event->type() == QEvent::ThemeChange && target->isWindowType();
+        told_ = told_ || told;
+        if (told || (event->type() == QEvent::ApplicationPaletteChange && target == qApp))
             soon_.start(0);
         return false;
     }
 
 private:
     QTimer soon_;
+    bool told_ = false; ///< by a window
 };
 } // namespace
 

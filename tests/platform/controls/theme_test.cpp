@@ -94,6 +94,9 @@ TEST_F(Theme, FormsFollowADesktopThatChangesItsColours)
     QCoreApplication::processEvents();
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor("#eef1f5")) << "the one of the tests is light";
     EXPECT_NE(picture(), onDark);
+    QApplication::setPalette(Desktop("#31363b", "#eff0f1"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor("#eef1f5")) << "the forms' colours go together";
 }
 
 TEST_F(Theme, TheDesktopChoosesTheScheme)
