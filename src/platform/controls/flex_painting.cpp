@@ -117,12 +117,6 @@ bool HasLines(const FlexCell* cell, bool outside)
     return cell ? cell->Lines : !outside;
 }
 
-/// Names from the data may look like markup.
-QString PlainTip(const QString& text)
-{
-    return text.isEmpty() ? text : "<p style='white-space:pre'>" + text.toHtmlEscaped() + "</p>";
-}
-
 QColor ColorOr(int code, const QColor& own)
 {
     return code < 0 ? own : ColorOfCode(code);
@@ -156,14 +150,14 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const FlexCell& cell = *cells.At(row, col);
     const bool tinted = grid_->rowSelection_ && row == grid_->currentIndex().row();
     const QRect& rect = option.rect;
-    if (cell.Back >= 0 || tinted)
-        painter->fillRect(rect, ColorOr(cell.Back, Paper::kTint));
+    const QColor back = ColorOr(cell.Back, tinted ? Paper::kTint : Qt::white);
+    if (cell.Back >= 0 || tinted || option.state & QStyle::State_Selected)
+        painter->fillRect(rect, back); // also over the toolkit's colour of what is chosen
     if (cell.Lines) {
         const bool outside = !grid_->bordered_;
         PaintLines(*painter, rect, !HasLines(cells.At(row, col - 1), outside),
                    !HasLines(cells.At(row - 1, col), outside));
     }
-    const QColor back = ColorOr(cell.Back, tinted ? Paper::kTint : Qt::white);
     const Ink ink = ReadableInk(ColorOr(cell.Fore, Paper::kText), back);
     SetBold(*painter, cell.Bold);
     const QRect room = cell.Note ? PaintNote(*painter, rect, *cell.Note, ink, back) : rect;
@@ -186,7 +180,7 @@ bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
     const FlexCells& cells = *grid_->cells_;
     const QStringList hints = cells.Hints ? cells.Hints(index.row(), index.column()) : QStringList();
     const QString tip = !hints.isEmpty() ? hints.join('\n') : cut ? cell->Text : QString();
-    QToolTip::showText(event->globalPos(), PlainTip(tip), view);
+    QToolTip::showText(event->globalPos(), tip, view);
     return true;
 }
 
