@@ -420,6 +420,10 @@ TEST_F(FrmEmployees, TheScheduleFillsInWhileThePersonTabsThroughIt)
 {
     Opens();
     StartsAdding();
+    user.Presses("cboFirstHalfStartTime(0)", Qt::Key_Down);
+    auto* first = user.The<frmEmployees>().findChild<QComboBox*>("cboFirstHalfStartTime(0)");
+    EXPECT_EQ(first->view()->currentIndex().row(), 0);
+    QTest::keyClick(first->view(), Qt::Key_Escape);
     PicksDay(1, {"08:00", "12:00", "13:00", "16:20"});
     user.LeavesField("txtTotalMinutes(1)");
     for (const char* list : {"cboFirstHalfStartTime(2)", "cboFirstHalfEndTime(2)", "cboSecondHalfStartTime(2)"})

@@ -16,13 +16,17 @@ bool IsAmong(std::initializer_list<int> keys, const QKeyEvent* event)
 /// The list drops down, and the key moves in it.
 void WalkInto(QComboBox* list, QKeyEvent* event)
 {
+    const bool chosen = list->currentIndex() >= 0;
     list->showPopup();
-    QApplication::sendEvent(list->view(), event);
+    if (chosen || event->key() != Qt::Key_Down)
+        QApplication::sendEvent(list->view(), event);
+    else
+        list->view()->setCurrentIndex(list->model()->index(0, list->modelColumn()));
 }
 
 /// A list box with a field to type in. The toolkit's own makes the list that drops down, by far its most expensive
 /// part, as soon as somebody asks for its size or moves it about in the form; this one waits until it drops down.
-class EntryBox : public QComboBox
+class EntryBox : public DropDownList
 {
 public:
     explicit EntryBox(int characters) : characters_(characters)
@@ -77,7 +81,29 @@ void DropDownAt(QComboBox* list, const QString& typed)
 {
     const bool found = list->findText(typed, Qt::MatchStartsWith) >= 0;
     list->showPopup();
+    const QModelIndex current = list->view()->currentIndex();
+    list->view()->keyboardSearch({}); // what was typed a moment ago is over
+    list->view()->setCurrentIndex(current);
     list->view()->keyboardSearch(found ? typed : '0' + typed);
+}
+
+void DropDownList::showPopup()
+{
+    view()->removeEventFilter(this);
+    view()->installEventFilter(this);
+    QComboBox::showPopup();
+}
+
+bool DropDownList::eventFilter(QObject* target, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || !IsAmong({Qt::Key_Tab, Qt::Key_Backtab}, static_cast<QKeyEvent*>(event)))
+        return QComboBox::eventFilter(target, event);
+    QKeyEvent taking(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(target, &taking);
+    const QWidget* focused = window()->focusWidget();
+    if (focused == this || isAncestorOf(focused)) // unless what was taken has led elsewhere
+        QApplication::sendEvent(this, event);
+    return true;
 }
 
 void WalkedList::keyPressEvent(QKeyEvent* event)
