@@ -48,7 +48,7 @@ void frmAttendance::BuildControls()
         AddMainButton("cmdAddOrUpdate", kActions[static_cast<int>(entry_.Kind)], [this] { cmdAddOrUpdate_Click(); });
     cmdQuit = AddWayOut({"&Close", "So&rtir"}, "cmdQuit");
     LayFoot({cmdQuit, cmdAddOrUpdate});
-    resize(kSize);
+    SetSize(kSize);
 }
 
 void frmAttendance::ConnectControls()
@@ -176,6 +176,7 @@ void frmAttendance::ShowEntry()
     ShowParts();
     general_->lblEmployeeName->setText(entry_.EmployeeName);
     general_->lblBalance->setText(BalanceText(entry_));
+    general_->lblBalance->setVisible(!general_->lblBalance->text().isEmpty());
     ShowClockTime(general_->cboStartTime, entry_.StartTimeText);
     ShowClockTime(general_->cboEndTime, entry_.EndTimeText);
     general_->txtDurationInHours->setText(entry_.HoursText);

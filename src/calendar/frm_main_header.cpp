@@ -10,6 +10,8 @@
 namespace
 {
 constexpr int kListWidth = 200;
+constexpr Text kTotalForTheYear = {"Total for the year", "Total pour l'année"};
+constexpr Text kTimeBank = {"Time bank", "Banque de temps"};
 
 /// A figure that is cut with dots, and told whole by its tip, where there is no room for it.
 class ElidedLabel : public QLabel
@@ -47,7 +49,7 @@ MainHeader::MainHeader(QWidget* parent) : QWidget(parent)
     txtTimeBanked = MakeLabel("txtTimeBanked");
     txtTimeOut = WrappedLabel("txtTimeOut");
     txtTimeOut->hide();
-    fraTimeBank = FigureCard("lblTimeBanked", {"Time bank", "Banque de temps"}, txtTimeBanked);
+    fraTimeBank = FigureCard("lblTimeBanked", kTimeBank, txtTimeBanked);
     fraTimeBank->setObjectName("fraTimeBank");
 
     auto* cards = new QHBoxLayout(this);
@@ -55,8 +57,7 @@ MainHeader::MainHeader(QWidget* parent) : QWidget(parent)
     cards->setSpacing(12);
     cards->addWidget(YearCard(), 1);
     cards->addWidget(txtTimeOut);
-    cards->addWidget(
-        FigureCard("lblTotalForTheYear", {"Total for the year", "Total pour l'année"}, lblTotalForTheYear_DISPLAY));
+    cards->addWidget(FigureCard("lblTotalForTheYear", kTotalForTheYear, lblTotalForTheYear_DISPLAY));
     cards->addWidget(fraTimeBank);
 }
 
@@ -145,11 +146,13 @@ void MainHeader::ShowNames()
 void MainHeader::ShowTotal(const QString& total)
 {
     lblTotalForTheYear_DISPLAY->setText(total);
+    lblTotalForTheYear_DISPLAY->setAccessibleName(T(kTotalForTheYear) + ": " + total);
 }
 
 void MainHeader::ShowTimeBank(const QString& balance)
 {
     txtTimeBanked->setText(balance);
+    txtTimeBanked->setAccessibleName(T(kTimeBank) + ": " + balance);
     fraTimeBank->setVisible(!balance.isEmpty());
 }
 
