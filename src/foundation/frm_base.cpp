@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShowEvent>
 #include <QTimer>
 
@@ -60,7 +61,10 @@ FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbse
 
 QSize FormBase::sizeHint() const
 {
-    return FittingScreen(this, size_.isValid() ? size_ : QDialog::sizeHint());
+    QSize wanted = size_.isValid() ? size_ : QDialog::sizeHint();
+    if (FittingScreen(this, wanted).height() < wanted.height()) // the bar takes its room beside the page
+        wanted.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
+    return FittingScreen(this, wanted);
 }
 
 QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)
@@ -98,7 +102,7 @@ void FormBase::OrderTabs()
         setTabOrder(foot[i - 1], foot[i]);
 }
 
-/// A form with nothing behind it, such as the log-in.
+/// A form with nothing behind it but, perhaps, the program's sign.
 void FormBase::CentreOnScreen()
 {
     QRect frame(QPoint(), size());
@@ -145,7 +149,7 @@ void FormBase::showEvent(QShowEvent* event)
         OrderTabs();
         if (!testAttribute(Qt::WA_Resized))
             resize(sizeHint());
-        if (!parentWidget() && !testAttribute(Qt::WA_Moved))
+        if ((!parentWidget() || parentWidget()->windowType() == Qt::SplashScreen) && !testAttribute(Qt::WA_Moved))
             CentreOnScreen();
         QTimer::singleShot(0, this, [this] {
             Form_Activate();
