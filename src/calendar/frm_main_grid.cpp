@@ -158,14 +158,28 @@ void CalendarGrid::FitInto(const QSize& room)
         SetRowHeight(row,
                      YearCalendar::IsSpacerRow(row) ? kSpacerHeight : Share(days.height(), kTextRows, text++, lowest));
     EndUpdate();
-    scrollTo(currentIndex());
+    ShowMonth();
 }
 
 void CalendarGrid::GoTo(int date)
 {
     const QPoint place = shown_->PlaceOf(date);
-    if (place.x() >= 0)
-        SelectCell(place.y(), place.x());
+    if (place.x() < 0)
+        return;
+    SelectCell(place.y(), place.x());
+    ShowMonth();
+}
+
+/// Scrolls the month of the current day into sight, the head of the month before its end, and the day before all.
+void CalendarGrid::ShowMonth()
+{
+    int title = Row(), end = Row();
+    while (title > 0 && !YearCalendar::IsTitleRow(title))
+        --title;
+    while (end + 1 < YearCalendar::kRows && !YearCalendar::IsSpacerRow(end + 1))
+        ++end;
+    for (const int row : {end, title, Row()})
+        scrollTo(currentIndex().siblingAtRow(row));
 }
 
 /// Escape is the window's.

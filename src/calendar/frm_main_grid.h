@@ -41,6 +41,7 @@ private:
     void BuildCells();
     void ShowCell(int row, int col);
     std::shared_ptr<const FlexNote> NoteOn(int date) const;
+    void ShowMonth();
     int DateUnder(const QPoint& place) const;
     bool IsDragging() const { return dragFrom_ != 0 && dragTo_ != dragFrom_; }
 

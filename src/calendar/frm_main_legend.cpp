@@ -4,6 +4,7 @@
 #include "calendar/year_calendar.h"
 #include "foundation/frm_captions.h"
 #include "platform/controls/flex_grid.h"
+#include "platform/controls/theme.h"
 #include "platform/ink.h"
 
 #include <QEvent>
@@ -21,8 +22,11 @@ constexpr int kRowHeight = 30; ///< at least
 QString LabelStyle(int colorCode)
 {
     const QColor color = ColorOfCode(colorCode);
-    return QStringLiteral("background: %1; color: %2; border: 1px solid %3; border-radius: 3px; padding: 3px 12px;")
-        .arg(color.name(), ReadableInk(Qt::black, color).Fill.name(), color.darker(115).name());
+    return QStringLiteral(".QPushButton, .QLabel { background: %1; color: %2; border: 1px solid %3; border-radius: "
+                          "3px; padding: 3px 12px; }"
+                          ".QPushButton:focus { border: 2px solid %4; padding: 2px 11px; }")
+        .arg(color.name(), ReadableInk(Qt::black, color).Fill.name(), color.darker(115).name(),
+             ThemeColor("head").name());
 }
 
 QLabel* ColorLabel(const QString& name, int colorCode, const Text& text)

@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <QStyle>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -76,13 +77,16 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
     connect(imgZoom, &QToolButton::clicked, this, [this] { Chosen(*hovered_); });
 }
 
-/// The key of a tool that may not be used does nothing.
+/// The key of a tool that may not be used tells why.
 void ToolBar::AddShortcut(const Tool& tool)
 {
     auto* shortcut = new QShortcut(tool.Of.Shortcut, this);
     connect(shortcut, &QShortcut::activated, this, [this, tool] {
         if (tool.Image->isVisible())
             Chosen(tool.Of);
+        else if (tool.Disabled->isVisible())
+            QToolTip::showText(tool.Disabled->mapToGlobal(tool.Disabled->rect().bottomLeft()), tool.Disabled->toolTip(),
+                               tool.Disabled);
     });
 }
 
