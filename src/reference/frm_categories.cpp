@@ -15,7 +15,6 @@
 namespace
 {
 constexpr QSize kCategoriesSize(820, 580);
-constexpr int kCategoriesShown = 20;
 constexpr int kManyEmployees = 100;
 constexpr Text kOfTheTimeBank = {"The same for all categories of the time bank",
                                  "Le même pour toutes les catégories de la banque de temps"};
@@ -84,7 +83,6 @@ frmCategories::frmCategories(QWidget* parent) : EditingForm("frmCategories", par
 void frmCategories::BuildList()
 {
     cboRecords = Named<WalkedList>("cboRecords");
-    cboRecords->setMaxVisibleItems(kCategoriesShown);
     SetPlaceholder(cboRecords, {"Select a category", "Sélectionnez une catégorie"});
     connect(cboRecords, &QComboBox::activated, this, &frmCategories::cboRecords_Click);
     auto* lblRecords = MakeLabel("lblRecords");

@@ -14,7 +14,6 @@ constexpr int kHolidayNameLimit = 50;
 constexpr int kHolidaysGap = 12;
 constexpr int kDatesHeight = 300;
 constexpr int kHolidaysWidth = 480;
-constexpr int kHolidaysShown = 20;
 constexpr const char* kDayPattern = "ddd dd-mmm-yyyy";
 
 QString HolidayNameOf(const QModelIndex& entry)
@@ -78,7 +77,6 @@ QFrame* frmHolidays::ExistingHolidays()
 {
     cboHolidayName = Named<WalkedList>("cboHolidayName");
     cboHolidayName->setItemDelegate(new RemarkDelegate(HolidayNameOf, HolidayDateOf, cboHolidayName));
-    cboHolidayName->setMaxVisibleItems(kHolidaysShown);
     cboHolidayName->setMinimumWidth(kHolidaysWidth);
     SetPlaceholder(cboHolidayName, {"Select a statutory holiday", "Sélectionnez un congé férié"});
     connect(cboHolidayName, &QComboBox::activated, this, &frmHolidays::cboHolidayName_Click);

@@ -8,7 +8,6 @@ namespace
 constexpr int kNameLimit = 75;
 constexpr int kFieldsWidth = 660;
 constexpr int kCardGap = 14;
-constexpr int kEntriesShown = 16;
 constexpr int kListHeight = 130;
 constexpr int kRemark = Qt::UserRole + 1;
 
@@ -62,7 +61,6 @@ void frmUnit::BuildList()
 {
     cboRecords = Named<WalkedList>("cboRecords");
     cboRecords->setItemDelegate(new RemarkDelegate(NameOf, RemarkOf, cboRecords));
-    cboRecords->setMaxVisibleItems(kEntriesShown);
     SetPlaceholder(cboRecords, kind_.Texts.ListPrompt);
     connect(cboRecords, &QComboBox::activated, this, &frmUnit::cboRecords_Click);
     auto* lblRecords = MakeLabel("lblRecords");

@@ -70,10 +70,8 @@ private:
 
 QComboBox* EntryCombo(const QString& name, int characters)
 {
-    constexpr int kEntriesShown = 16;
     auto* combo = new EntryBox(characters);
     combo->setObjectName(name);
-    combo->setMaxVisibleItems(kEntriesShown);
     return combo;
 }
 
@@ -85,6 +83,12 @@ void DropDownAt(QComboBox* list, const QString& typed)
     list->view()->keyboardSearch({}); // what was typed a moment ago is over
     list->view()->setCurrentIndex(current);
     list->view()->keyboardSearch(found ? typed : '0' + typed);
+}
+
+DropDownList::DropDownList()
+{
+    constexpr int kEntriesShown = 16;
+    setMaxVisibleItems(kEntriesShown);
 }
 
 void DropDownList::showPopup()

@@ -18,6 +18,7 @@ void DropDownAt(QComboBox* list, const QString& typed);
 class DropDownList : public QComboBox
 {
 public:
+    DropDownList();
     void showPopup() override;
     bool eventFilter(QObject* target, QEvent* event) override;
 };
