@@ -170,14 +170,26 @@ void CalendarGrid::GoTo(int date)
     ShowMonth();
 }
 
-/// Scrolls the month of the current day into sight, the head of the month before its end, and the day before all.
-void CalendarGrid::ShowMonth()
+std::pair<int, int> CalendarGrid::MonthRows() const
 {
     int title = Row(), end = Row();
     while (title > 0 && !YearCalendar::IsTitleRow(title))
         --title;
     while (end + 1 < YearCalendar::kRows && !YearCalendar::IsSpacerRow(end + 1))
         ++end;
+    return {title, end};
+}
+
+QRect CalendarGrid::MonthRect() const
+{
+    const auto [title, end] = MonthRows();
+    return CellRect(title, Col()) | CellRect(end, Col());
+}
+
+/// Scrolls the month of the current day into sight, the head of the month before its end, and the day before all.
+void CalendarGrid::ShowMonth()
+{
+    const auto [title, end] = MonthRows();
     for (const int row : {end, title, Row()})
         scrollTo(currentIndex().siblingAtRow(row));
 }

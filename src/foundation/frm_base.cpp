@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QTabWidget>
 #include <QTimer>
 
 #include <utility>
@@ -180,8 +181,21 @@ void FormBase::closeEvent(QCloseEvent* event)
         event->ignore();
 }
 
+/// The tabs turn with Ctrl+Tab wherever the focus is, also at the foot.
+bool FormBase::TurnTab(const QKeyEvent* event)
+{
+    auto* tabs = findChild<QTabWidget*>();
+    const bool forth = event->key() == Qt::Key_Tab;
+    if (!tabs || !event->modifiers().testFlag(Qt::ControlModifier) || !(forth || event->key() == Qt::Key_Backtab))
+        return false;
+    tabs->setCurrentIndex((tabs->currentIndex() + (forth ? 1 : tabs->count() - 1)) % tabs->count());
+    return true;
+}
+
 void FormBase::keyPressEvent(QKeyEvent* event)
 {
+    if (TurnTab(event))
+        return;
     if (!event->matches(QKeySequence::Cancel) || MayBeLeft())
         QDialog::keyPressEvent(event);
 }

@@ -63,6 +63,7 @@ protected:
 private:
     QStringList Contents() const;
     void OrderTabs();
+    bool TurnTab(const QKeyEvent* event);
     void CentreOnScreen();
 
     QScrollArea* scroll_ = nullptr;

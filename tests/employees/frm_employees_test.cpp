@@ -412,6 +412,11 @@ TEST_F(FrmEmployees, ATemplateBringsWorkplaceScheduleAndRightsAndGoesWithoutATra
     EXPECT_EQ(user.Reads("cboSecondHalfEndTime(1)"), "18:00");
     user.WillConfirm().Presses("", Qt::Key_Escape);
     EXPECT_TRUE(user.CanUse("cmdAdd") && user.CanUse("cmdModify")) << "Escape ends the operation first";
+    OnTab(0);
+    for (const auto& [key, tab] : {std::pair(Qt::Key_Tab, 1), {Qt::Key_Backtab, 0}, {Qt::Key_Backtab, kModulesTab}}) {
+        user.Presses("cmdAdd", key, Qt::ControlModifier);
+        EXPECT_EQ(user.The<frmEmployees>().findChild<QTabWidget*>("sstEmployees")->currentIndex(), tab);
+    }
     user.Presses("", Qt::Key_Escape);
     EXPECT_FALSE(user.The<frmEmployees>().isVisible());
 }
