@@ -1,5 +1,6 @@
 #include "foundation/frm_captions.h"
 
+#include <QPainter>
 #include <QTabWidget>
 
 namespace
@@ -49,17 +50,34 @@ bool IsMissing(const QWidget* control)
 class ArrowButton : public QPushButton
 {
 public:
-    explicit ArrowButton(const QString& picture) : picture_(picture) { setIcon(PictureIcon(picture_)); }
+    explicit ArrowButton(const QString& picture) : picture_(picture) { ShowPicture(); }
 
 protected:
     void changeEvent(QEvent* event) override
     {
         if (event->type() == QEvent::StyleChange)
-            setIcon(PictureIcon(picture_));
+            ShowPicture();
         QPushButton::changeEvent(event);
     }
 
 private:
+    /// The toolkit's own grey is nearly as dark as the arrow.
+    void ShowPicture()
+    {
+        constexpr double kFaint = 0.3;
+        QIcon icon = PictureIcon(picture_);
+        const QPixmap full = icon.pixmap(iconSize(), devicePixelRatio());
+        QPixmap faint(full.size());
+        faint.setDevicePixelRatio(full.devicePixelRatio());
+        faint.fill(Qt::transparent);
+        QPainter painter(&faint);
+        painter.setOpacity(kFaint);
+        painter.drawPixmap(0, 0, full);
+        painter.end();
+        icon.addPixmap(faint, QIcon::Disabled);
+        setIcon(icon);
+    }
+
     const QString picture_;
 };
 

@@ -43,6 +43,7 @@ QLayout* CategoryConfigurationPage::Names()
 {
     txtEnglishName = MakeField("txtEnglishName", KeyFilter::CategoryName, kCategoryNameLimit);
     txtFrenchName = MakeField("txtFrenchName", KeyFilter::CategoryName, kCategoryNameLimit);
+    Require(SessionState.English ? txtEnglishName : txtFrenchName);
     auto* names = Beside(kPartGap);
     names->addLayout(Captioned({"Category's English name", "Nom anglais de la catégorie (facultatif)"}, txtEnglishName),
                      1);

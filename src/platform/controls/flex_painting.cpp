@@ -70,15 +70,16 @@ void PaintCorner(QPainter& painter, const QRect& rect, const QString& text, cons
     painter.restore();
 }
 
+/// At the foot, away from the letters in the corner.
 void PaintTriangle(QPainter& painter, const QRect& rect, const QColor& color)
 {
-    const int side = std::max(5, rect.height() / 3);
-    const QPoint corner = rect.bottomRight() - QPoint(1, 1);
+    const int side = std::max(6, rect.height() * 2 / 5);
+    const QPoint corner = rect.bottomLeft() + QPoint(1, -1);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
-    painter.drawPolygon(QPolygon({corner, corner - QPoint(side, 0), corner - QPoint(0, side)}));
+    painter.drawPolygon(QPolygon({corner, corner + QPoint(side, 0), corner - QPoint(0, side)}));
     painter.restore();
 }
 
