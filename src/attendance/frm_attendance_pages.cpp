@@ -75,6 +75,8 @@ QGridLayout* AttendanceGeneralPage::TimesAndDurations()
     constexpr int kDigits = 2;
     cboStartTime = Named<WalkedList>("cboStartTime");
     cboEndTime = Named<WalkedList>("cboEndTime");
+    for (QComboBox* times : {cboStartTime, cboEndTime})
+        FindTimesByDigits(times);
     lstMultiplicator = Named<WalkedList>("lstMultiplicator");
     txtDurationInHours = MakeField("txtDurationInHours", KeyFilter::WholeNumber, kDigits);
     txtDurationInMinutes = MakeField("txtDurationInMinutes", KeyFilter::WholeNumber, kDigits);

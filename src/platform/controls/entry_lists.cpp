@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QRegularExpression>
+#include <QStandardItemModel>
 #include <QStringListModel>
 #include <QStyleOptionComboBox>
 
@@ -12,6 +14,38 @@ bool IsAmong(std::initializer_list<int> keys, const QKeyEvent* event)
     return !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) &&
            std::find(keys.begin(), keys.end(), event->key()) != keys.end();
 }
+
+constexpr int kHowMatched = 0x0F; // of the toolkit's flags
+
+QString Digits(QString text)
+{
+    return text.remove(QRegularExpression("\\D"));
+}
+
+/// Entries that begin with a digit are found by their digits alone; without the leading zero where nothing else begins
+/// so.
+template <typename Model>
+class FoundByDigits : public Model
+{
+public:
+    using Model::Model;
+
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                          Qt::MatchFlags flags) const override
+    {
+        const QString typed = value.toString();
+        const bool digits = !typed.isEmpty() && typed.front().isDigit();
+        if (!digits || role != Qt::DisplayRole || (flags.toInt() & kHowMatched) != Qt::MatchStartsWith)
+            return Model::match(start, role, value, hits, flags);
+        const int rows = this->rowCount();
+        for (const QString& lead : {QString(), QStringLiteral("0")})
+            for (int passed = 0; passed < rows; ++passed)
+                if (const QModelIndex entry = this->index((start.row() + passed) % rows, start.column());
+                    Digits(entry.data().toString()).startsWith(lead + Digits(typed)))
+                    return {entry};
+        return {};
+    }
+};
 
 /// The list drops down, and the key moves in it.
 void WalkInto(QComboBox* list, QKeyEvent* event)
@@ -123,9 +157,15 @@ void WalkedList::keyPressEvent(QKeyEvent* event)
         QComboBox::keyPressEvent(event);
 }
 
+void FindTimesByDigits(QComboBox* list)
+{
+    list->setModel(new FoundByDigits<QStandardItemModel>(list));
+}
+
 void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries)
 {
-    auto* model = new QStringListModel(entries, lists.front());
+    auto* model = new FoundByDigits<QStringListModel>(lists.front());
+    model->setStringList(entries);
     for (QComboBox* list : lists) {
         list->setModel(model);
         list->setCurrentIndex(-1);

@@ -31,7 +31,11 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// The lists offer the same entries, which are kept once for all of them. None is chosen.
+/// The list finds its times by what is typed with and without the colon and the leading zero: "830", "8h30".
+void FindTimesByDigits(QComboBox* list);
+
+/// The lists offer the same entries, which are kept once for all of them, and found as times are. None is
+/// chosen.
 void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries);
 
 /// Shows a text and the entry that reads so; an empty text for none.
