@@ -103,6 +103,18 @@ void FormBase::OrderTabs()
         setTabOrder(foot[i - 1], foot[i]);
 }
 
+/// Only what is shown knows how its lines wrap: what a page lacks then is added, as far as the screen has room.
+void FormBase::GrowToPage()
+{
+    QSize lacking(0, 0);
+    for (const auto* area : findChildren<QScrollArea*>())
+        if (area->isVisible())
+            lacking =
+                lacking.expandedTo({area->horizontalScrollBar()->maximum(), area->verticalScrollBar()->maximum()});
+    if (lacking != QSize(0, 0))
+        resize(FittingScreen(this, size() + lacking));
+}
+
 /// A form with nothing behind it but, perhaps, the program's sign.
 void FormBase::CentreOnScreen()
 {
@@ -153,6 +165,7 @@ void FormBase::showEvent(QShowEvent* event)
         if ((!parentWidget() || parentWidget()->windowType() == Qt::SplashScreen) && !testAttribute(Qt::WA_Moved))
             CentreOnScreen();
         QTimer::singleShot(0, this, [this] {
+            GrowToPage();
             Form_Activate();
             KeepContents();
         });
@@ -164,7 +177,8 @@ QStringList FormBase::Contents() const
 {
     QStringList contents;
     for (const QWidget* control : findChildren<QWidget*>())
-        contents << ContentOf(control);
+        if (const QString name = control->objectName(); !name.isEmpty() && !name.startsWith("qt_"))
+            contents << name + '=' + ContentOf(control); // the toolkit's own parts come and go
     return contents;
 }
 

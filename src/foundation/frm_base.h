@@ -65,6 +65,7 @@ private:
     void OrderTabs();
     bool TurnTab(const QKeyEvent* event);
     void CentreOnScreen();
+    void GrowToPage();
 
     QScrollArea* scroll_ = nullptr;
     QVBoxLayout* page_ = nullptr;

@@ -250,7 +250,10 @@ QSize FittingScreen(const QWidget* window, const QSize& size)
 int ShowModal(QDialog& form)
 {
     DefaultWorkspace().PauseReading();
-    return modalRunner ? modalRunner(form) : form.exec();
+    const int result = modalRunner ? modalRunner(form) : form.exec();
+    if (form.parentWidget()) // where two windows close at once, some desktops give the keyboard to none
+        form.parentWidget()->window()->activateWindow();
+    return result;
 }
 
 void SetModalRunner(std::function<int(QDialog&)> runner)
