@@ -143,7 +143,7 @@ void CalendarGrid::ShowCodes(bool shown)
 /// A scroll bar takes its room from the days.
 void CalendarGrid::FitInto(const QSize& room)
 {
-    const int lowest = fontMetrics().height() + 1; // or the ring of the current day would cut its number
+    const int lowest = fontMetrics().height();
     const int narrowest = fontMetrics().horizontalAdvance("00") + 10;
     const QSize gaps(kSeparators * kSeparatorWidth, kSpacers * kSpacerHeight);
     const bool scrolls = kTextRows * lowest > room.height() - gaps.height();
@@ -262,7 +262,7 @@ void CalendarGrid::paintEvent(QPaintEvent* event)
     const auto [first, last] = std::minmax({dragFrom_, dragTo_});
     for (int date = first; date <= last; ++date)
         if (const QPoint place = shown_->PlaceOf(date); place.x() >= 0)
-            painter.drawRect(CellRect(place.y(), place.x()).adjusted(2, 2, -3, -3));
+            painter.drawRect(CellRect(place.y(), place.x()).adjusted(1, 1, -1, -1));
 }
 
 void CalendarGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous)

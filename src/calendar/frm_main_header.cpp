@@ -10,6 +10,7 @@
 namespace
 {
 constexpr int kListWidth = 200;
+constexpr int kLeastWidth = 140; ///< of the list, where the name needs room
 constexpr Text kTotalForTheYear = {"Total for the year", "Total pour l'année"};
 constexpr Text kTimeBank = {"Time bank", "Banque de temps"};
 
@@ -72,7 +73,7 @@ QFrame* MainHeader::YearCard()
     grid->addWidget(AsCaption(MakeLabel("lblCurrentSelection", {"Attendance of", "Absences de"})), 0, 4);
     grid->addWidget(lblCurrentSelection_DISPLAY, 1, 4);
     cboCategories = Named<WalkedList>("cboCategories");
-    cboCategories->setMinimumWidth(kListWidth);
+    cboCategories->setMinimumWidth(kLeastWidth);
     cboCategories->setMaximumWidth(2 * kListWidth);
     connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);
     grid->addWidget(AsCaption(LabelOf(cboCategories, {"Ca&tegory", "Ca&tégorie"})), 0, 5);

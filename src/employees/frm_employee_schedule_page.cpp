@@ -12,7 +12,7 @@ namespace
 constexpr int kDays = 7;
 constexpr int kTotalWidth = 70;
 constexpr int kTimeCharacters = 6;
-constexpr int kGroupGap = 28; ///< between the halves of the day and the total
+constexpr int kGroupGap = 12; ///< between the halves of the day and the total
 constexpr int kRowGap = 10;
 
 /// The raster of the week: the weekday, two halves and the total, with a gap before each.

@@ -159,14 +159,14 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
         PaintLines(*painter, rect, !HasLines(cells.At(row, col - 1), outside),
                    !HasLines(cells.At(row - 1, col), outside));
     }
+    if (!grid_->rowSelection_ && grid_->hasFocus() && index == grid_->currentIndex())
+        PaintRing(*painter, rect); // below the text: in a low row it would cut it
     const Ink ink = ReadableInk(ColorOr(cell.Fore, Paper::kText), back);
     SetBold(*painter, cell.Bold);
     const QRect room = cell.Note ? PaintNote(*painter, rect, *cell.Note, ink, back) : rect;
     const bool led = cell.Note && !cell.Note->Lead.isEmpty();
     const Qt::Alignment alignment = led ? Qt::AlignRight | Qt::AlignVCenter : cells.AlignmentOf(cell, col);
     PaintText(*painter, room, led ? cell.Text.trimmed() : cell.Text, alignment, ink);
-    if (!grid_->rowSelection_ && grid_->hasFocus() && index == grid_->currentIndex())
-        PaintRing(*painter, rect);
 }
 
 bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
