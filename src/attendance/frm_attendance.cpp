@@ -51,7 +51,7 @@ void frmAttendance::BuildControls()
     lblApprovers = AsNotice(WrappedLabel("lblApprovers"));
     Page()->addWidget(lblApprovers);
     lblApprovers->hide();
-    resize(kSize);
+    SetSize(kSize);
 }
 
 void frmAttendance::ConnectControls()
@@ -187,6 +187,7 @@ void frmAttendance::ShowEntry()
     ShowParts();
     general_->lblEmployeeName->setText(entry_.EmployeeName);
     general_->lblBalance->setText(BalanceText(entry_));
+    general_->lblBalance->setVisible(!general_->lblBalance->text().isEmpty());
     ShowClockTime(general_->cboStartTime, entry_.StartTimeText);
     ShowClockTime(general_->cboEndTime, entry_.EndTimeText);
     general_->txtDurationInHours->setText(entry_.HoursText);

@@ -29,6 +29,7 @@
 #include <QScopeGuard>
 #include <QScreen>
 #include <QTimer>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -187,6 +188,7 @@ void frmMain::LoadCaptions()
 {
     setWindowTitle(Fill(T("Tarvell   Session ID [{LoginID}]", "Tarvell   Identification: [{LoginID}]"),
                         {{"LoginID", SessionState.LoginID}}));
+    QToolTip::hideText();
     Retranslate(this);
 }
 

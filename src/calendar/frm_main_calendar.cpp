@@ -12,11 +12,12 @@
 
 namespace
 {
-constexpr int kFewestDays = 8; ///< in sight at once, each way; the rest scrolls
+constexpr int kFewestDays = 6; ///< in sight at once, each way; the rest scrolls
 constexpr int kRecordsWidth = 560;
 constexpr int kFewestLines = 2;
 constexpr int kMostLines = 9;
-const QPoint kHintOffset(18, 22);
+const QPoint kHintOffset(18, 22); ///< from the pointer
+constexpr int kHintGap = 3;       ///< from a month
 } // namespace
 
 CalendarPane::CalendarPane(QWidget* parent) : QWidget(parent)
@@ -153,14 +154,15 @@ void CalendarPane::PlaceHint(const QPoint& pointer)
                     std::min(wanted.y(), height() - txtSelect->height()));
 }
 
-/// The cursor has come to another day. The hint keeps out of its way.
+/// The cursor has come to another day. The hint keeps out of the way of its month.
 void CalendarPane::FollowCursor()
 {
     HideRecords();
-    const QRect cell = flxCalendar->CellRect(flxCalendar->Row(), flxCalendar->Col());
-    const QPoint place = flxCalendar->viewport()->mapTo(this, cell.bottomLeft());
-    const bool below = place.y() + kHintOffset.y() + txtSelect->height() < height();
-    PlaceHint(below ? place : place - QPoint(0, cell.height() + txtSelect->height() + 2 * kHintOffset.y()));
+    const QRect month = flxCalendar->MonthRect().translated(flxCalendar->viewport()->mapTo(this, QPoint()));
+    const int below = month.bottom() + kHintGap;
+    const bool fits = below + txtSelect->height() < height();
+    txtSelect->move(std::min(month.left(), width() - txtSelect->width()),
+                    fits ? below : std::max(0, month.top() - txtSelect->height() - kHintGap));
 }
 
 bool CalendarPane::eventFilter(QObject* target, QEvent* event)

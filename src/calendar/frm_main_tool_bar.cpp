@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <QStyle>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -76,13 +77,16 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
     connect(imgZoom, &QToolButton::clicked, this, [this] { Chosen(*hovered_); });
 }
 
-/// The key of a tool that may not be used does nothing.
+/// The key of a tool that may not be used tells why.
 void ToolBar::AddShortcut(const Tool& tool)
 {
     auto* shortcut = new QShortcut(tool.Of.Shortcut, this);
     connect(shortcut, &QShortcut::activated, this, [this, tool] {
         if (tool.Image->isVisible())
             Chosen(tool.Of);
+        else if (tool.Disabled->isVisible())
+            QToolTip::showText(tool.Disabled->mapToGlobal(tool.Disabled->rect().bottomLeft()), tool.Disabled->toolTip(),
+                               tool.Disabled);
     });
 }
 
@@ -106,12 +110,10 @@ void ToolBar::ActivateAllowed()
 
 void ToolBar::Deactivate(const QString& toolInUse, bool usable)
 {
-    constexpr Text kWait = {"Another command is in progress. Press «Escape» to give a tool up.",
-                            "Une autre commande est en cours. Appuyez sur «Échap» pour abandonner un outil."};
     imgZoom->hide();
     for (const Tool& tool : tools_) {
         const bool inUse = tool.Of.Name == toolInUse;
-        SetTool(tool, inUse && usable, inUse, inUse ? tool.Of.Tip : kWait);
+        SetTool(tool, inUse && usable, inUse, inUse ? tool.Of.Tip : kAnotherInProgress);
     }
 }
 

@@ -67,7 +67,7 @@ QLayout* frmTargettedEMail::NewRecipientRow()
     for (QLineEdit* field : {txtNewName, txtNewEMail})
         connect(field, &QLineEdit::textChanged, this, &frmTargettedEMail::txtNew_Change);
     cmdAdd = AddButton("cmdAdd", {"A&dd to the list", "A&jouter à la liste"}, [this] { cmdAdd_Click(); });
-    cmdAdd->setEnabled(false);
+    txtNew_Change();
     auto* row = Beside(kEMailGap);
     row->addLayout(Captioned({"&Name of a new recipient", "&Nom d'un nouveau destinataire"}, txtNewName), 1);
     row->addLayout(Captioned({"E-&mail address", "&Courriel"}, txtNewEMail), 1);

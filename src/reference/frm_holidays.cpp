@@ -3,6 +3,7 @@
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "platform/clock.h"
+#include "platform/controls/entry_lists.h"
 #include "platform/controls/remark_delegate.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@ constexpr int kHolidayNameLimit = 50;
 constexpr int kHolidaysGap = 12;
 constexpr int kDatesHeight = 300;
 constexpr int kHolidaysWidth = 480;
-constexpr int kHolidaysShown = 20;
 constexpr const char* kDayPattern = "ddd dd-mmm-yyyy";
 
 QString HolidayNameOf(const QModelIndex& entry)
@@ -75,9 +75,8 @@ frmHolidays::frmHolidays(QWidget* parent) : FormBase("frmHolidays", parent)
 
 QFrame* frmHolidays::ExistingHolidays()
 {
-    cboHolidayName = Named<QComboBox>("cboHolidayName");
+    cboHolidayName = Named<WalkedList>("cboHolidayName");
     cboHolidayName->setItemDelegate(new RemarkDelegate(HolidayNameOf, HolidayDateOf, cboHolidayName));
-    cboHolidayName->setMaxVisibleItems(kHolidaysShown);
     cboHolidayName->setMinimumWidth(kHolidaysWidth);
     SetPlaceholder(cboHolidayName, {"Select a statutory holiday", "Sélectionnez un congé férié"});
     connect(cboHolidayName, &QComboBox::activated, this, &frmHolidays::cboHolidayName_Click);

@@ -264,7 +264,10 @@ void ClearOptions(std::initializer_list<QRadioButton*> options)
 int ShowModal(QDialog& form)
 {
     DefaultWorkspace().PauseReading();
-    return modalRunner ? modalRunner(form) : form.exec();
+    const int result = modalRunner ? modalRunner(form) : form.exec();
+    if (form.parentWidget()) // where two windows close at once, some desktops give the keyboard to none
+        form.parentWidget()->window()->activateWindow();
+    return result;
 }
 
 void SetModalRunner(std::function<int(QDialog&)> runner)
@@ -312,6 +315,7 @@ void ApplyStyle()
     QApplication::setFont(ProgramFont());
     QApplication::setWindowIcon(PictureIcon("app"));
     ApplyTheme(scheme);
+    FollowDesktop();
 }
 
 QIcon PictureIcon(const QString& name)
