@@ -349,8 +349,11 @@ void frmMain::DisplayRecords(bool approved)
 bool frmMain::LogIn(int year, const QString& name)
 {
     const int user = SessionState.UserID;
+    const QString loginID = SessionState.LoginID;
     frmLogin login(year, name, this);
     ShowModal(login);
+    if (SessionState.LoginID != loginID)
+        ForgetUnsentNotices(); // they would go out in the name of somebody else
     return SessionState.UserID != user;
 }
 

@@ -126,27 +126,33 @@ bool ToolBar::Shows(const char* name) const
 void ToolBar::SetTool(const Tool& tool, bool enabled, bool inUse, const Text& why)
 {
     const bool shown = tool.Of.Shown.Holds();
-    const QString tip = T(tool.Of.Tip) + "   " + tool.Of.Shortcut.toString(QKeySequence::NativeText);
+    const QString waiting = tool.Waiting == 0 ? QString() : QStringLiteral(" (%1)").arg(tool.Waiting);
+    const QString tip = T(tool.Of.Tip) + waiting + "   " + tool.Of.Shortcut.toString(QKeySequence::NativeText);
     tool.Image->setToolTip(tip);
     tool.Disabled->setToolTip(why.IsEmpty() || inUse ? tip : tip + "\n" + T(why));
     for (QToolButton* image : {tool.Image, tool.Disabled}) {
         SetLook(image, inUse ? "active" : "");
-        image->setText(WordOf(tool.Of));
+        image->setText(WordOf(tool));
     }
     tool.Disabled->setIcon(inUse ? UngreyedIcon(tool.Of.Picture) : PictureIcon(tool.Of.Picture));
     tool.Image->setVisible(shown && enabled);
     tool.Disabled->setVisible(shown && !enabled);
 }
 
-void ToolBar::ShowWaiting(const QString& tool, int count)
+void ToolBar::ShowWaiting(const char* name, int count)
 {
-    waiting_[tool] = count;
+    for (Tool& tool : tools_)
+        if (tool.Of.Name == QLatin1String(name)) {
+            tool.Waiting = count;
+            tool.Image->setText(WordOf(tool));
+            tool.Disabled->setText(WordOf(tool));
+        }
+    FitWords();
 }
 
-QString ToolBar::WordOf(const Command& command) const
+QString ToolBar::WordOf(const Tool& tool)
 {
-    const int count = waiting_.value(command.Name);
-    return T(command.Caption) + (count == 0 ? QString() : QStringLiteral(" (%1)").arg(count));
+    return T(tool.Of.Caption) + (tool.Waiting == 0 ? QString() : QStringLiteral(" (%1)").arg(tool.Waiting));
 }
 
 void ToolBar::ShowWords(bool shown)
@@ -163,7 +169,7 @@ int ToolBar::WidthWithWords() const
 {
     int width = 0;
     for (const Tool& tool : tools_)
-        width += std::max(kToolWidth, fontMetrics().horizontalAdvance(WordOf(tool.Of)) + kWordMargin) + kToolGap;
+        width += std::max(kToolWidth, fontMetrics().horizontalAdvance(WordOf(tool)) + kWordMargin) + kToolGap;
     return width;
 }
 
@@ -175,6 +181,11 @@ QSize ToolBar::minimumSizeHint() const
 void ToolBar::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
+    FitWords();
+}
+
+void ToolBar::FitWords()
+{
     ShowWords(width() >= WidthWithWords() && window()->height() >= kLowWindow);
 }
 

@@ -29,7 +29,6 @@ UnsentLine::UnsentLine(QWidget* parent) : QFrame(parent), lblUnsent(AsNotice(Wra
     auto* cmdForget = MakeButton("cmdForget", {"Do &not send", "&Ne pas envoyer"});
     connect(cmdSendAgain, &QPushButton::clicked, this, &UnsentLine::cmdSendAgain_Click);
     connect(cmdForget, &QPushButton::clicked, this, &UnsentLine::cmdForget_Click);
-    lblUnsent->setTextFormat(Qt::PlainText);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(lblUnsent, 1);

@@ -11,7 +11,6 @@
 
 namespace
 {
-constexpr int kPause = 2; // seconds
 constexpr int kSession = 1;
 
 QVector<Notice>& Unsent()
@@ -92,6 +91,12 @@ MailResult SendByRoute(const Notice& notice)
         Log(notice, configured, failures);
     return result;
 }
+/// It could not be sent and is worth a line, but the mail program that did not answer is not asked once more.
+void GiveUp(const Notice& notice)
+{
+    Log(notice, SessionState.MailConfigured, {FailureText({MailError::NoAnswer, "Not tried"})});
+    Unsent().append(notice);
+}
 } // namespace
 
 void PrepareMailComponent()
@@ -143,13 +148,20 @@ MailResult SendNotice(const Notice& notice)
     return result;
 }
 
-void SendNotices(const QVector<Notice>& notices)
+void SendNotices(const QVector<Notice>& notices, int pause, const std::function<void(int)>& progress)
 {
     const MailOnItsWay onItsWay;
-    for (const Notice& notice : notices) {
-        if (&notice != &notices.first())
-            Wait(kPause);
-        SendNotice(notice);
+    bool answers = true;
+    for (int i = 0; i < notices.size(); ++i) {
+        if (!answers) {
+            GiveUp(notices[i]);
+            continue;
+        }
+        if (i > 0 && pause > 0)
+            Wait(pause);
+        if (progress)
+            progress(i);
+        answers = SendNotice(notices[i]).Number != MailError::NoAnswer;
     }
 }
 
@@ -158,11 +170,9 @@ const QVector<Notice>& UnsentNotices()
     return Unsent();
 }
 
-int SendUnsentNotices()
+void SendUnsentNotices()
 {
-    const QVector<Notice> again = std::exchange(Unsent(), {});
-    SendNotices(again);
-    return static_cast<int>(again.size() - Unsent().size());
+    SendNotices(std::exchange(Unsent(), {}));
 }
 
 void ForgetUnsentNotices()
