@@ -38,7 +38,7 @@ QIcon UngreyedIcon(const QString& picture)
     return icon;
 }
 
-void AddGroupLine(QHBoxLayout* row)
+QFrame* AddGroupLine(QHBoxLayout* row)
 {
     auto* line = new QFrame;
     line->setProperty("look", "line");
@@ -46,6 +46,7 @@ void AddGroupLine(QHBoxLayout* row)
     row->addSpacing(8);
     row->addWidget(line);
     row->addSpacing(8);
+    return line;
 }
 } // namespace
 
@@ -55,9 +56,9 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 8, 4);
     for (const Command* command : CommandsIn(Place::ToolBar)) {
-        if (command->AfterLine)
-            AddGroupLine(row);
-        const Tool tool{*command, MakeImage(*command, command->Name), MakeImage(*command, command->Name + "_DISABLED")};
+        QFrame* line = command->AfterLine ? AddGroupLine(row) : nullptr;
+        const Tool tool{*command, MakeImage(*command, command->Name), MakeImage(*command, command->Name + "_DISABLED"),
+                        line};
         tool.Image->installEventFilter(this);
         connect(tool.Image, &QToolButton::clicked, this, [this, command] { Chosen(*command); });
         AddShortcut(tool);
@@ -106,6 +107,26 @@ void ToolBar::ActivateAllowed()
 {
     for (const Tool& tool : tools_)
         SetTool(tool, tool.Of.Allowed.Holds(), false, tool.Of.Allowed.WhyNot());
+    PartGroups();
+}
+
+/// A line stands only between tools that are seen.
+void ToolBar::PartGroups()
+{
+    QFrame* line = nullptr;
+    bool seen = false;
+    for (const Tool& tool : tools_) {
+        if (tool.Line) {
+            tool.Line->hide();
+            line = tool.Line;
+        }
+        if (!tool.Of.Shown.Holds())
+            continue;
+        if (line)
+            line->setVisible(seen);
+        line = nullptr;
+        seen = true;
+    }
 }
 
 void ToolBar::Deactivate(const QString& toolInUse, bool usable)

@@ -38,6 +38,7 @@ private:
         const Command& Of;
         QToolButton* Image;
         QToolButton* Disabled;
+        QFrame* Line;    ///< parts it from the tools before it; null for none
         int Waiting = 0; ///< so many things wait behind it
     };
 
@@ -46,6 +47,7 @@ private:
     static void SetTool(const Tool& tool, bool enabled, bool inUse, const Text& why);
     static QString WordOf(const Tool& tool);
     void FitWords();
+    void PartGroups();
     void ShowZoom(const Tool& tool);
     void ShowWords(bool shown);
     int WidthWithWords() const;
