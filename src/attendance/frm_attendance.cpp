@@ -14,7 +14,7 @@ constexpr QSize kSize(760, 610);
 constexpr int kCommentLimit = 500;
 
 constexpr Text kActions[] = {{"&Add new attendance record(s)", "&Ajouter nouveaux enregistrements"},
-                             {"&Submit new attendance record(s)", "S&oumettre nouveaux enregistrements"},
+                             {"Su&bmit new attendance record(s)", "S&oumettre nouveaux enregistrements"},
                              {"&Record modifications", "En&registrer modifications"}}; // in the order of AttendanceKind
 constexpr Text kNotInSchedule = {"The employee's schedule does not tell these hours: specify the duration",
                                  "L'horaire de l'employé(e) n'indique pas ces heures: spécifiez la durée"};

@@ -70,7 +70,8 @@ QFrame* MainHeader::YearCard()
     grid->setColumnMinimumWidth(3, 16);
     AddYears(grid);
     lblCurrentSelection_DISPLAY = AsFigure(Named<ElidedLabel>("lblCurrentSelection_DISPLAY"));
-    grid->addWidget(AsCaption(MakeLabel("lblCurrentSelection", {"Attendance of", "Absences de"})), 0, 4);
+    lblCurrentSelection = AsCaption(MakeLabel("lblCurrentSelection"));
+    grid->addWidget(lblCurrentSelection, 0, 4);
     grid->addWidget(lblCurrentSelection_DISPLAY, 1, 4);
     cboCategories = Named<WalkedList>("cboCategories");
     cboCategories->setMinimumWidth(kLeastWidth);
@@ -141,6 +142,8 @@ void MainHeader::cboCategories_Click()
 void MainHeader::ShowNames()
 {
     lblFiscalYear->setText(SessionState.FiscalYearName);
+    lblCurrentSelection->setText(SessionState.ShowApproved ? T("Attendance of", "Absences de")
+                                                           : T("Pending requests of", "Demandes non traitées de"));
     lblCurrentSelection_DISPLAY->setText(SessionState.CurrentSelection);
 }
 

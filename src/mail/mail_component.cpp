@@ -13,9 +13,9 @@ namespace
 {
 constexpr int kSession = 1;
 
-QVector<Notice>& Unsent()
+QVector<UnsentNotice>& Unsent()
 {
-    static QVector<Notice> unsent;
+    static QVector<UnsentNotice> unsent;
     return unsent;
 }
 
@@ -65,14 +65,12 @@ MailResult SendByAutomation(const Notice& notice)
     return MailRoutesHere().Automation.Send(MessageOf(notice, ""));
 }
 
-/// A mail window that stays open is worth a line too, although nothing has failed.
 MailResult SendByMapi(const Notice& notice, QStringList& failures)
 {
     const MailResult result = MailRoutesHere().Desktop.Send(MessageOf(notice, notice.AddressType));
-    if (HasFailed(result) || (result.Number == 0 && !result.Description.isEmpty()))
-        failures << FailureText(result);
     if (!HasFailed(result))
         return result;
+    failures << FailureText(result);
     SessionState.MailConfigured = true;
     return SendByAutomation(notice);
 }
@@ -94,8 +92,9 @@ MailResult SendByRoute(const Notice& notice)
 /// It could not be sent and is worth a line, but the mail program that did not answer is not asked once more.
 void GiveUp(const Notice& notice)
 {
-    Log(notice, SessionState.MailConfigured, {FailureText({MailError::NoAnswer, "Not tried"})});
-    Unsent().append(notice);
+    const MailResult notTried{MailError::NoAnswer, "Not tried"};
+    Log(notice, SessionState.MailConfigured, {FailureText(notTried)});
+    Unsent().append({notice, notTried.Description});
 }
 } // namespace
 
@@ -144,7 +143,7 @@ MailResult SendNotice(const Notice& notice)
         PrepareMailComponent();
     const MailResult result = SendByRoute(notice);
     if (HasFailed(result))
-        Unsent().append(notice);
+        Unsent().append({notice, result.Description});
     return result;
 }
 
@@ -165,14 +164,17 @@ void SendNotices(const QVector<Notice>& notices, int pause, const std::function<
     }
 }
 
-const QVector<Notice>& UnsentNotices()
+const QVector<UnsentNotice>& UnsentNotices()
 {
     return Unsent();
 }
 
 void SendUnsentNotices()
 {
-    SendNotices(std::exchange(Unsent(), {}));
+    QVector<Notice> again;
+    for (const UnsentNotice& unsent : std::exchange(Unsent(), {}))
+        again << unsent.Message;
+    SendNotices(again);
 }
 
 void ForgetUnsentNotices()

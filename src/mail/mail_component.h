@@ -41,8 +41,13 @@ MailResult SendNotice(const Notice& notice);
 /// next.
 void SendNotices(const QVector<Notice>& notices, int pause = 2, const std::function<void(int)>& progress = {});
 
+struct UnsentNotice
+{
+    Notice Message;
+    QString Reason; ///< in the words of the mail program; may be empty
+};
 /// The messages of this session that could not be sent, oldest first.
-const QVector<Notice>& UnsentNotices();
+const QVector<UnsentNotice>& UnsentNotices();
 /// Tries those again; what fails once more stays among them.
 void SendUnsentNotices();
 /// Forgets them.
