@@ -70,7 +70,7 @@ QSize FormBase::sizeHint() const
 
 QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)
 {
-    auto* button = MakeButton(name, caption);
+    auto* button = MakeButton<PromptButton>(name, caption);
     connect(button, &QPushButton::clicked, this, [this, clicked] { Attempt(clicked); });
     return button;
 }
