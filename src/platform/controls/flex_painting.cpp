@@ -166,7 +166,8 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const QRect room = cell.Note ? PaintNote(*painter, rect, *cell.Note, ink, back) : rect;
     const bool led = cell.Note && !cell.Note->Lead.isEmpty();
     const Qt::Alignment alignment = led ? Qt::AlignRight | Qt::AlignVCenter : cells.AlignmentOf(cell, col);
-    PaintText(*painter, room, led ? cell.Text.trimmed() : cell.Text, alignment, ink);
+    const Ink mark = {Qt::white, Paper::kRangeRing}; // on a plate: beside it a letter would pass for a code
+    PaintText(*painter, room, led ? cell.Text.trimmed() : cell.Text, alignment, led ? mark : ink);
 }
 
 bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
