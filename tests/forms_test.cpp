@@ -351,7 +351,7 @@ TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndLeavesAtEscape)
     }
 }
 
-TEST_F(Forms, WhatIsGreyedInAModeOfAnEditorSaysWhyToo)
+TEST_F(Forms, WhatIsGreyedInAModeOfAnEditorSaysWhyTooAndItsMainButtonStandsLast)
 {
     for (const auto& [name, make] : kForms) {
         if (!QString(name).contains(QRegularExpression("Organizations|Departments|Groups|Categories")))
@@ -361,6 +361,10 @@ TEST_F(Forms, WhatIsGreyedInAModeOfAnEditorSaysWhyToo)
         for (const char* mode : {"cmdAdd", "cmdModify", "cmdDeactivate"}) {
             user.Clicks(mode);
             OnEachPage(form, [&form] { EXPECT_EQ(Unexplained(form), QStringList()); });
+            QCoreApplication::processEvents();
+            const int right = form.findChild<QWidget*>(mode)->geometry().right();
+            for (const char* other : {"cmdAdd", "cmdModify", "cmdDeactivate", "cmdQuit"})
+                EXPECT_LE(form.findChild<QWidget*>(other)->geometry().right(), right) << "the main button stands last";
             user.Clicks("cmdCancelOperation");
         }
     }

@@ -16,7 +16,7 @@ constexpr int kFewestDays = 6; ///< in sight at once, each way; the rest scrolls
 constexpr int kRecordsWidth = 560;
 constexpr int kFewestLines = 2;
 constexpr int kMostLines = 9;
-const QPoint kHintOffset(18, 22); ///< from the pointer
+const QPoint kHintOffset(18, 22); ///< where it begins
 constexpr int kHintGap = 3;       ///< from a month
 } // namespace
 
@@ -147,18 +147,18 @@ void CalendarPane::ShowHint(const QString& hint)
     txtSelect->raise();
 }
 
-void CalendarPane::PlaceHint(const QPoint& pointer)
-{
-    const QPoint wanted = pointer + kHintOffset;
-    txtSelect->move(std::min(wanted.x(), width() - txtSelect->width()),
-                    std::min(wanted.y(), height() - txtSelect->height()));
-}
-
-/// The cursor has come to another day. The hint keeps out of the way of its month.
+/// The cursor has come to another day.
 void CalendarPane::FollowCursor()
 {
     HideRecords();
-    const QRect month = flxCalendar->MonthRect().translated(flxCalendar->viewport()->mapTo(this, QPoint()));
+    PlaceHint(flxCalendar->currentIndex());
+}
+
+/// The hint keeps out of the way of the month that is being marked.
+void CalendarPane::PlaceHint(const QModelIndex& day)
+{
+    const QPoint origin = flxCalendar->viewport()->mapTo(this, QPoint());
+    const QRect month = flxCalendar->MonthRect(day).translated(origin);
     const int below = month.bottom() + kHintGap;
     const bool fits = below + txtSelect->height() < height();
     txtSelect->move(std::min(month.left(), width() - txtSelect->width()),
@@ -168,7 +168,8 @@ void CalendarPane::FollowCursor()
 bool CalendarPane::eventFilter(QObject* target, QEvent* event)
 {
     if (event->type() == QEvent::MouseMove && !txtSelect->isHidden())
-        PlaceHint(flxCalendar->viewport()->mapTo(this, static_cast<QMouseEvent*>(event)->pos()));
+        if (const QModelIndex day = flxCalendar->indexAt(static_cast<QMouseEvent*>(event)->pos()); day.isValid())
+            PlaceHint(day);
     return QWidget::eventFilter(target, event);
 }
 

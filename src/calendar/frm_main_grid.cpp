@@ -170,9 +170,9 @@ void CalendarGrid::GoTo(int date)
     ShowMonth();
 }
 
-std::pair<int, int> CalendarGrid::MonthRows() const
+std::pair<int, int> CalendarGrid::MonthRows(int row)
 {
-    int title = Row(), end = Row();
+    int title = row, end = row;
     while (title > 0 && !YearCalendar::IsTitleRow(title))
         --title;
     while (end + 1 < YearCalendar::kRows && !YearCalendar::IsSpacerRow(end + 1))
@@ -180,16 +180,16 @@ std::pair<int, int> CalendarGrid::MonthRows() const
     return {title, end};
 }
 
-QRect CalendarGrid::MonthRect() const
+QRect CalendarGrid::MonthRect(const QModelIndex& day) const
 {
-    const auto [title, end] = MonthRows();
-    return CellRect(title, Col()) | CellRect(end, Col());
+    const auto [title, end] = MonthRows(day.row());
+    return CellRect(title, day.column()) | CellRect(end, day.column());
 }
 
 /// Scrolls the month of the current day into sight, the head of the month before its end, and the day before all.
 void CalendarGrid::ShowMonth()
 {
-    const auto [title, end] = MonthRows();
+    const auto [title, end] = MonthRows(Row());
     for (const int row : {end, title, Row()})
         scrollTo(currentIndex().siblingAtRow(row));
 }

@@ -18,7 +18,7 @@ constexpr int kZoomedIconSize = 32;
 constexpr int kToolWidth = 96;
 constexpr int kWordMargin = 20; ///< what a tool has around its word or image
 constexpr int kToolGap = 15;    ///< between tools, the lines between their groups included
-constexpr int kLowWindow = 640; ///< below it the calendar needs the room of the words
+constexpr int kLowWindow = 700; ///< below it the calendar needs the room of the words
 
 void SetLook(QToolButton* image, const char* look)
 {

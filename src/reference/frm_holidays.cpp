@@ -12,7 +12,8 @@ namespace
 {
 constexpr int kHolidayNameLimit = 50;
 constexpr int kHolidaysGap = 12;
-constexpr int kDatesHeight = 300;
+constexpr int kDatesHeight = 120; ///< at least
+constexpr QSize kHolidaysSize(635, 576);
 constexpr int kHolidaysWidth = 480;
 constexpr const char* kDayPattern = "ddd dd-mmm-yyyy";
 
@@ -70,6 +71,7 @@ frmHolidays::frmHolidays(QWidget* parent) : FormBase("frmHolidays", parent)
     Page()->addWidget(NewHoliday(), 1);
     LayFoot({AddWayOut({"E&xit", "&Quitter"}, "cmdQuit"),
              AddMainButton("cmdAdd", {"&Add", "&Ajouter"}, [this] { cmdAdd_Click(); })});
+    SetSize(kHolidaysSize);
     LoadHolidays();
 }
 

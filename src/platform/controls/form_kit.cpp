@@ -247,6 +247,7 @@ void SetMainButton(QPushButton* button, bool main)
 {
     button->setDefault(main);
     SetLook(button, main ? "main" : "");
+    button->updateGeometry(); // it stands last
 }
 
 QSize FittingScreen(const QWidget* window, const QSize& size)
