@@ -179,6 +179,7 @@ QStringList FormBase::Contents() const
     for (const QWidget* control : findChildren<QWidget*>())
         if (const QString name = control->objectName(); !name.isEmpty() && !name.startsWith("qt_"))
             contents << name + '=' + ContentOf(control); // the toolkit's own parts come and go
+    contents.sort(); // a page that comes to the front changes its place among the others
     return contents;
 }
 

@@ -417,6 +417,9 @@ TEST_F(FrmEmployees, ATemplateBringsWorkplaceScheduleAndRightsAndGoesWithoutATra
         user.Presses("cmdAdd", key, Qt::ControlModifier);
         EXPECT_EQ(user.The<frmEmployees>().findChild<QTabWidget*>("sstEmployees")->currentIndex(), tab);
     }
+    Starts("cmdModify", "Davis");
+    OnTab(kProfileTab).Presses("", Qt::Key_Escape);
+    EXPECT_TRUE(user.CanUse("cmdAdd")) << "pages that were looked at are no change";
     StartsAdding(true).Types("txtName", "Gone");
     user.Presses("", Qt::Key_N, Qt::AltModifier).Presses("", Qt::Key_Escape);
     EXPECT_FALSE(user.The<frmEmployees>().isVisible()) << "no key overtakes the letter of Cancel";
