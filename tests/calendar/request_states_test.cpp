@@ -59,7 +59,7 @@ protected:
                 !DailyAttendance(datAbsence, Today()).isEmpty())
                 counting << (approved ? "calendar" : "pending");
         }
-        if (!ConflictingRecords(datAbsence, Today()).isEmpty())
+        if (!ConflictingRecords(datAbsence, Today(), Today()).isEmpty())
             counting << "conflict";
         return counting.join(' ');
     }
