@@ -14,7 +14,7 @@ constexpr QSize kSize(760, 610);
 constexpr int kCommentLimit = 500; // the column holds no more
 
 constexpr Text kActions[] = {{"&Add new attendance record(s)", "&Ajouter nouveaux enregistrements"},
-                             {"&Submit new attendance record(s)", "S&oumettre nouveaux enregistrements"},
+                             {"Su&bmit new attendance record(s)", "S&oumettre nouveaux enregistrements"},
                              {"&Record modifications", "En&registrer modifications"}}; // in the order of AttendanceKind
 constexpr Text kNotInSchedule = {"The employee's schedule does not tell these hours: specify the duration",
                                  "L'horaire de l'employé(e) n'indique pas ces heures: spécifiez la durée"};
@@ -51,7 +51,7 @@ void frmAttendance::BuildControls()
     lblApprovers = AsNotice(WrappedLabel("lblApprovers"));
     Page()->addWidget(lblApprovers);
     lblApprovers->hide();
-    resize(kSize);
+    SetSize(kSize);
 }
 
 void frmAttendance::ConnectControls()
@@ -189,6 +189,7 @@ void frmAttendance::ShowEntry()
     ShowParts();
     general_->lblEmployeeName->setText(entry_.EmployeeName);
     general_->lblBalance->setText(BalanceText(entry_));
+    general_->lblBalance->setVisible(!general_->lblBalance->text().isEmpty());
     ShowClockTime(general_->cboStartTime, entry_.StartTimeText);
     ShowClockTime(general_->cboEndTime, entry_.EndTimeText);
     general_->txtDurationInHours->setText(entry_.HoursText);

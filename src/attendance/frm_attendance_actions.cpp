@@ -125,7 +125,9 @@ void frmAttendance::FocusFieldInError()
 
 void frmAttendance::SetButtonsEnabled(bool enabled)
 {
-    cmdAddOrUpdate->setEnabled(enabled && mayAdd_);
+    EnableOrExplain(cmdAddOrUpdate, enabled && mayAdd_,
+                    {"You may not enter records for this employee",
+                     "Vous ne pouvez faire d'enregistrements pour cet(te) employé(e)"});
     cmdQuit->setEnabled(enabled);
 }
 

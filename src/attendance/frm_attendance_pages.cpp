@@ -10,7 +10,6 @@ constexpr int kMargin = 16;
 constexpr int kGap = 12;
 constexpr int kListHeight = 150;
 constexpr int kShortField = 110;
-constexpr int kEntriesShown = 16;
 constexpr int kOwnEntry = Qt::UserRole + 1; ///< marks a time that stands in the list only while it is shown
 
 /// An entry of the list of employees: the name, and behind it the unit.
@@ -22,13 +21,6 @@ QString NameOf(const QModelIndex& entry)
 QString UnitOf(const QModelIndex& entry)
 {
     return entry.data().toString().section(" / ", 1).trimmed();
-}
-
-QComboBox* MakeList(const QString& name)
-{
-    auto* list = Named<WalkedList>(name);
-    list->setMaxVisibleItems(kEntriesShown);
-    return list;
 }
 } // namespace
 
@@ -70,7 +62,7 @@ QGridLayout* AttendanceGeneralPage::PeopleAndDates()
 
 QGridLayout* AttendanceGeneralPage::Category()
 {
-    cboCategories = MakeList("cboCategories");
+    cboCategories = Named<WalkedList>("cboCategories");
     lblBalance = AsCaption(MakeLabel("lblBalance"));
     auto* grid = new QGridLayout;
     grid->addLayout(Headed({"Why?", "Pourquoi?"}, cboCategories), 0, 0);
@@ -81,9 +73,11 @@ QGridLayout* AttendanceGeneralPage::Category()
 QGridLayout* AttendanceGeneralPage::TimesAndDurations()
 {
     constexpr int kDigits = 2;
-    cboStartTime = MakeList("cboStartTime");
-    cboEndTime = MakeList("cboEndTime");
-    lstMultiplicator = MakeList("lstMultiplicator");
+    cboStartTime = Named<WalkedList>("cboStartTime");
+    cboEndTime = Named<WalkedList>("cboEndTime");
+    for (QComboBox* times : {cboStartTime, cboEndTime})
+        FindTimesByDigits(times);
+    lstMultiplicator = Named<WalkedList>("lstMultiplicator");
     txtDurationInHours = MakeField("txtDurationInHours", KeyFilter::WholeNumber, kDigits);
     txtDurationInMinutes = MakeField("txtDurationInMinutes", KeyFilter::WholeNumber, kDigits);
     txtTotalTime = AsFigure(MakeLabel("txtTotalTime"));

@@ -29,6 +29,7 @@
 #include <QScopeGuard>
 #include <QScreen>
 #include <QTimer>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -146,6 +147,7 @@ void frmMain::ConnectControls()
     };
     header_->Explain([this] { return ExplainTotal(datAbsence); },
                      [this] { return ExplainTimeBank(datAbsence, SessionState); });
+    unsent_->Emptied = [this] { pane_->setFocus(); };
     legend_->CategoryClicked = [this](int category) { SelectCategory(category); };
     pane_->DateClicked = [this](int date) { tools_.DateClicked(date); };
     pane_->Days().TakesRanges = [this] { return tools_.TakesRanges(); };
@@ -187,6 +189,7 @@ void frmMain::LoadCaptions()
 {
     setWindowTitle(Fill(T("Tarvell   Session ID [{LoginID}]", "Tarvell   Identification: [{LoginID}]"),
                         {{"LoginID", SessionState.LoginID}}));
+    QToolTip::hideText();
     Retranslate(this);
 }
 
@@ -343,19 +346,36 @@ void frmMain::DisplayRecords(bool approved)
         SessionState.ShowApproved = approved;
         ReloadCalendar();
     });
+    header_->ShowNames();
     ActivateAllowedControls();
 }
 
 bool frmMain::LogIn(int year, const QString& name)
 {
     const int user = SessionState.UserID;
+    const QString loginID = SessionState.LoginID;
     frmLogin login(year, name, this);
     ShowModal(login);
+    if (SessionState.LoginID != loginID)
+        ForgetUnsentNotices(); // they would go out in the name of somebody else
     return SessionState.UserID != user;
+}
+
+/// Who leaves gives up what could not be sent by mail.
+bool frmMain::MayLeaveUnsent()
+{
+    return UnsentNotices().isEmpty() ||
+           Ask(T("WARNING:", "ATTENTION:"),
+               T("Some e-mails could not be sent, and will not be sent once you leave Tarvell. Leave anyway?",
+                 "Des courriels n'ont pu être envoyés, et ne le seront plus si vous quittez Tarvell. Souhaitez-vous "
+                 "tout-de-même quitter?"),
+               Face::Warning);
 }
 
 void frmMain::cmdQuit_Click()
 {
+    if (!MayLeaveUnsent())
+        return;
     Busy = true;
     KeepPlace();
     SignOffMail();
@@ -363,8 +383,10 @@ void frmMain::cmdQuit_Click()
     EndProgram();
 }
 
-void frmMain::closeEvent(QCloseEvent*)
+/// The program ends, or the window stays.
+void frmMain::closeEvent(QCloseEvent* event)
 {
+    event->ignore();
     cmdQuit_Click();
 }
 

@@ -93,6 +93,7 @@ private:
     /// Asks about requests that are new to the user; Yes opens the form that settles them.
     void AreThereRequestsToApprove();
     void RunMinuteWork();
+    bool MayLeaveUnsent();
 
     void RestorePlace();
     void KeepPlace() const;

@@ -12,11 +12,12 @@
 
 namespace
 {
-constexpr int kFewestDays = 8; ///< in sight at once, each way; the rest scrolls
+constexpr int kFewestDays = 6; ///< in sight at once, each way; the rest scrolls
 constexpr int kRecordsWidth = 560;
 constexpr int kFewestLines = 2;
 constexpr int kMostLines = 9;
-const QPoint kHintOffset(18, 22);
+const QPoint kHintOffset(18, 22); ///< where it begins
+constexpr int kHintGap = 3;       ///< from a month
 } // namespace
 
 CalendarPane::CalendarPane(QWidget* parent) : QWidget(parent)
@@ -146,27 +147,29 @@ void CalendarPane::ShowHint(const QString& hint)
     txtSelect->raise();
 }
 
-void CalendarPane::PlaceHint(const QPoint& pointer)
-{
-    const QPoint wanted = pointer + kHintOffset;
-    txtSelect->move(std::min(wanted.x(), width() - txtSelect->width()),
-                    std::min(wanted.y(), height() - txtSelect->height()));
-}
-
-/// The cursor has come to another day. The hint keeps out of its way.
+/// The cursor has come to another day.
 void CalendarPane::FollowCursor()
 {
     HideRecords();
-    const QRect cell = flxCalendar->CellRect(flxCalendar->Row(), flxCalendar->Col());
-    const QPoint place = flxCalendar->viewport()->mapTo(this, cell.bottomLeft());
-    const bool below = place.y() + kHintOffset.y() + txtSelect->height() < height();
-    PlaceHint(below ? place : place - QPoint(0, cell.height() + txtSelect->height() + 2 * kHintOffset.y()));
+    PlaceHint(flxCalendar->currentIndex());
+}
+
+/// The hint keeps out of the way of the month that is being marked.
+void CalendarPane::PlaceHint(const QModelIndex& day)
+{
+    const QPoint origin = flxCalendar->viewport()->mapTo(this, QPoint());
+    const QRect month = flxCalendar->MonthRect(day).translated(origin);
+    const int below = month.bottom() + kHintGap;
+    const bool fits = below + txtSelect->height() < height();
+    txtSelect->move(std::min(month.left(), width() - txtSelect->width()),
+                    fits ? below : std::max(0, month.top() - txtSelect->height() - kHintGap));
 }
 
 bool CalendarPane::eventFilter(QObject* target, QEvent* event)
 {
     if (event->type() == QEvent::MouseMove && !txtSelect->isHidden())
-        PlaceHint(flxCalendar->viewport()->mapTo(this, static_cast<QMouseEvent*>(event)->pos()));
+        if (const QModelIndex day = flxCalendar->indexAt(static_cast<QMouseEvent*>(event)->pos()); day.isValid())
+            PlaceHint(day);
     return QWidget::eventFilter(target, event);
 }
 

@@ -44,7 +44,7 @@ private:
     void BuildGrid();
     void BuildOverlays();
     void PlaceRecords();
-    void PlaceHint(const QPoint& pointer);
+    void PlaceHint(const QModelIndex& day);
     void FollowCursor();
 
     CalendarGrid* flxCalendar = nullptr;

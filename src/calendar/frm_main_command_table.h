@@ -38,6 +38,11 @@ struct Command
     Text Tip = {};
 };
 
+/// Why what has no part in the command in progress is greyed.
+inline constexpr Text kAnotherInProgress = {
+    "Another command is in progress. Press «Escape» to give a tool up.",
+    "Une autre commande est en cours. Appuyez sur «Échap» pour abandonner un outil."};
+
 /// All of them: those of a place in the order in which they stand there, a menu before its entries.
 const std::vector<Command>& Commands();
 std::vector<const Command*> CommandsIn(Place place);

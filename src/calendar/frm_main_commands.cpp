@@ -98,7 +98,8 @@ void frmMain::mnuHelpKeys_Click()
            "calendar\r\nCtrl+L\tfrançais\r\nCtrl+Q\texit\r\nAlt or F10\tthe menus\r\nF1\tthis list",
            "Flèches\tjour par jour, semaine par semaine\r\nDébut, Fin\tpremier et dernier jour du mois (avec Ctrl : "
            "de l'année)\r\nPage préc., Page suiv.\tmois par mois\r\nEntrée ou Espace\tcomme un clic sur le "
-           "jour\r\nMaj + flèches\tmarquer une suite de jours, pour «Plusieurs dates» et «Demande»\r\nÉchap\tfermer la "
+           "jour\r\nMaj + flèches\tmarquer une suite de jours,\r\n\tpour «Plusieurs dates» et "
+           "«Demande»\r\nÉchap\tfermer la "
            "liste d'un jour, abandonner un outil\r\nCtrl+1 à Ctrl+8\tles outils, de gauche à droite\r\nCtrl+E\temployés"
            "\r\nCtrl+P\timprimer le calendrier\r\nCtrl+L\tEnglish\r\nCtrl+Q\tquitter\r\nAlt ou F10\tles menus\r\nF1"
            "\tcette liste"));

@@ -158,13 +158,40 @@ void CalendarGrid::FitInto(const QSize& room)
         SetRowHeight(row,
                      YearCalendar::IsSpacerRow(row) ? kSpacerHeight : Share(days.height(), kTextRows, text++, lowest));
     EndUpdate();
+    ShowMonth();
 }
 
 void CalendarGrid::GoTo(int date)
 {
     const QPoint place = shown_->PlaceOf(date);
-    if (place.x() >= 0)
-        SelectCell(place.y(), place.x());
+    if (place.x() < 0)
+        return;
+    SelectCell(place.y(), place.x());
+    ShowMonth();
+}
+
+std::pair<int, int> CalendarGrid::MonthRows(int row)
+{
+    int title = row, end = row;
+    while (title > 0 && !YearCalendar::IsTitleRow(title))
+        --title;
+    while (end + 1 < YearCalendar::kRows && !YearCalendar::IsSpacerRow(end + 1))
+        ++end;
+    return {title, end};
+}
+
+QRect CalendarGrid::MonthRect(const QModelIndex& day) const
+{
+    const auto [title, end] = MonthRows(day.row());
+    return CellRect(title, day.column()) | CellRect(end, day.column());
+}
+
+/// Scrolls the month of the current day into sight, the head of the month before its end, and the day before all.
+void CalendarGrid::ShowMonth()
+{
+    const auto [title, end] = MonthRows(Row());
+    for (const int row : {end, title, Row()})
+        scrollTo(currentIndex().siblingAtRow(row));
 }
 
 /// Escape is the window's.
@@ -235,7 +262,7 @@ void CalendarGrid::paintEvent(QPaintEvent* event)
     const auto [first, last] = std::minmax({dragFrom_, dragTo_});
     for (int date = first; date <= last; ++date)
         if (const QPoint place = shown_->PlaceOf(date); place.x() >= 0)
-            painter.drawRect(CellRect(place.y(), place.x()).adjusted(2, 2, -3, -3));
+            painter.drawRect(CellRect(place.y(), place.x()).adjusted(1, 1, -1, -1));
 }
 
 void CalendarGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous)

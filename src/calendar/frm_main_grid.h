@@ -28,6 +28,8 @@ public:
     int DateAt(int row, int col) const { return shown_ ? shown_->StoredDate(row, col) : 0; }
     int CurrentDate() const { return DateAt(Row(), Col()); }
     void GoTo(int date);
+    /// The column of a day, over the height of its month.
+    QRect MonthRect(const QModelIndex& day) const;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -41,6 +43,8 @@ private:
     void BuildCells();
     void ShowCell(int row, int col);
     std::shared_ptr<const FlexNote> NoteOn(int date) const;
+    static std::pair<int, int> MonthRows(int row); ///< of the month of a row: that of the title, and the last
+    void ShowMonth();
     int DateUnder(const QPoint& place) const;
     bool IsDragging() const { return dragFrom_ != 0 && dragTo_ != dragFrom_; }
 

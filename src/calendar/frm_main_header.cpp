@@ -10,6 +10,9 @@
 namespace
 {
 constexpr int kListWidth = 200;
+constexpr int kLeastWidth = 140; ///< of the list, where the name needs room
+constexpr Text kTotalForTheYear = {"Total for the year", "Total pour l'année"};
+constexpr Text kTimeBank = {"Time bank", "Banque de temps"};
 
 /// A figure that is cut with dots, and told whole by its tip, where there is no room for it.
 class ElidedLabel : public QLabel
@@ -47,7 +50,7 @@ MainHeader::MainHeader(QWidget* parent) : QWidget(parent)
     txtTimeBanked = MakeLabel("txtTimeBanked");
     txtTimeOut = WrappedLabel("txtTimeOut");
     txtTimeOut->hide();
-    fraTimeBank = FigureCard("lblTimeBanked", {"Time bank", "Banque de temps"}, txtTimeBanked);
+    fraTimeBank = FigureCard("lblTimeBanked", kTimeBank, txtTimeBanked);
     fraTimeBank->setObjectName("fraTimeBank");
 
     auto* cards = new QHBoxLayout(this);
@@ -55,8 +58,7 @@ MainHeader::MainHeader(QWidget* parent) : QWidget(parent)
     cards->setSpacing(12);
     cards->addWidget(YearCard(), 1);
     cards->addWidget(txtTimeOut);
-    cards->addWidget(
-        FigureCard("lblTotalForTheYear", {"Total for the year", "Total pour l'année"}, lblTotalForTheYear_DISPLAY));
+    cards->addWidget(FigureCard("lblTotalForTheYear", kTotalForTheYear, lblTotalForTheYear_DISPLAY));
     cards->addWidget(fraTimeBank);
 }
 
@@ -68,10 +70,11 @@ QFrame* MainHeader::YearCard()
     grid->setColumnMinimumWidth(3, 16);
     AddYears(grid);
     lblCurrentSelection_DISPLAY = AsFigure(Named<ElidedLabel>("lblCurrentSelection_DISPLAY"));
-    grid->addWidget(AsCaption(MakeLabel("lblCurrentSelection", {"Attendance of", "Absences de"})), 0, 4);
+    lblCurrentSelection = AsCaption(MakeLabel("lblCurrentSelection"));
+    grid->addWidget(lblCurrentSelection, 0, 4);
     grid->addWidget(lblCurrentSelection_DISPLAY, 1, 4);
     cboCategories = Named<WalkedList>("cboCategories");
-    cboCategories->setMinimumWidth(kListWidth);
+    cboCategories->setMinimumWidth(kLeastWidth);
     cboCategories->setMaximumWidth(2 * kListWidth);
     connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);
     grid->addWidget(AsCaption(LabelOf(cboCategories, {"Ca&tegory", "Ca&tégorie"})), 0, 5);
@@ -139,17 +142,21 @@ void MainHeader::cboCategories_Click()
 void MainHeader::ShowNames()
 {
     lblFiscalYear->setText(SessionState.FiscalYearName);
+    lblCurrentSelection->setText(SessionState.ShowApproved ? T("Attendance of", "Absences de")
+                                                           : T("Pending requests of", "Demandes non traitées de"));
     lblCurrentSelection_DISPLAY->setText(SessionState.CurrentSelection);
 }
 
 void MainHeader::ShowTotal(const QString& total)
 {
     lblTotalForTheYear_DISPLAY->setText(total);
+    lblTotalForTheYear_DISPLAY->setAccessibleName(T(kTotalForTheYear) + ": " + total);
 }
 
 void MainHeader::ShowTimeBank(const QString& balance)
 {
     txtTimeBanked->setText(balance);
+    txtTimeBanked->setAccessibleName(T(kTimeBank) + ": " + balance);
     fraTimeBank->setVisible(!balance.isEmpty());
 }
 
@@ -161,10 +168,7 @@ void MainHeader::ShowTimeOut(const QString& announcement)
 
 void MainHeader::Activate(bool active)
 {
-    cboCategories->setEnabled(active);
-    for (const auto& [command, button] : years_) {
-        const Text why = command.Allowed.WhyNot();
-        button->setEnabled(active && why.IsEmpty());
-        button->setToolTip(T(why.IsEmpty() ? command.Tip : why));
-    }
+    EnableOrExplain(cboCategories, active, kAnotherInProgress);
+    for (const auto& [command, button] : years_)
+        EnableUnless(button, active ? command.Allowed.WhyNot() : kAnotherInProgress);
 }

@@ -51,6 +51,7 @@ private:
 
     QLabel* lblFiscalYear;
     std::vector<Year> years_; ///< the way to the previous and to the next one
+    QLabel* lblCurrentSelection; ///< what is shown of whom stands below
     QLabel* lblCurrentSelection_DISPLAY;
     QComboBox* cboCategories;
     QLabel* lblTotalForTheYear_DISPLAY;

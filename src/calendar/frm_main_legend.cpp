@@ -1,10 +1,13 @@
 #include "calendar/frm_main_legend.h"
 
+#include "calendar/frm_main_command_table.h"
 #include "calendar/year_calendar.h"
 #include "foundation/frm_captions.h"
 #include "platform/controls/flex_grid.h"
+#include "platform/controls/theme.h"
 #include "platform/ink.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -13,15 +16,17 @@
 
 namespace
 {
-constexpr int kShiftStep = 160;
-constexpr int kRowHeight = 30;
+constexpr int kRowHeight = 30; ///< at least
 
 /// A label on its colour, its text dark or light, whichever is easier to read there.
 QString LabelStyle(int colorCode)
 {
     const QColor color = ColorOfCode(colorCode);
-    return QStringLiteral("background: %1; color: %2; border: 1px solid %3; border-radius: 3px; padding: 3px 12px;")
-        .arg(color.name(), ReadableInk(Qt::black, color).Fill.name(), color.darker(115).name());
+    return QStringLiteral(".QPushButton, .QLabel { background: %1; color: %2; border: 1px solid %3; border-radius: "
+                          "3px; padding: 3px 12px; }"
+                          ".QPushButton:focus { border: 2px solid %4; padding: 2px 11px; }")
+        .arg(color.name(), ReadableInk(Qt::black, color).Fill.name(), color.darker(115).name(),
+             ThemeColor("head").name());
 }
 
 QLabel* ColorLabel(const QString& name, int colorCode, const Text& text)
@@ -38,7 +43,7 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
     setObjectName("fraLegendCard");
     setProperty("look", "card");
     fraLegend = Named<QFrame>("fraLegend");
-    fraLegend->setFixedHeight(kRowHeight);
+    fraLegend->installEventFilter(this);
     row_ = new QWidget(fraLegend);
     auto* labels = new QHBoxLayout(row_);
     labels->setContentsMargins(0, 0, 0, 0);
@@ -54,8 +59,8 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
     cmdPreviousCategories =
         MakeArrow("cmdPreviousCategories", "shift-left", {"Previous categories", "Catégories précédentes"});
     cmdNextCategories = MakeArrow("cmdNextCategories", "shift-right", {"Next categories", "Catégories suivantes"});
-    connect(cmdPreviousCategories, &QPushButton::clicked, this, [this] { Shift(-1); });
-    connect(cmdNextCategories, &QPushButton::clicked, this, [this] { Shift(1); });
+    connect(cmdPreviousCategories, &QPushButton::clicked, this, &LegendPane::cmdPreviousCategories_Click);
+    connect(cmdNextCategories, &QPushButton::clicked, this, &LegendPane::cmdNextCategories_Click);
 
     auto* all = new QHBoxLayout(this);
     all->setContentsMargins(10, 5, 10, 5);
@@ -71,17 +76,14 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
 void LegendPane::Show(const QVector<LegendItem>& items)
 {
     items_ = items.mid(0, kMostLabels);
-    for (int index = 0; index < kMostLabels; ++index)
-        lblLegend[index]->setVisible(index < items_.size());
     for (int index = 0; index < items_.size(); ++index) {
         const LegendItem& item = items_[index];
         lblLegend[index]->setText(QString(item.Text).replace("&", "&&"));
-        lblLegend[index]->setToolTip(T("Show this category alone", "Afficher cette catégorie seulement"));
+        SetToolTip(lblLegend[index], {"Show this category alone", "Afficher cette catégorie seulement"});
         lblLegend[index]->setStyleSheet(LabelStyle(item.Color > 0 ? item.Color : CalendarColor::NoColor));
     }
-    offset_ = 0;
-    row_->layout()->activate();
-    EnableShifting();
+    first_ = 0;
+    ShowRow();
 }
 
 QString LegendPane::NameOf(int categoryID) const
@@ -93,32 +95,59 @@ QString LegendPane::NameOf(int categoryID) const
 
 void LegendPane::SetUsable(bool usable)
 {
-    row_->setEnabled(usable);
+    for (QPushButton* label : lblLegend)
+        EnableOrExplain(label, usable, kAnotherInProgress);
 }
 
-int LegendPane::RoomBeyond() const
+void LegendPane::cmdPreviousCategories_Click()
 {
-    return std::max(0, row_->sizeHint().width() - fraLegend->width());
+    const int end = first_;
+    while (first_ > 0 && EndOfRow(first_ - 1) >= end)
+        --first_;
+    ShowRow();
 }
 
-void LegendPane::Shift(int direction)
+void LegendPane::cmdNextCategories_Click()
 {
-    offset_ += direction * kShiftStep;
-    EnableShifting();
+    first_ = EndOfRow(first_);
+    ShowRow();
 }
 
-/// The row stays within the frame's edges; a button is enabled only while labels lie beyond its edge.
-void LegendPane::EnableShifting()
+/// Behind the last label that stands whole in a row that begins with `first`; one label always counts.
+int LegendPane::EndOfRow(int first) const
 {
-    offset_ = std::clamp(offset_, 0, RoomBeyond());
-    row_->resize(row_->sizeHint().width(), kRowHeight);
-    row_->move(-offset_, 0);
-    cmdPreviousCategories->setEnabled(offset_ > 0);
-    cmdNextCategories->setEnabled(offset_ < RoomBeyond());
+    int end = first;
+    for (int room = fraLegend->width(); end < items_.size(); ++end) {
+        room -= lblLegend[end]->sizeHint().width();
+        if (room < 0 && end > first)
+            break;
+        room -= row_->layout()->spacing();
+    }
+    return end;
 }
 
-void LegendPane::resizeEvent(QResizeEvent* event)
+/// The last labels never leave room for one before them. A button is enabled only while it leads to more of them.
+void LegendPane::ShowRow()
 {
-    QFrame::resizeEvent(event);
-    EnableShifting();
+    constexpr Text kAtStart = {"The first categories are shown", "Les premières catégories sont affichées"};
+    constexpr Text kAtEnd = {"The last categories are shown", "Les dernières catégories sont affichées"};
+    while (first_ > 0 && EndOfRow(first_ - 1) == items_.size())
+        --first_;
+    const int end = EndOfRow(first_);
+    for (int index = 0; index < kMostLabels; ++index)
+        lblLegend[index]->setVisible(index >= first_ && index < end);
+    row_->layout()->activate();
+    const QSize room = row_->sizeHint().expandedTo({0, kRowHeight});
+    row_->resize(room);
+    fraLegend->setFixedHeight(room.height());
+    EnableOrExplain(cmdPreviousCategories, first_ > 0, kAtStart);
+    EnableOrExplain(cmdNextCategories, end < items_.size(), kAtEnd);
+}
+
+/// The words beside the labels change with the language, and leave them more or less room.
+bool LegendPane::eventFilter(QObject* target, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        ShowRow();
+    return QFrame::eventFilter(target, event);
 }

@@ -10,8 +10,8 @@
 class QHBoxLayout;
 class QPushButton;
 
-/// The legend below the calendar: one label per category in one row, which two buttons shift sideways, and the marks of
-/// the time bank and of several categories.
+/// The legend below the calendar: one label per category, as many as have room in one row, which two buttons turn over,
+/// and the marks of the time bank and of several categories.
 class LegendPane : public QFrame
 {
 public:
@@ -25,20 +25,21 @@ public:
     void SetUsable(bool usable);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* target, QEvent* event) override;
 
 private:
     static constexpr int kMostLabels = 50;
 
-    void Shift(int direction);
-    void EnableShifting();
-    int RoomBeyond() const;
+    void cmdPreviousCategories_Click();
+    void cmdNextCategories_Click();
+    int EndOfRow(int first) const;
+    void ShowRow();
 
-    QFrame* fraLegend = nullptr; ///< the window through which the row of labels is seen
+    QFrame* fraLegend = nullptr; ///< the room of the row of labels
     QWidget* row_ = nullptr;
     std::vector<QPushButton*> lblLegend;
     QVector<LegendItem> items_;
     QPushButton* cmdPreviousCategories = nullptr;
     QPushButton* cmdNextCategories = nullptr;
-    int offset_ = 0; ///< pixels that the row stands shifted to the left
+    int first_ = 0; ///< the first label of the row
 };

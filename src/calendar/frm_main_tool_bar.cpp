@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <QStyle>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -17,7 +18,7 @@ constexpr int kZoomedIconSize = 32;
 constexpr int kToolWidth = 96;
 constexpr int kWordMargin = 20; ///< what a tool has around its word or image
 constexpr int kToolGap = 15;    ///< between tools, the lines between their groups included
-constexpr int kLowWindow = 640; ///< below it the calendar needs the room of the words
+constexpr int kLowWindow = 700; ///< below it the calendar needs the room of the words
 
 void SetLook(QToolButton* image, const char* look)
 {
@@ -37,7 +38,7 @@ QIcon UngreyedIcon(const QString& picture)
     return icon;
 }
 
-void AddGroupLine(QHBoxLayout* row)
+QFrame* AddGroupLine(QHBoxLayout* row)
 {
     auto* line = new QFrame;
     line->setProperty("look", "line");
@@ -45,6 +46,7 @@ void AddGroupLine(QHBoxLayout* row)
     row->addSpacing(8);
     row->addWidget(line);
     row->addSpacing(8);
+    return line;
 }
 } // namespace
 
@@ -54,9 +56,9 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 8, 4);
     for (const Command* command : CommandsIn(Place::ToolBar)) {
-        if (command->AfterLine)
-            AddGroupLine(row);
-        const Tool tool{*command, MakeImage(*command, command->Name), MakeImage(*command, command->Name + "_DISABLED")};
+        QFrame* line = command->AfterLine ? AddGroupLine(row) : nullptr;
+        const Tool tool{*command, MakeImage(*command, command->Name), MakeImage(*command, command->Name + "_DISABLED"),
+                        line};
         tool.Image->installEventFilter(this);
         connect(tool.Image, &QToolButton::clicked, this, [this, command] { Chosen(*command); });
         AddShortcut(tool);
@@ -76,13 +78,16 @@ ToolBar::ToolBar(QWidget* parent) : QFrame(parent)
     connect(imgZoom, &QToolButton::clicked, this, [this] { Chosen(*hovered_); });
 }
 
-/// The key of a tool that may not be used does nothing.
+/// The key of a tool that may not be used tells why.
 void ToolBar::AddShortcut(const Tool& tool)
 {
     auto* shortcut = new QShortcut(tool.Of.Shortcut, this);
     connect(shortcut, &QShortcut::activated, this, [this, tool] {
         if (tool.Image->isVisible())
             Chosen(tool.Of);
+        else if (tool.Disabled->isVisible())
+            QToolTip::showText(tool.Disabled->mapToGlobal(tool.Disabled->rect().bottomLeft()), tool.Disabled->toolTip(),
+                               tool.Disabled);
     });
 }
 
@@ -102,16 +107,34 @@ void ToolBar::ActivateAllowed()
 {
     for (const Tool& tool : tools_)
         SetTool(tool, tool.Of.Allowed.Holds(), false, tool.Of.Allowed.WhyNot());
+    PartGroups();
+}
+
+/// A line stands only between tools that are seen.
+void ToolBar::PartGroups()
+{
+    QFrame* line = nullptr;
+    bool seen = false;
+    for (const Tool& tool : tools_) {
+        if (tool.Line) {
+            tool.Line->hide();
+            line = tool.Line;
+        }
+        if (!tool.Of.Shown.Holds())
+            continue;
+        if (line)
+            line->setVisible(seen);
+        line = nullptr;
+        seen = true;
+    }
 }
 
 void ToolBar::Deactivate(const QString& toolInUse, bool usable)
 {
-    constexpr Text kWait = {"Another command is in progress. Press «Escape» to give a tool up.",
-                            "Une autre commande est en cours. Appuyez sur «Échap» pour abandonner un outil."};
     imgZoom->hide();
     for (const Tool& tool : tools_) {
         const bool inUse = tool.Of.Name == toolInUse;
-        SetTool(tool, inUse && usable, inUse, inUse ? tool.Of.Tip : kWait);
+        SetTool(tool, inUse && usable, inUse, inUse ? tool.Of.Tip : kAnotherInProgress);
     }
 }
 
@@ -124,27 +147,33 @@ bool ToolBar::Shows(const char* name) const
 void ToolBar::SetTool(const Tool& tool, bool enabled, bool inUse, const Text& why)
 {
     const bool shown = tool.Of.Shown.Holds();
-    const QString tip = T(tool.Of.Tip) + "   " + tool.Of.Shortcut.toString(QKeySequence::NativeText);
+    const QString waiting = tool.Waiting == 0 ? QString() : QStringLiteral(" (%1)").arg(tool.Waiting);
+    const QString tip = T(tool.Of.Tip) + waiting + "   " + tool.Of.Shortcut.toString(QKeySequence::NativeText);
     tool.Image->setToolTip(tip);
     tool.Disabled->setToolTip(why.IsEmpty() || inUse ? tip : tip + "\n" + T(why));
     for (QToolButton* image : {tool.Image, tool.Disabled}) {
         SetLook(image, inUse ? "active" : "");
-        image->setText(WordOf(tool.Of));
+        image->setText(WordOf(tool));
     }
     tool.Disabled->setIcon(inUse ? UngreyedIcon(tool.Of.Picture) : PictureIcon(tool.Of.Picture));
     tool.Image->setVisible(shown && enabled);
     tool.Disabled->setVisible(shown && !enabled);
 }
 
-void ToolBar::ShowWaiting(const QString& tool, int count)
+void ToolBar::ShowWaiting(const char* name, int count)
 {
-    waiting_[tool] = count;
+    for (Tool& tool : tools_)
+        if (tool.Of.Name == QLatin1String(name)) {
+            tool.Waiting = count;
+            tool.Image->setText(WordOf(tool));
+            tool.Disabled->setText(WordOf(tool));
+        }
+    FitWords();
 }
 
-QString ToolBar::WordOf(const Command& command) const
+QString ToolBar::WordOf(const Tool& tool)
 {
-    const int count = waiting_.value(command.Name);
-    return T(command.Caption) + (count == 0 ? QString() : QStringLiteral(" (%1)").arg(count));
+    return T(tool.Of.Caption) + (tool.Waiting == 0 ? QString() : QStringLiteral(" (%1)").arg(tool.Waiting));
 }
 
 void ToolBar::ShowWords(bool shown)
@@ -161,7 +190,7 @@ int ToolBar::WidthWithWords() const
 {
     int width = 0;
     for (const Tool& tool : tools_)
-        width += std::max(kToolWidth, fontMetrics().horizontalAdvance(WordOf(tool.Of)) + kWordMargin) + kToolGap;
+        width += std::max(kToolWidth, fontMetrics().horizontalAdvance(WordOf(tool)) + kWordMargin) + kToolGap;
     return width;
 }
 
@@ -173,6 +202,11 @@ QSize ToolBar::minimumSizeHint() const
 void ToolBar::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
+    FitWords();
+}
+
+void ToolBar::FitWords()
+{
     ShowWords(width() >= WidthWithWords() && window()->height() >= kLowWindow);
 }
 

@@ -3,7 +3,6 @@
 #include "calendar/frm_main_command_table.h"
 
 #include <QFrame>
-#include <QHash>
 
 class QToolButton;
 
@@ -21,7 +20,7 @@ public:
     /// Disables all tools. The one in use looks so, and stays usable where a second click ends it; "" for none.
     void Deactivate(const QString& toolInUse, bool usable);
     /// So many things wait behind a tool: they stand behind its word; 0 for none.
-    void ShowWaiting(const QString& tool, int count);
+    void ShowWaiting(const char* tool, int count);
     /// The tool can be seen and used.
     bool Shows(const char* name) const;
 
@@ -39,18 +38,21 @@ private:
         const Command& Of;
         QToolButton* Image;
         QToolButton* Disabled;
+        QFrame* Line;    ///< parts it from the tools before it; null for none
+        int Waiting = 0; ///< so many things wait behind it
     };
 
     void AddShortcut(const Tool& tool);
     static QToolButton* MakeImage(const Command& command, const QString& name);
-    void SetTool(const Tool& tool, bool enabled, bool inUse, const Text& why);
-    QString WordOf(const Command& command) const;
+    static void SetTool(const Tool& tool, bool enabled, bool inUse, const Text& why);
+    static QString WordOf(const Tool& tool);
+    void FitWords();
+    void PartGroups();
     void ShowZoom(const Tool& tool);
     void ShowWords(bool shown);
     int WidthWithWords() const;
 
     std::vector<Tool> tools_;
-    QHash<QString, int> waiting_;      ///< by the tool's name
     const Command* hovered_ = nullptr; ///< the tool under imgZoom
     QToolButton* imgZoom = nullptr;
 };

@@ -10,26 +10,26 @@ namespace
 /// Whom the message that failed last was for, and how many there are.
 QString UnsentText()
 {
-    const QVector<Notice>& unsent = UnsentNotices();
+    const QVector<UnsentNotice>& unsent = UnsentNotices();
     if (unsent.isEmpty())
         return {};
-    constexpr Text kOne = {"An e-mail to {address} could not be sent.",
-                           "Un courriel destiné à {address} n'a pu être envoyé."};
-    constexpr Text kSeveral = {"{count} e-mails could not be sent, the last one to {address}.",
-                               "{count} courriels n'ont pu être envoyés, le dernier à {address}."};
-    return T(unsent.size() == 1 ? kOne : kSeveral,
-             {{"count", QString::number(unsent.size())}, {"address", unsent.last().Address.simplified()}});
+    constexpr Text kOne = {"An e-mail to {address} could not be sent ({reason}).",
+                           "Un courriel destiné à {address} n'a pu être envoyé ({reason})."};
+    constexpr Text kSeveral = {"{count} e-mails could not be sent, the last one to {address} ({reason}).",
+                               "{count} courriels n'ont pu être envoyés, le dernier à {address} ({reason})."};
+    return T(unsent.size() == 1 ? kOne : kSeveral, {{"count", QString::number(unsent.size())},
+                                                    {"address", unsent.last().Message.Address.simplified()},
+                                                    {"reason", unsent.last().Reason.simplified()}});
 }
 } // namespace
 
 UnsentLine::UnsentLine(QWidget* parent) : QFrame(parent), lblUnsent(AsNotice(WrappedLabel("lblUnsent")))
 {
     setObjectName("fraUnsent");
-    auto* cmdSendAgain = MakeButton("cmdSendAgain", {"&Send again", "&Envoyer de nouveau"});
+    auto* cmdSendAgain = MakeButton("cmdSendAgain", {"Send a&gain", "En&voyer de nouveau"});
     auto* cmdForget = MakeButton("cmdForget", {"Do &not send", "&Ne pas envoyer"});
     connect(cmdSendAgain, &QPushButton::clicked, this, &UnsentLine::cmdSendAgain_Click);
     connect(cmdForget, &QPushButton::clicked, this, &UnsentLine::cmdForget_Click);
-    lblUnsent->setTextFormat(Qt::PlainText);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(lblUnsent, 1);
@@ -40,8 +40,12 @@ UnsentLine::UnsentLine(QWidget* parent) : QFrame(parent), lblUnsent(AsNotice(Wra
 
 void UnsentLine::Refresh()
 {
-    lblUnsent->setText(UnsentText());
-    setVisible(!lblUnsent->text().isEmpty());
+    const QString text = UnsentText();
+    const bool hadFocus = isAncestorOf(focusWidget());
+    lblUnsent->setText(text);
+    setVisible(!text.isEmpty());
+    if (hadFocus && text.isEmpty())
+        Emptied();
 }
 
 void UnsentLine::cmdSendAgain_Click()

@@ -2,6 +2,8 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QLabel;
 
 /// A line in the main window about the notices that could not be sent by mail; without any it is not there.
@@ -9,6 +11,8 @@ class UnsentLine : public QFrame
 {
 public:
     explicit UnsentLine(QWidget* parent = nullptr);
+
+    std::function<void()> Emptied; ///< nothing is left, and the focus that stood in the line needs another place
 
     /// Says what has not been sent by now.
     void Refresh();

@@ -59,7 +59,10 @@ void MinuteWork::Run(Phase phase)
 {
     for (const Step& step : kSteps) {
         const Work* work = step.When == phase && step.IsDue() ? DueWork(step.Name) : nullptr;
-        if (work && work->Do() && step.OncePerSession)
-            done_.insert(step.Name);
+        if (!work)
+            continue;
+        done_.insert(step.Name); // also when it fails: it would fail anew each minute
+        if (!work->Do() || !step.OncePerSession)
+            done_.remove(step.Name);
     }
 }

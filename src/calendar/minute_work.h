@@ -31,7 +31,8 @@ public:
     }
     /// A step of the phase has something to look at now.
     bool IsDue(Phase phase) const;
-    /// Runs the steps of a phase that are due now; once-per-session steps are done a single time.
+    /// Runs the steps of a phase that are due now; once-per-session steps are done a single time. What fails is not
+    /// tried again in this session. Throws what the work throws.
     void Run(Phase phase);
 
 private:

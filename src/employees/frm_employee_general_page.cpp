@@ -193,12 +193,12 @@ void EmployeeGeneralPage::Read(EmployeeRecord& record) const
         *entry = {date.Year->currentText(), date.Month->currentText(), date.Day->currentText()};
 }
 
-void EmployeeGeneralPage::SetEntryEnabled(bool enabled)
+void EmployeeGeneralPage::EnableEntry(const Text& whyNot)
 {
     for (const auto& field : fields_)
-        field.first->setEnabled(enabled);
-    txtComment->setEnabled(enabled);
+        EnableUnless(field.first, whyNot);
+    EnableUnless(txtComment, whyNot);
     for (const DateCombos& date : {birth_, hire_})
         for (QComboBox* part : {date.Year, date.Month, date.Day})
-            part->setEnabled(enabled);
+            EnableUnless(part, whyNot);
 }

@@ -19,7 +19,8 @@ public:
     /// Shows the fields of a record, and its units.
     void Show(const EmployeeRecord& record);
     void Read(EmployeeRecord& record) const;
-    void SetEntryEnabled(bool enabled);
+    /// `whyNot` is empty while the page takes entries.
+    void EnableEntry(const Text& whyNot);
 
     QLineEdit* txtName = nullptr;
     std::array<ChoiceList*, 3> lstUnits{}; ///< lstOrganizations, lstDepartments, lstGroups

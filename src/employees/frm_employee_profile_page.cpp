@@ -153,13 +153,13 @@ void EmployeeProfilePage::Read(EmployeeRecord& record) const
     record.NewPassword = txtPassword->text();
 }
 
-void EmployeeProfilePage::SetEntryEnabled(bool enabled)
+void EmployeeProfilePage::EnableEntry(const Text& whyNot)
 {
     for (QLineEdit* field : {txtUserName, txtPassword})
-        field->setEnabled(enabled);
+        EnableUnless(field, whyNot);
     for (const ApproverField& field : approvers_) {
-        field.List->setEnabled(enabled);
-        field.FromList->setEnabled(enabled);
+        EnableUnless(field.List, whyNot);
+        EnableUnless(field.FromList, whyNot);
     }
 }
 

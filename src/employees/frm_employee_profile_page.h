@@ -17,7 +17,8 @@ public:
     /// Shows the log-in; the password of the row is not shown.
     void Show(const EmployeeRecord& record);
     void Read(EmployeeRecord& record) const;
-    void SetEntryEnabled(bool enabled);
+    /// `whyNot` is empty while the page takes entries.
+    void EnableEntry(const Text& whyNot);
 
     /// Both lists offer those who may approve for the record's unit, and show its approvers. One whom the unit does not
     /// offer is shown only when he is looked for `wherever` he works.

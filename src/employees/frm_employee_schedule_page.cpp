@@ -12,7 +12,7 @@ namespace
 constexpr int kDays = 7;
 constexpr int kTotalWidth = 70;
 constexpr int kTimeCharacters = 6;
-constexpr int kGroupGap = 28; ///< between the halves of the day and the total
+constexpr int kGroupGap = 12; ///< between the halves of the day and the total
 constexpr int kRowGap = 10;
 
 /// The raster of the week: the weekday, two halves and the total, with a gap before each.
@@ -30,6 +30,8 @@ constexpr WeekColumn kTimeColumns[] = {{2, {"Start time", "Heure de début"}, kF
                                        {5, {"Start time", "Heure de début"}, kSecondHalf},
                                        {6, {"End time", "Heure de fin"}, kSecondHalf}};
 constexpr WeekColumn kTotalColumns[] = {{8, {"Hours", "Heures"}, kTotal}, {9, {"Minutes", "Minutes"}, kTotal}};
+constexpr Text kPassedThrough = {"Copied as you passed through: pick another time, or clear this one with Delete",
+                                 "Copiée au passage: choisissez une autre heure, ou effacez celle-ci avec Suppr"};
 constexpr int kClearColumn = 11;
 constexpr int kFirstDayRow = 2;
 constexpr int kMonday = 1;
@@ -221,17 +223,17 @@ void EmployeeSchedulePage::ShowDay(int day)
     ShowText(txtTotalMinutes[day], record_.TotalMinutes[day]);
 }
 
-void EmployeeSchedulePage::SetEntryEnabled(bool enabled)
+void EmployeeSchedulePage::EnableEntry(const Text& whyNot)
 {
     for (int day = 0; day < kDays; ++day) {
         for (const auto& lists : cboTimes)
-            lists[day]->setEnabled(enabled);
-        txtTotalHours[day]->setEnabled(enabled);
-        txtTotalMinutes[day]->setEnabled(enabled);
-        cmdClearDay[day]->setEnabled(enabled);
+            EnableUnless(lists[day], whyNot);
+        EnableUnless(txtTotalHours[day], whyNot);
+        EnableUnless(txtTotalMinutes[day], whyNot);
+        EnableUnless(cmdClearDay[day], whyNot);
     }
-    cmdCopyMonday->setEnabled(enabled);
-    chkIrregularHours->setEnabled(enabled);
+    EnableUnless(cmdCopyMonday, whyNot);
+    EnableUnless(chkIrregularHours, whyNot);
 }
 
 void EmployeeSchedulePage::Time_Click(ClockTime time, int day)
@@ -282,9 +284,7 @@ void EmployeeSchedulePage::MarkCopied(ClockTime time, int day, bool copied)
 {
     QComboBox* list = TimeList(time, day);
     SetLook(list, copied ? "copied" : "");
-    list->setToolTip(copied ? T("Copied as you passed through: pick another time, or clear this one with Delete",
-                                "Copiée au passage: choisissez une autre heure, ou effacez celle-ci avec Suppr")
-                            : QString());
+    SetToolTip(list, copied ? kPassedThrough : Text());
 }
 
 void EmployeeSchedulePage::ForgetCopied(int day)

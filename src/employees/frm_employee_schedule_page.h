@@ -13,7 +13,8 @@ public:
     EmployeeSchedulePage(EmployeeRecord& record, bool& loading);
 
     void Show();
-    void SetEntryEnabled(bool enabled);
+    /// `whyNot` is empty while the page takes entries.
+    void EnableEntry(const Text& whyNot);
     /// Takes in the total that has the focus, if one has, before `button` does its work. False when it was refused,
     /// also by the press that has just moved the focus to the button: it is blank and keeps the focus.
     bool LeaveFocusedTotalFor(const QWidget* button);

@@ -25,6 +25,10 @@ constexpr QSize kSize(1040, 638);
 constexpr int kYearWidth = 150;
 constexpr int kModulesTab = 3;
 
+constexpr Text kByTransfer = {"«Transfer» moves an employee to another unit",
+                              "«Transférer» déplace un(e) employé(e) vers une autre unité"};
+constexpr Text kOwnUnit = {"You add employees to your own unit",
+                           "Vous ajoutez des employé(e)s dans votre propre unité"};
 constexpr Text kNoOrganization = {"Before you can update your list of employees you must first set up at least one "
                                   "organization in fiscal year {FiscalYearName}!",
                                   "Avant de pouvoir mettre à jour votre liste d'employé(e)s vous devez d'abord créer "
@@ -192,16 +196,17 @@ void frmEmployees::SelectStartingUnits()
 
 void frmEmployees::EnableControls()
 {
-    const bool entering = Mode() == EditingMode::Adding || (Mode() == EditingMode::Modifying && HasRecord());
-    general_->SetEntryEnabled(entering);
-    schedule_->SetEntryEnabled(entering);
-    profile_->SetEntryEnabled(entering);
-    boxes_.SetEnabled(entering, Mode() == EditingMode::Modifying);
+    const Text whyNot = WhyNoEntry();
+    general_->EnableEntry(whyNot);
+    schedule_->EnableEntry(whyNot);
+    profile_->EnableEntry(whyNot);
+    boxes_.EnableEntry(whyNot, Mode() == EditingMode::Modifying);
     // A new employee may stand in any unit below the user's own.
-    bool below = Mode() == EditingMode::Adding;
+    Text whyHere = whyNot.IsEmpty() && Mode() == EditingMode::Modifying ? kByTransfer : whyNot;
     for (std::size_t list = kUnitLists.size(); list-- > 0;) {
-        below = below && kLevelTable[list + 1].Unit() == 0;
-        general_->lstUnits[list]->setEnabled(below);
+        if (whyHere.IsEmpty() && kLevelTable[list + 1].Unit() != 0)
+            whyHere = kOwnUnit;
+        EnableUnless(general_->lstUnits[list], whyHere);
     }
 }
 

@@ -15,10 +15,9 @@ void RightBoxes::Show(const SecurityProfile& profile)
         box.Control->setChecked(profile.*box.Member == 1);
 }
 
-void RightBoxes::SetEnabled(bool enabled, bool modifying)
+void RightBoxes::EnableEntry(const Text& whyNot, bool modifying)
 {
+    constexpr Text kNotGranted = {"You cannot grant this right", "Vous ne pouvez accorder ce droit"};
     for (const Box& box : boxes_)
-        EnableOrExplain(box.Control, enabled && MayTick(box.Member, modifying),
-                        enabled ? Text{"You cannot grant this right", "Vous ne pouvez accorder ce droit"}
-                                : Text{"Press Add or Modify first", "Appuyez d'abord sur Ajouter ou Modifier"});
+        EnableUnless(box.Control, whyNot.IsEmpty() && !MayTick(box.Member, modifying) ? kNotGranted : whyNot);
 }

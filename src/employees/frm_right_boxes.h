@@ -17,8 +17,8 @@ public:
     QCheckBox* Make(const ProfileBox& box, const Text& caption = {});
     /// Shows what is granted; nothing is reported.
     void Show(const SecurityProfile& profile);
-    /// Enables the boxes that the user may tick, or none.
-    void SetEnabled(bool enabled, bool modifying);
+    /// Enables the boxes that the user may tick, or none while there is a reason why not.
+    void EnableEntry(const Text& whyNot, bool modifying);
 
 private:
     struct Box

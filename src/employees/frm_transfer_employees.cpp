@@ -47,6 +47,7 @@ std::size_t Index(UnitList list)
 frmTransferEmployees::frmTransferEmployees(QWidget* parent) : FormBase("frmTransferEmployees", parent)
 {
     SetTitle(this, {"Employee transfers", "Transfert d'employé(e)s"});
+    AskBeforeLosing();
     auto* sides = Beside(12);
     sides->addWidget(FromCard(), 2);
     sides->addWidget(ToCard(), 1);
@@ -207,4 +208,5 @@ void frmTransferEmployees::cmdProcess_Click()
     Tell(T("OPERATION COMPLETED:", "OPÉRATION COMPLÉTÉE:"),
          T("The selected employee has been transferred.", "L'employé(e) sélectionné(e) a été transféré(e)."));
     LoadListBoxes();
+    KeepContents();
 }

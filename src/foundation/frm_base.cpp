@@ -5,7 +5,9 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShowEvent>
+#include <QTabWidget>
 #include <QTimer>
 
 #include <utility>
@@ -60,7 +62,10 @@ FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbse
 
 QSize FormBase::sizeHint() const
 {
-    return FittingScreen(this, size_.isValid() ? size_ : QDialog::sizeHint());
+    QSize wanted = size_.isValid() ? size_ : QDialog::sizeHint();
+    if (FittingScreen(this, wanted).height() < wanted.height()) // the bar takes its room beside the page
+        wanted.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
+    return FittingScreen(this, wanted);
 }
 
 QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)
@@ -98,7 +103,19 @@ void FormBase::OrderTabs()
         setTabOrder(foot[i - 1], foot[i]);
 }
 
-/// A form with nothing behind it, such as the log-in.
+/// Only what is shown knows how its lines wrap: what a page lacks then is added, as far as the screen has room.
+void FormBase::GrowToPage()
+{
+    QSize lacking(0, 0);
+    for (const auto* area : findChildren<QScrollArea*>())
+        if (area->isVisible())
+            lacking =
+                lacking.expandedTo({area->horizontalScrollBar()->maximum(), area->verticalScrollBar()->maximum()});
+    if (lacking != QSize(0, 0))
+        resize(FittingScreen(this, size() + lacking));
+}
+
+/// A form with nothing behind it but, perhaps, the program's sign.
 void FormBase::CentreOnScreen()
 {
     QRect frame(QPoint(), size());
@@ -145,9 +162,10 @@ void FormBase::showEvent(QShowEvent* event)
         OrderTabs();
         if (!testAttribute(Qt::WA_Resized))
             resize(sizeHint());
-        if (!parentWidget() && !testAttribute(Qt::WA_Moved))
+        if ((!parentWidget() || parentWidget()->windowType() == Qt::SplashScreen) && !testAttribute(Qt::WA_Moved))
             CentreOnScreen();
         QTimer::singleShot(0, this, [this] {
+            GrowToPage();
             Form_Activate();
             KeepContents();
         });
@@ -159,7 +177,8 @@ QStringList FormBase::Contents() const
 {
     QStringList contents;
     for (const QWidget* control : findChildren<QWidget*>())
-        contents << ContentOf(control);
+        if (const QString name = control->objectName(); !name.isEmpty() && !name.startsWith("qt_"))
+            contents << name + '=' + ContentOf(control); // the toolkit's own parts come and go
     return contents;
 }
 
@@ -176,8 +195,21 @@ void FormBase::closeEvent(QCloseEvent* event)
         event->ignore();
 }
 
+/// The tabs turn with Ctrl+Tab wherever the focus is, also at the foot.
+bool FormBase::TurnTab(const QKeyEvent* event)
+{
+    auto* tabs = findChild<QTabWidget*>();
+    const bool forth = event->key() == Qt::Key_Tab;
+    if (!tabs || !event->modifiers().testFlag(Qt::ControlModifier) || !(forth || event->key() == Qt::Key_Backtab))
+        return false;
+    tabs->setCurrentIndex((tabs->currentIndex() + (forth ? 1 : tabs->count() - 1)) % tabs->count());
+    return true;
+}
+
 void FormBase::keyPressEvent(QKeyEvent* event)
 {
+    if (TurnTab(event))
+        return;
     if (!event->matches(QKeySequence::Cancel) || MayBeLeft())
         QDialog::keyPressEvent(event);
 }

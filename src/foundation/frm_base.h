@@ -63,7 +63,9 @@ protected:
 private:
     QStringList Contents() const;
     void OrderTabs();
+    bool TurnTab(const QKeyEvent* event);
     void CentreOnScreen();
+    void GrowToPage();
 
     QScrollArea* scroll_ = nullptr;
     QVBoxLayout* page_ = nullptr;

@@ -1,5 +1,6 @@
 #include "foundation/frm_captions.h"
 
+#include <QPainter>
 #include <QTabWidget>
 
 namespace
@@ -15,8 +16,26 @@ public:
     const std::function<void()> Show;
 };
 
+/// What the tip of a control says: why it is greyed, or else what it is for.
+class ControlTip : public LanguageFollower
+{
+public:
+    explicit ControlTip(QWidget* control)
+        : LanguageFollower(control, [this, control] { control->setToolTip(T(Why.IsEmpty() ? Own : Why)); })
+    {}
+
+    Text Own, Why;
+};
+
+ControlTip& TipOf(QWidget* control)
+{
+    for (QObject* child : control->children())
+        if (auto* tip = dynamic_cast<ControlTip*>(child))
+            return *tip;
+    return *new ControlTip(control);
+}
+
 constexpr char kRequired[] = "required";
-constexpr char kOwnTip[] = "ownTip";
 
 bool IsMissing(const QWidget* control)
 {
@@ -26,6 +45,41 @@ bool IsMissing(const QWidget* control)
         return list->selectedItems().isEmpty();
     return control->property("text").toString().trimmed().isEmpty();
 }
+
+/// Its picture is the one for the colours in force.
+class ArrowButton : public QPushButton
+{
+public:
+    explicit ArrowButton(const QString& picture) : picture_(picture) { ShowPicture(); }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::StyleChange)
+            ShowPicture();
+        QPushButton::changeEvent(event);
+    }
+
+private:
+    /// The toolkit's own grey is nearly as dark as the arrow.
+    void ShowPicture()
+    {
+        constexpr double kFaint = 0.3;
+        QIcon icon = PictureIcon(picture_);
+        const QPixmap full = icon.pixmap(iconSize(), devicePixelRatio());
+        QPixmap faint(full.size());
+        faint.setDevicePixelRatio(full.devicePixelRatio());
+        faint.fill(Qt::transparent);
+        QPainter painter(&faint);
+        painter.setOpacity(kFaint);
+        painter.drawPixmap(0, 0, full);
+        painter.end();
+        icon.addPixmap(faint, QIcon::Disabled);
+        setIcon(icon);
+    }
+
+    const QString picture_;
+};
 
 QString WithoutMnemonic(QString text)
 {
@@ -65,15 +119,22 @@ void SetPlaceholder(QComboBox* list, const Text& text)
 
 void SetToolTip(QWidget* control, const Text& text)
 {
-    FollowLanguage(control, [=] { control->setToolTip(T(text)); });
+    ControlTip& tip = TipOf(control);
+    tip.Own = text;
+    tip.Show();
 }
 
 void EnableOrExplain(QWidget* control, bool enabled, const Text& reason)
 {
-    if (control->property(kOwnTip).isNull())
-        control->setProperty(kOwnTip, control->toolTip());
+    ControlTip& tip = TipOf(control);
+    tip.Why = enabled ? Text() : reason;
+    tip.Show();
     control->setEnabled(enabled);
-    control->setToolTip(enabled ? control->property(kOwnTip).toString() : T(reason));
+}
+
+void EnableUnless(QWidget* control, const Text& reason)
+{
+    EnableOrExplain(control, reason.IsEmpty(), reason);
 }
 
 void Require(QWidget* control)
@@ -127,9 +188,8 @@ QLabel* WrappedLabel(const QString& name, const Text& text)
 
 QPushButton* MakeArrow(const QString& name, const QString& picture, const Text& tip)
 {
-    auto* button = Named<QPushButton>(name);
+    auto* button = Named<ArrowButton>(name, picture);
     button->setProperty("look", "arrow");
-    button->setIcon(PictureIcon(picture));
     SetToolTip(button, tip);
     SetAccessibleName(button, tip);
     return button;

@@ -27,10 +27,13 @@ void SetCaption(Control* control, const Text& text)
 }
 void SetTitle(QWidget* window, const Text& text);
 void SetPlaceholder(QComboBox* list, const Text& text);
+/// What a control is for; an empty text takes the tip away.
 void SetToolTip(QWidget* control, const Text& text);
 void SetAccessibleName(QWidget* control, const Text& text);
 /// Enables a control, or greys it and tells the reason in its tip; its own tip comes back with it.
 void EnableOrExplain(QWidget* control, bool enabled, const Text& reason);
+/// The same by the reason alone: there is none while the control can be used.
+void EnableUnless(QWidget* control, const Text& reason);
 /// A field or a list without which its form does not save: it is marked, and says so while it is empty.
 void Require(QWidget* control);
 /// Shows which of the required controls of a form are still empty; each stops showing it as soon as it is filled.

@@ -35,10 +35,10 @@ frmChangePassword::frmChangePassword(QWidget* parent) : FormBase("frmChangePassw
     QPushButton* cmdAccept = AddMainButton("cmdAccept", {"&Accept", "&Accepter"}, [this] { cmdAccept_Click(); });
     LayFoot({AddWayOut({"&Cancel", "Annu&ler"}), cmdAccept});
 
+    for (QLineEdit* field : {txtNewPassword, txtRepeatedPassword})
+        Require(field); // before it is polished
     for (QLineEdit* field : {txtOldPassword, txtNewPassword, txtRepeatedPassword})
         ShowStars(field);
-    for (QLineEdit* field : {txtNewPassword, txtRepeatedPassword})
-        Require(field);
     // Nobody can log in with an empty password by accident: there must be a new one.
     const auto enable = [cmdAccept](const QString& text) {
         EnableOrExplain(cmdAccept, !text.isEmpty(),

@@ -7,6 +7,8 @@ constexpr Text kModify = {"&Modify", "&Modifier"};
 constexpr Text kDeactivate = {"&Deactivate", "&Désactiver"};
 constexpr Text kNothingToCancel = {"No operation has been started", "Aucune opération n'est en cours"};
 constexpr Text kInMode = {"Complete or cancel the operation first", "Complétez ou annulez d'abord l'opération"};
+constexpr Text kPressFirst = {"Press Add or Modify first", "Appuyez d'abord sur Ajouter ou Modifier"};
+constexpr Text kAsItStands = {"A record is deactivated as it stands", "Un enregistrement est désactivé tel quel"};
 constexpr Text kNoRecord = {"Choose a record first", "Choisissez d'abord un enregistrement"};
 } // namespace
 
@@ -61,6 +63,20 @@ void TwoPressForm::ShowButton(QPushButton* button, EditingMode its, const Text& 
     EnableOrExplain(button, IsIdle() || usable, mode_ == its ? kNoRecord : kInMode);
     button->setText(T(saves ? save_ : caption));
     SetMainButton(button, IsIdle() ? button == cmdAdd : mode_ == its);
+}
+
+Text TwoPressForm::WhyNoEntry() const
+{
+    if (mode_ == EditingMode::Modifying)
+        return HasRecord() ? Text() : kNoRecord;
+    if (mode_ == EditingMode::Adding)
+        return {};
+    return IsIdle() ? kPressFirst : kAsItStands;
+}
+
+Text TwoPressForm::WhyNoChoice() const
+{
+    return WhyNoEntry().IsEmpty() ? kInMode : Text();
 }
 
 void TwoPressForm::cmdCancelOperation_Click()

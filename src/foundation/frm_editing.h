@@ -44,6 +44,10 @@ protected:
     virtual void ResetVariables() = 0;
     /// A record is chosen: the mode that works on one can be finished.
     virtual bool HasRecord() const = 0;
+    /// Why the fields take no entry now; empty while they do.
+    Text WhyNoEntry() const;
+    /// Why no other record can be chosen now; empty while one can.
+    Text WhyNoChoice() const;
     /// Enables fields and lists as the mode asks.
     virtual void EnableControls() = 0;
 

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QToolTip>
@@ -16,16 +17,20 @@ namespace
 /// A line each, the figures in front and one below the other.
 QString TextOf(const BalanceLines& lines, float hoursPerDay)
 {
-    const QChar kRoomOfDigit(0x2007);
+    const QFontMetricsF metrics(QToolTip::font());
     QStringList figures;
-    qsizetype width = 0;
+    qreal width = 0;
     for (const BalanceLine& line : lines) {
         figures << DurationText(line.Hours, line.Hours != 0 ? hoursPerDay : 0);
-        width = std::max(width, figures.last().size());
+        width = std::max(width, metrics.horizontalAdvance(figures.last()));
     }
+    const QString hair(QChar(0x200A)); // of all blanks the narrowest: letters are not as wide as digits
     QStringList texts;
-    for (std::size_t i = 0; i < lines.size(); ++i)
-        texts << figures[static_cast<int>(i)].rightJustified(width, kRoomOfDigit) + "  " + T(lines[i].Caption);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const QString& figure = figures[static_cast<int>(i)];
+        const qreal room = width - metrics.horizontalAdvance(figure);
+        texts << hair.repeated(qRound(room / metrics.horizontalAdvance(hair))) + figure + "  " + T(lines[i].Caption);
+    }
     return texts.join('\n');
 }
 
@@ -37,6 +42,7 @@ public:
     {
         figure->installEventFilter(this);
         figure->setCursor(Qt::PointingHandCursor);
+        figure->setFocusPolicy(Qt::TabFocus);
     }
 
     bool eventFilter(QObject* target, QEvent* event) override
@@ -45,12 +51,25 @@ public:
             Show(static_cast<QHelpEvent*>(event)->globalPos());
         else if (event->type() == QEvent::MouseButtonRelease)
             Show(static_cast<QMouseEvent*>(event)->globalPosition().toPoint());
+        else if (event->type() == QEvent::KeyPress)
+            return Press(static_cast<QKeyEvent*>(event)->key());
         else
             return QObject::eventFilter(target, event);
         return true;
     }
 
 private:
+    bool Press(int key)
+    {
+        const bool hides = key == Qt::Key_Escape && QToolTip::isVisible();
+        const bool shows = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+        if (hides)
+            QToolTip::hideText();
+        else if (shows)
+            Show(figure_->mapToGlobal(figure_->rect().bottomLeft()));
+        return hides || shows;
+    }
+
     void Show(const QPoint& place)
     {
         if (figure_->text().isEmpty())

@@ -6,8 +6,8 @@
 
 class QLabel;
 
-/// Tells how a figure comes about in a tip over it, and at a click on it. `explain` is asked only then; without lines
-/// there is no tip. A figure that cannot be read just now is not explained either. With `hoursPerDay` the lines are
-/// told in days like the figure; 0 means hours.
+/// Tells how a figure comes about in a tip over it, and at a click or Enter on it. `explain` is asked only then;
+/// without lines there is no tip. A figure that cannot be read just now is not explained either. With `hoursPerDay` the
+/// lines are told in days like the figure; 0 means hours.
 void ExplainFigure(QLabel* figure, const std::function<BalanceLines()>& explain,
                    const std::function<float()>& hoursPerDay = {});

@@ -52,7 +52,9 @@ QLabel* frmLogin::Instructions() const
 void frmLogin::cmdOK_Click()
 {
     if (LogIn())
-        accept();
+        return accept();
+    txtPassword->setFocus();
+    txtPassword->selectAll();
 }
 
 bool frmLogin::LogIn()

@@ -12,6 +12,7 @@
 #include "platform/program.h"
 
 #include <QFile>
+#include <QScreen>
 
 namespace
 {
@@ -43,6 +44,8 @@ frmSplashScreen::frmSplashScreen(QWidget* parent) : QDialog(parent, Qt::SplashSc
         content->addWidget(label, 0, Qt::AlignCenter);
     auto* page = new QVBoxLayout(this);
     page->addWidget(MakeCard(content));
+    resize(sizeHint());
+    move(screen()->availableGeometry().center() - rect().center());
 }
 
 void frmSplashScreen::Form_Activate()

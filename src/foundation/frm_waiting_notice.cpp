@@ -2,6 +2,7 @@
 
 #include "foundation/frm_captions.h"
 #include "platform/dao/engine_thread.h"
+#include "platform/mail/mail_programs.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -22,10 +23,9 @@ QWidget* WindowInFront()
     return nullptr;
 }
 
-QLabel* MakeNotice(QWidget* window)
+QLabel* MakeNotice(QWidget* window, const Text& text)
 {
-    auto* lblWaiting =
-        AsNotice(MakeLabel("lblWaiting", {"Waiting for the database...", "En attente de la banque de données..."}));
+    QLabel* lblWaiting = AsNotice(MakeLabel("lblWaiting", text));
     lblWaiting->setParent(window);
     lblWaiting->setWordWrap(true); // the first window of a start is smaller than the notice
     lblWaiting->setAlignment(Qt::AlignCenter);
@@ -39,13 +39,12 @@ QLabel* MakeNotice(QWidget* window)
 }
 
 /// Painted at once and again: the window itself stands still meanwhile.
-void ShowNotice(bool waiting)
+void ShowNotice(QPointer<QLabel>& notice, bool waiting, const Text& text)
 {
-    static QPointer<QLabel> notice;
     if (!waiting)
         return delete notice;
     if (QWidget* window = WindowInFront(); window && !notice)
-        notice = MakeNotice(window);
+        notice = MakeNotice(window, text);
     if (notice)
         notice->window()->repaint(); // whole: a message that was just answered still covers a part of it
 }
@@ -53,5 +52,12 @@ void ShowNotice(bool waiting)
 
 void InstallWaitingNotice()
 {
-    SetWaitingSign(ShowNotice);
+    SetWaitingSign([](bool waiting) {
+        static QPointer<QLabel> notice;
+        ShowNotice(notice, waiting, {"Waiting for the database...", "En attente de la banque de données..."});
+    });
+    MailOnItsWay::Sign = [](bool waiting) {
+        static QPointer<QLabel> notice;
+        ShowNotice(notice, waiting, {"Sending e-mail...", "Envoi du courriel..."});
+    };
 }

@@ -13,7 +13,6 @@ namespace
 constexpr QSize kSize(960, 640);
 constexpr int kRed = 255;
 constexpr int kRowHeight = 30;
-constexpr int kEntriesShown = 20;
 constexpr int kNameLength = 48;
 constexpr int kGap = 10;
 constexpr int kWidths[kEntitlementColumns] = {0, 92, 92, 66, 100, 100, 110, 120};
@@ -46,7 +45,6 @@ frmEntitlements::frmEntitlements(QWidget* parent) : FormBase("frmEntitlements", 
 void frmEntitlements::BuildList()
 {
     cboRecords = Named<WalkedList>("cboRecords");
-    cboRecords->setMaxVisibleItems(kEntriesShown);
     cboRecords->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cboRecords->setMinimumContentsLength(kNameLength);
     cboRecords->view()->setItemDelegate(new RemarkDelegate(ListedEmployee, PlaceOfEmployee, cboRecords));

@@ -36,5 +36,5 @@ frmMail::frmMail(const QString& reportFile, QWidget* parent)
 
 void frmMail::txtContents_Change()
 {
-    cmdOK->setEnabled(!txtContents->toPlainText().isEmpty());
+    EnableOrExplain(cmdOK, !txtContents->toPlainText().isEmpty(), {"Write a text first", "Écrivez d'abord un texte"});
 }

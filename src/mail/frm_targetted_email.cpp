@@ -67,7 +67,7 @@ QLayout* frmTargettedEMail::NewRecipientRow()
     for (QLineEdit* field : {txtNewName, txtNewEMail})
         connect(field, &QLineEdit::textChanged, this, &frmTargettedEMail::txtNew_Change);
     cmdAdd = AddButton("cmdAdd", {"A&dd to the list", "A&jouter à la liste"}, [this] { cmdAdd_Click(); });
-    cmdAdd->setEnabled(false);
+    txtNew_Change();
     auto* row = Beside(kEMailGap);
     row->addLayout(Captioned({"&Name of a new recipient", "&Nom d'un nouveau destinataire"}, txtNewName), 1);
     row->addLayout(Captioned({"E-&mail address", "&Courriel"}, txtNewEMail), 1);
@@ -119,10 +119,13 @@ void frmTargettedEMail::lstEmailAddresses_Click()
         ClearOptions({optSelectAll, optDeselectAll});
 }
 
+/// Enter adds whoever has been typed in before it sends.
 void frmTargettedEMail::txtNew_Change()
 {
-    EnableOrExplain(cmdAdd, !txtNewName->text().trimmed().isEmpty() && !txtNewEMail->text().trimmed().isEmpty(),
-                    {"Enter a name and an address first", "Entrez d'abord un nom et une adresse"});
+    const bool complete = !txtNewName->text().trimmed().isEmpty() && !txtNewEMail->text().trimmed().isEmpty();
+    EnableOrExplain(cmdAdd, complete, {"Enter a name and an address first", "Entrez d'abord un nom et une adresse"});
+    if (cmdSend)
+        (complete ? cmdAdd : cmdSend)->setDefault(true);
 }
 
 void frmTargettedEMail::cmdAdd_Click()
@@ -154,13 +157,12 @@ void frmTargettedEMail::Send(const QVector<Notice>& messages)
     const BusyPointer busy;
     for (QPushButton* button : {cmdAdd, cmdSend, cmdCancel})
         button->setEnabled(false);
-    for (int number = 0; number < messages.size(); ++number) {
+    SendNotices(messages, 0, [&](int number) {
         lblProgress->setText(
             Fill(T("Sending message {number} of {count}...", "Envoi du courriel {number} de {count}..."),
                  {{"number", QString::number(number + 1)}, {"count", QString::number(messages.size())}}));
         lblProgress->repaint();
-        SendNotice(messages[number]);
-    }
+    });
     lblProgress->clear();
     cmdSend->setEnabled(true);
     cmdCancel->setEnabled(true);

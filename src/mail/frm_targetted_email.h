@@ -40,6 +40,6 @@ private:
     QPlainTextEdit* txtMessage;
     QLabel* lblProgress;
     QPushButton* cmdAdd;
-    QPushButton* cmdSend;
+    QPushButton* cmdSend = nullptr;
     QPushButton* cmdCancel;
 };

@@ -11,12 +11,11 @@
 
 namespace
 {
-constexpr int kPause = 2; // seconds
 constexpr int kSession = 1;
 
-QVector<Notice>& Unsent()
+QVector<UnsentNotice>& Unsent()
 {
-    static QVector<Notice> unsent;
+    static QVector<UnsentNotice> unsent;
     return unsent;
 }
 
@@ -66,14 +65,12 @@ MailResult SendByAutomation(const Notice& notice)
     return MailRoutesHere().Automation.Send(MessageOf(notice, ""));
 }
 
-/// A mail window that stays open is worth a line too, although nothing has failed.
 MailResult SendByMapi(const Notice& notice, QStringList& failures)
 {
     const MailResult result = MailRoutesHere().Desktop.Send(MessageOf(notice, notice.AddressType));
-    if (HasFailed(result) || (result.Number == 0 && !result.Description.isEmpty()))
-        failures << FailureText(result);
     if (!HasFailed(result))
         return result;
+    failures << FailureText(result);
     SessionState.MailConfigured = true;
     return SendByAutomation(notice);
 }
@@ -91,6 +88,13 @@ MailResult SendByRoute(const Notice& notice)
     if (!failures.isEmpty())
         Log(notice, configured, failures);
     return result;
+}
+/// It could not be sent and is worth a line, but the mail program that did not answer is not asked once more.
+void GiveUp(const Notice& notice)
+{
+    const MailResult notTried{MailError::NoAnswer, "Not tried"};
+    Log(notice, SessionState.MailConfigured, {FailureText(notTried)});
+    Unsent().append({notice, notTried.Description});
 }
 } // namespace
 
@@ -139,30 +143,38 @@ MailResult SendNotice(const Notice& notice)
         PrepareMailComponent();
     const MailResult result = SendByRoute(notice);
     if (HasFailed(result))
-        Unsent().append(notice);
+        Unsent().append({notice, result.Description});
     return result;
 }
 
-void SendNotices(const QVector<Notice>& notices)
+void SendNotices(const QVector<Notice>& notices, int pause, const std::function<void(int)>& progress)
 {
     const MailOnItsWay onItsWay;
-    for (const Notice& notice : notices) {
-        if (&notice != &notices.first())
-            Wait(kPause);
-        SendNotice(notice);
+    bool answers = true;
+    for (int i = 0; i < notices.size(); ++i) {
+        if (!answers) {
+            GiveUp(notices[i]);
+            continue;
+        }
+        if (i > 0 && pause > 0)
+            Wait(pause);
+        if (progress)
+            progress(i);
+        answers = SendNotice(notices[i]).Number != MailError::NoAnswer;
     }
 }
 
-const QVector<Notice>& UnsentNotices()
+const QVector<UnsentNotice>& UnsentNotices()
 {
     return Unsent();
 }
 
-int SendUnsentNotices()
+void SendUnsentNotices()
 {
-    const QVector<Notice> again = std::exchange(Unsent(), {});
+    QVector<Notice> again;
+    for (const UnsentNotice& unsent : std::exchange(Unsent(), {}))
+        again << unsent.Message;
     SendNotices(again);
-    return static_cast<int>(again.size() - Unsent().size());
 }
 
 void ForgetUnsentNotices()

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
+
 /// A message that the program writes in the user's name.
 struct Notice
 {
@@ -34,12 +36,19 @@ QString SenderName();
 /// is no failure. An empty address is passed over. Throws nothing.
 MailResult SendNotice(const Notice& notice);
 
-/// Sends them one after the other, two seconds apart, so that the mail program can finish. Windows keep painting.
-void SendNotices(const QVector<Notice>& notices);
+/// Sends them one after the other, so many seconds apart, so that the mail program can finish; windows keep painting.
+/// Those behind a message to which the mail program gave no answer are not tried. `progress` hears which one comes
+/// next.
+void SendNotices(const QVector<Notice>& notices, int pause = 2, const std::function<void(int)>& progress = {});
 
+struct UnsentNotice
+{
+    Notice Message;
+    QString Reason; ///< in the words of the mail program; may be empty
+};
 /// The messages of this session that could not be sent, oldest first.
-const QVector<Notice>& UnsentNotices();
-/// Tries those again; what fails once more stays among them. Returns how many went out.
-int SendUnsentNotices();
+const QVector<UnsentNotice>& UnsentNotices();
+/// Tries those again; what fails once more stays among them.
+void SendUnsentNotices();
 /// Forgets them.
 void ForgetUnsentNotices();

@@ -13,7 +13,7 @@ void SpecifyMailerComponent();
 void DownloadRedemption();
 
 /// Takes the component of the earlier version off the workstation, once: a marker file in the program's folder says
-/// what was found. As long as the component is still there, the user is told. Throws nothing.
+/// what was found. When the component can still be used, the user is told. Throws nothing.
 void UpgradeMailerDLL();
 
 /// What the earlier version has left on the workstation. This system has neither its folders nor its register of

@@ -15,8 +15,9 @@
 namespace
 {
 constexpr QSize kCategoriesSize(820, 580);
-constexpr int kCategoriesShown = 20;
 constexpr int kManyEmployees = 100;
+constexpr Text kOfTheTimeBank = {"The same for all categories of the time bank",
+                                 "Le même pour toutes les catégories de la banque de temps"};
 
 QVector<ListEntry> DepartmentsOfTheYear(DataControl& datAbsence)
 {
@@ -82,7 +83,6 @@ frmCategories::frmCategories(QWidget* parent) : EditingForm("frmCategories", par
 void frmCategories::BuildList()
 {
     cboRecords = Named<WalkedList>("cboRecords");
-    cboRecords->setMaxVisibleItems(kCategoriesShown);
     SetPlaceholder(cboRecords, {"Select a category", "Sélectionnez une catégorie"});
     connect(cboRecords, &QComboBox::activated, this, &frmCategories::cboRecords_Click);
     auto* lblRecords = MakeLabel("lblRecords");
@@ -152,13 +152,12 @@ CategoryEntry frmCategories::Read() const
 
 void frmCategories::EnableControls()
 {
-    const EditingMode mode = Mode();
-    const bool modifying = mode == EditingMode::Modifying;
-    const bool entering = mode == EditingMode::Adding || (modifying && HasRecord());
-    configuration_->SetEntryEnabled(entering, record_.TimeBankRelated == 1);
-    departments_->SetEntryEnabled(entering && record_.TimeBankRelated == 0);
-    cboRecords->setEnabled(IsIdle() || mode == EditingMode::Deactivating || (modifying && !HasRecord()));
-    if (modifying)
+    const Text whyNot = WhyNoEntry();
+    const Text whyFixed = whyNot.IsEmpty() && record_.TimeBankRelated == 1 ? kOfTheTimeBank : whyNot;
+    configuration_->EnableEntry(whyNot, whyFixed);
+    departments_->EnableEntry(whyFixed);
+    EnableUnless(cboRecords, WhyNoChoice());
+    if (Mode() == EditingMode::Modifying)
         cmdModify->setText(T("&Modify", "ENREGISTRER"));
     if (IsIdle() && HasRecord() && record_.Active != 1)
         for (QPushButton* button : {cmdModify, cmdDeactivate})

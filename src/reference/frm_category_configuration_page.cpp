@@ -43,6 +43,7 @@ QLayout* CategoryConfigurationPage::Names()
 {
     txtEnglishName = MakeField("txtEnglishName", KeyFilter::CategoryName, kCategoryNameLimit);
     txtFrenchName = MakeField("txtFrenchName", KeyFilter::CategoryName, kCategoryNameLimit);
+    Require(SessionState.English ? txtEnglishName : txtFrenchName);
     auto* names = Beside(kPartGap);
     names->addLayout(Captioned({"Category's English name", "Nom anglais de la catégorie (facultatif)"}, txtEnglishName),
                      1);
@@ -188,15 +189,15 @@ void CategoryConfigurationPage::Read(CategoryEntry& entry) const
     entry.IsPublic = chkCategoryIsPublic->isChecked();
 }
 
-void CategoryConfigurationPage::SetEntryEnabled(bool entering, bool timeBank)
+void CategoryConfigurationPage::EnableEntry(const Text& whyNot, const Text& whyFixed)
 {
     for (QWidget* control : std::initializer_list<QWidget*>{txtEnglishName, txtFrenchName, txtCategoryCode,
                                                             cmdColorAssigned, chkHiddenCategory})
-        control->setEnabled(entering);
-    entitles_ = entering && !timeBank;
+        EnableUnless(control, whyNot);
+    whyFixed_ = whyFixed;
     for (QWidget* control :
          std::initializer_list<QWidget*>{fraEntitlement, chkCarryOver, chkConstitutesAnAbsence, chkCategoryIsPublic})
-        control->setEnabled(entitles_);
+        EnableUnless(control, whyFixed);
     EnableTime();
 }
 
@@ -236,8 +237,11 @@ void CategoryConfigurationPage::ChooseKind(EntitlementKind kind)
 
 void CategoryConfigurationPage::EnableTime()
 {
+    constexpr Text kNotTheSame = {"Only where each employee is entitled to the same amount of time",
+                                  "Seulement si chaque employé(e) a droit au même nombre d'heures"};
+    const bool same = kind_ == EntitlementKind::Standard || !whyFixed_.IsEmpty();
     for (QLineEdit* field : {txtAnnualEntitlement_Hours, txtAnnualEntitlement_Minutes})
-        field->setEnabled(entitles_ && kind_ == EntitlementKind::Standard);
+        EnableUnless(field, same ? whyFixed_ : kNotTheSame);
 }
 
 QString CategoryConfigurationPage::CategoryName() const

@@ -11,8 +11,9 @@ public:
 
     void Show(const CategoryEntry& entry);
     void Read(CategoryEntry& entry) const;
-    /// Of a category of the time bank only names, code, colour and the hidden flag can be changed.
-    void SetEntryEnabled(bool entering, bool timeBank);
+    /// `whyNot` is empty while the page takes entries; `whyFixed` while it takes more than names, code, colour and the
+    /// hidden flag, which are all that can be changed of a category of the time bank.
+    void EnableEntry(const Text& whyNot, const Text& whyFixed);
     void FocusFirstField();
     /// Takes the minutes in before `button` does its work. False when they were refused, also by the press that has
     /// just moved the focus to the button: they are blank and keep the focus.
@@ -40,7 +41,7 @@ private:
 
     EntitlementKind kind_ = EntitlementKind::NotChosen;
     int color_ = 0;
-    bool entitles_ = false;               ///< the entitlement can be changed now
+    Text whyFixed_;                       ///< empty while the entitlement can be changed
     const QWidget* refusedFor_ = nullptr; ///< where the focus went from the minutes that were refused last
     QLineEdit* txtEnglishName;
     QLineEdit* txtFrenchName;

@@ -15,7 +15,8 @@ public:
     QVector<int> UserDepartments() const;
     /// A public category shows no list.
     void ShowList(bool shown);
-    void SetEntryEnabled(bool entering) { fraDepartments->setEnabled(entering); }
+    /// `whyNot` is empty while the list takes entries.
+    void EnableEntry(const Text& whyNot) { EnableUnless(fraDepartments, whyNot); }
 
 private:
     void TickAll(Qt::CheckState state);

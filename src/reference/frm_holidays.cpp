@@ -3,6 +3,7 @@
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "platform/clock.h"
+#include "platform/controls/entry_lists.h"
 #include "platform/controls/remark_delegate.h"
 
 #include <algorithm>
@@ -11,9 +12,9 @@ namespace
 {
 constexpr int kHolidayNameLimit = 50;
 constexpr int kHolidaysGap = 12;
-constexpr int kDatesHeight = 300;
+constexpr int kDatesHeight = 120; ///< at least
+constexpr QSize kHolidaysSize(635, 576);
 constexpr int kHolidaysWidth = 480;
-constexpr int kHolidaysShown = 20;
 constexpr const char* kDayPattern = "ddd dd-mmm-yyyy";
 
 QString HolidayNameOf(const QModelIndex& entry)
@@ -70,14 +71,14 @@ frmHolidays::frmHolidays(QWidget* parent) : FormBase("frmHolidays", parent)
     Page()->addWidget(NewHoliday(), 1);
     LayFoot({AddWayOut({"E&xit", "&Quitter"}, "cmdQuit"),
              AddMainButton("cmdAdd", {"&Add", "&Ajouter"}, [this] { cmdAdd_Click(); })});
+    SetSize(kHolidaysSize);
     LoadHolidays();
 }
 
 QFrame* frmHolidays::ExistingHolidays()
 {
-    cboHolidayName = Named<QComboBox>("cboHolidayName");
+    cboHolidayName = Named<WalkedList>("cboHolidayName");
     cboHolidayName->setItemDelegate(new RemarkDelegate(HolidayNameOf, HolidayDateOf, cboHolidayName));
-    cboHolidayName->setMaxVisibleItems(kHolidaysShown);
     cboHolidayName->setMinimumWidth(kHolidaysWidth);
     SetPlaceholder(cboHolidayName, {"Select a statutory holiday", "Sélectionnez un congé férié"});
     connect(cboHolidayName, &QComboBox::activated, this, &frmHolidays::cboHolidayName_Click);

@@ -8,7 +8,6 @@ namespace
 constexpr int kNameLimit = 75;
 constexpr int kFieldsWidth = 660;
 constexpr int kCardGap = 14;
-constexpr int kEntriesShown = 16;
 constexpr int kListHeight = 130;
 constexpr int kRemark = Qt::UserRole + 1;
 
@@ -62,7 +61,6 @@ void frmUnit::BuildList()
 {
     cboRecords = Named<WalkedList>("cboRecords");
     cboRecords->setItemDelegate(new RemarkDelegate(NameOf, RemarkOf, cboRecords));
-    cboRecords->setMaxVisibleItems(kEntriesShown);
     SetPlaceholder(cboRecords, kind_.Texts.ListPrompt);
     connect(cboRecords, &QComboBox::activated, this, &frmUnit::cboRecords_Click);
     auto* lblRecords = MakeLabel("lblRecords");
@@ -179,10 +177,8 @@ UnitRow frmUnit::Read() const
 
 void frmUnit::EnableControls()
 {
-    const EditingMode mode = Mode();
-    const bool modifying = mode == EditingMode::Modifying;
-    fields_->setEnabled(mode == EditingMode::Adding || (modifying && HasRecord()));
-    cboRecords->setEnabled(IsIdle() || mode == EditingMode::Deactivating || (modifying && !HasRecord()));
+    EnableUnless(fields_, WhyNoEntry());
+    EnableUnless(cboRecords, WhyNoChoice());
 }
 
 bool frmUnit::Begin(EditingMode mode)

@@ -1,22 +1,40 @@
 #include "selection/date_range_model.h"
 
 #include "foundation/texts.h"
+#include "platform/clock.h"
+
+#include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 
 namespace
 {
+constexpr char kShownDate[] = "ddd dd-mmm-yyyy";
 constexpr int kHowMatched = 0x0F; // of the toolkit's flags
 
 QString Plain(const QString& date)
 {
-    return date.toLower().replace(' ', '-').remove('.');
+    static const QRegularExpression kAccentOrPoint("[\\p{Mn}.]");
+    return date.normalized(QString::NormalizationForm_D).toLower().replace(' ', '-').remove(kAccentOrPoint);
 }
 
-bool Reads(const QString& date, const QString& typed)
+/// How people of either language write a day, whatever that of the system.
+QStringList Written(int date)
 {
-    const QString day = date.section('-', 1);
-    return date.startsWith(typed) || day.startsWith(typed) || (day.startsWith('0') && day.mid(1).startsWith(typed));
+    const auto in = [date](QLocale::Language language) {
+        return Plain(QLocale(language).toString(DateOfSerial(date), "dd-MMMM-yyyy"));
+    };
+    return {Plain(FormatDate(date, kShownDate)).section('-', 1), in(QLocale::English), in(QLocale::French)};
+}
+
+bool Reads(int date, const QString& typed)
+{
+    const QStringList days = Written(date);
+    return Plain(FormatDate(date, kShownDate)).startsWith(typed) ||
+           std::any_of(days.begin(), days.end(), [&typed](const QString& day) {
+               return day.startsWith(typed) || (day.startsWith('0') && day.mid(1).startsWith(typed));
+           });
 }
 } // namespace
 
@@ -37,7 +55,7 @@ QVariant DateRangeModel::data(const QModelIndex& entry, int role) const
 {
     const int date = from_ + entry.row();
     if (role == Qt::DisplayRole)
-        return FormatDate(date, "ddd dd-mmm-yyyy");
+        return FormatDate(date, kShownDate);
     return role == Qt::UserRole ? date : QVariant();
 }
 
@@ -51,7 +69,7 @@ QModelIndexList DateRangeModel::match(const QModelIndex& start, int role, const 
     const int rows = flags.testFlag(Qt::MatchWrap) ? count_ : count_ - start.row();
     for (int passed = 0; passed < rows && (hits < 0 || found.size() < hits); ++passed)
         if (const QModelIndex entry = index((start.row() + passed) % count_);
-            Reads(Plain(entry.data().toString()), typed))
+            Reads(entry.data(Qt::UserRole).toInt(), typed))
             found << entry;
     return found;
 }

@@ -13,7 +13,8 @@ public:
     void SetRange(int from, int to);
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& entry, int role = Qt::DisplayRole) const override;
-    /// What a person types is found with and without the weekday, the hyphens and the leading zero: "29 jun".
+    /// What a person types is found with and without the weekday, the hyphens and the leading zero, in
+    /// either language: "29 jun", "15 juin".
     QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
                           Qt::MatchFlags flags) const override;
 

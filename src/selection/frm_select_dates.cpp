@@ -32,6 +32,7 @@ frmSelectDates::frmSelectDates(const Period& period, const WorkSchedule& schedul
       daysTo_(new DateRangeModel(this)), boxes_(new WeekdayBoxes)
 {
     SetTitle(this, {"Consecutive attendance records creation", "Création d'enregistrements consécutifs"});
+    AskBeforeLosing();
     auto* range = new QGridLayout;
     range->setHorizontalSpacing(kDatesGap);
     range->setColumnStretch(2, 1);

@@ -5,7 +5,7 @@
 namespace
 {
 constexpr QSize kOpeningSize(722, 533);
-constexpr int kUnitListHeight = 104;
+constexpr int kUnitListHeight = 72;
 constexpr int kListWidth = 320;
 constexpr int kListsGap = 20;
 constexpr int kGapBelowInstructions = 8;

@@ -33,13 +33,19 @@ QString Bilingual(const Text& text, const char* between = "  -  ")
     return QString::fromUtf8(text.English) + between + QString::fromUtf8(text.French);
 }
 
-/// The first field of a step, if it has one.
+/// The first field of a step, or its option that is chosen; nothing when it has neither.
 QWidget* FirstField(const QWidget* step)
 {
-    for (QWidget* field : step->findChildren<QWidget*>())
-        if (field->isVisibleTo(step) && (qobject_cast<QLineEdit*>(field) || qobject_cast<QRadioButton*>(field)))
+    QWidget* first = nullptr;
+    for (QWidget* field : step->findChildren<QWidget*>()) {
+        const auto* option = qobject_cast<QRadioButton*>(field);
+        if (!field->isVisibleTo(step) || !(option || qobject_cast<QLineEdit*>(field)))
+            continue;
+        if (option && option->isChecked())
             return field;
-    return nullptr;
+        first = first ? first : field;
+    }
+    return first;
 }
 
 } // namespace

@@ -51,6 +51,7 @@ QLayout* AdministratorStep::Fields()
     auto* txtAdminUsername = add("txtAdminUsername", {"User name", "Nom d'usager"}, kPasswordLimit, KeyFilter::LogIn);
     txtAdminUsername->setText("ADMIN");
     txtAdminUsername->setReadOnly(true);
+    txtAdminUsername->setFocusPolicy(Qt::ClickFocus);
     remark("lblCannotBeChanged", {"Cannot be changed!", "Ne peut être modifié!"});
     txtAdminPassword = add("txtAdminPassword", {"Pass&word", "&Mot-clé"}, kPasswordLimit, KeyFilter::SetUpPassword);
     return fields;

@@ -53,6 +53,10 @@ constexpr Text kLines[] = {
     {"Balance of entitlements may be carried over at the end of the year",
      "Le solde du temps alloué peut être transféré à la fin de l'année"}};
 
+constexpr Text kTimeGiven = {"Clear the hours and minutes first", "Effacez d'abord les heures et les minutes"};
+constexpr Text kNothingToCarry = {"Without an entitlement there is no balance",
+                                  "Sans temps alloué, il n'y a aucun solde"};
+
 QLineEdit* DigitsField(const QString& name, int digits)
 {
     QLineEdit* field = MakeField(name, KeyFilter::WholeNumber, digits);
@@ -131,7 +135,7 @@ void CategoriesStep::NameControls(const Column& column)
     column.Name->setAccessibleName(T(kLines[NameLine]) + ": " + column.Name->text());
     for (const auto& [control, text] : controls) {
         control->setAccessibleName(column.Name->text() + ": " + T(text));
-        control->setToolTip(T(text));
+        SetToolTip(control, text);
     }
 }
 
@@ -180,11 +184,11 @@ void CategoriesStep::ShowCategory(const Column& column)
         ShowNumber(column.Hours, category.Hours);
         ShowNumber(column.Minutes, category.Minutes);
         column.Varies->setChecked(category.EntitlementVaries);
-        column.Varies->setEnabled(!timeGiven);
+        EnableOrExplain(column.Varies, !timeGiven, kTimeGiven);
         column.NoEntitlement->setChecked(category.NoEntitlement);
-        column.NoEntitlement->setEnabled(!timeGiven);
+        EnableOrExplain(column.NoEntitlement, !timeGiven, kTimeGiven);
         column.CarryOver->setChecked(category.CarryOver);
-        column.CarryOver->setEnabled(!category.NoEntitlement);
+        EnableOrExplain(column.CarryOver, !category.NoEntitlement, kNothingToCarry);
     }
     emit Changed();
 }

@@ -150,8 +150,14 @@ void DatabaseStep::TakeChoices()
     choices_.UserName = txtUserName->text().trimmed();
     choices_.Password = txtPassword->text().trimmed();
     choices_.DatabaseName = txtDatabaseName->text().trimmed();
-    cmdTestConnection->setEnabled(IsServerComplete(choices_));
+    EnableTest();
     emit Changed();
+}
+
+void DatabaseStep::EnableTest()
+{
+    EnableOrExplain(cmdTestConnection, IsServerComplete(choices_),
+                    {"Fill in the four fields first", "Remplissez d'abord les quatre champs"});
 }
 
 QString DatabaseStep::Title() const
@@ -170,7 +176,7 @@ void DatabaseStep::ShowChoices()
         choices_.NewDatabasePath = OriginalDatabasePath();
     pages_->setCurrentIndex(IsServer(choices_.Kind) ? 1 : 0);
     lblDatabasePath->setText(NativePath(choices_.NewDatabasePath));
-    cmdTestConnection->setEnabled(IsServerComplete(choices_));
+    EnableTest();
 }
 
 bool DatabaseStep::IsComplete() const

@@ -23,6 +23,7 @@ private:
     QWidget* MakeServerPage();
     QLineEdit* AddServerField(QGridLayout* fields, const char* name, const Text& label);
     void TakeChoices();
+    void EnableTest();
     void cmdRelocateDatabase_Click();
     void RelocateDatabase(const QString& path);
     void ConnectToExistingDatabase(const QString& path);

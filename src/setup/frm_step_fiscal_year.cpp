@@ -2,6 +2,7 @@
 
 #include "foundation/common_services.h"
 #include "platform/clock.h"
+#include "platform/controls/entry_lists.h"
 
 #include <QLocale>
 
@@ -24,7 +25,7 @@ constexpr Text kFiscalYearHelp = {
 FiscalYearStep::FiscalYearStep(SetUpChoices& choices)
     : WizardStep("fraStep4", {"CREATING YOUR FIRST FISCAL YEAR", "CRÉATION DE VOTRE PREMIÈRE ANNÉE FISCALE"}, choices),
       txtFiscalYearName(MakeField("txtFiscalYearName", KeyFilter::FreeText, kNameLimit)),
-      cboStartMonth(Named<QComboBox>("cboStartMonth")), cboStartYear(Named<QComboBox>("cboStartYear")),
+      cboStartMonth(Named<WalkedList>("cboStartMonth")), cboStartYear(EntryCombo("cboStartYear", kYearDigits)),
       lblFiscalYearStart(AsFigure(MakeLabel("lblFiscalYearStart"))),
       lblFiscalYearEnd(AsFigure(MakeLabel("lblFiscalYearEnd")))
 {
@@ -39,8 +40,6 @@ FiscalYearStep::FiscalYearStep(SetUpChoices& choices)
 void FiscalYearStep::LoadYears()
 {
     const int year = CurrentDateTime().date().year();
-    cboStartYear->setEditable(true);
-    cboStartYear->setInsertPolicy(QComboBox::NoInsert);
     cboStartYear->lineEdit()->setMaxLength(kYearDigits);
     FilterKeys(cboStartYear, KeyFilter::WholeNumber);
     for (int listed = year - kYearsListed; listed <= year + kYearsListed; ++listed)

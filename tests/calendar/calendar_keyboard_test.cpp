@@ -75,6 +75,10 @@ TEST_F(CalendarKeys, ARangeIsMarkedWithShiftOrByDraggingAndCounted)
     EXPECT_EQ(Counted(), "5 days, 35:00") << "neither the weekend nor what was refused";
     After({Qt::Key_Left}, Qt::ShiftModifier);
     EXPECT_EQ(Counted(), "4 days, 28:00") << "what was refused is not asked about again";
+    for (const int day : {1, 4, 31}) {
+        const QRect cell = Grid().CellRect(Place(12, day).y(), Place(12, day).x());
+        EXPECT_FALSE(main->findChild<QWidget*>("txtSelect")->geometry().intersects(cell)) << "beside the month";
+    }
     EXPECT_EQ(Days({{12, 4}, {12, 5}, {12, 9}, {12, 10}, {12, 11}}),
               " X ffffff, 5 ffffff, 9 ffc0c0,  X ffffff, 11 ffffff");
     EXPECT_TRUE(Said(12, 10).contains("Selected"));

@@ -102,7 +102,10 @@ TEST_F(Cancellation, WithdrawnRequestsAreToldToTheApproverReadLastInOneMessage)
     Marks("Maladie", {{12, 22}});
     user.WillAnswer("VEUILLEZ CONFIRMER:", "Oui", "Souhaitez-vous supprimer les enregistrements sélectionnés?")
         .Clicks("imgRemove");
-    EXPECT_EQ(user.Reads("lblUnsent"), "Un courriel destiné à lroy@example.org n'a pu être envoyé.");
+    EXPECT_EQ(user.Reads("lblUnsent"), "Un courriel destiné à lroy@example.org n'a pu être envoyé (no server).");
+    EXPECT_EQ(user.Reads("lblCurrentSelection"), "Demandes non traitées de");
+    user.WillAnswer("ATTENTION:", "Non", "Des courriels n'ont pu être envoyés");
+    main->close(); // and stays
     user.Clicks("cmdSendAgain");
     EXPECT_TRUE(user.CanUse("cmdForget"));
     house.MailEnds.clear();

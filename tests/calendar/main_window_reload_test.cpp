@@ -129,8 +129,12 @@ TEST_F(MainWindow, TheWindowStandsWhereItWasLeftAndFitsTheSmallestScreens)
         QCoreApplication::processEvents();
         EXPECT_TRUE(main->rect().contains(main->findChild<QWidget*>("fraLegendCard")->geometry()));
         user.Presses("flxCalendar", Qt::Key_End, Qt::ControlModifier);
-        const QRect last = Grid().CellRect(Grid().Row(), Grid().Col());
-        EXPECT_TRUE(Grid().viewport()->rect().contains(last)) << "the cursor is scrolled into sight";
+        for (const QSize& size : {main->minimumSizeHint(), QSize(1200, 700), main->minimumSizeHint()}) {
+            main->resize(size);
+            QCoreApplication::processEvents();
+            const QRect last = Grid().CellRect(Grid().Row(), Grid().Col());
+            EXPECT_TRUE(Grid().viewport()->rect().contains(last)) << "the cursor is scrolled into sight";
+        }
         user.ChoosesMenu("mnuSpecialSwitchLanguage");
     }
     main->setGeometry(30, 60, 1000, 600);
@@ -146,6 +150,33 @@ TEST_F(MainWindow, TheWindowStandsWhereItWasLeftAndFitsTheSmallestScreens)
     EXPECT_FALSE(main->isMaximized()) << "each user has his own place";
 }
 
+TEST_F(MainWindow, TheLegendShowsWholeLabelsAndLeadsToEachOfThem)
+{
+    for (int category = 0; category < 20; ++category)
+        house.Sql("INSERT INTO Categories (FiscalYear, CategoryEnglishName, CategoryFrenchName, Active, IsPublic) "
+                  "VALUES (1, ?, ?, 1, 1)",
+                  {QString("Work %1").arg(category), QString("Tâche numéro %1").arg(category)});
+    OpensOnMarie();
+    QSet<QString> shown;
+    const auto look = [&] {
+        const auto* row = main->findChild<QWidget*>("fraLegend");
+        for (const auto* label : row->findChildren<QPushButton*>())
+            if (label->isVisible()) {
+                shown << label->text();
+                EXPECT_TRUE(row->rect().contains(QRect(label->mapTo(row, QPoint()), label->size())));
+            }
+    };
+    for (const char* arrow : {"cmdNextCategories", "cmdPreviousCategories"}) {
+        shown.clear();
+        for (look(); user.CanUse(arrow); look())
+            user.Clicks(arrow);
+        EXPECT_EQ(shown.size(), 24);
+    }
+    user.ChoosesMenu("mnuSpecialSwitchLanguage");
+    EXPECT_EQ(main->findChild<QWidget*>("cmdPreviousCategories")->toolTip(), "Les premières catégories sont affichées");
+    look();
+}
+
 TEST_F(MainWindow, TheToolInUseLooksSoAndWhatIsGreyedSaysWhy)
 {
     const auto tip = [this](const char* control) { return main->findChild<QWidget*>(control)->toolTip(); };
@@ -154,11 +185,13 @@ TEST_F(MainWindow, TheToolInUseLooksSoAndWhatIsGreyedSaysWhy)
     };
     OpensOnMarie();
     EXPECT_TRUE(tip("imgSubmit_DISABLED").contains("You enter your own records"));
+    EXPECT_EQ(tip("lblLegend(0)"), "Show this category alone");
     EXPECT_EQ(tip("imgCreateSingle"), "New attendance record on one date   Ctrl+1");
     for (const QString tool : {"imgCreateSingle", "imgCreateMultiple"}) {
         user.Clicks(tool);
         EXPECT_EQ(looks(tool) + looks(tool + "_DISABLED") + looks("imgModify_DISABLED"), "activeactive");
-        EXPECT_TRUE(tip("imgModify_DISABLED").contains("Escape"));
+        for (const char* greyed : {"imgModify_DISABLED", "cboCategories", "cmdNextYear", "lblLegend(0)"})
+            EXPECT_TRUE(tip(greyed).contains("Escape")) << greyed;
         user.Presses("", Qt::Key_Escape);
         EXPECT_EQ(looks(tool), "");
     }

@@ -1,6 +1,9 @@
 #include "attendance/frm_approval.h"
 #include "calendar/main_window_fixture.h"
 #include "employees/frm_employees.h"
+#include "platform/mail/mail_programs.h"
+
+#include <QToolButton>
 
 namespace
 {
@@ -29,6 +32,7 @@ TEST_F(RequestsAtLogIn, TheFirstApproverIsAskedOnceAndWhoeverAskedIsTold)
 {
     house.Sql("UPDATE Employees SET SelfLevelCreate = 1 WHERE RecordID <> ?", {marie});
     Opens("EVE"); // the second approver is not asked
+    EXPECT_EQ(main->findChild<QToolButton*>("imgApprove")->text(), "Approve (1)");
     user.WhenOpens<frmApproval>([this](frmApproval& form) {
         EXPECT_EQ(user.Entries("cboRecords").size(), 1);
         form.reject();
@@ -47,6 +51,13 @@ TEST_F(RequestsAtLogIn, TheFirstApproverIsAskedOnceAndWhoeverAskedIsTold)
     EXPECT_EQ(user.Reads("lblTotalForTheYear_DISPLAY"), "00:00");
 
     Requests(25);
+    {
+        const MailOnItsWay mail; // the tick waits, and an idle program lives on
+        main->timAbsence_Timer();
+        main->IdleSeconds = SessionState.TimeOutSeconds;
+        main->timTimeOut_Timer();
+        EXPECT_EQ(main->IdleSeconds, 0);
+    }
     user.WhenOpens<frmSelectEmployee>([this](frmSelectEmployee& form) {
         main->timAbsence_Timer(); // nobody is asked over an open form
         form.reject();
@@ -59,6 +70,7 @@ TEST_F(RequestsAtLogIn, TheFirstApproverIsAskedOnceAndWhoeverAskedIsTold)
     });
     main->timAbsence_Timer();
     EXPECT_EQ(Statuses(), "2 2");
+    EXPECT_EQ(main->findChild<QToolButton*>("imgApprove")->text(), "Approve");
     EXPECT_EQ(user.Reads("lblTotalForTheYear_DISPLAY"), "2 days 00:00") << "the calendar shows what was approved";
 
     user.WillAnswer(told, "OK", "24-Nov\tRequest approved    \tVacation\r\n25-Nov\tRequest approved    \tVacation\r\n");

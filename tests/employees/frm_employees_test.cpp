@@ -412,6 +412,11 @@ TEST_F(FrmEmployees, ATemplateBringsWorkplaceScheduleAndRightsAndGoesWithoutATra
     EXPECT_EQ(user.Reads("cboSecondHalfEndTime(1)"), "18:00");
     user.WillConfirm().Presses("", Qt::Key_Escape);
     EXPECT_TRUE(user.CanUse("cmdAdd") && user.CanUse("cmdModify")) << "Escape ends the operation first";
+    OnTab(0);
+    for (const auto& [key, tab] : {std::pair(Qt::Key_Tab, 1), {Qt::Key_Backtab, 0}, {Qt::Key_Backtab, kModulesTab}}) {
+        user.Presses("cmdAdd", key, Qt::ControlModifier);
+        EXPECT_EQ(user.The<frmEmployees>().findChild<QTabWidget*>("sstEmployees")->currentIndex(), tab);
+    }
     user.Presses("", Qt::Key_Escape);
     EXPECT_FALSE(user.The<frmEmployees>().isVisible());
 }
@@ -420,6 +425,17 @@ TEST_F(FrmEmployees, TheScheduleFillsInWhileThePersonTabsThroughIt)
 {
     Opens();
     StartsAdding();
+    user.Presses("cboFirstHalfStartTime(0)", Qt::Key_Down);
+    auto* first = user.The<frmEmployees>().findChild<QComboBox*>("cboFirstHalfStartTime(0)");
+    EXPECT_EQ(first->view()->currentIndex().row(), 0);
+    for (const char* typed : {"0830", "830", "8h30", "8:30"}) {
+        QTest::keyClick(first->view(), Qt::Key_Escape);
+        user.Presses("cboFirstHalfStartTime(0)", Qt::Key_Down);
+        first->view()->keyboardSearch(QString()); // a moment has passed
+        QTest::keyClicks(first->view(), typed);
+        EXPECT_EQ(first->view()->currentIndex().data().toString(), "08:30") << typed;
+    }
+    QTest::keyClick(first->view(), Qt::Key_Escape);
     PicksDay(1, {"08:00", "12:00", "13:00", "16:20"});
     user.LeavesField("txtTotalMinutes(1)");
     for (const char* list : {"cboFirstHalfStartTime(2)", "cboFirstHalfEndTime(2)", "cboSecondHalfStartTime(2)"})

@@ -38,6 +38,7 @@ TEST_F(Transferring, TheEmployeeMovesWithHisFutureRecordsAndTheFormIsReadyForThe
 
     user.Opens<frmTransferEmployees>().Picks("lstFromEmployee", "Abel").Picks("lstToDepartment", "Stores");
     EXPECT_EQ(user.ReadsAll({"lstFromGroup", "lstToOrganization"}), "Assembly|Southern Trade");
+    user.WillAnswer("CONFIRM:", "No", "not been saved").Presses("", Qt::Key_Escape);
     house.Refuses("UPDATE ON FiscalYears");
     user.WillConfirm().WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused").Clicks("cmdProcess");
     EXPECT_EQ(Places("Employees") + ", " + Places("Attendance"), "000 111 111 110 120 230, 111 111 111 120");
@@ -60,6 +61,7 @@ TEST_F(Transferring, TheEmployeeMovesWithHisFutureRecordsAndTheFormIsReadyForThe
     SessionState.EmployeeID = anna;
     SessionState.ReloadCalendar = false;
     Transfers("lstToGroup", "Assembly");
+    EXPECT_FALSE(user.Presses("", Qt::Key_Escape).The<frmTransferEmployees>().isVisible()) << "nothing is lost";
     EXPECT_THAT((std::vector{SessionState.EmployeeOrganizationID, SessionState.EmployeeDepartmentID,
                              SessionState.EmployeeGroupID, int(SessionState.ReloadCalendar)}),
                 ElementsAre(1, 1, 1, 1));

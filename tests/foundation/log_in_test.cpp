@@ -79,6 +79,7 @@ TEST_F(LogIn, AdminEntersAnyYearAndIsToldWhenItIsClosed)
     user.WhenOpens<frmLogin>([this](frmLogin&) {
         user.WillAnswer("Access denied!...", "OK");
         Types("admin", "pass");
+        EXPECT_TRUE(user.HasFocus("txtPassword"));
         user.WillAnswer("FISCAL YEAR CLOSED:", "OK",
                         "Fiscal year 2026 was closed on Fri 27-Feb-2026.\r\n\r\nYou can no longer");
         Types("admin", "secret");

@@ -4,6 +4,7 @@
 #include "calendar/main_window_fixture.h"
 #include "foundation/common_services.h"
 
+#include <QTest>
 #include <QToolTip>
 
 #include <random>
@@ -185,13 +186,15 @@ TEST_F(Balances, AFigureIsExplainedWhenSomebodyLooks)
     house.Record(marie, "Time claimed", {2026, 12, 1}, -2);
     OpensOnMarie();
     const auto explained = [this](const QString& figure) {
-        user.Clicks(figure);
-        return QToolTip::text().remove(QChar(0x2007)).replace('\n', ", ");
+        user.Presses(figure, Qt::Key_Return);
+        return QToolTip::text().remove(QChar(0x200A)).replace('\n', ", ");
     };
     EXPECT_EQ(explained("lblTotalForTheYear_DISPLAY"),
               "2 days 01:00  Recorded to date, 0 days 01:30  Booked ahead, 0 days 02:00  Pending");
     EXPECT_EQ(explained("txtTimeBanked"),
               "08:00  Put in the bank, 00:00  Taken to date, -(02:00)  Booked ahead, 00:00  Pending, 06:00  Left");
+    user.Presses("txtTimeBanked", Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
     user.Picks("cboCategories", "Vacation");
     SessionState.English = false;
     EXPECT_EQ(explained("lblTotalForTheYear_DISPLAY"),

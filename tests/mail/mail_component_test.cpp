@@ -65,15 +65,38 @@ TEST_F(MailComponent, AMessageThatFailsOnBothRoutesIsOneLineAndCanBeSentAgain)
     house.MailEnds = {{"MAPI", {3, "none"}}, {"automation", {75, "no server"}}};
     SendNotices({notice, notice});
     EXPECT_EQ(Log(), "TARVELL  -  Hello\tFalse\t3: none; 75: no server\r\nTARVELL  -  Hello\tTrue\t75: no server\r\n");
-    EXPECT_EQ(SendUnsentNotices(), 0);
+    SendUnsentNotices();
+    EXPECT_EQ(UnsentNotices().size(), 2);
     house.MailEnds.clear();
-    EXPECT_EQ(SendUnsentNotices(), 2);
+    SendUnsentNotices();
     EXPECT_TRUE(UnsentNotices().isEmpty());
 
     QDir(house.Folder()).remove("EMailErrors.log");
     QDir(house.Folder()).mkdir("EMailErrors.log");
     house.MailEnds["automation"] = {75, "no server"};
     EXPECT_EQ(SendNotice(notice).Number, 75) << "a log that cannot be written stops nobody";
+}
+
+TEST_F(MailComponent, AMessageThatNoRouteCanSendLeavesTheRouteAlone)
+{
+    for (const Notice& faulty : {Notice{"a@b.org, c@d.org", "Two", ""}, {"a@b.org", "File", "", house.Folder()}})
+        EXPECT_NE(SendNotice(faulty).Number, 0);
+    EXPECT_EQ(Log(), "Two\tFalse\t5: This is not one e-mail address: a@b.org, c@d.org\r\nFile\tFalse\t53: File not "
+                     "found: " +
+                         house.Folder() + "\r\n");
+    EXPECT_TRUE(house.Mail.isEmpty() && !SessionState.MailConfigured);
+}
+
+TEST_F(MailComponent, AMailProgramThatDoesNotAnswerIsNotAskedAgainForTheRest)
+{
+    SessionState.MailConfigured = true;
+    house.MailEnds["automation"] = {MailError::NoAnswer, "no answer"};
+    QVector<int> begun;
+    SendNotices({notice, notice, notice}, 0, [&begun](int number) { begun << number; });
+    EXPECT_EQ(begun, QVector<int>{0});
+    EXPECT_EQ(house.Mail.size(), 1);
+    EXPECT_EQ(Log().count('\n'), 3);
+    EXPECT_EQ(UnsentNotices().size(), 3);
 }
 
 TEST_F(MailComponent, AWorkstationThatIsSignedOnAndComesAgainNeedsTheOtherRouteForGood)

@@ -64,7 +64,7 @@ TEST_F(FrmCategories, TheArrowsWalkTheListBeforeACategoryIsTaken)
     auto* list = user.The<frmCategories>().findChild<QComboBox*>("cboRecords");
     QTest::keyClick(list->view(), Qt::Key_Down);
     EXPECT_EQ(user.Reads("txtEnglishName"), "") << "nothing is taken yet";
-    QTest::keyClick(list->view(), Qt::Key_Return);
+    QTest::keyClick(list->view(), Qt::Key_Tab);
     EXPECT_NE(user.Reads("txtEnglishName"), "");
     EXPECT_TRUE(list->currentText().startsWith(user.Reads("txtEnglishName")));
     EXPECT_TRUE(user.HasFocus("txtEnglishName"));

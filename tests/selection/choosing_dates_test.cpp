@@ -49,12 +49,22 @@ TEST_F(ChoosingDates, HolidaysAndDaysOffFallOutUntilTheirBoxIsCleared)
     QTest::keyClicks(from->view(), "9 jun");
     QTest::keyClick(from->view(), Qt::Key_Return);
     EXPECT_EQ(user.ReadsAll({"cboFrom", "cboTo"}), Shown(6, 29) + "|" + Shown(6, 29)) << "the end follows the start";
+    const std::pair<const char*, QString> inFrench[] = {
+        {"5 juin", Shown(6, 15)}, {"5 juil", Shown(7, 15)}, {"5 fevr.", Shown(2, 15)}};
+    for (const auto& [typed, day] : inFrench) {
+        user.Presses("cboFrom", Qt::Key_1);
+        QTest::keyClicks(from->view(), typed);
+        QTest::keyClick(from->view(), Qt::Key_Tab);
+        EXPECT_EQ(user.Reads("cboFrom"), day) << typed;
+        EXPECT_TRUE(user.HasFocus("cboTo"));
+    }
+    user.Picks("cboFrom", Shown(6, 29));
     user.Picks("cboTo", Shown(7, 6)).Picks("cboFrom", Shown(6, 30));
     EXPECT_EQ(user.Reads("cboTo"), Shown(7, 6)) << "an end that still fits is kept";
     EXPECT_EQ(user.Entries("cboTo").first(), Shown(6, 30)) << "the end cannot precede the start";
     user.Checks("chkWeekday(5)");
     EXPECT_EQ(user.Reads("lblCount"), "3 dates");
-    user.Clicks("cmdOK");
+    user.WillAnswer("CONFIRM:", "No", "not been saved").Presses("", Qt::Key_Escape).Clicks("cmdOK");
     EXPECT_THAT(Dates(), ElementsAre(Day(6, 30), Day(7, 2), Day(7, 6)));
 
     Opens().Picks("cboFrom", Shown(6, 30)).Picks("cboTo", Shown(7, 3));

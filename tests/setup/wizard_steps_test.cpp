@@ -124,15 +124,19 @@ TEST_F(WizardSteps, TimeAndTheTwoBoxesExcludeEachOtherAndEveryCategoryNeedsAName
     EXPECT_FALSE(user.Checks("chkVacation_EntitlementVaries", false).CanUse("cmdNext"));
 }
 
-TEST_F(WizardSteps, AnotherLanguageRenamesTheCategoriesThatBearTheirPresetName)
+TEST_F(WizardSteps, AnotherLanguageRenamesTheCategoriesThatBearTheirPresetNameAndChangesTheTips)
 {
     AtCategories();
-    user.Types("txtSick", "Illness");
+    user.Types("txtSick", "Illness").Types("txtHours_Sick", "7");
     for (const char* move : {"cmdPrevious", "cmdPrevious", "cmdPrevious", "cmdPrevious", "optFrench", "cmdNext",
                              "cmdNext", "cmdNext", "cmdNext"})
         user.Clicks(move);
     EXPECT_EQ(user.Reads("txtVacation") + " " + user.Reads("txtSick"), "Vacances Illness");
     EXPECT_EQ(user.Reads("lblTitle"), "CATÉGORIES D'ABSENTÉISME DE BASE");
+    const auto* greyed = user.The<frmSetUpWizard>().findChild<QWidget*>("chkSick_NoEntitlement");
+    EXPECT_EQ(greyed->toolTip(), "Effacez d'abord les heures et les minutes");
+    user.Types("txtHours_Sick", "");
+    EXPECT_EQ(greyed->toolTip(), "Aucun temps n'est alloué annuellement pour cette catégorie");
     EXPECT_EQ(user.Clicks("cmdPrevious").Reads("cboStartMonth"), "janvier");
 }
 

@@ -78,8 +78,8 @@ void MailDesk::InstallMailServer()
 QStringList MailDesk::Arrived() const
 {
     QStringList files;
-    for (const QFileInfo& file : QDir(Folder() + "/arrived").entryInfoList({"*.eml"}, QDir::Files, QDir::Time))
-        files.prepend(file.absoluteFilePath());
+    for (int number = 1; QFile::exists(QStringLiteral("%1/arrived/%2.eml").arg(Folder()).arg(number)); ++number)
+        files << QStringLiteral("%1/arrived/%2.eml").arg(Folder()).arg(number);
     return files;
 }
 

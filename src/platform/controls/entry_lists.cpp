@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QRegularExpression>
+#include <QStandardItemModel>
 #include <QStringListModel>
 #include <QStyleOptionComboBox>
 
@@ -13,16 +15,52 @@ bool IsAmong(std::initializer_list<int> keys, const QKeyEvent* event)
            std::find(keys.begin(), keys.end(), event->key()) != keys.end();
 }
 
+constexpr int kHowMatched = 0x0F; // of the toolkit's flags
+
+QString Digits(QString text)
+{
+    return text.remove(QRegularExpression("\\D"));
+}
+
+/// Entries that begin with a digit are found by their digits alone; without the leading zero where nothing else begins
+/// so.
+template <typename Model>
+class FoundByDigits : public Model
+{
+public:
+    using Model::Model;
+
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                          Qt::MatchFlags flags) const override
+    {
+        const QString typed = value.toString();
+        const bool digits = !typed.isEmpty() && typed.front().isDigit();
+        if (!digits || role != Qt::DisplayRole || (flags.toInt() & kHowMatched) != Qt::MatchStartsWith)
+            return Model::match(start, role, value, hits, flags);
+        const int rows = this->rowCount();
+        for (const QString& lead : {QString(), QStringLiteral("0")})
+            for (int passed = 0; passed < rows; ++passed)
+                if (const QModelIndex entry = this->index((start.row() + passed) % rows, start.column());
+                    Digits(entry.data().toString()).startsWith(lead + Digits(typed)))
+                    return {entry};
+        return {};
+    }
+};
+
 /// The list drops down, and the key moves in it.
 void WalkInto(QComboBox* list, QKeyEvent* event)
 {
+    const bool chosen = list->currentIndex() >= 0;
     list->showPopup();
-    QApplication::sendEvent(list->view(), event);
+    if (chosen || event->key() != Qt::Key_Down)
+        QApplication::sendEvent(list->view(), event);
+    else
+        list->view()->setCurrentIndex(list->model()->index(0, list->modelColumn()));
 }
 
 /// A list box with a field to type in. The toolkit's own makes the list that drops down, by far its most expensive
 /// part, as soon as somebody asks for its size or moves it about in the form; this one waits until it drops down.
-class EntryBox : public QComboBox
+class EntryBox : public DropDownList
 {
 public:
     explicit EntryBox(int characters) : characters_(characters)
@@ -66,10 +104,8 @@ private:
 
 QComboBox* EntryCombo(const QString& name, int characters)
 {
-    constexpr int kEntriesShown = 16;
     auto* combo = new EntryBox(characters);
     combo->setObjectName(name);
-    combo->setMaxVisibleItems(kEntriesShown);
     return combo;
 }
 
@@ -77,7 +113,35 @@ void DropDownAt(QComboBox* list, const QString& typed)
 {
     const bool found = list->findText(typed, Qt::MatchStartsWith) >= 0;
     list->showPopup();
+    const QModelIndex current = list->view()->currentIndex();
+    list->view()->keyboardSearch({}); // what was typed a moment ago is over
+    list->view()->setCurrentIndex(current);
     list->view()->keyboardSearch(found ? typed : '0' + typed);
+}
+
+DropDownList::DropDownList()
+{
+    constexpr int kEntriesShown = 16;
+    setMaxVisibleItems(kEntriesShown);
+}
+
+void DropDownList::showPopup()
+{
+    view()->removeEventFilter(this);
+    view()->installEventFilter(this);
+    QComboBox::showPopup();
+}
+
+bool DropDownList::eventFilter(QObject* target, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || !IsAmong({Qt::Key_Tab, Qt::Key_Backtab}, static_cast<QKeyEvent*>(event)))
+        return QComboBox::eventFilter(target, event);
+    QKeyEvent taking(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(target, &taking);
+    const QWidget* focused = window()->focusWidget();
+    if (focused == this || isAncestorOf(focused)) // unless what was taken has led elsewhere
+        QApplication::sendEvent(this, event);
+    return true;
 }
 
 void WalkedList::keyPressEvent(QKeyEvent* event)
@@ -93,9 +157,15 @@ void WalkedList::keyPressEvent(QKeyEvent* event)
         QComboBox::keyPressEvent(event);
 }
 
+void FindTimesByDigits(QComboBox* list)
+{
+    list->setModel(new FoundByDigits<QStandardItemModel>(list));
+}
+
 void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries)
 {
-    auto* model = new QStringListModel(entries, lists.front());
+    auto* model = new FoundByDigits<QStringListModel>(lists.front());
+    model->setStringList(entries);
     for (QComboBox* list : lists) {
         list->setModel(model);
         list->setCurrentIndex(-1);

@@ -13,15 +13,29 @@ QComboBox* EntryCombo(const QString& name, int characters);
 /// Drops a list down at the entry that begins with what was typed; hours and days are found without their leading zero.
 void DropDownAt(QComboBox* list, const QString& typed);
 
+/// A list in which Tab takes the row that is marked while it is dropped down, and goes on; the toolkit would swallow
+/// it.
+class DropDownList : public QComboBox
+{
+public:
+    DropDownList();
+    void showPopup() override;
+    bool eventFilter(QObject* target, QEvent* event) override;
+};
+
 /// A list that drops down at the first arrow, letter or digit: a person walks through it, and nothing is taken before
 /// Enter or a click.
-class WalkedList : public QComboBox
+class WalkedList : public DropDownList
 {
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// The lists offer the same entries, which are kept once for all of them. None is chosen.
+/// The list finds its times by what is typed with and without the colon and the leading zero: "830", "8h30".
+void FindTimesByDigits(QComboBox* list);
+
+/// The lists offer the same entries, which are kept once for all of them, and found as times are. None is
+/// chosen.
 void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries);
 
 /// Shows a text and the entry that reads so; an empty text for none.

@@ -70,15 +70,16 @@ void PaintCorner(QPainter& painter, const QRect& rect, const QString& text, cons
     painter.restore();
 }
 
+/// At the foot, away from the letters in the corner.
 void PaintTriangle(QPainter& painter, const QRect& rect, const QColor& color)
 {
-    const int side = std::max(5, rect.height() / 3);
-    const QPoint corner = rect.bottomRight() - QPoint(1, 1);
+    const int side = std::max(6, rect.height() * 2 / 5);
+    const QPoint corner = rect.bottomLeft() + QPoint(1, -1);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
-    painter.drawPolygon(QPolygon({corner, corner - QPoint(side, 0), corner - QPoint(0, side)}));
+    painter.drawPolygon(QPolygon({corner, corner + QPoint(side, 0), corner - QPoint(0, side)}));
     painter.restore();
 }
 
@@ -117,12 +118,6 @@ bool HasLines(const FlexCell* cell, bool outside)
     return cell ? cell->Lines : !outside;
 }
 
-/// Names from the data may look like markup.
-QString PlainTip(const QString& text)
-{
-    return text.isEmpty() ? text : "<p style='white-space:pre'>" + text.toHtmlEscaped() + "</p>";
-}
-
 QColor ColorOr(int code, const QColor& own)
 {
     return code < 0 ? own : ColorOfCode(code);
@@ -156,22 +151,22 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const FlexCell& cell = *cells.At(row, col);
     const bool tinted = grid_->rowSelection_ && row == grid_->currentIndex().row();
     const QRect& rect = option.rect;
-    if (cell.Back >= 0 || tinted)
-        painter->fillRect(rect, ColorOr(cell.Back, Paper::kTint));
+    const QColor back = ColorOr(cell.Back, tinted ? Paper::kTint : Qt::white);
+    if (cell.Back >= 0 || tinted || option.state & QStyle::State_Selected)
+        painter->fillRect(rect, back); // also over the toolkit's colour of what is chosen
     if (cell.Lines) {
         const bool outside = !grid_->bordered_;
         PaintLines(*painter, rect, !HasLines(cells.At(row, col - 1), outside),
                    !HasLines(cells.At(row - 1, col), outside));
     }
-    const QColor back = ColorOr(cell.Back, tinted ? Paper::kTint : Qt::white);
+    if (!grid_->rowSelection_ && grid_->hasFocus() && index == grid_->currentIndex())
+        PaintRing(*painter, rect); // below the text: in a low row it would cut it
     const Ink ink = ReadableInk(ColorOr(cell.Fore, Paper::kText), back);
     SetBold(*painter, cell.Bold);
     const QRect room = cell.Note ? PaintNote(*painter, rect, *cell.Note, ink, back) : rect;
     const bool led = cell.Note && !cell.Note->Lead.isEmpty();
     const Qt::Alignment alignment = led ? Qt::AlignRight | Qt::AlignVCenter : cells.AlignmentOf(cell, col);
     PaintText(*painter, room, led ? cell.Text.trimmed() : cell.Text, alignment, ink);
-    if (!grid_->rowSelection_ && grid_->hasFocus() && index == grid_->currentIndex())
-        PaintRing(*painter, rect);
 }
 
 bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
@@ -186,7 +181,7 @@ bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
     const FlexCells& cells = *grid_->cells_;
     const QStringList hints = cells.Hints ? cells.Hints(index.row(), index.column()) : QStringList();
     const QString tip = !hints.isEmpty() ? hints.join('\n') : cut ? cell->Text : QString();
-    QToolTip::showText(event->globalPos(), PlainTip(tip), view);
+    QToolTip::showText(event->globalPos(), tip, view);
     return true;
 }
 

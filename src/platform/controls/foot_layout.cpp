@@ -47,6 +47,9 @@ QList<FootLayout::Member> FootLayout::InOrder() const
     auto& [left, commands, waysOut] = groups;
     if (commands.isEmpty())
         return left + waysOut;
+    const auto isMain = [](const Member& member) { return member.Item->widget()->property("look") == "main"; };
+    if (const auto main = std::find_if(commands.begin(), commands.end(), isMain); main != commands.end())
+        std::swap(*main, commands.last());
     const Member main = commands.takeLast();
     return left + commands + waysOut + QList<Member>{main};
 }

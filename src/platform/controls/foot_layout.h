@@ -16,7 +16,7 @@ public:
 
     ~FootLayout() override;
 
-    /// The command that was added last is the main one.
+    /// The command that was added last is the main one, unless another one looks so at the moment.
     void Add(QWidget* control, Group group);
     /// The controls as the Tab key meets them: the main one first, the ways out behind the commands.
     QList<QWidget*> TabOrder() const;

@@ -244,6 +244,7 @@ void SetMainButton(QPushButton* button, bool main)
 {
     button->setDefault(main);
     SetLook(button, main ? "main" : "");
+    button->updateGeometry(); // it stands last
 }
 
 QSize FittingScreen(const QWidget* window, const QSize& size)
@@ -264,7 +265,10 @@ void ClearOptions(std::initializer_list<QRadioButton*> options)
 int ShowModal(QDialog& form)
 {
     DefaultWorkspace().PauseReading();
-    return modalRunner ? modalRunner(form) : form.exec();
+    const int result = modalRunner ? modalRunner(form) : form.exec();
+    if (form.parentWidget()) // where two windows close at once, some desktops give the keyboard to none
+        form.parentWidget()->window()->activateWindow();
+    return result;
 }
 
 void SetModalRunner(std::function<int(QDialog&)> runner)
@@ -312,6 +316,7 @@ void ApplyStyle()
     QApplication::setFont(ProgramFont());
     QApplication::setWindowIcon(PictureIcon("app"));
     ApplyTheme(scheme);
+    FollowDesktop();
 }
 
 QIcon PictureIcon(const QString& name)

@@ -3,11 +3,14 @@
 #include "platform/ink.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFile>
 #include <QRegularExpression>
+#include <QTimer>
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 /// A static library keeps its resources only when somebody asks for them by name, outside any namespace.
 static void LoadResources()
@@ -98,6 +101,47 @@ QPalette ThemePalette()
         palette.setColor(QPalette::Disabled, role, ThemeColor("faint"));
     return palette;
 }
+
+/// The desktop's colours come into force for a moment, so that they can be asked for.
+void TakeUpDesktop()
+{
+    const Scheme before = schemeInForce;
+    QApplication::setPalette(QPalette());
+    const Scheme scheme = DesktopScheme();
+    if (scheme == before)
+        QApplication::setPalette(ThemePalette());
+    else
+        ApplyTheme(scheme);
+}
+
+/// The toolkit tells each window that the desktop looks otherwise, or some desktops set their colours themselves; they
+/// are taken up once for all.
+class DesktopFollower : public QObject
+{
+public:
+    explicit DesktopFollower(QObject* parent) : QObject(parent)
+    {
+        soon_.setSingleShot(true);
+        connect(&soon_, &QTimer::timeout, this, [this] {
+            const bool foreign = QApplication::palette().color(QPalette::Window) != ThemeColor("page");
+            if (std::exchange(told_, false) || foreign)
+                TakeUpDesktop();
+        });
+    }
+
+    bool eventFilter(QObject* target, QEvent* event) override
+    {
+        const bool told = event->type() == QEvent::ThemeChange && target->isWindowType();
+        told_ = told_ || told;
+        if (told || (event->type() == QEvent::ApplicationPaletteChange && target == qApp))
+            soon_.start(0);
+        return false;
+    }
+
+private:
+    QTimer soon_;
+    bool told_ = false; ///< by a window
+};
 } // namespace
 
 Scheme SchemeOf(const QPalette& desktop, const QString& themeName)
@@ -126,6 +170,11 @@ void ApplyTheme(Scheme scheme)
     QFile sheet(":/tarvell.qss");
     if (sheet.open(QIODevice::ReadOnly))
         qApp->setStyleSheet(FilledSheet(QString::fromUtf8(sheet.readAll())));
+}
+
+void FollowDesktop()
+{
+    qApp->installEventFilter(new DesktopFollower(qApp));
 }
 
 QColor ThemeColor(const QString& name)

@@ -16,12 +16,14 @@ enum class Scheme
 /// The scheme of a desktop: by the colours that it gives to windows, and by its theme's name where that tells more
 /// ("HighContrastInverse", "Adwaita:dark").
 Scheme SchemeOf(const QPalette& desktop, const QString& themeName);
-/// The scheme of this desktop; TARVELL_SCHEME (light, dark, contrast, contrast-dark) has the last word. Asked before
-/// the program's own colours are set.
+/// The scheme of this desktop; TARVELL_SCHEME (light, dark, contrast, contrast-dark) has the last word. Asked while
+/// the colours in force are the desktop's.
 Scheme DesktopScheme();
 
 /// Sets the colours of all forms: the palette and the style sheet.
 void ApplyTheme(Scheme scheme);
+/// From here on the forms change their colours with those of the desktop.
+void FollowDesktop();
 /// A colour of the scheme in force by its name in the table ("page", "head"); not valid for a name that is not there.
 QColor ThemeColor(const QString& name);
 /// The style sheet with each @name replaced by what it stands for in the scheme in force.

@@ -120,9 +120,8 @@ QStringList ComposeArguments(const MailMessage& message)
 /// The user still writes: his window outlives this program, so nothing owns the process, whose end would kill it.
 void LeaveOpen(Process process)
 {
-    static auto& open = *new QList<QProcess*>;
     QObject::connect(process.get(), &QProcess::finished, process.get(), &QObject::deleteLater);
-    open << process.release();
+    process.release();
 }
 
 MailResult Compose(const MailMessage& message)

@@ -27,16 +27,25 @@ void SetMailRoutes(const MailRoutes& routes);
 /// How long a mail program may work, in milliseconds; its window is left alone sooner.
 extern int MailPatience;
 
-/// While one lives, mail is on its way: the minute's work waits.
+/// While one lives, mail is on its way: the minute's work waits, and a sign is shown.
 class MailOnItsWay
 {
 public:
-    MailOnItsWay() { ++count_; }
-    ~MailOnItsWay() { --count_; }
+    MailOnItsWay()
+    {
+        if (count_++ == 0 && Sign)
+            Sign(true);
+    }
+    ~MailOnItsWay()
+    {
+        if (--count_ == 0 && Sign)
+            Sign(false);
+    }
     MailOnItsWay(const MailOnItsWay&) = delete;
     MailOnItsWay& operator=(const MailOnItsWay&) = delete;
 
     static bool IsAny() { return count_ > 0; }
+    static inline std::function<void(bool shown)> Sign; ///< the forms put it in; without it nothing is shown
 
 private:
     static inline int count_ = 0;

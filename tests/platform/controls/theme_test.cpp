@@ -1,3 +1,4 @@
+#include "foundation/frm_captions.h"
 #include "platform/controls/theme.h"
 #include "platform/ink.h"
 
@@ -79,6 +80,23 @@ TEST_F(Theme, TheSheetTakesAllItsColoursFromTheTable)
             EXPECT_TRUE(QFile::exists(file)) << qPrintable(file);
         }
     }
+}
+
+TEST_F(Theme, FormsFollowADesktopThatChangesItsColours)
+{
+    ApplyTheme(Scheme::ContrastDark);
+    const std::unique_ptr<QPushButton> arrow(MakeArrow("cmdNextYear", "next", {}));
+    arrow->show();
+    const auto picture = [&arrow] { return arrow->icon().pixmap(16).toImage(); };
+    const QImage onDark = picture();
+    QEvent changed(QEvent::ThemeChange);
+    QCoreApplication::sendEvent(arrow->windowHandle(), &changed);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor("#eef1f5")) << "the one of the tests is light";
+    EXPECT_NE(picture(), onDark);
+    QApplication::setPalette(Desktop("#31363b", "#eff0f1"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor("#eef1f5")) << "the forms' colours go together";
 }
 
 TEST_F(Theme, TheDesktopChoosesTheScheme)
