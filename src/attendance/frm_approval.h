@@ -43,8 +43,8 @@ private:
     int shown_ = -1;               ///< the group shown, -1 none
     RequestedDates requested_;     ///< what it asks for
 
-    QWidget* fraNone = nullptr;     ///< seen otherwise
     QWidget* fraRequests = nullptr; ///< seen while some wait
+    QWidget* fraNone = nullptr;     ///< seen otherwise
     RequestList* cboRecords = nullptr;
     ApprovalGrid* flxRecordsToApprove = nullptr;
     QRadioButton* optApproveAll = nullptr;
