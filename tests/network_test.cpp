@@ -62,6 +62,7 @@ TEST_F(OnAShare, EveryClickCostsFewCalls)
     frmMain* main = nullptr;
     costs(110, [&] { main = &user.OpensMain("ADMIN"); });
     costs(10, [&] { main->timAbsence_Timer(); });
+    EXPECT_EQ(user.Reads("imgApprove"), "Approve (1)") << "an approver's minute costs no more";
     costs(20, [&] { user.Picks("cboCategories", "Vacation"); });
     change("Abel");
     costs(35, [&] { change("Employee 7,"); });
