@@ -112,14 +112,14 @@ QStringList DailyAttendance(DataControl& datAbsence, int date)
     return lines;
 }
 
-QString ConflictingRecords(DataControl& datAbsence, int date)
+QMap<int, QStringList> ConflictingRecords(DataControl& datAbsence, int from, int to)
 {
-    QString lines;
-    for (const Recordset& row :
-         datAbsence.Select(QString(kTimesOfRecord) + " FROM Attendance, Categories WHERE Attendance.CategoryID = "
-                                                     "Categories.RecordID AND Attendance.RecordDate = ? AND "
-                                                     "Attendance.EmployeeID = ? AND Attendance.CancelledDate = 0",
-                           date, SessionState.EmployeeID))
-        lines += ConflictLine(row);
+    QMap<int, QStringList> lines;
+    for (const Recordset& row : datAbsence.Select(
+             QString(kTimesOfRecord) + ", Attendance.RecordDate FROM Attendance, Categories WHERE "
+                                       "Attendance.CategoryID = Categories.RecordID AND Attendance.RecordDate BETWEEN "
+                                       "? AND ? AND Attendance.EmployeeID = ? AND Attendance.CancelledDate = 0",
+             from, to, SessionState.EmployeeID))
+        lines[row.Long("RecordDate")] << ConflictLine(row);
     return lines;
 }

@@ -3,7 +3,8 @@
 #include "foundation/explained_balance.h"
 #include "platform/dao/dao.h"
 
-#include <QString>
+#include <QMap>
+#include <QStringList>
 #include <QVector>
 
 /// One category on one date of the calendar. `Color` is 0xBBGGRR, 0 none. `Hours`, decimal, are those of all records of
@@ -33,5 +34,5 @@ QVector<CalendarRecord> RecordsOfTheYear(DataControl& datAbsence);
 /// The lines that list the records of one date: name, category, times, duration.
 QStringList DailyAttendance(DataControl& datAbsence, int date);
 
-/// The employee's live records on a date, effective and pending, a line each; empty when there are none.
-QString ConflictingRecords(DataControl& datAbsence, int date);
+/// The employee's live records from one date to another, effective and pending: a line each, by date.
+QMap<int, QStringList> ConflictingRecords(DataControl& datAbsence, int from, int to);

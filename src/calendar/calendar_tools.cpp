@@ -23,6 +23,15 @@ constexpr Text kDatesHint = {
     "Cliquez sur les dates où vous souhaitez enregistrer des absences et cliquez ensuite sur l'icône active. Appuyez "
     "sur «Échap» pour annuler la procédure."};
 
+constexpr Text kRecordsOnDate = {
+    "There are other attendance records for {name} on that date!\r\n\r\n{lines}\r\nProceed anyway?",
+    "Il y a d'autres absences au nom de {name} cette journée là!\r\n\r\n{lines}\r\nSouhaitez-vous tout-de-même "
+    "continuer?"};
+constexpr Text kRecordsOnDates = {
+    "There are other attendance records for {name} on those dates!\r\n\r\n{lines}\r\nProceed anyway?",
+    "Il y a d'autres absences au nom de {name} ces journées là!\r\n\r\n{lines}\r\nSouhaitez-vous tout-de-même "
+    "continuer?"};
+
 QString NotOnWeekday(int weekday)
 {
     const QString name = WeekdayName(weekday);
@@ -267,22 +276,39 @@ bool CalendarTools::AcceptsDayOff(int date) const
         Face::Warning);
 }
 
+bool CalendarTools::AcceptsConflicts(const Text& question, const QStringList& lines)
+{
+    conflictsAccepted_ = AskWithList(
+        T("WARNING:", "ATTENTION:"),
+        Fill(T(question), {{"name", SessionState.CurrentSelection}, {"lines", lines.join(QString())}}), lines.size());
+    return conflictsAccepted_;
+}
+
 /// Asks about other records of the date; true when the user does not want the date.
 bool CalendarTools::AreThereConflictingRecords(int date)
 {
     const Connection connection(host_.Data());
-    const QString lines = ConflictingRecords(host_.Data(), date);
-    if (lines.isEmpty())
-        return false;
-    conflictsAccepted_ =
-        AskWithList(T("WARNING:", "ATTENTION:"),
-                    Fill(T("There are other attendance records for {name} on that date!\r\n\r\n{lines}\r\nProceed "
-                           "anyway?",
-                           "Il y a d'autres absences au nom de {name} cette journée là!\r\n\r\n{lines}\r\n"
-                           "Souhaitez-vous tout-de-même continuer?"),
-                         {{"name", SessionState.CurrentSelection}, {"lines", lines}}),
-                    lines.count('\n'));
-    return !conflictsAccepted_;
+    const QStringList lines = ConflictingRecords(host_.Data(), date, date).value(date);
+    return !lines.isEmpty() && !AcceptsConflicts(kRecordsOnDate, lines);
+}
+
+/// Asks once about all dates that have other records; those dates when the user does not want them.
+DateList CalendarTools::ConflictsRefused(const DateList& dates)
+{
+    if (dates.isEmpty())
+        return {};
+    DateList taken;
+    QStringList lines;
+    const QMap<int, QStringList> records = ConflictingRecords(host_.Data(), dates.first(), dates.last());
+    for (const int date : dates)
+        for (const QString& line : records.value(date)) {
+            lines << FormatDate(date, "ddd dd-mmm-yyyy") + '\t' + line;
+            if (!taken.contains(date))
+                taken << date;
+        }
+    if (taken.isEmpty() || AcceptsConflicts(taken.size() == 1 ? kRecordsOnDate : kRecordsOnDates, lines))
+        return {};
+    return taken;
 }
 
 bool CalendarTools::AcceptsDate(int date)
@@ -319,12 +345,16 @@ void CalendarTools::MarkRange(int from, int to)
         range_ = {from, {}, {}};
     const auto [first, last] = std::minmax({from, to});
     LeaveOutside(first, last);
+    DateList dates;
     for (int date = first; date <= last; ++date)
-        if (!host_.Calendar().IsMarked(date) && !range_.Refused.contains(date)) {
-            const bool accepted = AcceptsInRange(date);
-            (accepted ? range_.Marked : range_.Refused) << date;
-            if (accepted)
-                Mark(date, kMark);
+        if (!host_.Calendar().IsMarked(date) && !range_.Refused.contains(date) && IsInRange(date))
+            dates << date;
+    const DateList refused = ConflictsRefused(dates);
+    range_.Refused << refused;
+    for (const int date : dates)
+        if (!refused.contains(date)) {
+            range_.Marked << date;
+            Mark(date, kMark);
         }
     ShowCount();
 }
@@ -339,11 +369,11 @@ void CalendarTools::LeaveOutside(int first, int last)
         }
 }
 
-/// As a period leaves them out: whoever wants one of those days clicks it.
-bool CalendarTools::AcceptsInRange(int date)
+/// Holidays and days off are left out as a period leaves them out: whoever wants one of those days clicks it.
+bool CalendarTools::IsInRange(int date) const
 {
     const bool dayOff = SessionState.HasSchedule && SessionState.HoursWorked[WeekdayIndex(date)] == 0;
-    return !dayOff && !host_.Calendar().IsHoliday(date) && AcceptsDate(date);
+    return !dayOff && !host_.Calendar().IsHoliday(date);
 }
 
 /// What is marked so far stands below the hint.

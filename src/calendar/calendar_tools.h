@@ -88,6 +88,8 @@ private:
     bool AcceptsDate(int date);
     bool AcceptsDayOff(int date) const;
     bool AreThereConflictingRecords(int date);
+    DateList ConflictsRefused(const DateList& dates);
+    bool AcceptsConflicts(const Text& question, const QStringList& lines);
     int RecordOnDate(int date, bool pending);
     bool MayChangeOwnRecords(const Text& refusal) const;
     struct Range
@@ -97,7 +99,7 @@ private:
         DateList Refused; ///< not to be asked about again
     };
     void LeaveOutside(int first, int last);
-    bool AcceptsInRange(int date);
+    bool IsInRange(int date) const;
     void ShowCount();
     void Mark(int date, const QString& mark);
     void Unmark(int date);

@@ -136,6 +136,7 @@ bool CalendarPane::HideRecords()
     return shown;
 }
 
+/// It grows by the count of the days.
 void CalendarPane::ShowHint(const QString& hint)
 {
     const bool began = txtSelect->isHidden();
@@ -143,6 +144,8 @@ void CalendarPane::ShowHint(const QString& hint)
     txtSelect->adjustSize();
     if (began)
         txtSelect->move(kHintOffset);
+    else
+        PlaceHint(flxCalendar->currentIndex());
     txtSelect->setVisible(!hint.isEmpty() && SessionState.ShowSelectHint);
     txtSelect->raise();
 }

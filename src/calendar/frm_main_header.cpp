@@ -7,10 +7,14 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace
 {
-constexpr int kListWidth = 200;
-constexpr int kLeastWidth = 140; ///< of the list, where the name needs room
+constexpr int kYearWidth = 80;
+constexpr int kMostWidth = 400;      ///< of the list of categories
+constexpr int kLeastWidth = 140;     ///< of it, where the name needs room
+constexpr int kWholeCharacters = 14; ///< a name of so many is not cut before the list is that narrow
 constexpr Text kTotalForTheYear = {"Total for the year", "Total pour l'année"};
 constexpr Text kTimeBank = {"Time bank", "Banque de temps"};
 
@@ -20,7 +24,8 @@ class ElidedLabel : public QLabel
 public:
     QSize minimumSizeHint() const override
     {
-        return {fontMetrics().averageCharWidth() * 8, QLabel::sizeHint().height()};
+        const QSize whole = QLabel::sizeHint();
+        return {std::min(fontMetrics().averageCharWidth() * kWholeCharacters, whole.width()), whole.height()};
     }
 
 protected:
@@ -74,8 +79,9 @@ QFrame* MainHeader::YearCard()
     grid->addWidget(lblCurrentSelection, 0, 4);
     grid->addWidget(lblCurrentSelection_DISPLAY, 1, 4);
     cboCategories = Named<WalkedList>("cboCategories");
+    cboCategories->setSizeAdjustPolicy(QComboBox::AdjustToContents); // which change with the language
     cboCategories->setMinimumWidth(kLeastWidth);
-    cboCategories->setMaximumWidth(2 * kListWidth);
+    cboCategories->setMaximumWidth(kMostWidth);
     connect(cboCategories, &QComboBox::currentIndexChanged, this, &MainHeader::cboCategories_Click);
     grid->addWidget(AsCaption(LabelOf(cboCategories, {"Ca&tegory", "Ca&tégorie"})), 0, 5);
     grid->addWidget(cboCategories, 1, 5);
@@ -87,7 +93,7 @@ void MainHeader::AddYears(QGridLayout* grid)
 {
     lblFiscalYear = AsFigure(MakeLabel("lblFiscalYear"));
     lblFiscalYear->setAlignment(Qt::AlignCenter);
-    lblFiscalYear->setMinimumWidth(110);
+    lblFiscalYear->setMinimumWidth(kYearWidth);
     grid->addWidget(AsCaption(MakeLabel("lblFiscalYearCaption", {"Fiscal year", "Année fiscale"})), 0, 0, 1, 3);
     grid->addWidget(lblFiscalYear, 1, 1);
     for (const Command* command : CommandsIn(Place::Years)) {

@@ -70,7 +70,7 @@ QSize FormBase::sizeHint() const
 
 QPushButton* FormBase::AddButton(const char* name, const Text& caption, const std::function<void()>& clicked)
 {
-    auto* button = MakeButton(name, caption);
+    auto* button = MakeButton<PromptButton>(name, caption);
     connect(button, &QPushButton::clicked, this, [this, clicked] { Attempt(clicked); });
     return button;
 }
@@ -179,6 +179,7 @@ QStringList FormBase::Contents() const
     for (const QWidget* control : findChildren<QWidget*>())
         if (const QString name = control->objectName(); !name.isEmpty() && !name.startsWith("qt_"))
             contents << name + '=' + ContentOf(control); // the toolkit's own parts come and go
+    contents.sort(); // a page that comes to the front changes its place among the others
     return contents;
 }
 

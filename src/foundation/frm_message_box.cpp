@@ -114,7 +114,7 @@ void frmMessageBox::BuildButtons()
     QString taken;
     for (int position = 0; position < static_cast<int>(cmdButton.size()); ++position) {
         QPushButton* button = cmdButton[static_cast<std::size_t>(position)] =
-            Named<QPushButton>(ArrayName("cmdButton", position));
+            Named<PromptButton>(ArrayName("cmdButton", position));
         const QString caption = message_.Captions.value(position);
         button->setText(WithMnemonic(caption, taken));
         button->setVisible(position < message_.Captions.size());

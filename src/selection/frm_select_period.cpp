@@ -46,6 +46,7 @@ frmSelectPeriod::frmSelectPeriod(PeriodMode mode, QWidget* parent)
 {
     const ModeTexts& texts = kModes[static_cast<int>(mode)];
     SetTitle(this, texts.Title);
+    AskBeforeLosing();
     auto* content = Stack(kPeriodPartsGap, {AsHead(MakeLabel("lblInstructions", texts.Instructions))});
     content->addLayout(Dates());
     content->addSpacing(kOptionsGap);

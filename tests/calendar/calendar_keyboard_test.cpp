@@ -1,5 +1,6 @@
 #include "calendar/day_notes.h"
 #include "calendar/main_window_fixture.h"
+#include "platform/controls/theme.h"
 
 namespace
 {
@@ -34,6 +35,22 @@ protected:
     {
         const QPoint place = Place(month, day);
         return Grid().viewport()->grab(Grid().CellRect(place.y(), place.x())).toImage();
+    }
+    bool HintCoversDecember()
+    {
+        const int head = Place(12, 1).y() - 2;
+        const QRect month = Grid().CellRect(head, Place(12, 6).x()) | Grid().CellRect(head + 6, Place(12, 5).x());
+        return main->findChild<QWidget*>("txtSelect")->geometry().intersects(month);
+    }
+    /// A marked day bears its sign on a plate of its own.
+    bool BearsSign(int month, int day)
+    {
+        const QImage image = Painted(month, day);
+        int plate = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                plate += image.pixelColor(x, y) == Paper::kRangeRing;
+        return plate > 20;
     }
     QString Counted() { return user.Reads("txtSelect").section('\n', -1); }
 };
@@ -70,22 +87,31 @@ TEST_F(CalendarKeys, ARangeIsMarkedWithShiftOrByDraggingAndCounted)
     After({Qt::Key_2}, Qt::ControlModifier);
     ASSERT_TRUE(Visible("txtSelect") && user.HasFocus("flxCalendar"));
     EXPECT_EQ(After({Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right}), "12-04");
-    user.WillAnswer("WARNING:", "No", "There are other attendance records");
+    user.WillAnswer("WARNING:", "No", "Marie Bouchard on that date!\r\n\r\nWed 09-Dec-2026\tSick\t");
     After({Qt::Key_Down}, Qt::ShiftModifier);
     EXPECT_EQ(Counted(), "5 days, 35:00") << "neither the weekend nor what was refused";
+    EXPECT_FALSE(HintCoversDecember()) << "also when it has grown by the count";
     After({Qt::Key_Left}, Qt::ShiftModifier);
     EXPECT_EQ(Counted(), "4 days, 28:00") << "what was refused is not asked about again";
-    for (const int day : {1, 4, 31}) {
-        const QRect cell = Grid().CellRect(Place(12, day).y(), Place(12, day).x());
-        EXPECT_FALSE(main->findChild<QWidget*>("txtSelect")->geometry().intersects(cell)) << "beside the month";
-    }
     EXPECT_EQ(Days({{12, 4}, {12, 5}, {12, 9}, {12, 10}, {12, 11}}),
               " X ffffff, 5 ffffff, 9 ffc0c0,  X ffffff, 11 ffffff");
     EXPECT_TRUE(Said(12, 10).contains("Selected"));
+    EXPECT_TRUE(BearsSign(12, 10) && !BearsSign(12, 9)) << "no code of a category";
     After({Qt::Key_Space});
     EXPECT_EQ(Counted(), "3 days, 21:00");
     Drags({12, 28}, {12, 21});
     EXPECT_EQ(Counted(), "8 days, 56:00") << "Christmas is left out";
+    for (int day = 14; day < 19; ++day)
+        for (const char* category : {"Sick", "Vacation"})
+            house.Record(marie, category, {2026, 12, day}, 2);
+    user.SeesMessage = [](const Message& message) {
+        EXPECT_TRUE(message.ScrollBar && message.Text.contains("14-Dec") && message.Text.contains("18-Dec"));
+    };
+    user.WillAnswer("WARNING:", "Yes", "on those dates!");
+    Drags({12, 14}, {12, 18});
+    EXPECT_EQ(Counted(), "13 days, 91:00") << "asked once";
+    EXPECT_FALSE(HintCoversDecember());
+    user.SeesMessage = {};
     After({Qt::Key_Escape});
     EXPECT_EQ(Days({{12, 4}, {12, 21}, {12, 28}}), "4 ffffff, 21 ffffff, 28 ffffff");
 

@@ -322,6 +322,26 @@ TEST_F(MainWindow, ANeighbouringYearBringsItsOwnUserAndRights)
     EXPECT_TRUE(user.Entries("cboCategories").contains("Vacation"));
 }
 
+TEST_F(MainWindow, TheNameShownIsWholeInANarrowWindowAndALongOneInItsTip)
+{
+    OpensOnMarie();
+    user.ChoosesMenu("mnuSpecialSwitchLanguage");
+    main->resize(960, 540);
+    QCoreApplication::processEvents();
+    auto* name = main->findChild<QLabel*>("lblCurrentSelection_DISPLAY");
+    const auto* categories = main->findChild<QComboBox*>("cboCategories");
+    EXPECT_GE(name->width(), name->fontMetrics().horizontalAdvance("Marie Bouchard"));
+    EXPECT_GE(categories->width(), categories->sizeHint().width()) << "as long as there is room for both";
+    name->grab();
+    EXPECT_EQ(name->toolTip(), "");
+    const QString longest = "Marie-Hélène Bouchard-Tremblay de la Durantaye";
+    name->setText(longest);
+    QCoreApplication::processEvents();
+    name->grab();
+    EXPECT_EQ(name->toolTip(), longest);
+    EXPECT_LE(main->width(), 960);
+}
+
 TEST_F(MainWindow, AnIdleProgramCountsDownPastZeroAndEndsEvenUnderAForm)
 {
     Opens("MBOUCHARD");

@@ -134,7 +134,11 @@ TEST_F(ChoosingDates, APeriodIsTheYearAMonthOrTwoDatesThatFollowEachOther)
     EXPECT_EQ(user.Reads("cboFrom"), Shown(1, 1));
     user.Picks("cboFrom", Shown(9, 7));
     Chooses({Day(9, 7), Day(9, 7)});
+    user.Opens<frmSelectPeriod>().Clicks("optMonth(1)");
+    user.WillAnswer("CONFIRM:", "No", "not been saved").Presses("cboFrom", Qt::Key_Escape);
+    EXPECT_TRUE(user.The<frmSelectPeriod>().isVisible());
     user.Opens<frmSelectPeriod>().Presses("cboFrom", Qt::Key_Escape);
+    EXPECT_FALSE(user.The<frmSelectPeriod>().isVisible()) << "nothing is lost";
     EXPECT_EQ(user.The<frmSelectPeriod>().PeriodStart() + user.The<frmSelectPeriod>().PeriodEnd(), 0);
 }
 

@@ -19,11 +19,18 @@ constexpr int kHowMatched = 0x0F; // of the toolkit's flags
 
 QString Digits(QString text)
 {
-    return text.remove(QRegularExpression("\\D"));
+    static const QRegularExpression kOther("\\D");
+    return text.remove(kOther);
 }
 
-/// Entries that begin with a digit are found by their digits alone; without the leading zero where nothing else begins
-/// so.
+/// The digits with which a time begins, its hours whole where something follows them: "1h3" is 01:3.
+QString DigitsOfTime(const QString& typed)
+{
+    static const QRegularExpression kOneHour("^\\d\\D");
+    return Digits(typed.contains(kOneHour) ? '0' + typed : typed);
+}
+
+/// Entries that begin with a digit are found by their digits alone, from the first one on.
 template <typename Model>
 class FoundByDigits : public Model
 {
@@ -37,15 +44,20 @@ public:
         const bool digits = !typed.isEmpty() && typed.front().isDigit();
         if (!digits || role != Qt::DisplayRole || (flags.toInt() & kHowMatched) != Qt::MatchStartsWith)
             return Model::match(start, role, value, hits, flags);
-        const int rows = this->rowCount();
-        for (const QString& lead : {QString(), QStringLiteral("0")})
-            for (int passed = 0; passed < rows; ++passed)
-                if (const QModelIndex entry = this->index((start.row() + passed) % rows, start.column());
-                    Digits(entry.data().toString()).startsWith(lead + Digits(typed)))
-                    return {entry};
+        const QString time = DigitsOfTime(typed);
+        for (int row = 0; row < this->rowCount(); ++row)
+            if (const QModelIndex entry = this->index(row, start.column());
+                Digits(entry.data().toString()).startsWith(time))
+                return {entry};
         return {};
     }
 };
+
+bool IsText(const QKeyEvent* event)
+{
+    return !event->text().isEmpty() && event->text().front().isPrint() &&
+           !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
 
 /// The list drops down, and the key moves in it.
 void WalkInto(QComboBox* list, QKeyEvent* event)
@@ -111,12 +123,9 @@ QComboBox* EntryCombo(const QString& name, int characters)
 
 void DropDownAt(QComboBox* list, const QString& typed)
 {
-    const bool found = list->findText(typed, Qt::MatchStartsWith) >= 0;
     list->showPopup();
-    const QModelIndex current = list->view()->currentIndex();
-    list->view()->keyboardSearch({}); // what was typed a moment ago is over
-    list->view()->setCurrentIndex(current);
-    list->view()->keyboardSearch(found ? typed : '0' + typed);
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, typed);
+    QApplication::sendEvent(list->view(), &key);
 }
 
 DropDownList::DropDownList()
@@ -127,6 +136,7 @@ DropDownList::DropDownList()
 
 void DropDownList::showPopup()
 {
+    typed_.clear();
     view()->removeEventFilter(this);
     view()->installEventFilter(this);
     QComboBox::showPopup();
@@ -134,14 +144,54 @@ void DropDownList::showPopup()
 
 bool DropDownList::eventFilter(QObject* target, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || !IsAmong({Qt::Key_Tab, Qt::Key_Backtab}, static_cast<QKeyEvent*>(event)))
+    if (event->type() != QEvent::KeyPress)
         return QComboBox::eventFilter(target, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (IsAmong({Qt::Key_Tab, Qt::Key_Backtab}, key))
+        TakeAndGoOn(target, event);
+    else if (IsText(key))
+        Find(key->text());
+    else
+        return QComboBox::eventFilter(target, event);
+    return true;
+}
+
+void DropDownList::TakeAndGoOn(QObject* target, QEvent* tab)
+{
     QKeyEvent taking(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(target, &taking);
     const QWidget* focused = window()->focusWidget();
     if (focused == this || isAncestorOf(focused)) // unless what was taken has led elsewhere
-        QApplication::sendEvent(this, event);
-    return true;
+        QApplication::sendEvent(this, tab);
+}
+
+/// A key alone, or the same one again and again, leads on to the next entry; a text that no entry begins with leaves
+/// the mark where it is.
+void DropDownList::Find(const QString& key)
+{
+    if (!typed_.isEmpty() && pause_.hasExpired(QApplication::keyboardInputInterval()))
+        typed_.clear();
+    typed_ += key;
+    pause_.start();
+    const int row = std::max(view()->currentIndex().row(), 0);
+    const QModelIndex here = model()->index(row, modelColumn());
+    const QModelIndex next = model()->index(view()->currentIndex().isValid() ? (row + 1) % count() : 0, modelColumn());
+    QModelIndex found = Begins(typed_ == key ? next : here, typed_);
+    if (!found.isValid() && typed_ == key.repeated(typed_.size()))
+        found = Begins(next, key);
+    if (found.isValid())
+        view()->setCurrentIndex(found);
+}
+
+/// Hours and days are found without their leading zero.
+QModelIndex DropDownList::Begins(const QModelIndex& start, const QString& text) const
+{
+    for (const QString& begin : {text, '0' + text})
+        if (const QModelIndexList found =
+                model()->match(start, Qt::DisplayRole, begin, 1, Qt::MatchFlags(Qt::MatchStartsWith | Qt::MatchWrap));
+            !found.isEmpty())
+            return found.first();
+    return {};
 }
 
 void WalkedList::keyPressEvent(QKeyEvent* event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -10,17 +11,25 @@
 /// A list with room for `characters` that may also show a text which it does not offer, and that is not completed while
 /// somebody types.
 QComboBox* EntryCombo(const QString& name, int characters);
-/// Drops a list down at the entry that begins with what was typed; hours and days are found without their leading zero.
+/// Drops a list down at the entry that begins with what was typed.
 void DropDownAt(QComboBox* list, const QString& typed);
 
-/// A list in which Tab takes the row that is marked while it is dropped down, and goes on; the toolkit would swallow
-/// it.
+/// A list that marks the entry that begins with what is typed while it is dropped down; Tab takes it and goes on. The
+/// toolkit would swallow the Tab, and take "22" for the second entry that begins with a 2.
 class DropDownList : public QComboBox
 {
 public:
     DropDownList();
     void showPopup() override;
     bool eventFilter(QObject* target, QEvent* event) override;
+
+private:
+    void TakeAndGoOn(QObject* target, QEvent* tab);
+    void Find(const QString& key);
+    QModelIndex Begins(const QModelIndex& start, const QString& text) const;
+
+    QString typed_; ///< without a pause
+    QElapsedTimer pause_;
 };
 
 /// A list that drops down at the first arrow, letter or digit: a person walks through it, and nothing is taken before

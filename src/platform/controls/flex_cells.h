@@ -11,7 +11,7 @@
 struct FlexNote
 {
     QString Corner;        ///< small, at the upper right
-    QString Lead;          ///< at the left; the text then stands at the right
+    QString Lead;          ///< at the left; the text then is a sign at the right
     bool Triangle = false; ///< at the lower right
     bool Line = false;     ///< below the text
 };

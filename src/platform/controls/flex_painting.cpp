@@ -92,13 +92,23 @@ QRect PaintNote(QPainter& painter, const QRect& rect, const FlexNote& note, cons
                          small);
     if (note.Triangle)
         PaintTriangle(painter, rect, small);
-    PaintText(painter, rect, note.Lead, Qt::AlignLeft | Qt::AlignVCenter, ink);
+    PaintText(painter, rect.adjusted(-kPadding / 2, 0, 0, 0), note.Lead, Qt::AlignLeft | Qt::AlignVCenter, ink);
     if (note.Corner.isEmpty() || !note.Lead.isEmpty())
         return rect;
     const QString corner = FittingCorner(painter, rect, note.Corner);
     PaintCorner(painter, rect, corner, small);
     const int taken = QFontMetrics(CornerFont(painter.font())).horizontalAdvance(corner) + kCornerMargin;
     return rect.adjusted(0, 0, -std::min(taken, rect.width() / 3), 0);
+}
+
+/// Beside a number; on a plate, or a letter would pass for a code.
+void PaintSign(QPainter& painter, const QRect& rect, const QString& sign)
+{
+    painter.save();
+    painter.setFont(CornerFont(painter.font()));
+    PaintText(painter, rect.adjusted(0, 0, 1, 0), sign, Qt::AlignRight | Qt::AlignVCenter,
+              {Qt::white, Paper::kRangeRing});
+    painter.restore();
 }
 
 /// Lines stand at the right and the foot of a cell, inside it.
@@ -164,9 +174,10 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const Ink ink = ReadableInk(ColorOr(cell.Fore, Paper::kText), back);
     SetBold(*painter, cell.Bold);
     const QRect room = cell.Note ? PaintNote(*painter, rect, *cell.Note, ink, back) : rect;
-    const bool led = cell.Note && !cell.Note->Lead.isEmpty();
-    const Qt::Alignment alignment = led ? Qt::AlignRight | Qt::AlignVCenter : cells.AlignmentOf(cell, col);
-    PaintText(*painter, room, led ? cell.Text.trimmed() : cell.Text, alignment, ink);
+    if (cell.Note && !cell.Note->Lead.isEmpty())
+        PaintSign(*painter, room, cell.Text.trimmed());
+    else
+        PaintText(*painter, room, cell.Text, cells.AlignmentOf(cell, col), ink);
 }
 
 bool FlexDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

@@ -225,6 +225,14 @@ QVBoxLayout* Captioned(QLabel* caption, QWidget* control)
     return Stack(3, {AsCaption(caption), control});
 }
 
+bool PromptButton::event(QEvent* event)
+{
+    if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
+        return QPushButton::event(event);
+    click();
+    return true;
+}
+
 QPushButton* AsMainButton(QPushButton* button)
 {
     SetMainButton(button, true);

@@ -53,6 +53,16 @@ QLabel* AsNotice(QLabel* label);
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control);
 /// The look by which the style sheet knows a control; empty for the plain one.
 void SetLook(QWidget* control, const char* look);
+/// A button that goes off as soon as its letter is pressed. The toolkit's own first shows itself pressed for a moment,
+/// and the next key overtakes it.
+class PromptButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    bool event(QEvent* event) override;
+};
 /// The one blue main button of a form, pressed by Enter.
 QPushButton* AsMainButton(QPushButton* button);
 /// The same for a button that is the main one at times.

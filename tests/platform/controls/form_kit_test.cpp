@@ -16,6 +16,22 @@ TEST(FormKit, AModalFormWaitsForAPerson)
     EXPECT_EQ(ShowModal(form), 3);
 }
 
+TEST(FormKit, WhereAMessageAndItsFormCloseAtOnceTheWindowBehindTakesTheKeys)
+{
+    QWidget window;
+    window.show();
+    QDialog form(&window), message(&form);
+    SetModalRunner({});
+    QTimer::singleShot(0, &form, [&] {
+        QTimer::singleShot(0, &message, [&] { message.accept(); });
+        ShowModal(message);
+        form.reject();
+    });
+    ShowModal(form);
+    QApplication::processEvents();
+    EXPECT_EQ(QApplication::activeWindow(), &window);
+}
+
 TEST(FormKit, TheWheelTurnsOnlyTheListThatHasTheFocus)
 {
     QWidget form;
