@@ -60,10 +60,30 @@ public:
     void Prepare() override { user_.Opens<frmApproval>(); }
     void Work() override { user_.Picks("cboRecords", "26-01-02"); }
 };
+
+class GroupSettled : public GroupLoaded
+{
+public:
+    using GroupLoaded::GroupLoaded;
+    void Prepare() override
+    {
+        GroupLoaded::Prepare();
+        GroupLoaded::Work();
+        user_.Clicks("optApproveAll").WillConfirm().WillBeDone();
+    }
+    void Work() override { user_.Clicks("cmdProcess"); }
+    void CleanUp() override
+    {
+        GroupLoaded::CleanUp();
+        Company().Sql(QStringLiteral("UPDATE Attendance SET Submitted = 1, RequestStatus = 0 WHERE RecordID > %1")
+                          .arg(BigCompany::kRecords));
+    }
+};
 } // namespace
 
 void RegisterApproval(BigCompany& company)
 {
     Register<ApprovalOpened>("Opening frmApproval on 500 requests", company, Floor::Statements, {0, 200});
     Register<GroupLoaded>("Request for 30 dates loaded", company, Floor::Statements, {0, 100});
+    Register<GroupSettled>("Request for 30 dates settled", company, Floor::Commit, {1, 100});
 }

@@ -90,6 +90,7 @@ const std::pair<const char*, Maker> kForms[] = {
      [] {
          auto form = std::make_unique<frmApproval>();
          auto* groups = form->findChild<QComboBox*>("cboRecords");
+         EXPECT_GT(groups->count(), 0);
          groups->setCurrentIndex(groups->count() - 1);
          return std::unique_ptr<QWidget>(std::move(form));
      }},

@@ -1,4 +1,5 @@
 #include "attendance/attendance_records.h"
+#include "attendance/record_cancellation.h"
 #include "attendance/request_approval.h"
 #include "attendance/request_reports.h"
 #include "employees/employee_deactivation.h"
@@ -93,11 +94,19 @@ protected:
     {
         RequestedDate date;
         date.RecordID = 1;
-        date.Said = Verdict::Denied;
+        date.Mark = RequestMark::Denied;
         const Settlement settlement = SettleRequests(datAbsence, {date}, "no");
         EXPECT_EQ(settlement.Settled.isEmpty(), bool(settlement.Failure));
         if (settlement.Failure)
             ThrowFailure(settlement);
+    }
+    void CancelRequest()
+    {
+        SessionState.ShowApproved = false;
+        const CancelledRecords cancelled = CancelRecords(datAbsence, {1});
+        EXPECT_EQ(cancelled.Dates.isEmpty(), bool(cancelled.Failure));
+        if (cancelled.Failure)
+            std::rethrow_exception(cancelled.Failure);
     }
     /// The failure that is told, 0 for none.
     int Attempt(const Operation& operation)
@@ -156,8 +165,9 @@ TEST_F(ShareFaults, WhatIsToldAsDoneIsInTheFileAndWhatIsToldAsFailedIsNot)
              TransferEmployee(datAbsence, {anna, "Abel, Anna", {1, 1, 1}, {1, 2, 0}});
          }},
         {"employee deactivated", [this] { DeactivateEmployee(datAbsence, anna, "left"); }},
-        {"request told", [this] { AreThereRequestsToApprove(datAbsence); }},
+        {"request told", [this] { TakeNewRequests(datAbsence); }},
         {"request settled", [this] { SettleRequest(); }},
+        {"request cancelled", [this] { CancelRequest(); }},
     };
     for (const Operation& operation : operations)
         for (const ShareFault& fault : kFaults)

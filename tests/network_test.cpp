@@ -1,3 +1,4 @@
+#include "attendance/frm_approval.h"
 #include "attendance/frm_attendance.h"
 #include "calendar/frm_main.h"
 #include "employees/frm_employees.h"
@@ -29,6 +30,11 @@ protected:
             "'E' || i, 'PASS' FROM Employees, n WHERE RecordID = ?",
             {anna});
         house.Sql("INSERT INTO Entitlements (CategoryID, EmployeeID, Active) VALUES (1, ?, 1)", {anna});
+        house.Sql("UPDATE Employees SET IsAuthorizedToApprove = 1 WHERE LoginID = 'ADMIN'");
+        for (int day = 1; day <= 30; ++day)
+            house.Sql("UPDATE Attendance SET SubmittedTo_Second = (SELECT RecordID FROM Employees WHERE LoginID = "
+                      "'ADMIN') WHERE RecordID = ?",
+                      {house.Record(anna, "Sick", {2026, 6, day}, 7, true)});
     }
 
     FileCalls calls;
@@ -56,6 +62,7 @@ TEST_F(OnAShare, EveryClickCostsFewCalls)
     frmMain* main = nullptr;
     costs(110, [&] { main = &user.OpensMain("ADMIN"); });
     costs(10, [&] { main->timAbsence_Timer(); });
+    EXPECT_EQ(user.Reads("imgApprove"), "Approve (1)") << "an approver's minute costs no more";
     costs(20, [&] { user.Picks("cboCategories", "Vacation"); });
     change("Abel");
     costs(35, [&] { change("Employee 7,"); });
@@ -74,6 +81,11 @@ TEST_F(OnAShare, EveryClickCostsFewCalls)
         select("Abel");
         user.Clicks("cmdModify");
     });
+    user.Leaves();
+    costs(40, [&] { user.Opens<frmApproval>(); });
+    user.Picks("cboRecords", "26-0").Clicks("optApproveAll").WillConfirm().WillBeDone();
+    costs(115, [&] { user.Clicks("cmdProcess"); });
+    EXPECT_LE(calls.Of(FileCall::Sync), 4) << "all dates are written together";
     user.Leaves().Works(*main);
     change("Abel");
     user.Picks("cboCategories", "Vacation");

@@ -80,8 +80,10 @@ struct AttendanceEntry : AttendanceJob, WorkSchedule, CategoryFacts
     int SecondApprover = 0;
     QString FirstApproverName;
     QString FirstApproverEMail;
+    bool FirstApproverHasLeft = false;
     QString SecondApproverName; ///< empty when there is no second approver
     QString SecondApproverEMail;
+    bool SecondApproverHasLeft = false;
 
     // The category, SelectedCategoryID.
     QString CategoryName;          ///< as shown

@@ -16,6 +16,18 @@ QString Possessive(const QString& name)
 {
     return name + (name.endsWith('s', Qt::CaseInsensitive) ? "'" : "'s");
 }
+
+QString OutOfReach(const QString& name, const QString& address, bool hasLeft)
+{
+    constexpr Text kHasLeft = {"{name} has left and will not settle this request: see your system administrator.",
+                               "{name} ne travaille plus ici et ne traitera pas cette demande : consultez votre "
+                               "administrateur du système."};
+    constexpr Text kHasNoAddress = {"{name} has no e-mail address and will not be told of this request by mail.",
+                                    "{name} n'a pas d'adresse de courriel et ne sera pas avisé(e) de cette demande."};
+    if (name.isEmpty() || (!hasLeft && !address.isEmpty()))
+        return {};
+    return T(hasLeft ? kHasLeft : kHasNoAddress, {{"name", name}});
+}
 } // namespace
 
 bool AcceptMissingEntitlement(const AttendanceEntry& entry)
@@ -57,6 +69,15 @@ bool ConfirmModification(const AttendanceEntry& entry)
     return Ask(Confirm(), T("Modify the selected attendance record as follows?\r\n\r\nCategory:\t",
                             "Souhaitez-vous enregistrer les modifications suivantes?\r\n\r\nCatégorie:\t") +
                               entry.CategoryName + "\r\n" + EntryLines(entry));
+}
+
+QString ApproversOutOfReach(const AttendanceEntry& entry)
+{
+    QStringList lines = {OutOfReach(entry.FirstApproverName, entry.FirstApproverEMail, entry.FirstApproverHasLeft),
+                         OutOfReach(entry.SecondApproverName, entry.SecondApproverEMail, entry.SecondApproverHasLeft)};
+    lines.removeAll(QString());
+    lines.removeDuplicates(); // one person may stand for both
+    return lines.join('\n');
 }
 
 void TellSubmitted(const AttendanceEntry& entry)

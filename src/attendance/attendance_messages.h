@@ -12,5 +12,8 @@ bool ConfirmNewAttendance(const AttendanceEntry& entry);
 bool ConfirmSubmission(AttendanceEntry& entry);
 bool ConfirmModification(const AttendanceEntry& entry);
 
+/// Which approvers will not hear of the request, and why, a line each; empty when all will.
+QString ApproversOutOfReach(const AttendanceEntry& entry);
+
 void TellSubmitted(const AttendanceEntry& entry);
 void TellModified();

@@ -73,10 +73,11 @@ AttendanceRow EnteredRow(const AttendanceEntry& entry)
     return row;
 }
 
-void TakeApprover(const Recordset& person, QString& name, QString& address)
+void TakeApprover(const Recordset& person, QString& name, QString& address, bool& hasLeft)
 {
     name = FullName(person);
-    person.Take("EMailAddress", address);
+    address = person.Text("EMailAddress").trimmed();
+    hasLeft = person.Long("DeactivatedDate") != 0;
 }
 
 AttendanceRow NewRow(const AttendanceEntry& entry)
@@ -194,31 +195,16 @@ void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry)
 void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry)
 {
     const Connection connection(datAbsence);
-    for (const Recordset& person : datAbsence.Select(
-             "SELECT RecordID, FirstName, FamilyName, EMailAddress FROM Employees WHERE RecordID IN (?, ?)",
-             entry.FirstApprover, entry.SecondApprover)) {
+    entry.FirstApproverName = entry.FirstApproverEMail = entry.SecondApproverName = entry.SecondApproverEMail = "";
+    entry.FirstApproverHasLeft = entry.SecondApproverHasLeft = false;
+    for (const Recordset& person : datAbsence.Select("SELECT RecordID, FirstName, FamilyName, EMailAddress, "
+                                                     "DeactivatedDate FROM Employees WHERE RecordID IN (?, ?)",
+                                                     entry.FirstApprover, entry.SecondApprover)) {
         if (person.Long("RecordID") == entry.FirstApprover)
-            TakeApprover(person, entry.FirstApproverName, entry.FirstApproverEMail);
+            TakeApprover(person, entry.FirstApproverName, entry.FirstApproverEMail, entry.FirstApproverHasLeft);
         if (person.Long("RecordID") == entry.SecondApprover) // who may be the same person
-            TakeApprover(person, entry.SecondApproverName, entry.SecondApproverEMail);
+            TakeApprover(person, entry.SecondApproverName, entry.SecondApproverEMail, entry.SecondApproverHasLeft);
     }
-}
-
-QString ApproversOutOfReach(DataControl& datAbsence, const AttendanceEntry& entry)
-{
-    constexpr Text kHasLeft = {"{name} has left and will not settle this request: see your system administrator.",
-                               "{name} ne travaille plus ici et ne traitera pas cette demande : consultez votre "
-                               "administrateur du système."};
-    constexpr Text kHasNoAddress = {"{name} has no e-mail address and will not be told of this request by mail.",
-                                    "{name} n'a pas d'adresse de courriel et ne sera pas avisé(e) de cette demande."};
-    const Connection connection(datAbsence);
-    QStringList lines;
-    for (const Recordset& person : datAbsence.Select(
-             "SELECT FirstName, FamilyName, EMailAddress, DeactivatedDate FROM Employees WHERE RecordID IN (?, ?) AND "
-             "(DeactivatedDate <> 0 OR TRIM(EMailAddress) = '')",
-             entry.FirstApprover, entry.SecondApprover))
-        lines << T(person.Long("DeactivatedDate") != 0 ? kHasLeft : kHasNoAddress, {{"name", FullName(person)}});
-    return lines.join('\n');
 }
 
 void NewAttendance(DataControl& datAbsence, const AttendanceEntry& entry)

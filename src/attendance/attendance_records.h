@@ -30,10 +30,8 @@ bool LacksEntitlement(const AttendanceEntry& entry);
 /// Fills the entry from the record to modify. `entry` knows employee and category by then.
 void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry);
 
-/// Names ("FirstName FamilyName") and mail addresses of the approvers.
+/// Names ("FirstName FamilyName") and mail addresses of the approvers, and whether they have left.
 void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry);
-/// Which approvers will not hear of the request by mail, and why, a line each; empty when all will.
-QString ApproversOutOfReach(DataControl& datAbsence, const AttendanceEntry& entry);
 
 /// One record for each selected date. They throw; what was written before the failure stays written.
 void NewAttendance(DataControl& datAbsence, const AttendanceEntry& entry);

@@ -3,6 +3,8 @@
 #include "attendance/frm_approval_grid.h"
 #include "attendance/frm_request_balance.h"
 #include "attendance/frm_request_list.h"
+#include "attendance/request_approval.h"
+#include "attendance/request_notice.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 
@@ -15,6 +17,7 @@ namespace
 constexpr QSize kApprovalSize(1080, 640);
 constexpr int kApprovalGap = 10;
 constexpr int kReasonHeight = 56;
+constexpr int kReasonLimit = 1000; // the column holds no more
 
 constexpr Text kApprovalTitle = {"Requests for leave approval form", "Formulaire de traitement des demandes de congé"};
 constexpr Text kInstructions = {
@@ -30,57 +33,63 @@ constexpr Text kChooseRequest = {"Choose a request first", "Choisissez d'abord u
 frmApproval::frmApproval(QWidget* parent) : FormBase("frmApproval", parent)
 {
     SetTitle(this, kApprovalTitle);
-    BuildList();
-    BuildDates();
-    BuildReason();
+    BuildPage();
     BuildButtons();
     SetSize(kApprovalSize);
-    Attempt([this] { ReloadRequests(); });
-    ShowWhatIsThere();
+    ReloadRequests();
 }
 
-void frmApproval::BuildList()
+void frmApproval::BuildPage()
 {
-    cboRecords = Named<RequestList>("cboRecords");
-    connect(cboRecords, &QComboBox::currentIndexChanged, this, &frmApproval::cboRecords_Click);
     auto* none = WrappedLabel("lblNone", kNoneWait);
     none->setAlignment(Qt::AlignCenter);
     fraNone = MakeCard(Stack(0, {none}));
-    whileSomeWait_ = {MakeCard(Stack(
-        kApprovalGap / 2, {WrappedLabel("lblInstructions", kInstructions), RequestList::MakeHeading(), cboRecords}))};
+    auto* cards = Stack(Page()->spacing(), {MakeList()});
+    cards->addWidget(MakeDates(), 1);
+    cards->addWidget(MakeReason());
+    cards->setContentsMargins({});
+    fraRequests = Named<QWidget>("fraRequests");
+    fraRequests->setLayout(cards);
     Page()->addWidget(fraNone);
-    Page()->addWidget(whileSomeWait_.back());
+    Page()->addWidget(fraRequests, 1);
 }
 
-void frmApproval::BuildDates()
+QWidget* frmApproval::MakeList()
+{
+    cboRecords = Named<RequestList>("cboRecords");
+    connect(cboRecords, &QComboBox::currentIndexChanged, this, &frmApproval::cboRecords_Click);
+    return MakeCard(Stack(kApprovalGap / 2,
+                          {WrappedLabel("lblInstructions", kInstructions), RequestList::MakeHeading(), cboRecords}));
+}
+
+QWidget* frmApproval::MakeDates()
 {
     flxRecordsToApprove = Named<ApprovalGrid>("flxRecordsToApprove");
     SetAccessibleName(flxRecordsToApprove, {"Dates requested", "Dates demandées"});
-    flxRecordsToApprove->Clicked = [this](int date, Verdict verdict) { Mark(date, verdict); };
+    flxRecordsToApprove->Clicked = [this](int row, RequestMark mark) { Mark(row, mark); };
     optApproveAll = MakeButton<QRadioButton>("optApproveAll",
                                              {"&Approve all requests for leave", "&Approuver toutes les demandes"});
     optDenyAll =
         MakeButton<QRadioButton>("optDenyAll", {"&Deny all requests for leave", "&Refuser toutes les demandes"});
-    connect(optApproveAll, &QRadioButton::clicked, this, [this] { MarkAll(Verdict::Approved); });
-    connect(optDenyAll, &QRadioButton::clicked, this, [this] { MarkAll(Verdict::Denied); });
+    connect(optApproveAll, &QRadioButton::clicked, this, [this] { MarkAll(RequestMark::Approved); });
+    connect(optDenyAll, &QRadioButton::clicked, this, [this] { MarkAll(RequestMark::Denied); });
     fraBalance = new RequestBalancePane;
     auto* card = Stack(kApprovalGap);
     card->addLayout(Row({optApproveAll, optDenyAll}));
     card->addWidget(flxRecordsToApprove, 1);
     card->addWidget(fraBalance);
-    whileSomeWait_.push_back(MakeCard(card));
-    Page()->addWidget(whileSomeWait_.back(), 1);
+    return MakeCard(card);
 }
 
-void frmApproval::BuildReason()
+QWidget* frmApproval::MakeReason()
 {
     txtReasonForRefusal = Named<QPlainTextEdit>("txtReasonForRefusal");
     txtReasonForRefusal->setFixedHeight(kReasonHeight);
     txtReasonForRefusal->setTabChangesFocus(true);
     FilterKeys(txtReasonForRefusal, KeyFilter::Comment);
-    whileSomeWait_.push_back(
-        MakeCard(Headed({"Reason why the request is denied:", "Raison du refus de la demande:"}, txtReasonForRefusal)));
-    Page()->addWidget(whileSomeWait_.back());
+    LimitLength(txtReasonForRefusal, kReasonLimit);
+    return MakeCard(
+        Headed({"Reason why the request is denied:", "Raison du refus de la demande:"}, txtReasonForRefusal));
 }
 
 void frmApproval::BuildButtons()
@@ -89,9 +98,7 @@ void frmApproval::BuildButtons()
                                [this] { cmdProcess_Click(); });
     cmdCancelOperation = AddButton("cmdCancelOperation", {"&Cancel operation", "A&nnuler l'opération"},
                                    [this] { cmdCancelOperation_Click(); });
-    LayFoot({AddButton("cmdQuit", {"C&lose", "&Fermer"}, [this] { QDialog::reject(); }), cmdCancelOperation},
-            {cmdProcess});
-    whileSomeWait_.insert(whileSomeWait_.end(), {cmdProcess, cmdCancelOperation});
+    LayFoot({AddWayOut({"C&lose", "&Fermer"}, "cmdQuit"), cmdCancelOperation}, {cmdProcess});
 }
 
 void frmApproval::Form_Activate()
@@ -100,29 +107,35 @@ void frmApproval::Form_Activate()
         cboRecords->setFocus();
 }
 
+/// No group is shown then. What cannot be read leaves the form as it is.
 void frmApproval::ReloadRequests()
 {
+    groups_ = LoadRequestGroups(datAbsence);
     const LoadingGuard loading(Loading);
-    groups_ = ::ReloadRequests(datAbsence);
     cboRecords->Load(groups_);
+    txtReasonForRefusal->clear();
+    ResetVariables();
+    ShowWhatIsThere();
 }
 
 void frmApproval::ShowWhatIsThere()
 {
     fraNone->setVisible(groups_.isEmpty());
-    for (QWidget* part : whileSomeWait_)
+    for (QWidget* part : std::initializer_list<QWidget*>{fraRequests, cmdProcess, cmdCancelOperation})
         part->setVisible(!groups_.isEmpty());
     ShowDates();
 }
 
-/// The list goes back to the group shown when what was said of its dates is not to be lost.
+/// The list goes back to the group shown when its marks and its reason are not to be lost.
 void frmApproval::cboRecords_Click(int index)
 {
     if (Loading || index < 0 || index == shown_)
         return;
     const LoadingGuard loading(Loading);
-    if (!Judged(requested_.Dates).isEmpty() && !AskToAbandonChanges())
+    if (shown_ >= 0 && !MayBeLeft())
         return cboRecords->setCurrentIndex(shown_);
+    if (shown_ >= 0)
+        txtReasonForRefusal->clear();
     ClearOptions({optApproveAll, optDenyAll});
     if (!Attempt([&] { LoadGroup(index); }))
         ResetVariables();
@@ -157,27 +170,27 @@ void frmApproval::ShowDates()
         EnableOrExplain(control, shown_ >= 0, kChooseRequest);
 }
 
-/// Neither option tells any longer what is said of all.
-void frmApproval::Mark(int date, Verdict verdict)
+/// Neither option tells any longer how all are marked.
+void frmApproval::Mark(int row, RequestMark mark)
 {
-    Toggle(requested_.Dates[date], verdict);
+    Toggle(requested_.Dates[row], mark);
     ClearOptions({optApproveAll, optDenyAll});
     flxRecordsToApprove->ShowMarks(requested_.Dates);
 }
 
-void frmApproval::MarkAll(Verdict verdict)
+void frmApproval::MarkAll(RequestMark mark)
 {
     for (RequestedDate& date : requested_.Dates)
-        date.Said = verdict;
+        date.Mark = mark;
     flxRecordsToApprove->ShowMarks(requested_.Dates);
 }
 
 void frmApproval::cmdProcess_Click()
 {
-    const QVector<RequestedDate> judged = Judged(requested_.Dates);
-    if (const auto fault = ValidateVerdicts(judged, txtReasonForRefusal->toPlainText()))
+    const QVector<RequestedDate> marked = Marked(requested_.Dates);
+    if (const auto fault = ValidateMarks(marked, txtReasonForRefusal->toPlainText()))
         return ShowFault(*fault);
-    if (!ConfirmVerdicts(judged))
+    if (!ConfirmMarks(marked))
         return;
     for (QWidget* control : std::initializer_list<QWidget*>{cmdProcess, flxRecordsToApprove})
         control->setEnabled(false);
@@ -185,16 +198,14 @@ void frmApproval::cmdProcess_Click()
         flxRecordsToApprove->setEnabled(true);
         cmdProcess->setEnabled(shown_ >= 0);
     });
-    Process(judged);
+    Process(marked);
 }
 
 /// Whoever asked learns also of what was settled before a failure: a denial he is told nowhere else.
-void frmApproval::Process(const QVector<RequestedDate>& judged)
+void frmApproval::Process(const QVector<RequestedDate>& marked)
 {
     const QString reason = txtReasonForRefusal->toPlainText().replace('\n', ' ').replace('\r', ' ');
-    const Settlement settlement = SettleRequests(datAbsence, judged, reason);
-    if (!settlement.Settled.isEmpty())
-        SessionState.ReloadCalendar = true;
+    const Settlement settlement = SettleRequests(datAbsence, marked, reason);
     LeaveOut(settlement.Settled);
     EMailNotice(requested_.EMailAddress, settlement.Settled, reason);
     if (settlement.Failure)
@@ -203,27 +214,28 @@ void frmApproval::Process(const QVector<RequestedDate>& judged)
     cmdCancelOperation_Click();
 }
 
-/// The grid goes on with the dates that are not settled, and with what is said of them.
+/// The grid goes on with the dates that are not settled, and their marks. What the group leaves is known no longer.
 void frmApproval::LeaveOut(const QVector<RequestedDate>& settled)
 {
+    if (settled.isEmpty())
+        return;
+    SessionState.ReloadCalendar = true;
     requested_.Dates.removeIf([&settled](const RequestedDate& date) {
         return std::any_of(settled.begin(), settled.end(),
                            [&date](const RequestedDate& done) { return done.RecordID == date.RecordID; });
     });
     flxRecordsToApprove->Show(requested_.Dates);
+    fraBalance->Show(std::nullopt);
 }
 
 void frmApproval::cmdCancelOperation_Click()
 {
-    ResetVariables();
-    txtReasonForRefusal->clear();
     ReloadRequests();
-    ShowWhatIsThere();
     Form_Activate();
 }
 
 bool frmApproval::MayBeLeft()
 {
-    const bool begun = !Judged(requested_.Dates).isEmpty() || !txtReasonForRefusal->toPlainText().trimmed().isEmpty();
+    const bool begun = !Marked(requested_.Dates).isEmpty() || !txtReasonForRefusal->toPlainText().trimmed().isEmpty();
     return !begun || AskToAbandonChanges();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "attendance/request_approval.h"
+#include "attendance/leave_requests.h"
 #include "foundation/frm_base.h"
 
 class ApprovalGrid;
@@ -12,15 +12,17 @@ class RequestList;
 class frmApproval : public FormBase
 {
 public:
+    /// Throws when the requests cannot be read: none must not look like nothing to do.
     explicit frmApproval(QWidget* parent = nullptr);
 
 protected:
     bool MayBeLeft() override;
 
 private:
-    void BuildList();
-    void BuildDates();
-    void BuildReason();
+    void BuildPage();
+    QWidget* MakeList();
+    QWidget* MakeDates();
+    QWidget* MakeReason();
     void BuildButtons();
     void Form_Activate() override;
 
@@ -30,10 +32,10 @@ private:
     void LoadGroup(int index);
     void ResetVariables();
     void ShowDates();
-    void Mark(int date, Verdict verdict);
-    void MarkAll(Verdict verdict);
+    void Mark(int row, RequestMark mark);
+    void MarkAll(RequestMark mark);
     void cmdProcess_Click();
-    void Process(const QVector<RequestedDate>& judged);
+    void Process(const QVector<RequestedDate>& marked);
     void LeaveOut(const QVector<RequestedDate>& settled);
     void cmdCancelOperation_Click();
 
@@ -41,8 +43,8 @@ private:
     int shown_ = -1;               ///< the group shown, -1 none
     RequestedDates requested_;     ///< what it asks for
 
-    QWidget* fraNone = nullptr;
-    std::vector<QWidget*> whileSomeWait_; ///< what is seen only then
+    QWidget* fraRequests = nullptr; ///< seen while some wait
+    QWidget* fraNone = nullptr;     ///< seen otherwise
     RequestList* cboRecords = nullptr;
     ApprovalGrid* flxRecordsToApprove = nullptr;
     QRadioButton* optApproveAll = nullptr;

@@ -32,11 +32,6 @@ constexpr DateColumn kDateColumns[] = {{{"Approved", "Approuvée"}, 92},
                                        {{"", ""}, 0}};
 constexpr int kFirstTextColumn = 6; ///< the columns before it are centred
 
-QString MarkOf(const RequestedDate& date, Verdict verdict)
-{
-    return date.Said == verdict ? QStringLiteral("[X]") : QStringLiteral("[ ]");
-}
-
 QString ClockText(float hours)
 {
     return hours == 0 ? QString() : DurationText(hours);
@@ -44,8 +39,8 @@ QString ClockText(float hours)
 
 QStringList CellsOf(const RequestedDate& date)
 {
-    return {MarkOf(date, Verdict::Approved),
-            MarkOf(date, Verdict::Denied),
+    return {QString(), // the marks are set apart
+            QString(),
             FormatDate(date.RecordDate, "dd-mmm"),
             ClockText(date.StartTime),
             ClockText(date.EndTime),
@@ -74,7 +69,7 @@ ApprovalGrid::ApprovalGrid()
     FollowLanguage(this, [this] { BuildHeads(); });
     connect(this, &FlexGrid::CellClicked, this, [this](int row, int col) {
         if (col == kApprovedColumn || col == kDeniedColumn)
-            Clicked(row - 1, col == kApprovedColumn ? Verdict::Approved : Verdict::Denied);
+            Clicked(row - 1, col == kApprovedColumn ? RequestMark::Approved : RequestMark::Denied);
     });
 }
 
@@ -89,7 +84,8 @@ void ApprovalGrid::Show(const QVector<RequestedDate>& dates)
     BeginUpdate();
     ClearRows();
     for (const RequestedDate& date : dates)
-        SetRowData(AddItem(CellsOf(date).join('\t')), date.RecordID);
+        AddItem(CellsOf(date).join('\t'));
+    ShowMarks(dates);
     EndUpdate();
     scrollToTop();
     if (!dates.isEmpty())
@@ -98,10 +94,11 @@ void ApprovalGrid::Show(const QVector<RequestedDate>& dates)
 
 void ApprovalGrid::ShowMarks(const QVector<RequestedDate>& dates)
 {
-    for (int date = 0; date < dates.size(); ++date)
-        for (const auto& [col, verdict] :
-             {std::pair(kApprovedColumn, Verdict::Approved), std::pair(kDeniedColumn, Verdict::Denied)}) {
-            SetTextMatrix(date + 1, col, MarkOf(dates[date], verdict));
-            SetCellFontBold(date + 1, col, dates[date].Said == verdict);
+    for (int row = 0; row < dates.size(); ++row)
+        for (const auto& [col, mark] :
+             {std::pair(kApprovedColumn, RequestMark::Approved), std::pair(kDeniedColumn, RequestMark::Denied)}) {
+            const bool marked = dates[row].Mark == mark;
+            SetTextMatrix(row + 1, col, marked ? QStringLiteral("[X]") : QStringLiteral("[ ]"));
+            SetCellFontBold(row + 1, col, marked);
         }
 }

@@ -3,16 +3,16 @@
 #include "attendance/leave_requests.h"
 #include "platform/controls/flex_grid.h"
 
-/// The dates of a request with what is said of each; a click, Space or Enter on one of the first two columns says it.
+/// The dates of a request with their marks; a click, Space or Enter on one of the first two columns sets one.
 class ApprovalGrid : public FlexGrid
 {
 public:
     ApprovalGrid();
 
-    std::function<void(int date, Verdict said)> Clicked; ///< `date` counts from 0
+    std::function<void(int row, RequestMark mark)> Clicked; ///< dates count from 0
 
     void Show(const QVector<RequestedDate>& dates);
-    /// What is said of the dates that are shown has changed.
+    /// The marks of the dates that are shown have changed.
     void ShowMarks(const QVector<RequestedDate>& dates);
 
 private:

@@ -11,7 +11,7 @@
 namespace
 {
 constexpr QSize kSize(760, 610);
-constexpr int kCommentLimit = 500;
+constexpr int kCommentLimit = 500; // the column holds no more
 
 constexpr Text kActions[] = {{"&Add new attendance record(s)", "&Ajouter nouveaux enregistrements"},
                              {"Su&bmit new attendance record(s)", "S&oumettre nouveaux enregistrements"},
@@ -66,7 +66,7 @@ void frmAttendance::ConnectControls()
     ConnectTimesAndDurations();
     ExplainFigure(general_->lblBalance, [this] { return ExplainBalance(datAbsence, entry_); });
     connect(additional_->txtHourlyRate, &QLineEdit::editingFinished, this, &frmAttendance::txtHourlyRate_LostFocus);
-    connect(additional_->txtComment, &QPlainTextEdit::textChanged, this, &frmAttendance::LimitComment);
+    LimitLength(additional_->txtComment, kCommentLimit);
 }
 
 void frmAttendance::ConnectTimesAndDurations()
@@ -108,16 +108,18 @@ void frmAttendance::LoadJob()
     if (IsModifying())
         ReloadRecord(datAbsence, entry_);
     ShowEntry();
-    if (entry_.Kind == AttendanceKind::Submit)
-        ShowApproversOutOfReach();
+    LookUpApprovers();
     EnableOrExplain(general_->lstWho, !IsModifying() && !entry_.EmployeeLocked,
                     {"These records are this employee's", "Ces enregistrements sont ceux de cet(te) employé(e)"});
     (general_->lstWho->isEnabled() ? static_cast<QWidget*>(general_->lstWho) : general_->cboCategories)->setFocus();
 }
 
-void frmAttendance::ShowApproversOutOfReach()
+void frmAttendance::LookUpApprovers()
 {
-    lblApprovers->setText(ApproversOutOfReach(datAbsence, entry_));
+    if (entry_.Kind != AttendanceKind::Submit)
+        return;
+    GetApprovalNames(datAbsence, entry_);
+    lblApprovers->setText(ApproversOutOfReach(entry_));
     lblApprovers->setVisible(!lblApprovers->text().isEmpty());
 }
 
@@ -257,6 +259,7 @@ void frmAttendance::EnterEmployee(int employee)
     entry_.EmployeeID = employee;
     ClearEntryFields(entry_);
     LoadEmployeeInfo(datAbsence, entry_);
+    LookUpApprovers();
     if (another) {
         entry_.ConflictsAccepted = false;
         entry_.SelectedCategoryID = 0;
@@ -344,14 +347,4 @@ void frmAttendance::txtHourlyRate_LostFocus()
     QLineEdit* rate = additional_->txtHourlyRate;
     if (!rate->text().isEmpty())
         rate->setText(FormatNumber(static_cast<float>(Val(rate->text())), 2));
-}
-
-/// The column holds no more.
-void frmAttendance::LimitComment()
-{
-    QPlainTextEdit* box = additional_->txtComment;
-    if (box->toPlainText().size() <= kCommentLimit)
-        return;
-    box->setPlainText(box->toPlainText().left(kCommentLimit));
-    box->moveCursor(QTextCursor::End);
 }

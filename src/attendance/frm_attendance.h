@@ -27,7 +27,7 @@ private:
     void ConnectTimesAndDurations();
     void LoadComboBoxes();
     void LoadJob();
-    void ShowApproversOutOfReach();
+    void LookUpApprovers();
     void Form_Activate() override;
 
     void LoadEmployees();
@@ -53,7 +53,6 @@ private:
     void Duration_Change();
     bool LeaveDurationBoxes();
     void txtHourlyRate_LostFocus();
-    void LimitComment();
 
     void cmdAddOrUpdate_Click();
     bool PassesGuards();

@@ -66,10 +66,7 @@ bool frmAttendance::FindApprovers()
         return true;
     if (entry_.FirstApprover == 0)
         GetApprovedBy();
-    if (entry_.FirstApprover == 0)
-        return false;
-    GetApprovalNames(datAbsence, entry_);
-    return true;
+    return entry_.FirstApprover != 0;
 }
 
 /// For this request only: the employee's file stays as it is.
@@ -78,6 +75,7 @@ void frmAttendance::GetApprovedBy()
     frmGetApprovedBy form(entry_, this);
     ShowModal(form);
     entry_.FirstApprover = form.ApproverID();
+    LookUpApprovers();
 }
 
 /// True when the records are written.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "attendance/request_approval.h"
+#include "attendance/request_balance.h"
 
 #include <QWidget>
 

@@ -1,5 +1,6 @@
 #include "attendance/leave_requests.h"
 
+#include "foundation/attendance_row.h"
 #include "foundation/connection.h"
 #include "foundation/names.h"
 #include "foundation/session_state.h"
@@ -8,8 +9,7 @@ namespace
 {
 const QString kToEither = " AND (Attendance.SubmittedTo_First = ? OR Attendance.SubmittedTo_Second = ?)";
 const QString kNewToFirst =
-    " AND Attendance.SubmittedTo_First = ? AND Attendance.RequestStatus = 0 AND Attendance.CancelledDate = 0";
-const QString kOfGroup = ".Submitted = 1 AND {row}.EmployeeID = ? AND {row}.CategoryID = ? AND {row}.EnteredDate = ?";
+    " AND Attendance.SubmittedTo_First = ? AND Attendance.RequestStatus = ? AND Attendance.CancelledDate = 0";
 
 QString GroupsStatement(const QString& conditions)
 {
@@ -37,7 +37,8 @@ QVector<RequestGroup> Groups(DataControl& datAbsence, const QString& conditions,
 /// The condition that a row, by the name that its table has in the statement, belongs to a group.
 QString OfGroup(const QString& row)
 {
-    return row + Fill(kOfGroup, {{"row", row}});
+    return Fill("{row}.Submitted = 1 AND {row}.EmployeeID = ? AND {row}.CategoryID = ? AND {row}.EnteredDate = ?",
+                {{"row", row}});
 }
 
 /// Who else is away, by the RecordID of each date of a group. One statement serves all dates.
@@ -69,7 +70,7 @@ RequestedDate DateOf(const Recordset& row)
 }
 } // namespace
 
-QVector<RequestGroup> ReloadRequests(DataControl& datAbsence)
+QVector<RequestGroup> LoadRequestGroups(DataControl& datAbsence)
 {
     return Groups(datAbsence, kToEither, SessionState.UserID, SessionState.UserID);
 }
@@ -83,7 +84,7 @@ int WaitingRequests(DataControl& datAbsence)
 
 QVector<RequestGroup> UntoldRequests(DataControl& datAbsence)
 {
-    return Groups(datAbsence, kNewToFirst, SessionState.UserID);
+    return Groups(datAbsence, kNewToFirst, SessionState.UserID, RequestStatus::OnHold);
 }
 
 RequestedDates LoadRequestedDates(DataControl& datAbsence, const RequestGroup& group)

@@ -13,8 +13,8 @@ struct RequestGroup
     QString Category; ///< in the session's language
 };
 
-/// What an approver says of a date.
-enum class Verdict
+/// How an approver has marked a date.
+enum class RequestMark
 {
     None, ///< it goes on waiting
     Approved,
@@ -31,7 +31,7 @@ struct RequestedDate
     float TotalDuration = 0;
     QString Category;
     QStringList AlsoAbsent = {}; ///< colleagues who are away then or have asked to be: "FirstName FamilyName"
-    Verdict Said = Verdict::None;
+    RequestMark Mark = RequestMark::None;
 };
 
 /// The dates of a group that wait, whoever they are addressed to, and where its employee is written to.
@@ -42,7 +42,7 @@ struct RequestedDates
 };
 
 /// The groups that wait for the user as first or second approver, the oldest first.
-QVector<RequestGroup> ReloadRequests(DataControl& datAbsence);
+QVector<RequestGroup> LoadRequestGroups(DataControl& datAbsence);
 /// How many they are.
 int WaitingRequests(DataControl& datAbsence);
 /// Those of them that are new to the user, who is their first approver.

@@ -2,18 +2,24 @@
 
 #include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
-#include "foundation/connection.h"
-#include "foundation/names.h"
 #include "foundation/session_rows.h"
-#include "mail/leave_notices.h"
+#include "foundation/texts.h"
 #include "platform/clock.h"
 
 namespace
 {
-/// Who may have it approved is read before the row changes.
+/// Another user may have cancelled the record, or settled the request, since the calendar was read.
+void RequireAsShown(const AttendanceRow& record)
+{
+    if (!IsServerChosen() && (record.CancelledDate != 0 || (record.Submitted == 1) == SessionState.ShowApproved))
+        RefuseChangedRow();
+}
+
+/// Gives the record back as it was before.
 AttendanceRow Cancel(DataControl& datAbsence, int recordID)
 {
     const auto record = Standing<AttendanceRow>(datAbsence, recordID);
+    RequireAsShown(record);
     Settings<AttendanceRow> cancelled = {{&AttendanceRow::CancelledBy, UserStamp()},
                                          {&AttendanceRow::CancelledDate, Today()}};
     if (!IsServerChosen()) // where a withdrawn request stays one, as required
@@ -21,42 +27,41 @@ AttendanceRow Cancel(DataControl& datAbsence, int recordID)
     Set(datAbsence, recordID, cancelled);
     return record;
 }
+
+CancelledRecords ToldOf(const QVector<AttendanceRow>& records)
+{
+    CancelledRecords cancelled;
+    for (const AttendanceRow& record : records) {
+        const QString date = FormatDate(record.RecordDate, "ddd dd-mm-yyyy") + "\r\n";
+        cancelled.Dates += date;
+        if (record.Submitted == 0)
+            continue;
+        cancelled.WithdrawnDates += date;
+        cancelled.CategoryID = record.CategoryID;
+        cancelled.Approver = record.SubmittedTo_First;
+    }
+    return cancelled;
+}
 } // namespace
 
-WithdrawnRequests CancelRecords(DataControl& datAbsence, const QVector<int>& records)
+CancelledRecords CancelRecords(DataControl& datAbsence, const QVector<int>& records)
 {
     SessionState.ReloadCalendar = true;
-    WithdrawnRequests withdrawn;
-    InOpenYear(
-        datAbsence,
-        [&] {
-            for (const int recordID : records) {
-                const AttendanceRow record = Cancel(datAbsence, recordID);
-                if (SessionState.ShowApproved)
-                    continue;
-                withdrawn.Dates += FormatDate(record.RecordDate, "ddd dd-mm-yyyy") + "\r\n";
-                withdrawn.CategoryID = record.CategoryID;
-                withdrawn.Approver = record.SubmittedTo_First;
-            }
-        },
-        Transaction::KeepOnFailure);
-    return withdrawn;
+    QVector<AttendanceRow> before;
+    const Kept kept = InOpenYearOneByOne(datAbsence, records.size(),
+                                         [&](qsizetype record) { before.append(Cancel(datAbsence, records[record])); });
+    CancelledRecords cancelled = ToldOf(before.first(kept.Done));
+    cancelled.Failure = kept.Failure;
+    return cancelled;
 }
 
-void EMailRequestCancellation(DataControl& datAbsence, const WithdrawnRequests& withdrawn)
+void TellFailure(const CancelledRecords& cancelled)
 {
-    if (withdrawn.Approver == 0)
-        return;
-    QString address, category;
+    const QString heading = T("\r\n\r\nThese records have been cancelled:\r\n\r\n",
+                              "\r\n\r\nCes enregistrements ont été supprimés:\r\n\r\n");
     try {
-        const Connection connection(datAbsence);
-        address =
-            datAbsence.Scalar<QString>("SELECT EMailAddress FROM Employees WHERE RecordID = ?", withdrawn.Approver);
-        category = datAbsence.Scalar<QString>(
-            "SELECT " + NameColumn("Category") + " FROM Categories WHERE RecordID = ?", withdrawn.CategoryID);
-    } catch (const RuntimeError&) {
-        return; // without an address nobody can be told
+        ThrowAgain(cancelled.Failure, cancelled.Dates.isEmpty() ? QString() : heading + cancelled.Dates);
+    } catch (const RuntimeError& error) {
+        TellError(error);
     }
-    if (!address.trimmed().isEmpty())
-        SendNotice(CancellationNotice(address, category.trimmed(), withdrawn.Dates));
 }

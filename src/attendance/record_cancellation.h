@@ -4,18 +4,19 @@
 
 #include <QVector>
 
-/// Requests that were withdrawn before anybody settled them.
-struct WithdrawnRequests
+/// What came of cancelling records. Dates are a line each.
+struct CancelledRecords
 {
-    QString Dates;      ///< a line each
-    int CategoryID = 0; ///< of all of them
-    int Approver = 0;   ///< the first approver of the request read last: a notice goes to him alone
+    QString Dates;              ///< of those that are cancelled
+    QString WithdrawnDates;     ///< of the requests among them, which nobody had settled yet
+    int CategoryID = 0;         ///< of all of them
+    int Approver = 0;           ///< the first approver of the request read last: a notice goes to him alone
+    std::exception_ptr Failure; ///< of the record behind them; those after it were not tried
 };
 
-/// Cancels attendance records: they stay, with who and when, and count nowhere any more. The calendar is asked for a
-/// reload. Throws; the records before a failure are cancelled then.
-WithdrawnRequests CancelRecords(DataControl& datAbsence, const QVector<int>& records);
-
-/// Tells the approver by mail which requests were withdrawn, as far as he has an address. A failure is told to nobody:
-/// the requests are withdrawn. Throws nothing.
-void EMailRequestCancellation(DataControl& datAbsence, const WithdrawnRequests& withdrawn);
+/// Cancels the attendance records that the view in force shows: they stay, with who and when, and count nowhere any
+/// more. What is cancelled before a failure stays so; a record that is no longer what the view showed is refused. The
+/// calendar is asked for a reload. Throws nothing.
+CancelledRecords CancelRecords(DataControl& datAbsence, const QVector<int>& records);
+/// Tells the failure of cancelling, or of what followed it, with the dates that are cancelled all the same.
+void TellFailure(const CancelledRecords& cancelled);

@@ -1,6 +1,16 @@
 #pragma once
 
-struct AttendanceEntry;
+#include "attendance/leave_requests.h"
 
-/// Tells the approvers of a request that has been written, by mail. A failure is told to nobody: the request stands.
+struct AttendanceEntry;
+struct CancelledRecords;
+
+// What is told of requests by mail. A failure is told to nobody, as what was written stands; whoever has no address is
+// told nothing. They throw nothing.
+
+/// Tells the approvers of a request that has been written.
 void EMailRequest(const AttendanceEntry& entry);
+/// Tells whoever asked what came of it. The reason goes with a denial only.
+void EMailNotice(const QString& address, const QVector<RequestedDate>& settled, const QString& reason);
+/// Tells the approver which requests were withdrawn.
+void EMailRequestCancellation(DataControl& datAbsence, const CancelledRecords& cancelled);

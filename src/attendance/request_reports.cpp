@@ -1,6 +1,8 @@
 #include "attendance/request_reports.h"
 
 #include "attendance/leave_requests.h"
+#include "attendance/record_lines.h"
+#include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/names.h"
@@ -10,12 +12,11 @@ namespace
 {
 constexpr Text kWaitingHeading = {"Submitted:\tEmployee\t\tCategory\r\n", "Soumis le:\tEmployé(e)\t\tCatégorie\r\n"};
 constexpr Text kStatusHeading = {"DATE: \tSTATUS\t\t\tCATEGORY\r\n", "DATE: \tSTATU\t\t\tCATÉGORIE\r\n"};
-/// By RequestStatus; blanks fill them up to a column.
+/// In the order of RequestStatus; blanks fill them up to a column.
 constexpr Text kStatusWords[] = {{"Request is on hold  ", "Requête en suspens"},
                                  {"Responsible notified", "Responsable avisé  "},
                                  {"Request approved    ", "Requête approuvée "},
                                  {"Request denied      ", "Requête refusée"}};
-constexpr int kSettled = 2; ///< RequestStatus of an approval; that of a denial follows it
 
 QString WaitingLine(const RequestGroup& group)
 {
@@ -39,11 +40,11 @@ StatusReport ReadStatusReport(DataControl& datAbsence)
     for (const Recordset& row : datAbsence.Select(
              "SELECT Attendance.RecordID, Attendance.RecordDate, Categories." + NameColumn("Category") +
                  " AS Catg, Attendance.RequestStatus, Attendance.CancelledDate FROM Attendance, Categories WHERE "
-                 "Attendance.CategoryID = Categories.RecordID AND Attendance.RequestStatus < 4 AND "
+                 "Attendance.CategoryID = Categories.RecordID AND Attendance.RequestStatus < ? AND "
                  "Attendance.SubmittedBy = ? ORDER BY Attendance.RecordDate ASC",
-             SessionState.UserID)) {
+             RequestStatus::OutcomeTold, SessionState.UserID)) {
         const int status = row.Long("RequestStatus");
-        if (status >= kSettled)
+        if (status >= static_cast<int>(RequestStatus::Approved))
             report.Settled << row.Text("RecordID");
         if (row.Long("CancelledDate") != 0)
             continue;
@@ -60,32 +61,58 @@ void MarkOutcomesAsTold(DataControl& datAbsence, const QStringList& settled)
     if (settled.isEmpty())
         return;
     InTransaction(datAbsence, [&] {
-        datAbsence.Execute("UPDATE Attendance SET RequestStatus = 4 WHERE SubmittedBy = ? AND RequestStatus IN (2, 3) "
+        datAbsence.Execute("UPDATE Attendance SET RequestStatus = ? WHERE SubmittedBy = ? AND RequestStatus IN (?, ?) "
                            "AND RecordID IN (" +
                                settled.join(", ") + ")",
-                           SessionState.UserID);
+                           RequestStatus::OutcomeTold, SessionState.UserID, RequestStatus::Approved,
+                           RequestStatus::Denied);
     });
+}
+void MarkRequestsAsTold(DataControl& datAbsence)
+{
+    datAbsence.Execute("UPDATE Attendance SET RequestStatus = ? WHERE SubmittedTo_First = ? AND RequestStatus = ?",
+                       RequestStatus::Told, SessionState.UserID, RequestStatus::OnHold);
+}
+
+QStringList DeniedLines(DataControl& datAbsence)
+{
+    const Connection connection(datAbsence);
+    QStringList lines;
+    for (const Recordset& row : datAbsence.Select(
+             "SELECT Attendance.RecordDate, Attendance.DeniedBy, Attendance.ApprovalRefusalMessage, "
+             "Categories.CategoryEnglishName, Categories.CategoryFrenchName FROM Attendance, Categories WHERE "
+             "Attendance.CategoryID = Categories.RecordID AND Attendance.SubmittedBy = ? AND Attendance.FiscalYear = ? "
+             "AND Attendance.DeniedBy <> '' AND Attendance.CancelledDate <> 0 ORDER BY Attendance.RecordDate ASC",
+             SessionState.UserID, SessionState.FiscalYearID))
+        lines << QStringList{FormatDate(row.Long("RecordDate"), "ddd dd-mmm-yyyy"), CategoryOfRow(row),
+                             row.Text("DeniedBy"), row.Text("ApprovalRefusalMessage")}
+                     .join('\t');
+    return lines;
 }
 } // namespace
 
-QString AreThereRequestsToApprove(DataControl& datAbsence)
+QString TakeNewRequests(DataControl& datAbsence)
 {
-    const Connection connection(datAbsence);
-    if (UntoldRequests(datAbsence).isEmpty())
-        return {};
     QString lines;
     InTransaction(datAbsence, [&] { // what comes in while the marks are written must be told another time
         for (const RequestGroup& group : UntoldRequests(datAbsence))
             lines += WaitingLine(group);
-        MarkRequestsAsTold(datAbsence);
+        if (!lines.isEmpty())
+            MarkRequestsAsTold(datAbsence);
     });
     return lines.isEmpty() ? QString() : T(kWaitingHeading) + lines;
 }
 
-void MarkRequestsAsTold(DataControl& datAbsence)
+bool OfferApproval(const QString& list)
 {
-    datAbsence.Execute("UPDATE Attendance SET RequestStatus = 1 WHERE SubmittedTo_First = ? AND RequestStatus = 0",
-                       SessionState.UserID);
+    return !list.isEmpty() &&
+           Ask(T("REQUEST(S) FOR LEAVE RECEIVED:", "DEMANDE(S) DE CONGÉ REÇUE(S):"),
+               T("The following requests for leave have been submitted for your approval. Do you want to process those "
+                 "requests now?",
+                 "Les demandes de congé suivantes ont été soumises pour votre approbation. Souhaitez-vous traiter ces "
+                 "demandes maintenant?") +
+                   "\r\n\r\n" + list,
+               Face::Informing);
 }
 
 void WereRequestsApproved(DataControl& datAbsence)
@@ -99,4 +126,15 @@ void WereRequestsApproved(DataControl& datAbsence)
                      T(kStatusHeading) + report.Lines,
                  report.Count);
     MarkOutcomesAsTold(datAbsence, report.Settled);
+}
+
+void TellDeniedRequests(DataControl& datAbsence)
+{
+    const QString title = T("DENIED REQUESTS FOR LEAVE:", "DEMANDES DE CONGÉ REFUSÉES:");
+    const QStringList lines = DeniedLines(datAbsence);
+    if (lines.isEmpty())
+        return Tell(title, T("None of your requests for leave has been denied in this fiscal year.",
+                             "Aucune de vos demandes de congé n'a été refusée durant cette année fiscale."));
+    const QString head = T("DATE\tCATEGORY\tDENIED BY\tREASON", "DATE\tCATÉGORIE\tREFUSÉE PAR\tRAISON");
+    TellWithList(title, head + "\r\n" + lines.join("\r\n"), lines.size());
 }

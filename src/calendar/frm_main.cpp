@@ -322,6 +322,8 @@ void frmMain::ChangeToYear(Neighbour direction)
             return;
         ReloadSelection();
         LoadCaptions();
+        LookWhatOthersDid(); // he may be another user there
+        ActivateAllowedControls();
     });
 }
 

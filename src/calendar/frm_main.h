@@ -42,6 +42,7 @@ public:
     void DisplayRecords(bool approved); ///< or the pending ones
     void mnuSpecialSwitchLanguage_Click();
     void mnuSpecialUpdateAdminInfo_Click();
+    void mnuSpecialDeniedRequests_Click();
     void mnuSpecialCategoryCodes_Click();
     void mnuHelpKeys_Click();
     /// This user wants the days to tell their categories by letters.
@@ -61,7 +62,6 @@ public:
     /// Where other floors leave the work of the timer's steps.
     MinuteWork& BackgroundWork() { return minuteWork_; }
     YearCalendar& Calendar() override { return calendar_; }
-    DataControl& Data() override { return datAbsence; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -98,6 +98,7 @@ private:
     void RestorePlace();
     void KeepPlace() const;
 
+    DataControl& Data() override { return datAbsence; }
     bool NothingRecorded() const override { return total_ == 0; }
     void ShowHint(const QString& hint) override;
     void BeginTool(const QString& tool, bool usable) override;

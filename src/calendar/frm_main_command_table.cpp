@@ -1,6 +1,5 @@
 #include "calendar/frm_main_command_table.h"
 
-#include "attendance/denied_requests.h"
 #include "calendar/frm_main.h"
 #include "employees/frm_employees.h"
 #include "foundation/frm_about.h"
@@ -249,7 +248,7 @@ List SpecialMenu()
                                             {"Display &pending requests", "Afficher les &demandes non traitées"},
                                             When(HasFileBackEnd), [](frmMain& main) { main.DisplayRecords(false); })),
             Entry("mnuSpecialDeniedRequests", {"My de&nied requests...", "Mes demandes refu&sées..."},
-                  When(HasFileBackEnd), [](frmMain& main) { TellDeniedRequests(main.Data()); }),
+                  When(HasFileBackEnd), &frmMain::mnuSpecialDeniedRequests_Click),
             CheckedWhen(&frmMain::ShowsCodes,
                         Entry("mnuSpecialCategoryCodes", {"Show &category codes", "Afficher les c&odes de catégorie"},
                               Everybody(), &frmMain::mnuSpecialCategoryCodes_Click)),

@@ -2,6 +2,7 @@
 #include "attendance/frm_attendance.h"
 #include "attendance/leave_requests.h"
 #include "attendance/record_cancellation.h"
+#include "attendance/request_notice.h"
 #include "attendance/request_reports.h"
 #include "calendar/frm_main.h"
 #include "calendar/frm_main_calendar.h"
@@ -26,22 +27,11 @@
 #include <QApplication>
 #include <QTimer>
 
-#include <algorithm>
-
 namespace
 {
 constexpr int kMinute = 60'000;
 constexpr int kShutDownSeconds = 60;
 const QString kCodesSetting = "CategoryCodes";
-
-/// A form or a message stands in front of the main window.
-bool IsFormOpen()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
-        return window->isVisible() && qobject_cast<const QDialog*>(window);
-    });
-}
 } // namespace
 
 void frmMain::Run(const Command& command)
@@ -79,6 +69,11 @@ void frmMain::mnuSpecialSwitchLanguage_Click()
         TellError(error);
     }
     ReloadSelection(Category::KeepIfListed);
+}
+
+void frmMain::mnuSpecialDeniedRequests_Click()
+{
+    TellDeniedRequests(datAbsence);
 }
 
 void frmMain::mnuSpecialCategoryCodes_Click()
@@ -180,19 +175,21 @@ int frmMain::SelectAttendanceRecord(const QVector<ListEntry>& lines)
     return form.SelectedRecordID();
 }
 
-/// What was cancelled before a failure is no longer shown either.
+/// What was cancelled before a failure is no longer shown, and its approver is told, whatever fails behind it.
 void frmMain::CancelRecords(const QVector<int>& records)
 {
     const LoadingGuard busy(Busy);
-    WithdrawnRequests withdrawn;
+    CancelledRecords cancelled = ::CancelRecords(datAbsence, records);
     try {
-        withdrawn = ::CancelRecords(datAbsence, records);
-    } catch (const RuntimeError& error) {
-        TellError(error);
+        ReloadIfAsked();
+    } catch (const RuntimeError&) {
+        if (!cancelled.Failure)
+            cancelled.Failure = std::current_exception();
     }
-    ReloadIfAsked();
-    EMailRequestCancellation(datAbsence, withdrawn);
+    EMailRequestCancellation(datAbsence, cancelled);
     ActivateAllowedControls();
+    if (cancelled.Failure)
+        TellFailure(cancelled);
 }
 
 void frmMain::DisplayDailyAttendance(int date)
@@ -210,7 +207,7 @@ void frmMain::DisplayDailyAttendance(int date)
 void frmMain::AreThereRequestsToApprove()
 {
     newRequests_ = false;
-    if (OfferApproval(::AreThereRequestsToApprove(datAbsence)))
+    if (OfferApproval(TakeNewRequests(datAbsence)))
         imgApprove_Click();
 }
 
@@ -229,9 +226,9 @@ void frmMain::timAbsence_Timer()
         return;
     if (!CalendarLoaded) {
         CalendarLoaded = true;
+        timAbsence->setInterval(kMinute); // first: a calendar that fails must not come again each second
         ReloadCalendar();
         pane_->ResizeScreen();
-        timAbsence->setInterval(kMinute);
     }
     LookWhatOthersDid();
     RunMinuteWork();
@@ -245,10 +242,9 @@ void frmMain::LookWhatOthersDid()
     try {
         const Connection connection(datAbsence);
         RereadClosing(datAbsence);
-        if (SessionState.IsAuthorizedToApprove == 0)
-            return;
-        newRequests_ = SessionState.ClosedDate == 0 && !UntoldRequests(datAbsence).isEmpty();
-        toolBar_->ShowWaiting("imgApprove", WaitingRequests(datAbsence));
+        const bool approves = SessionState.IsAuthorizedToApprove != 0;
+        newRequests_ = approves && SessionState.ClosedDate == 0 && !UntoldRequests(datAbsence).isEmpty();
+        toolBar_->ShowWaiting("imgApprove", approves ? WaitingRequests(datAbsence) : 0);
     } catch (const RuntimeError&) {
         // The next minute looks again; who does nothing must not lose what he has typed because a share was away.
     }
@@ -261,7 +257,8 @@ void frmMain::RunMinuteWork()
     const LoadingGuard running(TimerBusy);
     try {
         minuteWork_.Run(MinuteWork::Phase::Open);
-        if (!minuteWork_.IsDue(MinuteWork::Phase::Locked) || QApplication::activePopupWidget() || IsFormOpen())
+        if (!minuteWork_.IsDue(MinuteWork::Phase::Locked) || QApplication::activePopupWidget() ||
+            QApplication::activeModalWidget())
             return;
         DeactivateAllControls();
         minuteWork_.Run(MinuteWork::Phase::Locked);

@@ -1,7 +1,6 @@
 #include "calendar/minute_work.h"
 
-#include "foundation/common_services.h"
-#include "foundation/texts.h"
+#include "foundation/session_state.h"
 
 #include <algorithm>
 
@@ -66,16 +65,4 @@ void MinuteWork::Run(Phase phase)
         if (!work->Do() || !step.OncePerSession)
             done_.remove(step.Name);
     }
-}
-
-bool OfferApproval(const QString& list)
-{
-    return !list.isEmpty() &&
-           Ask(T("REQUEST(S) FOR LEAVE RECEIVED:", "DEMANDE(S) DE CONGÉ REÇUE(S):"),
-               T("The following requests for leave have been submitted for your approval. Do you want to process those "
-                 "requests now?",
-                 "Les demandes de congé suivantes ont été soumises pour votre approbation. Souhaitez-vous traiter ces "
-                 "demandes maintenant?") +
-                   "\r\n\r\n" + list,
-               Face::Informing);
 }

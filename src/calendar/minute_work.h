@@ -47,7 +47,3 @@ private:
     QHash<QString, Work> work_;
     QSet<QString> done_;
 };
-
-/// Tells of requests for leave that wait for the user and asks whether to settle them now; true for Yes. `list` has a
-/// line per request; an empty list asks nothing.
-bool OfferApproval(const QString& list);

@@ -2,6 +2,16 @@
 
 #include "foundation/rows.h"
 
+/// What has become of a request, as its record says.
+enum class RequestStatus
+{
+    OnHold,
+    Told, ///< to its first approver
+    Approved,
+    Denied,
+    OutcomeTold ///< to whoever asked
+};
+
 /// A record of attendance: an employee, a category and a date. Times and durations are decimal hours, dates serial
 /// days.
 struct AttendanceRow
@@ -27,7 +37,7 @@ struct AttendanceRow
     int SubmittedBy = 0;
     int SubmittedTo_First = 0;
     int SubmittedTo_Second = 0;
-    int RequestStatus = 0;
+    int RequestStatus = 0; ///< a value of that enumeration
     float ApprovedDateTime = 0;
     QString ApprovedBy;
     float DeniedDateTime = 0;

@@ -107,6 +107,11 @@ RowValues Differing(const RowValues& before, const RowValues& now)
     return differing;
 }
 
+void RefuseChangedRow()
+{
+    throw RuntimeError(EngineError::RowChanged, "The record has been changed by another user.");
+}
+
 void InTransaction(DataControl& datAbsence, const std::function<void()>& work, Transaction::OnFailure onFailure)
 {
     const Connection connection(datAbsence);

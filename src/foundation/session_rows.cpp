@@ -55,6 +55,35 @@ void InOpenYear(DataControl& datAbsence, const std::function<void()>& work, Tran
         onFailure);
 }
 
+Kept InOpenYearOneByOne(DataControl& datAbsence, qsizetype count, const std::function<void(qsizetype)>& work)
+{
+    Kept kept;
+    const auto writeEach = [&] {
+        try {
+            for (; kept.Done < count; ++kept.Done)
+                work(kept.Done);
+        } catch (const RuntimeError&) {
+            kept.Failure = std::current_exception();
+        }
+    };
+    try {
+        InOpenYear(datAbsence, writeEach);
+    } catch (const RuntimeError&) {
+        kept = {0, std::current_exception()}; // what cannot be committed is undone
+    }
+    return kept;
+}
+
+void ThrowAgain(const std::exception_ptr& failure, const QString& more)
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (RuntimeError& error) {
+        error.Description += more;
+        throw;
+    }
+}
+
 std::optional<EmployeeRow> FindAdministrator(DataControl& datAbsence)
 {
     return First<EmployeeRow>(datAbsence, "LoginID = 'ADMIN' AND FiscalYear = 0");

@@ -22,6 +22,17 @@ struct YearClosed : RuntimeError
 /// nothing, when the year has been closed.
 void InOpenYear(DataControl& datAbsence, const std::function<void()>& work,
                 Transaction::OnFailure onFailure = Transaction::Undo);
+/// How far rows have come that are written one after the other.
+struct Kept
+{
+    qsizetype Done = 0;         ///< so many are in the file
+    std::exception_ptr Failure; ///< of the one behind them, or of all; none when all are written
+};
+/// Writes `count` rows of the session's year in one transaction, `work` each by its number from 0: those before a
+/// failure stay written. What fails is given back; nothing is thrown.
+Kept InOpenYearOneByOne(DataControl& datAbsence, qsizetype count, const std::function<void(qsizetype)>& work);
+/// Throws a failure again, as what it was; its description goes on with `more`.
+[[noreturn]] void ThrowAgain(const std::exception_ptr& failure, const QString& more);
 /// The administrator's row, if there is one.
 std::optional<EmployeeRow> FindAdministrator(DataControl& datAbsence);
 /// Name and mail address of the ADMIN row, which messages quote.

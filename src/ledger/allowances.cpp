@@ -35,8 +35,8 @@ BalanceLines ExplainEntitlement(DataControl& datAbsence, int employeeID, int cat
                        {{"Allocated", "Temps alloué"}, allowance.AnnualEntitlement},
                        {kTakenToDate, sum(LiveRecords::TakenToDate)},
                        {kBookedAhead, sum(LiveRecords::BookedAhead)},
-                       {kPending, pending}};
+                       {kPending, pending, BalancePart::Pending}};
     if (allowance.Limit() != 0) // otherwise there is no limit
-        lines.push_back({kLeft, allowance.Limit() - (sum(LiveRecords::Approved) + pending)});
+        lines.push_back({kLeft, allowance.Limit() - (sum(LiveRecords::Approved) + pending), BalancePart::Left});
     return lines;
 }

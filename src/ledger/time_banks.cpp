@@ -68,8 +68,8 @@ BalanceLines ExplainTimeBank(DataControl& datAbsence, const CalendarSelection& s
     return {{{"Put in the bank", "Temps accumulé"}, sum(LiveRecords::Approved, BankFlow::In)},
             {kTakenToDate, sum(LiveRecords::TakenToDate, BankFlow::Out)},
             {kBookedAhead, sum(LiveRecords::BookedAhead, BankFlow::Out)},
-            {kPending, sum(LiveRecords::Pending, BankFlow::Balance)},
-            {kLeft, sum(LiveRecords::All, BankFlow::Balance)}};
+            {kPending, sum(LiveRecords::Pending, BankFlow::Balance), BalancePart::Pending},
+            {kLeft, sum(LiveRecords::All, BankFlow::Balance), BalancePart::Left}};
 }
 
 bool IsNewToTimeBanks(DataControl& datAbsence, int categoryID)

@@ -1,5 +1,6 @@
 #include "attendance/attendance_fixture.h"
 #include "attendance/frm_approval.h"
+#include "attendance/request_approval.h"
 #include "attendance/request_reports.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/dao/server.h"
@@ -46,12 +47,12 @@ protected:
     {
         QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, Grid().CellRect(row, col).center());
     }
-    RequestedDates FirstGroup() { return LoadRequestedDates(datAbsence, ReloadRequests(datAbsence).first()); }
-    QVector<RequestedDate> AllJudged(Verdict verdict)
+    RequestedDates FirstGroup() { return LoadRequestedDates(datAbsence, LoadRequestGroups(datAbsence).first()); }
+    QVector<RequestedDate> AllMarked(RequestMark mark)
     {
         QVector<RequestedDate> dates = FirstGroup().Dates;
         for (RequestedDate& date : dates)
-            date.Said = verdict;
+            date.Mark = mark;
         return dates;
     }
     QString Statuses()
@@ -115,7 +116,7 @@ TEST_F(Approval, AllOfAGroupIsDeniedInFrenchAndWhoeverHasNoAddressMustBeToldOthe
     user.Clicks("optApproveAll").Clicks("optDenyAll").Types("txtReasonForRefusal", "Trop d'absents");
     user.WillAnswer("VEUILLEZ CONFIRMER:", "Non", "Vos changements")
         .Picks("cboRecords", "26-03-02  Davis, Chris                              Mal");
-    EXPECT_EQ(Shown().count("[ ]|[X]"), 2) << "what was said is not lost";
+    EXPECT_EQ(Shown().count("[ ]|[X]"), 2) << "the marks are not lost";
     user.WillConfirm("STATU         \tDATE:\tCATÉGORIE\r\nRefusée        \t02-Mar\tVacances\r\nRefusée        \t03-Mar")
         .WillBeDone("Vous devrez donc le faire vous-même.")
         .Clicks("cmdProcess");
@@ -133,6 +134,7 @@ TEST_F(Approval, AllOfAGroupIsDeniedInFrenchAndWhoeverHasNoAddressMustBeToldOthe
 
 TEST_F(Approval, AFailureKeepsWhatIsSettledTellsItAndNamesTheDate)
 {
+    Entitle(chris, "Vacation", 0, 70);
     for (const int day : {2, 3, 4})
         Requests(day);
     house.Refuses("UPDATE ON Attendance WHEN NEW.RecordDate = 46084");
@@ -147,25 +149,50 @@ TEST_F(Approval, AFailureKeepsWhatIsSettledTellsItAndNamesTheDate)
     EXPECT_EQ(house.Mail.filter("02-Mar").filter("unused").size(), 0) << "a reason goes with a denial only";
     EXPECT_EQ(house.Mail.filter("02-Mar").size(), 1);
     EXPECT_TRUE(SessionState.ReloadCalendar);
-    EXPECT_EQ(Shown().count("[X]|[ ]"), 2) << "what was said of the others stays";
+    EXPECT_EQ(Shown().count("[X]|[ ]"), 2) << "the marks of the others stay";
+    EXPECT_TRUE(Grid().CellFontBold(1, 0) && !user.CanUse("lblBalance")) << "the balance is no longer this one";
 
     house.Sql("DROP TRIGGER Refusing");
-    house.Sql("UPDATE FiscalYears SET ClosedDate = 46083");
+    user.SeesMessage = [this](const Message&) { house.Sql("UPDATE FiscalYears SET ClosedDate = 46083"); };
     user.WillConfirm().WillAnswer("FISCAL YEAR CLOSED:", "OK").Clicks("cmdProcess");
+    user.SeesMessage = {};
     house.Sql("UPDATE FiscalYears SET ClosedDate = 0");
     EXPECT_EQ(Statuses(), "2 0 0");
     user.WillConfirm().WillBeDone().Clicks("cmdProcess");
     EXPECT_EQ(Statuses(), "2 2 2");
 }
 
-TEST_F(Approval, WhoComesSecondWritesOverWhatWasSaidFirst)
+TEST_F(Approval, WhatCannotBeReadLeavesTheFormAsItIs)
 {
     Requests(2);
-    const QVector<RequestedDate> approved = AllJudged(Verdict::Approved);
-    SettleRequests(datAbsence, AllJudged(Verdict::Denied), "no");
+    Requests(3, "Sick");
+    user.Opens<frmApproval>().Picks("cboRecords", "26-03-02  Davis, Chris                              Vac");
+    user.Types("txtReasonForRefusal", QString(1001, 'x'));
+    EXPECT_EQ(user.Reads("txtReasonForRefusal").size(), 1000);
+    house.Sql("ALTER TABLE Categories RENAME TO Gone");
+    user.WillAnswer("AN ERROR HAS OCCURRED:", "OK", "3078: ").Clicks("cmdCancelOperation");
+    ClicksCell(1, 1);
+    EXPECT_EQ(Shown().count("[ ]|[X]"), 1);
+    EXPECT_THROW(frmApproval(), RuntimeError) << "nobody must think that nothing waits";
+    house.Sql("ALTER TABLE Gone RENAME TO Categories");
+    ClicksCell(1, 1);
+    user.WillConfirm("Changes have not been saved!")
+        .Picks("cboRecords", "26-03-02  Davis, Chris                              Sick");
+    EXPECT_EQ(user.Reads("txtReasonForRefusal"), "") << "it was the reason for another request";
+}
+
+TEST_F(Approval, WhoComesSecondWritesOverWhatWasDecidedFirstButNotOverAWithdrawal)
+{
+    Requests(2);
+    const QVector<RequestedDate> approved = AllMarked(RequestMark::Approved);
+    SettleRequests(datAbsence, AllMarked(RequestMark::Denied), "no");
     house.LogIn("EVE");
     EXPECT_FALSE(SettleRequests(datAbsence, approved, "").Failure);
-    EXPECT_EQ(house.Rows(kStates), "0|2|46083.5859375|EVE|46083.5859375|MARC|no|46083|");
+    const QString decided = "0|2|46083.5859375|EVE|46083.5859375|MARC|no|46083|";
+    EXPECT_EQ(house.Rows(kStates), decided);
+    house.Sql("UPDATE Attendance SET CancelledBy = 'CHRIS'");
+    EXPECT_TRUE(SettleRequests(datAbsence, approved, "").Failure);
+    EXPECT_EQ(house.Rows(kStates), decided + "CHRIS");
 }
 
 TEST_F(Approval, ColleaguesOfTheRecordsDepartmentWhoAreAwayOrAskToBeAreNamedOnce)
@@ -193,7 +220,7 @@ TEST_F(Approval, BothApproversSeeTheGroupsThatWaitAndOnlyTheFirstIsToldOnce)
 {
     const int withdrawn = Requests(2, "Sick");
     Cancel(withdrawn);
-    EXPECT_EQ(AreThereRequestsToApprove(datAbsence), "");
+    EXPECT_EQ(TakeNewRequests(datAbsence), "");
     EXPECT_EQ(Statuses(), "0") << "nobody is told of a withdrawn one";
     house.Sql("UPDATE Attendance SET Submitted = 0 WHERE RecordID = ?", {withdrawn});
 
@@ -202,21 +229,21 @@ TEST_F(Approval, BothApproversSeeTheGroupsThatWaitAndOnlyTheFirstIsToldOnce)
     house.Sql("UPDATE Employees SET FamilyName = 'Davis-Montgomery-Hall' WHERE LoginID = 'CHRIS'");
     house.Sql("UPDATE Categories SET CategoryEnglishName = 'Vacation of the year' WHERE RecordID = 1");
     house.LogIn("EVE");
-    EXPECT_EQ(AreThereRequestsToApprove(datAbsence), "");
+    EXPECT_EQ(TakeNewRequests(datAbsence), "");
     EXPECT_EQ(WaitingRequests(datAbsence), 1);
-    EXPECT_EQ(ReloadRequests(datAbsence).size(), 1);
+    EXPECT_EQ(LoadRequestGroups(datAbsence).size(), 1);
     house.LogIn("MARC");
-    EXPECT_EQ(AreThereRequestsToApprove(datAbsence),
+    EXPECT_EQ(TakeNewRequests(datAbsence),
               "Submitted:\tEmployee\t\tCategory\r\n02-Mar-2026\tDavis-Montgomer, Chris\tVacation of the\r\n");
     EXPECT_EQ(Statuses(), "1 1 1") << "the withdrawn one, too";
-    EXPECT_EQ(AreThereRequestsToApprove(datAbsence), "");
+    EXPECT_EQ(TakeNewRequests(datAbsence), "");
     EXPECT_EQ(WaitingRequests(datAbsence), 1);
 
     Requests(4);
     house.Refuses("UPDATE ON Attendance");
-    EXPECT_THROW(AreThereRequestsToApprove(datAbsence), RuntimeError);
+    EXPECT_THROW(TakeNewRequests(datAbsence), RuntimeError);
     house.Sql("DROP TRIGGER Refusing");
-    EXPECT_NE(AreThereRequestsToApprove(datAbsence), "") << "what could not be noted is told again";
+    EXPECT_NE(TakeNewRequests(datAbsence), "") << "what could not be noted is told again";
 }
 
 TEST_F(Approval, WhoeverAskedIsToldHowItStandsAndNotAgainWhatIsSettled)
@@ -276,22 +303,19 @@ TEST_F(Approval, TheApproverSeesWhatARequestWouldLeave)
     EXPECT_FALSE(user.CanUse("lblBalance")) << "no limit, no bank";
 }
 
-TEST_F(Approval, TheServerIsSentWhatIsSettledAndTold)
+TEST_F(Approval, TheServerIsSentWhatIsSettled)
 {
     Requests(2);
-    const QVector<RequestedDate> approved = AllJudged(Verdict::Approved), denied = AllJudged(Verdict::Denied);
+    const QVector<RequestedDate> approved = AllMarked(RequestMark::Approved), denied = AllMarked(RequestMark::Denied);
     QStringList sent;
     SetServerSink([&sent](const QString& statement) { sent << statement; });
     SessionState.SQL_Server = true;
     SettleRequests(datAbsence, approved, "");
     SettleRequests(datAbsence, denied, "no ");
-    MarkRequestsAsTold(datAbsence);
     EXPECT_EQ(sent.join('\n'),
               QString("UPDATE Attendance SET Submitted = 0, ApprovedDateTime = 46083.59, ApprovedBy = 'MARC', "
                       "RequestStatus = 2 WHERE RecordID = 1\n"
                       "UPDATE Attendance SET Submitted = 0, DeniedDateTime = 46083.59, RequestStatus = 3, "
-                      "DeniedBy = 'MARC', ApprovalRefusalMessage = 'no', CancelledDate = 46083 WHERE RecordID = 1\n"
-                      "UPDATE Attendance SET RequestStatus = 1 WHERE SubmittedTo_First = %1 AND RequestStatus = 0")
-                  .arg(marc));
+                      "DeniedBy = 'MARC', ApprovalRefusalMessage = 'no', CancelledDate = 46083 WHERE RecordID = 1"));
 }
 } // namespace

@@ -121,7 +121,7 @@ TEST_F(Cancellation, WithdrawnRequestsAreToldToTheApproverReadLastInOneMessage)
     EXPECT_TRUE(house.Mail.size() == 1 && !Visible("fraUnsent")) << "nobody can be told";
 }
 
-TEST_F(Cancellation, AFailureKeepsWhatWasCancelledBeforeItAndAClosedYearKeepsEverything)
+TEST_F(Cancellation, AFailureKeepsAndTellsWhatWasCancelledBeforeItAndAClosedYearKeepsEverything)
 {
     const int first = Request("Vacation", 12, 21, luc);
     const int second = Request("Vacation", 12, 22, luc);
@@ -137,12 +137,37 @@ TEST_F(Cancellation, AFailureKeepsWhatWasCancelledBeforeItAndAClosedYearKeepsEve
     main->timAbsence_Timer();
     house.Refuses(QStringLiteral("UPDATE ON Attendance WHEN OLD.RecordID = %1").arg(second));
     Marks("Vacation", {{12, 21}, {12, 22}});
-    user.WillAnswer("CONFIRM:", "Yes").WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused").Clicks("imgRemove");
+    user.WillAnswer("CONFIRM:", "Yes")
+        .WillAnswer("AN ERROR HAS OCCURRED:", "OK",
+                    "(refused).\r\n\r\nThese records have been cancelled:\r\n\r\nMon 21-12-2026\r\n")
+        .Clicks("imgRemove");
     EXPECT_TRUE(StateOf(first).endsWith("|MBOUCHARD|" + QString::number(Today())));
     EXPECT_EQ(StateOf(second), "1|1|X||0");
     EXPECT_EQ(Days({{12, 21}}), "21 ffffff") << "the calendar shows what is left";
     EXPECT_NE(Days({{12, 22}}), "22 ffffff");
-    EXPECT_TRUE(house.Mail.isEmpty() && user.CanUse("imgRemove"));
+    ASSERT_EQ(house.Mail.size(), 1);
+    EXPECT_TRUE(house.Mail[0].endsWith("\r\n\r\nMon 21-12-2026\r\n") && user.CanUse("imgRemove"));
+
+    house.Sql("DROP TRIGGER Refusing");
+    Marks("Vacation", {{12, 22}});
+    house.Sql("UPDATE Attendance SET Submitted = 0, RequestStatus = 2 WHERE RecordID = ?", {second}); // by Luc
+    user.WillAnswer("CONFIRM:", "Yes")
+        .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "changed by another user")
+        .Clicks("imgRemove");
+    EXPECT_EQ(StateOf(second), "0|2|X||0");
+
+    const int third = Request("Vacation", 12, 23, luc);
+    user.ChoosesMenu("mnuSpecialDisplayPending");
+    Marks("Vacation", {{12, 23}});
+    user.SeesMessage = [this](const Message& message) {
+        if (message.Title == "CONFIRM:")
+            house.Sql("ALTER TABLE Holidays RENAME TO Gone");
+    };
+    user.WillAnswer("CONFIRM:", "Yes")
+        .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "cancelled:\r\n\r\nWed 23-12-2026")
+        .Clicks("imgRemove");
+    EXPECT_TRUE(StateOf(third).contains("MBOUCHARD") && house.Mail.size() == 2 && user.CanUse("imgRemove"))
+        << "a calendar that cannot be read keeps nobody from being told";
 }
 
 TEST_F(Cancellation, TheServerIsSentNoMoreThanWhoAndWhen)

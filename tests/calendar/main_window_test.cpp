@@ -408,7 +408,5 @@ TEST_F(MainWindow, TheTimersStepsRunInOrderAndOnce)
     user.WillAnswer("AN ERROR HAS OCCURRED:", "OK", "3043: network");
     EXPECT_EQ(ticks(), "") << "nobody is asked for his mail program twice";
     EXPECT_TRUE(!main->TimerBusy && Enabled("mnuFile") && user.CanUse("imgSubmit")) << "a failure locks nothing";
-    user.WillAnswer("REQUEST(S) FOR LEAVE RECEIVED:", "Yes", "\r\n\r\nMarie");
-    EXPECT_TRUE(OfferApproval("Marie") && !OfferApproval({}));
 }
 } // namespace

@@ -1,5 +1,4 @@
 #include "attendance/attendance_guards.h"
-#include "attendance/denied_requests.h"
 #include "attendance/leave_requests.h"
 #include "attendance/request_reports.h"
 #include "calendar/calendar_records.h"
@@ -55,9 +54,13 @@ protected:
         static_cast<CalendarSelection&>(SessionState) = selection;
         for (const bool approved : {true, false}) {
             const QScopedValueRollback<bool> shown(SessionState.ShowApproved, approved);
-            if (!RecordsOfTheYear(datAbsence).isEmpty() && TotalForTheYear(datAbsence) == 1 &&
-                !DailyAttendance(datAbsence, Today()).isEmpty())
-                counting << (approved ? "calendar" : "pending");
+            const QString view = approved ? "" : "pending-";
+            if (!RecordsOfTheYear(datAbsence).isEmpty())
+                counting << view + "records";
+            if (TotalForTheYear(datAbsence) == 1)
+                counting << view + "total";
+            if (!DailyAttendance(datAbsence, Today()).isEmpty())
+                counting << view + "day";
         }
         if (!ConflictingRecords(datAbsence, Today(), Today()).isEmpty())
             counting << "conflict";
@@ -67,7 +70,7 @@ protected:
     {
         house.LogIn("EVA");
         QStringList counting;
-        if (HasAnna(ReloadRequests(datAbsence)))
+        if (HasAnna(LoadRequestGroups(datAbsence)))
             counting << "to-settle";
         if (HasAnna(UntoldRequests(datAbsence)))
             counting << "new";
@@ -107,15 +110,17 @@ TEST_F(RequestStates, EachReaderCountsWhatItIsAbout)
         const char* Approver;
         const char* Requester;
     };
+    const char* kShown = "records total day conflict";
+    const char* kWaiting = "pending-records pending-total pending-day conflict";
     const char* kReport = "REQUEST(S) FOR LEAVE STATUS REPORT:";
     const char* kDenials = "DENIED REQUESTS FOR LEAVE:";
     const QString by = QString::number(anna);
     const State kStates[] = {
-        {"entered", "SubmittedBy = 0", "used bank", "calendar conflict", "absent", ""},
-        {"submitted", "Submitted = 1", "waiting bank", "pending conflict", "to-settle new absent", kReport},
-        {"told", "Submitted = 1, RequestStatus = 1", "waiting bank", "pending conflict", "to-settle absent", kReport},
-        {"approved", "RequestStatus = 2, ApprovedBy = 'EVA'", "used bank", "calendar conflict", "absent", kReport},
-        {"told of approval", "RequestStatus = 4", "used bank", "calendar conflict", "absent", ""},
+        {"entered", "SubmittedBy = 0", "used bank", kShown, "absent", ""},
+        {"submitted", "Submitted = 1", "waiting bank", kWaiting, "to-settle new absent", kReport},
+        {"told", "Submitted = 1, RequestStatus = 1", "waiting bank", kWaiting, "to-settle absent", kReport},
+        {"approved", "RequestStatus = 2, ApprovedBy = 'EVA'", "used bank", kShown, "absent", kReport},
+        {"told of approval", "RequestStatus = 4", "used bank", kShown, "absent", ""},
         {"denied", "RequestStatus = 3, DeniedBy = 'EVA', CancelledDate = 46083", "", "", "", kDenials},
         {"told of denial", "RequestStatus = 4, DeniedBy = 'EVA', CancelledDate = 46083", "", "", "", kDenials},
         {"withdrawn", "RequestStatus = 1, CancelledBy = 'ANNA', CancelledDate = 46083", "", "", "", ""},

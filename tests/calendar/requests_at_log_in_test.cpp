@@ -79,6 +79,19 @@ TEST_F(RequestsAtLogIn, TheFirstApproverIsAskedOnceAndWhoeverAskedIsTold)
     EXPECT_EQ(Statuses(), "4 4");
 }
 
+TEST_F(RequestsAtLogIn, WhoAsksAndApprovesHearsOfHisOwnFirstAndTheCountFollowsTheUser)
+{
+    house.FiscalYear("2027", 2027);
+    house.Hire({"PAUL", "Paul", "Roy", "Production", "", {"SelfLevelCreate"}}, 2);
+    house.Sql("UPDATE Attendance SET SubmittedBy = 3 WHERE RecordID = ?",
+              {house.Record(3, "Sick", {2026, 11, 26}, 7, true)});
+    user.WillAnswer(told, "OK", "26-Nov").WillAnswer(received, "No", "Bouchard");
+    Opens("PAUL");
+    EXPECT_EQ(user.Reads("imgApprove"), "Approve (1)");
+    user.Clicks("cmdNextYear");
+    EXPECT_EQ(user.Reads("imgApprove"), "Approve");
+}
+
 TEST_F(RequestsAtLogIn, InAClosedYearNobodyIsAsked)
 {
     house.Sql("UPDATE Employees SET SelfLevelCreate = 1");

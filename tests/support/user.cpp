@@ -319,6 +319,7 @@ int User::PressButton(const Message& message, const QString& caption)
 {
     const QPointer<QWidget> before = form_;
     frmMessageBox box(message);
+    box.setModal(true);
     box.show();
     Works(box);
     for (auto* button : box.findChildren<QPushButton*>())
@@ -341,6 +342,7 @@ int User::VisitForm(QDialog& form)
         return QDialog::Rejected;
     }
     const QPointer<QWidget> before = form_;
+    form.setModal(true); // as when it runs
     form.show();
     Works(form);
     (*work)(form);

@@ -251,3 +251,13 @@ void FilterKeys(QComboBox* field, KeyFilter filter)
     field->installEventFilter(entry);
     field->lineEdit()->installEventFilter(entry);
 }
+
+void LimitLength(QPlainTextEdit* field, int letters)
+{
+    QObject::connect(field, &QPlainTextEdit::textChanged, field, [field, letters] {
+        if (field->toPlainText().size() <= letters)
+            return;
+        field->setPlainText(field->toPlainText().left(letters));
+        field->moveCursor(QTextCursor::End);
+    });
+}

@@ -30,3 +30,6 @@ enum class KeyFilter
 void FilterKeys(QLineEdit* field, KeyFilter filter);
 void FilterKeys(QPlainTextEdit* field, KeyFilter filter);
 void FilterKeys(QComboBox* field, KeyFilter filter);
+
+/// What is typed or pasted behind so many letters is dropped.
+void LimitLength(QPlainTextEdit* field, int letters);
