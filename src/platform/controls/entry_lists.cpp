@@ -15,12 +15,10 @@ bool IsAmong(std::initializer_list<int> keys, const QKeyEvent* event)
            std::find(keys.begin(), keys.end(), event->key()) != keys.end();
 }
 
-constexpr int kHowMatched = 0x0F; // of the toolkit's flags
-
 QString Digits(QString text)
 {
-    static const QRegularExpression kOther("\\D");
-    return text.remove(kOther);
+    text.removeIf([](QChar letter) { return !letter.isDigit(); });
+    return text;
 }
 
 /// The digits with which a time begins, its hours whole where something follows them: "1h3" is 01:3.
@@ -30,7 +28,7 @@ QString DigitsOfTime(const QString& typed)
     return Digits(typed.contains(kOneHour) ? '0' + typed : typed);
 }
 
-/// Entries that begin with a digit are found by their digits alone, from the first one on.
+/// A text that begins with a digit finds entries by their digits alone, from the first one on.
 template <typename Model>
 class FoundByDigits : public Model
 {
@@ -42,7 +40,7 @@ public:
     {
         const QString typed = value.toString();
         const bool digits = !typed.isEmpty() && typed.front().isDigit();
-        if (!digits || role != Qt::DisplayRole || (flags.toInt() & kHowMatched) != Qt::MatchStartsWith)
+        if (!digits || role != Qt::DisplayRole || (flags & Qt::MatchTypeMask) != Qt::MatchStartsWith)
             return Model::match(start, role, value, hits, flags);
         const QString time = DigitsOfTime(typed);
         for (int row = 0; row < this->rowCount(); ++row)
@@ -156,10 +154,14 @@ bool DropDownList::eventFilter(QObject* target, QEvent* event)
     return true;
 }
 
+/// An entry that is current without being marked has not been chosen.
 void DropDownList::TakeAndGoOn(QObject* target, QEvent* tab)
 {
     QKeyEvent taking(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QApplication::sendEvent(target, &taking);
+    if (view()->selectionModel()->hasSelection())
+        QApplication::sendEvent(target, &taking);
+    else
+        hidePopup();
     const QWidget* focused = window()->focusWidget();
     if (focused == this || isAncestorOf(focused)) // unless what was taken has led elsewhere
         QApplication::sendEvent(this, tab);
