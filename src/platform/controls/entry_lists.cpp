@@ -167,8 +167,8 @@ void DropDownList::TakeAndGoOn(QObject* target, QEvent* tab)
         QApplication::sendEvent(this, tab);
 }
 
-/// A key alone, or the same one again and again, leads on to the next entry; a text that no entry begins with leaves
-/// the mark where it is.
+/// A key alone, or the same one again and again, leads on to the next entry; a text that no entry begins with leads
+/// back to the one that was chosen before, if there is one.
 void DropDownList::Find(const QString& key)
 {
     if (!typed_.isEmpty() && pause_.hasExpired(QApplication::keyboardInputInterval()))
@@ -181,6 +181,8 @@ void DropDownList::Find(const QString& key)
     QModelIndex found = Begins(typed_ == key ? next : here, typed_);
     if (!found.isValid() && typed_ == key.repeated(typed_.size()))
         found = Begins(next, key);
+    if (!found.isValid())
+        found = model()->index(currentIndex(), modelColumn());
     if (found.isValid())
         view()->setCurrentIndex(found);
 }
