@@ -10,6 +10,8 @@
 #include "foundation/frm_change_password.h"
 #include "foundation/frm_input_box.h"
 #include "foundation/frm_login.h"
+#include "foundation/frm_message_box.h"
+#include "foundation/frm_splash_screen.h"
 #include "foundation/frm_update_admin_info.h"
 #include "ledger/frm_entitlement_history.h"
 #include "ledger/frm_entitlements.h"
@@ -50,6 +52,7 @@
 namespace
 {
 EmployeeRecord newEmployee;
+int marieID = 0, recordID = 0;
 
 using Maker = std::unique_ptr<QWidget> (*)();
 
@@ -57,6 +60,21 @@ template <typename Form, auto... arguments>
 std::unique_ptr<QWidget> Make()
 {
     return std::make_unique<Form>(arguments...);
+}
+
+/// Marie's last day of the year, or the record that she has.
+template <AttendanceKind kind>
+std::unique_ptr<QWidget> MakeAttendance()
+{
+    AttendanceJob job{SessionState, kind, {SerialOfDate({2026, 12, 31})}};
+    job.EmployeeID = marieID;
+    job.RecordToModify = kind == AttendanceKind::Modify ? recordID : 0;
+    return std::make_unique<frmAttendance>(job);
+}
+
+std::unique_ptr<QWidget> MakeMessage()
+{
+    return std::make_unique<frmMessageBox>(Message{.Text = T("One\tTwo", "Un\tDeux"), .Set = Buttons::YesNo});
 }
 
 /// Every form that can be opened by itself. A form that a command opens must be among them.
@@ -81,11 +99,10 @@ const std::pair<const char*, Maker> kForms[] = {
     {"frmEntitlementHistory",
      [] { return std::unique_ptr<QWidget>(new frmEntitlementHistory(EntitlementLine(), "")); }},
     {"frmLists", Make<frmLists, ListKind::Categories>},
-    {"frmAttendance",
-     [] {
-         const AttendanceJob job{SessionState, AttendanceKind::Add, {SerialOfDate({2026, 12, 31})}};
-         return std::unique_ptr<QWidget>(new frmAttendance(job));
-     }},
+    {"frmLists", Make<frmLists, ListKind::Employees>},
+    {"frmAttendance", MakeAttendance<AttendanceKind::Add>},
+    {"frmAttendance", MakeAttendance<AttendanceKind::Submit>},
+    {"frmAttendance", MakeAttendance<AttendanceKind::Modify>},
     {"frmApproval",
      [] {
          auto form = std::make_unique<frmApproval>();
@@ -96,7 +113,9 @@ const std::pair<const char*, Maker> kForms[] = {
      }},
     {"frmSelectEmployee", Make<frmSelectEmployee>},
     {"frmSelectDates", [] { return std::unique_ptr<QWidget>(new frmSelectDates(EntireYear(), SessionState)); }},
-    {"frmSelectPeriod", Make<frmSelectPeriod>},
+    {"frmSelectPeriod", Make<frmSelectPeriod, PeriodMode::Range>},
+    {"frmSelectPeriod", Make<frmSelectPeriod, PeriodMode::SingleDate>},
+    {"frmSelectPeriod", Make<frmSelectPeriod, PeriodMode::Schedule>},
     {"frmSelectWeekdays", Make<frmSelectWeekdays>},
     {"frmGetApprovedBy",
      [] {
@@ -115,15 +134,36 @@ const std::pair<const char*, Maker> kForms[] = {
     {"frmChangePassword", Make<frmChangePassword>},
     {"frmUpdateAdminInfo", Make<frmUpdateAdminInfo>},
     {"frmLogin", [] { return std::unique_ptr<QWidget>(new frmLogin(1, "2027")); }},
+    {"frmLogin", Make<frmLogin, 1>},
+    {"frmMessageBox", MakeMessage},
+    {"frmSplashScreen", Make<frmSplashScreen>},
     {"frmSetUpWizard", Make<frmSetUpWizard>},
 };
 
 /// What reads the same in both languages, and who speaks both at once until a language is chosen.
-const QStringList kSameInFrench = {"OK",    "&OK",    "Tarvell",       "Global",        "Minutes", "Total",
-                                   "ADMIN", "1 date", "Version 1.2.0", "Configuration", "h",       "min"};
+const QStringList kSameInFrench = {"OK",     "&OK",       "Tarvell",       "Global",        "Minutes", "Total", "ADMIN",
+                                   "1 date", "Marie Roy", "Version 1.2.0", "Configuration", "h",       "min"};
 const QString kBilingual = "frmSetUpWizard";
 /// Whom Escape does not close: the wizard asks first.
-const QStringList kStaying = {"frmMain", kBilingual};
+const QStringList kStaying = {"frmMain", "frmSplashScreen", kBilingual};
+
+/// Larger letters while it lives.
+class ScaledLetters
+{
+public:
+    explicit ScaledLetters(double scale)
+    {
+        QFont scaled = before_;
+        scaled.setPointSizeF(scale * before_.pointSizeF());
+        QApplication::setFont(scaled);
+    }
+    ~ScaledLetters() { QApplication::setFont(before_); }
+    ScaledLetters(const ScaledLetters&) = delete;
+    ScaledLetters& operator=(const ScaledLetters&) = delete;
+
+private:
+    const QFont before_ = QApplication::font();
+};
 
 class Forms : public HouseTest
 {
@@ -131,10 +171,11 @@ protected:
     Forms()
     {
         house.Configured().Company();
-        const int marie = house.Hire({"MARIE", "Marie", "Roy", "Production", "Assembly", {"IsAuthorizedToApprove"}});
+        marieID = house.Hire({"MARIE", "Marie", "Roy", "Production", "Assembly", {"IsAuthorizedToApprove"}});
         house.LogIn("ADMIN");
         house.Sql("UPDATE Attendance SET SubmittedTo_Second = ? WHERE RecordID = ?",
-                  {SessionState.UserID, house.Record(marie, "Time claimed", {2026, 3, 9}, -7, true)});
+                  {SessionState.UserID, house.Record(marieID, "Time claimed", {2026, 3, 9}, -7, true)});
+        recordID = house.Record(marieID, "Sick", {2026, 12, 31}, 7);
     }
 
     QWidget& Open(Maker make)
@@ -175,7 +216,8 @@ protected:
             if (label && label->wordWrap() && label->heightForWidth(label->width()) > label->height())
                 clipped << label->text();
             const bool isCaption = qobject_cast<const QAbstractButton*>(control) || (label && !label->wordWrap());
-            if (isCaption && control->sizeHint().width() > control->width())
+            const QSize lacking = control->sizeHint() - control->size();
+            if (isCaption && (lacking.width() > 0 || lacking.height() > 0))
                 clipped << control->property("text").toString();
         }
         clipped.removeAll(QString()); // the arrows of a row of tabs
@@ -190,8 +232,11 @@ protected:
             if (!control->isVisible() || control->focusPolicy() == Qt::NoFocus || control->focusProxy())
                 continue;
             QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(control);
-            if (reader && reader->text(QAccessible::Name).trimmed().isEmpty() &&
-                !qobject_cast<const QTabWidget*>(control) && !control->inherits("QTabBar"))
+            const bool isList = qobject_cast<const QComboBox*>(control); // the toolkit tells its entry for a name
+            const bool hasLabel = reader && isList && !reader->relations(QAccessible::Label).isEmpty();
+            const QString name = isList ? control->accessibleName() : reader ? reader->text(QAccessible::Name) : "none";
+            if (name.trimmed().isEmpty() && !hasLabel && !qobject_cast<const QTabWidget*>(control) &&
+                !control->inherits("QTabBar"))
                 nameless << control->metaObject()->className() + QString(" ") + control->objectName();
         }
         return nameless;
@@ -217,8 +262,7 @@ protected:
         return twice;
     }
 
-    /// The greyed controls over which no tip says why. That of what holds them counts; one that only names them does
-    /// not.
+    /// The greyed controls of which nobody has said why. A reason of what holds them counts; a tip alone does not.
     static QStringList Unexplained(const QWidget& form)
     {
         QStringList unexplained;
@@ -226,9 +270,9 @@ protected:
             if (!control->isVisible() || control->isEnabled() || control->focusPolicy() == Qt::NoFocus)
                 continue;
             const QWidget* told = control;
-            while (told != &form && told->toolTip().isEmpty())
+            while (told != &form && told->property(kWhyGreyed).toString().isEmpty())
                 told = told->parentWidget();
-            if (!told->testAttribute(Qt::WA_ForceDisabled) || told->toolTip() == told->accessibleName())
+            if (told == &form || told->isEnabled())
                 unexplained << control->metaObject()->className() + QString(" ") + control->objectName();
         }
         return unexplained;
@@ -255,23 +299,31 @@ protected:
     {
         QList<QWidget*> order;
         for (QWidget* next = form.nextInFocusChain(); next != &form; next = next->nextInFocusChain())
-            if (next->focusPolicy() & Qt::TabFocus && next->isVisible() && !next->focusProxy() &&
+            if (next->focusPolicy() & Qt::TabFocus && next->isVisible() && next->isEnabled() && !next->focusProxy() &&
                 form.isAncestorOf(next))
                 order << next;
         return order;
     }
 
-    /// Where the Tab key goes up without going right, and the ways out that it meets before a main button.
+    static bool IsWayOut(const QWidget* control)
+    {
+        return QStringList{"cmdQuit", "cmdCancel", "cmdCancelOperation"}.contains(control->objectName()) ||
+               control->property("wayOut").toBool();
+    }
+
+    /// Where the Tab key goes up without going right, and the ways out that it meets before a main button that can be
+    /// pressed.
     static QStringList AgainstTheOrder(QWidget& form)
     {
         QStringList against;
-        bool mainPassed = false;
+        const QList<QWidget*> order = TabOrder(form);
+        const auto isMain = [](const QWidget* control) { return control->property("look") == "main"; };
+        bool mainPassed = std::none_of(order.begin(), order.end(), isMain);
         const QWidget* before = nullptr;
-        for (const QWidget* control : TabOrder(form)) {
-            const auto* button = qobject_cast<const QPushButton*>(control);
-            mainPassed = mainPassed || (button && button->property("look") == "main");
-            if (button && QStringList{"cmdQuit", "cmdCancel"}.contains(button->objectName()) && !mainPassed)
-                against << button->objectName() + " before the main button";
+        for (const QWidget* control : order) {
+            mainPassed = mainPassed || isMain(control);
+            if (IsWayOut(control) && !mainPassed)
+                against << control->objectName() + " before the main button";
             const QRect place(control->mapTo(&form, QPoint()), control->size());
             if (before) {
                 const QRect last(before->mapTo(&form, QPoint()), before->size());
@@ -281,6 +333,25 @@ protected:
             before = control;
         }
         return against;
+    }
+
+    /// What stands between the main button and the way out of the form, or beyond it.
+    static QStringList AtWrongPlaces(const QWidget& form)
+    {
+        const QPushButton *main = nullptr, *wayOut = nullptr;
+        const QList<QPushButton*> foot = form.findChildren<QPushButton*>(Qt::FindDirectChildrenOnly);
+        for (const QPushButton* button : foot)
+            if (button->isVisible() && button->property("look") == "main")
+                main = button;
+            else if (button->isVisible() && IsWayOut(button) && button->objectName() != "cmdCancelOperation")
+                wayOut = button;
+        QStringList wrong;
+        for (const QPushButton* button : foot)
+            if (main && button->isVisible() && button->y() == main->y() &&
+                (button->x() > main->x() ||
+                 (wayOut && button != wayOut && button != main && button->x() > wayOut->x())))
+                wrong << button->objectName();
+        return wrong;
     }
 
     /// What stands outside the form, or in its foot below the edge of the screen.
@@ -296,13 +367,16 @@ protected:
         return outside;
     }
 
-    /// The pages that can only be read by scrolling sideways.
+    /// The pages and rows of tabs that can only be read by scrolling sideways.
     static QStringList Sideways(const QWidget& form)
     {
         QStringList sideways;
         for (const auto* area : form.findChildren<QScrollArea*>())
             if (area->isVisible() && area->horizontalScrollBar()->isVisible())
                 sideways << area->widget()->objectName();
+        for (const auto* tabs : form.findChildren<QTabBar*>())
+            if (tabs->isVisible() && tabs->sizeHint().width() > tabs->parentWidget()->width())
+                sideways << "the tabs of " + tabs->parentWidget()->objectName();
         return sideways;
     }
 
@@ -322,6 +396,15 @@ protected:
             check();
         else if (auto* tabs = qobject_cast<QTabWidget*>(pages->parentWidget()))
             tabs->setCurrentIndex(0);
+    }
+
+    bool LeavesAtEscape()
+    {
+        try {
+            return !user.Presses("", Qt::Key_Escape).The<QWidget>().isVisible();
+        } catch (const ProgramEnded&) {
+            return true;
+        }
     }
 
     /// As if the form had been opened on that screen.
@@ -354,6 +437,7 @@ TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndLeavesAtEscape)
                 EXPECT_EQ(Unexplained(form), QStringList());
                 EXPECT_EQ(TakenByAnArrow(form), QStringList());
                 EXPECT_EQ(AgainstTheOrder(form), QStringList());
+                EXPECT_EQ(AtWrongPlaces(form), QStringList());
             });
             const QMap<QString, QString> captions = Captions(form);
             for (auto caption = captions.begin(); caption != captions.end() && name != kBilingual; ++caption)
@@ -361,42 +445,79 @@ TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndLeavesAtEscape)
                     << qPrintable(caption.key()) << ": " << qPrintable(caption.value());
             if (inEnglish)
                 english = captions;
-            EXPECT_TRUE(kStaying.contains(name) || !user.Presses("", Qt::Key_Escape).The<QWidget>().isVisible());
+            EXPECT_TRUE(kStaying.contains(name) || LeavesAtEscape());
             form_.reset();
         }
     }
 }
 
-TEST_F(Forms, WhatIsGreyedInAModeOfAnEditorSaysWhyTooAndItsMainButtonStandsLast)
+TEST_F(Forms, EachModeOfAnEditorIsWalkedToo)
 {
+    const std::array modes = {"cmdAdd", "cmdModify", "cmdDeactivate"};
     for (const auto& [name, make] : kForms) {
-        if (!QString(name).contains(QRegularExpression("Organizations|Departments|Groups|Categories")))
+        if (!QString(name).contains(QRegularExpression("Organizations|Departments|Groups|Categories|Employees$")) ||
+            QString(name) == "frmTransferEmployees")
             continue;
-        SCOPED_TRACE(name);
-        QWidget& form = Open(make);
-        for (const char* mode : {"cmdAdd", "cmdModify", "cmdDeactivate"}) {
+        for (const char* mode : modes) {
+            SCOPED_TRACE(std::string(name) + " " + mode);
+            SessionState.English = QLatin1String(mode) != "cmdModify";
+            QWidget& form = Open(make);
+            if (QString(name) == "frmEmployees")
+                mode == modes.front() ? user.WhenOpens<frmCloneEmployee>([](QDialog& clone) { clone.reject(); })
+                                      : user.WhenOpens<frmSelectEmployee>([this](QDialog&) {
+                                            user.Picks("lstEmployees", "Roy").Clicks("cmdSelect");
+                                        });
             user.Clicks(mode);
-            OnEachPage(form, [&form] { EXPECT_EQ(Unexplained(form), QStringList()); });
             QCoreApplication::processEvents();
-            const int right = form.findChild<QWidget*>(mode)->geometry().right();
-            for (const char* other : {"cmdAdd", "cmdModify", "cmdDeactivate", "cmdQuit"})
-                EXPECT_LE(form.findChild<QWidget*>(other)->geometry().right(), right) << "the main button stands last";
-            user.Clicks("cmdCancelOperation");
+            OnEachPage(form, [&form] {
+                EXPECT_EQ(Clipped(form), QStringList());
+                EXPECT_EQ(Nameless(form), QStringList());
+                EXPECT_EQ(Unexplained(form), QStringList());
+                EXPECT_EQ(AgainstTheOrder(form), QStringList());
+                EXPECT_EQ(AtWrongPlaces(form), QStringList());
+            });
         }
     }
+}
+
+TEST_F(Forms, AFormOpensWholeOnTheScreenOfTheWindowThatItBelongsTo)
+{
+    for (const double scale : {1.0, 1.5})
+        for (const QScreen* screen : QApplication::screens()) {
+            if (scale > 1 && screen->size().width() < 1920)
+                continue;
+            const ScaledLetters letters(scale);
+            QWidget main;
+            main.setGeometry(QRect(screen->availableGeometry().bottomRight() - QPoint(500, 300), QSize(490, 290)));
+            main.show();
+            for (const auto& [name, make] : kForms) {
+                SCOPED_TRACE(
+                    QStringLiteral("%1 at %2 on %3").arg(name).arg(scale).arg(screen->size().width()).toStdString());
+                const std::unique_ptr<QWidget> form = make();
+                if (!dynamic_cast<FormBase*>(form.get()))
+                    continue;
+                form->setParent(&main, form->windowFlags());
+                form->show();
+                QCoreApplication::processEvents();
+                QCoreApplication::processEvents();
+                EXPECT_TRUE(screen->availableGeometry().contains(form->frameGeometry()));
+                if (screen->size().width() >= 1366)
+                    OnEachPage(*form, [&form] { EXPECT_EQ(Sideways(*form), QStringList()); });
+            }
+        }
 }
 
 /// Letters of each size, on each screen down to 1920x1080 at 200 %: pages scroll, nothing is cut, and the buttons at
 /// the foot can be reached. Names and the order of the Tab key do not change with the size.
 TEST_F(Forms, AtEachSizeOfLettersAndScreenNothingIsCutAndTheButtonsCanBeReached)
 {
-    const QFont font = QApplication::font();
-    for (const auto& [scale, english] : {std::pair(1.0, false), {1.5, true}, {1.5, false}, {2.0, true}, {2.0, false}}) {
+    for (const auto& [scale, english] :
+         {std::pair(1.0, true), {1.0, false}, {1.5, true}, {1.5, false}, {2.0, true}, {2.0, false}}) {
         SessionState.English = english;
-        QFont scaled = font;
-        scaled.setPointSizeF(scale * font.pointSizeF());
-        QApplication::setFont(scaled);
+        const ScaledLetters letters(scale);
         for (const auto& [name, make] : kForms) {
+            if (make == MakeMessage) // measured for the screen on which it opens
+                continue;
             QWidget& form = Open(make);
             for (QScreen* screen : QApplication::screens()) {
                 MovesTo(form, screen);
@@ -405,8 +526,7 @@ TEST_F(Forms, AtEachSizeOfLettersAndScreenNothingIsCutAndTheButtonsCanBeReached)
                                  .arg(scale)
                                  .arg(screen->size().width())
                                  .toStdString());
-                OnEachPage(form, [&form, scale = scale] {
-                    EXPECT_TRUE(scale > 1 || form.screen()->size().width() < 1366 || Sideways(form).isEmpty());
+                OnEachPage(form, [&form] {
                     EXPECT_EQ(Outside(form), QStringList());
                     EXPECT_EQ(Clipped(form), QStringList());
                 });
@@ -414,7 +534,6 @@ TEST_F(Forms, AtEachSizeOfLettersAndScreenNothingIsCutAndTheButtonsCanBeReached)
         }
     }
     form_.reset();
-    QApplication::setFont(font);
 }
 
 TEST_F(Forms, AllThatCommandsOpenAreWalked)
@@ -427,13 +546,13 @@ TEST_F(Forms, AllThatCommandsOpenAreWalked)
     SetMessagePresenter([](const Message&) { return MessageCode::Cancel; });
     auto& main = dynamic_cast<frmMain&>(Open(kForms[0].second));
     for (const Command& command : Commands())
-        if (command.Opens && command.In == Place::Menus)
+        if (command.Opens)
             try {
                 command.Opens(main);
             } catch (const ProgramEnded&) {
                 EXPECT_EQ(command.Name, "mnuFileExit");
             }
-    EXPECT_TRUE(opened.contains("frmEmployees"));
+    EXPECT_TRUE(opened.contains("frmEmployees") && opened.contains("frmSelectEmployee"));
     for (const auto& [name, make] : kForms)
         opened.removeAll(name);
     EXPECT_EQ(opened, QStringList());

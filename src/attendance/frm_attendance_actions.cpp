@@ -17,6 +17,7 @@ void frmAttendance::cmdAddOrUpdate_Click()
         return;
     ReadForm();
     RecalculateTotalTime(entry_);
+    ShowMissing(this);
     SetButtonsEnabled(false);
     bool updated = false;
     if (!Attempt([&] { updated = PassesGuards() && FindApprovers() && Dispatch(); })) {

@@ -45,6 +45,7 @@ QGridLayout* AttendanceGeneralPage::PeopleAndDates()
     lstWho->setItemDelegate(new RemarkDelegate(NameOf, UnitOf, lstWho));
     lstWho->setUniformItemSizes(true); // one line is measured, not one for each employee
     lstWho->setMinimumHeight(kListHeight);
+    Require(lstWho);
     txtWhen = Named<QPlainTextEdit>("txtWhen");
     txtWhen->setReadOnly(true);
     txtWhen->setTabChangesFocus(true);
@@ -63,6 +64,7 @@ QGridLayout* AttendanceGeneralPage::PeopleAndDates()
 QGridLayout* AttendanceGeneralPage::Category()
 {
     cboCategories = Named<WalkedList>("cboCategories");
+    Require(cboCategories);
     lblBalance = AsCaption(MakeLabel("lblBalance"));
     auto* grid = new QGridLayout;
     grid->addLayout(Headed({"Why?", "Pourquoi?"}, cboCategories), 0, 0);
@@ -80,6 +82,7 @@ QGridLayout* AttendanceGeneralPage::TimesAndDurations()
     lstMultiplicator = Named<WalkedList>("lstMultiplicator");
     txtDurationInHours = MakeField("txtDurationInHours", KeyFilter::WholeNumber, kDigits);
     txtDurationInMinutes = MakeField("txtDurationInMinutes", KeyFilter::WholeNumber, kDigits);
+    Require(txtDurationInHours, txtDurationInMinutes);
     txtTotalTime = AsFigure(MakeLabel("txtTotalTime"));
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(kMargin);

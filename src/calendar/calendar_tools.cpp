@@ -325,10 +325,18 @@ void CalendarTools::SelectSingleDate(int date)
 void CalendarTools::SelectMultipleDates(int date)
 {
     if (host_.Calendar().IsMarked(date))
-        Unmark(date);
+        TakeBack(date);
     else if (AcceptsDate(date))
         Mark(date, kMark);
     ShowCount();
+}
+
+/// What was taken out of a range does not come back when the range grows.
+void CalendarTools::TakeBack(int date)
+{
+    if (range_.Marked.removeAll(date) > 0)
+        range_.Refused << date;
+    Unmark(date);
 }
 
 bool CalendarTools::TakesRanges() const

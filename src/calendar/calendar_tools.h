@@ -98,6 +98,7 @@ private:
         DateList Marked;
         DateList Refused; ///< not to be asked about again
     };
+    void TakeBack(int date);
     void LeaveOutside(int first, int last);
     bool IsInRange(int date) const;
     void ShowCount();

@@ -125,7 +125,8 @@ void frmMain::RestorePlace()
     resize(FittingScreen(this, kSize));
     if (!restoreGeometry(UserSetting(SessionState.LoginID, kPlaceSetting).toByteArray()) || isMaximized())
         return;
-    const QRect room = screen()->availableGeometry();
+    constexpr int kEdge = 8; // what a window's frame takes at its sides and below
+    const QRect room = screen()->availableGeometry().adjusted(0, 0, -kEdge, -kEdge);
     QRect place(geometry().topLeft(), FittingScreen(this, size()));
     place.moveLeft(std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
     place.moveTop(std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));

@@ -128,6 +128,7 @@ void frmMain::BeginTool(const QString& tool, bool usable)
 {
     Busy = true;
     setCursor(Qt::CrossCursor);
+    pane_->Days().ForgetRange();
     pane_->setFocus(); // dates can be taken with the keyboard at once
     DeactivateAllControls(tool, usable);
 }
@@ -136,6 +137,7 @@ void frmMain::EndTool()
 {
     Busy = false;
     IdleSeconds = 0;
+    pane_->Days().ForgetRange();
     unsetCursor();
     ActivateAllowedControls();
 }

@@ -22,6 +22,8 @@ public:
     void RefreshDate(int date);
     /// Days tell their categories by letters, and a part of a day by a triangle.
     void ShowCodes(bool shown);
+    /// The next range begins where the calendar stands then.
+    void ForgetRange() { anchor_ = 0; }
     /// Days share the room of the window; they do not get smaller than their numbers.
     void FitInto(const QSize& room);
 

@@ -141,6 +141,7 @@ void ToolBar::SetTool(const Tool& tool, bool enabled, bool inUse, const Text& wh
     const QString waiting = tool.Waiting == 0 ? QString() : QStringLiteral(" (%1)").arg(tool.Waiting);
     const QString tip = T(tool.Of.Tip) + waiting + "   " + tool.Of.Shortcut.toString(QKeySequence::NativeText);
     tool.Image->setToolTip(tip);
+    tool.Disabled->setProperty(kWhyGreyed, T(why));
     tool.Disabled->setToolTip(why.IsEmpty() || inUse ? tip : tip + "\n" + T(why));
     for (QToolButton* image : {tool.Image, tool.Disabled}) {
         SetLook(image, inUse ? "active" : "");

@@ -78,6 +78,7 @@ QWidget* EmployeeProfilePage::LogInCard()
         connect(field, &QLineEdit::editingFinished, this,
                 [field = field, member = member] { ShowText(field, TextWhenLeft(member, field->text())); });
     Require(txtUserName);
+    Require(txtPassword);
     auto& [first, second] = approvers_;
     QWidget* firstLevel = Approvers(first, "cboApprovedBy_FirstLevel", "cmdGetApprover1FromList");
     QWidget* secondLevel = Approvers(second, "cboApprovedBy_SecondLevel", "cmdGetApprover2FromList");
@@ -145,6 +146,7 @@ void EmployeeProfilePage::Show(const EmployeeRecord& record)
 {
     ShowText(txtUserName, record.LoginID);
     ShowText(txtPassword, record.NewPassword);
+    SetRequired(txtPassword, record.Password.isEmpty());
 }
 
 void EmployeeProfilePage::Read(EmployeeRecord& record) const

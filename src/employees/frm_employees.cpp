@@ -70,7 +70,7 @@ bool AskForDeactivation(const EmployeeRecord& record)
           "employees cannot be reactivated.",
           "Souhaitez-vous vraiment désactiver {FirstName} {Name}?\r\n\r\nN.B.: Ce processus est irréversible! Un(e) "
           "employé(e) désactivé(e) ne peut être réactivée.");
-    return Ask(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), WithName(text, record), Face::Warning);
+    return AskCarefully(T("CONFIRM:", "VEUILLEZ CONFIRMER:"), WithName(text, record), Face::Warning);
 }
 
 QString AskForReason(const EmployeeRecord& record, QWidget* parent)

@@ -163,15 +163,21 @@ bool AskWithList(const QString& title, const QString& text, qsizetype lines, Fac
            MessageCode::Yes;
 }
 
+bool AskCarefully(const QString& title, const QString& text, Face face)
+{
+    return ShowMessage({.Text = text,
+                        .Title = title,
+                        .Set = SessionState.English ? Buttons::YesNo : Buttons::OuiNon,
+                        .Picture = face,
+                        .DefaultButton = 1}) == MessageCode::Yes;
+}
+
 bool AskToAbandonChanges()
 {
-    return ShowMessage({.Text = T("Changes have not been saved! Cancelled anyway?",
-                                  "Vos changements n'ont pas été sauvegardés! Souhaitez-vous tout-de-même annuler "
-                                  "cette opération?"),
-                        .Title = T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
-                        .Set = SessionState.English ? Buttons::YesNo : Buttons::OuiNon,
-                        .Picture = Face::Presenting,
-                        .DefaultButton = 1}) == MessageCode::Yes;
+    return AskCarefully(T("CONFIRM:", "VEUILLEZ CONFIRMER:"),
+                        T("Changes have not been saved! Cancelled anyway?",
+                          "Vos changements n'ont pas été sauvegardés! Souhaitez-vous tout-de-même annuler cette "
+                          "opération?"));
 }
 
 void TellError(const RuntimeError& error)

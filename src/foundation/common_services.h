@@ -82,6 +82,8 @@ void Refuse(const QString& text);
 bool Ask(const QString& title, const QString& text, Face face = Face::Presenting);
 /// The same question about a list of `lines` records: above nine the text scrolls.
 bool AskWithList(const QString& title, const QString& text, qsizetype lines, Face face = Face::Presenting);
+/// A question about what cannot be taken back: Enter says No.
+bool AskCarefully(const QString& title, const QString& text, Face face = Face::Presenting);
 /// Asks whether what was changed and not saved may be lost; Enter says No. True when it may.
 bool AskToAbandonChanges();
 

@@ -2,14 +2,17 @@
 
 #include "foundation/common_services.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -23,18 +26,25 @@ public:
 
 constexpr char kWayOut[] = "wayOut";
 
-bool IsWayOut(const QWidget* control)
+/// Where a control of the right side of the foot, or of its left, stands.
+FootLayout::Group GroupOf(const QWidget* control, FootLayout::Group otherwise)
 {
-    static const QStringList names = {"cmdQuit", "cmdCancel", "cmdCancelOperation"};
-    return control->property(kWayOut).toBool() || names.contains(control->objectName());
+    const QString name = control->objectName();
+    if (name == "cmdCancelOperation")
+        return FootLayout::Group::WayBack;
+    const bool leaves = control->property(kWayOut).toBool() || name == "cmdQuit" || name == "cmdCancel";
+    return leaves ? FootLayout::Group::WayOut : otherwise;
 }
 
 /// What a person has entered in a control, as text; empty for what takes no entry.
 QString ContentOf(const QWidget* control)
 {
     if (const auto* list = qobject_cast<const QListWidget*>(control)) {
-        const QList<QListWidgetItem*> marked = list->selectedItems(); // an entry can be current without being chosen
-        return marked.isEmpty() ? QString() : QString::number(list->row(marked.first()));
+        QStringList marked; // an entry can be current without being chosen
+        for (const QModelIndex& entry : list->selectionModel()->selectedRows())
+            marked << QString::number(entry.row());
+        marked.sort();
+        return marked.join(' ');
     }
     if (const auto* button = qobject_cast<const QAbstractButton*>(control))
         return QString::number(button->isChecked());
@@ -42,6 +52,17 @@ QString ContentOf(const QWidget* control)
         if (control->focusPolicy() != Qt::NoFocus && control->property(property).isValid())
             return control->property(property).toString();
     return {};
+}
+
+/// The whole of a control, its upper left before all; the toolkit itself cares only for the line with the cursor.
+void BringIntoSight(const QWidget* control)
+{
+    for (QWidget* above = control->parentWidget(); above; above = above->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(above)) {
+            const QRect place(control->mapTo(area->widget(), QPoint()), control->size());
+            area->ensureVisible(place.right(), place.bottom());
+            area->ensureVisible(place.left(), place.top());
+        }
 }
 } // namespace
 
@@ -58,6 +79,11 @@ FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbse
     layout->addWidget(scroll_, 1);
     layout->addLayout(foot_);
     SetPage(scroll_, page);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        const bool byMouse = QGuiApplication::mouseButtons() != Qt::NoButton; // what is pressed stays where it is
+        if (now && !byMouse && isAncestorOf(now))
+            BringIntoSight(now);
+    });
 }
 
 QSize FormBase::sizeHint() const
@@ -92,7 +118,7 @@ void FormBase::LayFoot(const std::vector<QWidget*>& left, const std::vector<QWid
     for (const auto& [controls, group] :
          {std::pair(&left, FootLayout::Group::Left), {&right, FootLayout::Group::Command}})
         for (QWidget* control : *controls)
-            foot_->Add(control, IsWayOut(control) ? FootLayout::Group::WayOut : group);
+            foot_->Add(control, GroupOf(control, group));
 }
 
 /// The Tab key meets the main button first and the ways out last.
@@ -103,16 +129,42 @@ void FormBase::OrderTabs()
         setTabOrder(foot[i - 1], foot[i]);
 }
 
+/// What the pages behind the other tabs lack in width, and the row of tabs itself.
+int FormBase::WidthLackingInTabs() const
+{
+    int lacking = 0;
+    for (const auto* tabs : findChildren<QTabWidget*>()) {
+        lacking = std::max(lacking, tabs->tabBar()->sizeHint().width() - tabs->width());
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            const auto* area = qobject_cast<QScrollArea*>(tabs->widget(tab));
+            const int page = area ? area->widget()->minimumSizeHint().width() : 0;
+            const int bar = area ? area->verticalScrollBar()->sizeHint().width() : 0;
+            lacking = std::max(lacking, page + bar - tabs->currentWidget()->width());
+        }
+    }
+    return lacking;
+}
+
 /// Only what is shown knows how its lines wrap: what a page lacks then is added, as far as the screen has room.
 void FormBase::GrowToPage()
 {
-    QSize lacking(0, 0);
+    QSize lacking(WidthLackingInTabs(), 0);
     for (const auto* area : findChildren<QScrollArea*>())
         if (area->isVisible())
             lacking =
                 lacking.expandedTo({area->horizontalScrollBar()->maximum(), area->verticalScrollBar()->maximum()});
     if (lacking != QSize(0, 0))
         resize(FittingScreen(this, size() + lacking));
+}
+
+void FormBase::StayOnScreen()
+{
+    const QRect room = (parentWidget() ? parentWidget() : this)->screen()->availableGeometry();
+    QRect frame = frameGeometry();
+    frame.moveBottomRight({std::min(frame.right(), room.right()), std::min(frame.bottom(), room.bottom())});
+    frame.moveTopLeft({std::max(frame.left(), room.left()), std::max(frame.top(), room.top())});
+    if (frame.topLeft() != frameGeometry().topLeft())
+        move(frame.topLeft());
 }
 
 /// A form with nothing behind it but, perhaps, the program's sign.
@@ -151,21 +203,23 @@ void FormBase::GoTo(const QString& control)
     if (field->focusPolicy() == Qt::NoFocus)
         return;
     field->setFocus();
-    for (QWidget* above = field->parentWidget(); above; above = above->parentWidget())
-        if (auto* area = qobject_cast<QScrollArea*>(above))
-            area->ensureWidgetVisible(field);
+    BringIntoSight(field);
 }
 
 void FormBase::showEvent(QShowEvent* event)
 {
     if (!std::exchange(activated_, true)) {
         OrderTabs();
+        if (parentWidget())
+            setScreen(parentWidget()->screen()); // the toolkit moves the form there only when it has its size
         if (!testAttribute(Qt::WA_Resized))
             resize(sizeHint());
         if ((!parentWidget() || parentWidget()->windowType() == Qt::SplashScreen) && !testAttribute(Qt::WA_Moved))
             CentreOnScreen();
         QTimer::singleShot(0, this, [this] {
-            GrowToPage();
+            for (int time = 0; time < 2; ++time) // lines that wrap otherwise may need more
+                GrowToPage();
+            StayOnScreen();
             Form_Activate();
             KeepContents();
         });
@@ -207,9 +261,19 @@ bool FormBase::TurnTab(const QKeyEvent* event)
     return true;
 }
 
+/// Enter presses the button that has the focus, and the main one from everywhere else.
+bool FormBase::PressFocused(const QKeyEvent* event)
+{
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (!button || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter))
+        return false;
+    button->click();
+    return true;
+}
+
 void FormBase::keyPressEvent(QKeyEvent* event)
 {
-    if (TurnTab(event))
+    if (TurnTab(event) || PressFocused(event))
         return;
     if (!event->matches(QKeySequence::Cancel) || MayBeLeft())
         QDialog::keyPressEvent(event);

@@ -64,8 +64,11 @@ private:
     QStringList Contents() const;
     void OrderTabs();
     bool TurnTab(const QKeyEvent* event);
+    bool PressFocused(const QKeyEvent* event);
     void CentreOnScreen();
+    int WidthLackingInTabs() const;
     void GrowToPage();
+    void StayOnScreen();
 
     QScrollArea* scroll_ = nullptr;
     QVBoxLayout* page_ = nullptr;

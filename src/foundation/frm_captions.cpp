@@ -21,7 +21,10 @@ class ControlTip : public LanguageFollower
 {
 public:
     explicit ControlTip(QWidget* control)
-        : LanguageFollower(control, [this, control] { control->setToolTip(T(Why.IsEmpty() ? Own : Why)); })
+        : LanguageFollower(control, [this, control] {
+              control->setToolTip(T(Why.IsEmpty() ? Own : Why));
+              control->setProperty(kWhyGreyed, T(Why));
+          })
     {}
 
     Text Own, Why;
@@ -36,14 +39,41 @@ ControlTip& TipOf(QWidget* control)
 }
 
 constexpr char kRequired[] = "required";
+constexpr char kInstead[] = "instead";
+
+bool IsEmpty(const QWidget* control)
+{
+    if (const auto* list = qobject_cast<const QListWidget*>(control))
+        return list->selectedItems().isEmpty();
+    if (const auto* list = qobject_cast<const QComboBox*>(control))
+        return list->currentText().trimmed().isEmpty();
+    return control->property("text").toString().trimmed().isEmpty();
+}
 
 bool IsMissing(const QWidget* control)
 {
-    if (!control->property(kRequired).toBool() || !control->isEnabled())
-        return false;
-    if (const auto* list = qobject_cast<const QListWidget*>(control))
-        return list->selectedItems().isEmpty();
-    return control->property("text").toString().trimmed().isEmpty();
+    const auto* instead = control->property(kInstead).value<QLineEdit*>();
+    return control->property(kRequired).toBool() && control->isEnabled() && IsEmpty(control) &&
+           !(instead && !IsEmpty(instead));
+}
+
+/// The remark in an empty field or list.
+void ShowRemark(QWidget* control)
+{
+    constexpr Text kRemark = {"required", "obligatoire"};
+    const auto* instead = control->property(kInstead).value<QLineEdit*>();
+    const QString remark = control->property(kRequired).toBool() ? T(kRemark) : QString();
+    control->setAccessibleDescription(remark);
+    if (auto* field = qobject_cast<QLineEdit*>(control))
+        field->setPlaceholderText(instead && !IsEmpty(instead) ? QString() : remark);
+    else if (auto* list = qobject_cast<QComboBox*>(control))
+        list->setPlaceholderText(remark);
+}
+
+void ShowFilled(QWidget* control)
+{
+    SetLook(control, "");
+    ShowRemark(control);
 }
 
 /// Its picture is the one for the colours in force.
@@ -137,18 +167,29 @@ void EnableUnless(QWidget* control, const Text& reason)
     EnableOrExplain(control, reason.IsEmpty(), reason);
 }
 
-void Require(QWidget* control)
+void Require(QWidget* control, QLineEdit* instead)
 {
-    constexpr Text kRemark = {"required", "obligatoire"};
     control->setProperty(kRequired, true);
-    const auto filled = [control] { SetLook(control, ""); };
-    if (auto* field = qobject_cast<QLineEdit*>(control)) {
-        FollowLanguage(field, [=] { field->setPlaceholderText(T(kRemark)); });
-        QObject::connect(field, &QLineEdit::textChanged, field, filled);
-    } else if (auto* list = qobject_cast<QListWidget*>(control)) {
-        QObject::connect(list, &QListWidget::itemSelectionChanged, list, filled);
-    }
-    FollowLanguage(control, [=] { control->setAccessibleDescription(T(kRemark)); });
+    control->setProperty(kInstead, QVariant::fromValue(instead));
+    const auto filled = [control] { ShowFilled(control); };
+    if (auto* list = qobject_cast<QComboBox*>(control))
+        QObject::connect(list, &QComboBox::currentTextChanged, list, filled);
+    else if (auto* box = qobject_cast<QListWidget*>(control))
+        QObject::connect(box, &QListWidget::itemSelectionChanged, box, filled);
+    for (auto* field : {qobject_cast<QLineEdit*>(control), instead})
+        if (field)
+            QObject::connect(field, &QLineEdit::textChanged, control, filled);
+    FollowLanguage(control, [control] { ShowRemark(control); });
+}
+
+void SetRequired(QWidget* control, bool required)
+{
+    if (control->property(kRequired).toBool() == required)
+        return;
+    control->setProperty(kRequired, required);
+    control->style()->unpolish(control);
+    control->style()->polish(control);
+    ShowRemark(control);
 }
 
 void ShowMissing(QWidget* form)
@@ -156,6 +197,13 @@ void ShowMissing(QWidget* form)
     for (QWidget* control : form->findChildren<QWidget*>())
         if (control->property(kRequired).toBool())
             SetLook(control, IsMissing(control) ? "missing" : "");
+}
+
+void ForgetMissing(QWidget* form)
+{
+    for (QWidget* control : form->findChildren<QWidget*>())
+        if (control->property(kRequired).toBool())
+            SetLook(control, "");
 }
 
 void SetAccessibleName(QWidget* control, const Text& text)

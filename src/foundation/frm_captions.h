@@ -30,14 +30,21 @@ void SetPlaceholder(QComboBox* list, const Text& text);
 /// What a control is for; an empty text takes the tip away.
 void SetToolTip(QWidget* control, const Text& text);
 void SetAccessibleName(QWidget* control, const Text& text);
+/// The property that holds why a control is greyed; empty while it can be used.
+inline constexpr char kWhyGreyed[] = "whyGreyed";
 /// Enables a control, or greys it and tells the reason in its tip; its own tip comes back with it.
 void EnableOrExplain(QWidget* control, bool enabled, const Text& reason);
 /// The same by the reason alone: there is none while the control can be used.
 void EnableUnless(QWidget* control, const Text& reason);
-/// A field or a list without which its form does not save: it is marked, and says so while it is empty.
-void Require(QWidget* control);
+/// A field or a list without which its form does not save: it is marked, and says so while it is empty. Where an entry
+/// in `instead` will do, either of the two is enough.
+void Require(QWidget* control, QLineEdit* instead = nullptr);
+/// Whether a control that was required is so at the moment.
+void SetRequired(QWidget* control, bool required);
 /// Shows which of the required controls of a form are still empty; each stops showing it as soon as it is filled.
 void ShowMissing(QWidget* form);
+/// Nothing is shown as empty any longer.
+void ForgetMissing(QWidget* form);
 /// A page of a tab widget, which scrolls where it must; it comes last.
 void AddTab(QTabWidget* tabs, QWidget* page, const Text& caption);
 

@@ -29,7 +29,7 @@ void TwoPressForm::LayCommands(const std::vector<QPushButton*>& further)
     LayFoot({cmdDeactivate, cmdModify, cmdCancelOperation, cmdQuit, cmdAdd});
     idleOnly_ = further;
     idleOnly_.push_back(cmdQuit);
-    for (QPushButton* button : findChildren<QPushButton*>()) // Enter presses the main button, wherever the focus is
+    for (QPushButton* button : findChildren<QPushButton*>()) // Enter in a field presses the main button, which changes
         button->setAutoDefault(false);
 }
 
@@ -53,6 +53,7 @@ void TwoPressForm::ShowMode()
     for (QPushButton* button : idleOnly_)
         EnableOrExplain(button, IsIdle(), kInMode);
     EnableControls();
+    ForgetMissing(this);
     KeepContents();
 }
 

@@ -43,7 +43,8 @@ public:
     {
         figure->installEventFilter(this);
         figure->setCursor(Qt::PointingHandCursor);
-        figure->setFocusPolicy(Qt::TabFocus);
+        figure->setFocusPolicy(Qt::StrongFocus); // by a click too: Escape takes the explanation away again
+        figure->setProperty("explained", true);
     }
 
     bool eventFilter(QObject* target, QEvent* event) override

@@ -28,6 +28,7 @@ constexpr int kMostLines = 18;
 constexpr int kHighest = 4000;
 constexpr int kRoomBesideText = 200; ///< for face, bar and margins
 constexpr int kRoomAroundText = 180; ///< for title, input box, check box and buttons
+constexpr int kRoomBelowText = 2;    ///< without it the box takes its last line for hidden, and scrolls
 constexpr int kFaceDelay = 10;       ///< milliseconds: the text appears at once, the face a moment later
 
 /// In the order of Face.
@@ -189,6 +190,7 @@ void frmMessageBox::FitText()
     const int most = std::min(kMostLines * lines, FittingScreen(this, {0, kHighest}).height() - kRoomAroundText);
     const bool scrolls = message_.ScrollBar || height > most;
     txtMessage->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    txtMessage->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus); // an arrow would scroll it out of sight
     const int bar = scrolls ? txtMessage->verticalScrollBar()->sizeHint().width() : 0;
     txtMessage->setFixedSize(width + bar, std::min(height, most));
 }
@@ -216,7 +218,7 @@ int frmMessageBox::HeightOfText(int width) const
     measure.setDocumentMargin(0);
     measure.setPlainText(txtMessage->toPlainText());
     measure.setTextWidth(width);
-    return static_cast<int>(std::ceil(measure.size().height()));
+    return static_cast<int>(std::ceil(measure.size().height())) + kRoomBelowText;
 }
 
 void frmMessageBox::ShowFace()

@@ -28,6 +28,7 @@ frmTargettedEMail::frmTargettedEMail(TargettedEMail job, QWidget* parent)
 {
     SetTitle(this, {"Send an e-mail", "Envoyer un courriel"});
     SetSize(kEMailSize);
+    AskBeforeLosing();
     Page()->addWidget(sstEMailInfo, 1);
     AddTab(sstEMailInfo, RecipientsPage(), {"Recipients list", "Liste des destinataires"});
     AddTab(sstEMailInfo, ContentsPage(), {"E-mail contents", "Contenu du courriel"});
@@ -192,6 +193,12 @@ void frmTargettedEMail::cmdSend_Click()
     Attempt([this] { OfferAddressBook(); });
     if (!messages.isEmpty())
         accept();
+}
+
+/// The closing of a year has a question of its own, whichever way the form is left.
+bool frmTargettedEMail::MayBeLeft()
+{
+    return !job_.IsSchedule() || FormBase::MayBeLeft();
 }
 
 void frmTargettedEMail::reject()

@@ -13,6 +13,9 @@ public:
 
     void reject() override;
 
+protected:
+    bool MayBeLeft() override;
+
 private:
     QWidget* RecipientsPage();
     QWidget* ContentsPage();

@@ -99,6 +99,8 @@ QFrame* frmHolidays::NewHoliday()
     lstHolidayDates = Named<QListWidget>("lstHolidayDates");
     lstHolidayDates->setMinimumHeight(kDatesHeight);
     AddDays(lstHolidayDates);
+    Require(txtHolidayName);
+    Require(lstHolidayDates);
     auto* content = Stack(kHolidaysGap);
     content->addLayout(Captioned({"Holiday name", "Nom du congé férié"}, txtHolidayName));
     content->addLayout(Captioned({"Holiday date(s)", "Date(s) du congé férié"}, lstHolidayDates), 1);

@@ -118,7 +118,8 @@ void frmSelectDates::ShowCount()
     if (Loading)
         return;
     const auto count = Chosen().size();
-    lblCount->setText(QString::number(count) + (count == 1 ? " date" : " dates"));
+    const bool single = count == 1 || (count == 0 && !SessionState.English);
+    lblCount->setText(QString::number(count) + (single ? " date" : " dates"));
 }
 
 void frmSelectDates::Exclusion_Click(QCheckBox* box, const Text& warning)

@@ -153,11 +153,12 @@ bool frmSetUpWizard::ConfirmCancelling() const
         "démarrerez Tarvell.\r\n\r\nSouhaitez-vous vraiment interrompre la configuration initiale de Tarvell?"};
     constexpr Text kWarning = {"WARNING:", "ATTENTION:"};
     if (choices_.LanguageChosen)
-        return Ask(T(kWarning), T(kQuestion), Face::Warning);
+        return AskCarefully(T(kWarning), T(kQuestion), Face::Warning);
     return ShowMessage({.Text = Bilingual(kQuestion, "\r\n\r\n"),
                         .Title = Bilingual(kWarning),
                         .Set = Buttons::Custom2,
-                        .Captions = {"Yes  -  Oui", "No  -  Non"}}) == MessageCode::First;
+                        .Captions = {"Yes  -  Oui", "No  -  Non"},
+                        .DefaultButton = 1}) == MessageCode::First;
 }
 
 void frmSetUpWizard::Finish()

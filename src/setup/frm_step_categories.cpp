@@ -99,6 +99,7 @@ void CategoriesStep::BuildColumn(int index, QGridLayout* grid)
     column.Choice = &choices_.Categories[index];
     column.Name = MakeField(QLatin1String("txt") + suffix, KeyFilter::CategoryName, kCategoryNameLimit);
     column.Name->setFixedWidth(kNameWidth);
+    Require(column.Name);
     column.Hours = DigitsField(QLatin1String("txtHours_") + suffix, kHourDigits);
     column.Minutes = DigitsField(QLatin1String("txtMinutes_") + suffix, kMinuteDigits);
     column.Varies = Named<QCheckBox>(chk + "_EntitlementVaries");

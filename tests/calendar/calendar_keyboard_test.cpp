@@ -1,6 +1,8 @@
+#include "attendance/frm_approval.h"
 #include "calendar/day_notes.h"
 #include "calendar/main_window_fixture.h"
 #include "platform/controls/theme.h"
+#include "selection/frm_select_dates.h"
 
 namespace
 {
@@ -99,8 +101,10 @@ TEST_F(CalendarKeys, ARangeIsMarkedWithShiftOrByDraggingAndCounted)
     EXPECT_TRUE(BearsSign(12, 10) && !BearsSign(12, 9)) << "no code of a category";
     After({Qt::Key_Space});
     EXPECT_EQ(Counted(), "3 days, 21:00");
+    After({Qt::Key_Right}, Qt::ShiftModifier);
+    EXPECT_EQ(Counted(), "4 days, 28:00") << "what was taken out does not come back when the range grows";
     Drags({12, 28}, {12, 21});
-    EXPECT_EQ(Counted(), "8 days, 56:00") << "Christmas is left out";
+    EXPECT_EQ(Counted(), "9 days, 63:00") << "Christmas is left out";
     for (int day = 14; day < 19; ++day)
         for (const char* category : {"Sick", "Vacation"})
             house.Record(marie, category, {2026, 12, day}, 2);
@@ -109,11 +113,19 @@ TEST_F(CalendarKeys, ARangeIsMarkedWithShiftOrByDraggingAndCounted)
     };
     user.WillAnswer("WARNING:", "Yes", "on those dates!");
     Drags({12, 14}, {12, 18});
-    EXPECT_EQ(Counted(), "13 days, 91:00") << "asked once";
+    EXPECT_EQ(Counted(), "14 days, 98:00") << "asked once";
     EXPECT_FALSE(HintCoversDecember());
     user.SeesMessage = {};
     After({Qt::Key_Escape});
     EXPECT_EQ(Days({{12, 4}, {12, 21}, {12, 28}}), "4 ffffff, 21 ffffff, 28 ffffff");
+
+    After({Qt::Key_Home});
+    for (int time = 0; time < 2; ++time) {
+        After({Qt::Key_2}, Qt::ControlModifier);
+        After({Qt::Key_Right}, Qt::ShiftModifier);
+        EXPECT_EQ(Counted(), "2 days, 14:00") << "a tool begins its range where the calendar stands";
+        After({Qt::Key_Escape});
+    }
 
     user.ChoosesMenu("mnuSpecialSwitchLanguage");
     After({Qt::Key_2}, Qt::ControlModifier);
@@ -126,6 +138,33 @@ TEST_F(CalendarKeys, ARangeIsMarkedWithShiftOrByDraggingAndCounted)
     EXPECT_EQ(Days({{12, 2}}), "2 ffffff") << "one date is one date";
     After({Qt::Key_5}, Qt::ControlModifier); // does nothing while another tool is in use
     After({Qt::Key_Escape});
+
+    Sets("AttendanceApprovedBy_Main", SessionState.UserID);
+    Opens("MBOUCHARD");
+    After({Qt::Key_4}, Qt::ControlModifier);
+    After({Qt::Key_Right}, Qt::ShiftModifier);
+    EXPECT_EQ(Counted(), "2 days, 14:00") << "a request takes a range too";
+    After({Qt::Key_Escape});
+}
+
+TEST_F(CalendarKeys, EachToolHasItsDigitAndF1ListsThem)
+{
+    house.Record(marie, "Sick", {2026, 12, 9}, 7);
+    house.Record(marie, "Vacation", {2026, 12, 10}, 7, true);
+    OpensOnMarie();
+    user.WillAnswer("KEYBOARD:", "OK", "Ctrl+1").Presses("flxCalendar", Qt::Key_F1);
+    user.WhenOpens<frmSelectDates>([](QDialog& form) { form.reject(); });
+    After({Qt::Key_3}, Qt::ControlModifier);
+    user.WhenOpens<frmSelectEmployee>([](QDialog& form) { form.reject(); });
+    After({Qt::Key_8}, Qt::ControlModifier);
+    user.Picks("cboCategories", "Sick");
+    for (const auto& [digit, hint] : {std::pair(Qt::Key_5, "wish to modify"), {Qt::Key_6, "wish to remove"}}) {
+        After({digit}, Qt::ControlModifier);
+        EXPECT_TRUE(user.Reads("txtSelect").contains(hint)) << qPrintable(user.Reads("txtSelect"));
+        After({Qt::Key_Escape});
+    }
+    user.WhenOpens<frmApproval>([](QDialog& form) { form.reject(); });
+    After({Qt::Key_7}, Qt::ControlModifier);
 }
 
 TEST_F(CalendarKeys, ADaySaysItsDateHolidayCategoriesAndHours)
@@ -149,6 +188,13 @@ TEST_F(CalendarKeys, ADaySaysItsDateHolidayCategoriesAndHours)
     const QImage plain = Painted(7, 14);
     user.ChoosesMenu("mnuSpecialCategoryCodes");
     EXPECT_NE(Painted(7, 14), plain);
+    const QImage whole = Painted(7, 13);
+    for (const double hours : {3, 7}) {
+        house.Sql("UPDATE Attendance SET TotalDuration = ?1, Duration = ?1 WHERE RecordDate = ?2",
+                  {hours, SerialOfDate({2026, 7, 13})});
+        main->LoadDates();
+        EXPECT_EQ(Painted(7, 13) == whole, hours == 7) << "the triangle of a part, whose letter is the same";
+    }
     user.ChoosesMenu("mnuSpecialSwitchLanguage");
     EXPECT_EQ(Said(7, 13), "lundi 13 juillet 2026, Vacances 07:00");
 

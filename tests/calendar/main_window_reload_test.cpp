@@ -142,6 +142,11 @@ TEST_F(MainWindow, TheWindowStandsWhereItWasLeftAndFitsTheSmallestScreens)
     EXPECT_THROW(main->cmdQuit_Click(), ProgramEnded);
     Opens("MBOUCHARD");
     EXPECT_EQ(main->geometry(), place);
+    const QRect small = QApplication::screens().last()->availableGeometry();
+    main->setGeometry(QRect(small.topLeft() + QPoint(200, 100), QSize(1200, 800)));
+    EXPECT_THROW(main->cmdQuit_Click(), ProgramEnded);
+    Opens("MBOUCHARD");
+    EXPECT_TRUE(small.contains(main->frameGeometry())) << "the screen is smaller than it was";
     main->showMaximized();
     EXPECT_THROW(main->cmdQuit_Click(), ProgramEnded);
     Opens("MBOUCHARD");

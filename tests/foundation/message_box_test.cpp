@@ -3,6 +3,7 @@
 #include "support/house_test.h"
 
 #include <QMenu>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
 
@@ -79,6 +80,18 @@ TEST_F(MessageBox, EnterPressesTheDefaultButtonLettersTheOthersAndEscapeCancels)
     EXPECT_EQ(CodeOf({.Set = Buttons::YesNo, .DefaultButton = 1}, Qt::Key_Return), MessageCode::No);
     EXPECT_EQ(CodeOf({.DefaultButton = 1}, Qt::Key_Return), MessageCode::OK) << "beyond the set: the last button";
     EXPECT_EQ(CodeOf(WithSet(7), Qt::Key_G, Qt::AltModifier), MessageCode::Ignore) << "the I is taken by Interrompre";
+}
+
+TEST_F(MessageBox, NoArrowTakesItsWordsAwayNorDoesTheTabKeyStopAtThem)
+{
+    Shows({.Text = "One line", .Set = Buttons::YesNo}, [this](frmMessageBox& box) {
+        auto* text = box.findChild<QPlainTextEdit*>("txtMessage");
+        user.Presses("cmdButton(0)", Qt::Key_Down).Presses("cmdButton(1)", Qt::Key_Tab);
+        EXPECT_TRUE(user.HasFocus("cmdButton(0)"));
+        QTest::keyClick(text, Qt::Key_Down);
+        EXPECT_EQ(text->verticalScrollBar()->maximum(), 0);
+        box.close();
+    });
 }
 
 TEST_F(MessageBox, TheCheckBoxIsShownWhereAskedForAndRemembered)

@@ -2,10 +2,14 @@
 #include "foundation/frm_about.h"
 #include "foundation/frm_change_password.h"
 #include "foundation/frm_update_admin_info.h"
+#include "platform/controls/file_dialog.h"
 #include "support/house_test.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 
 class SmallForms : public HouseTest
 {
@@ -82,6 +86,56 @@ private:
     QTemporaryDir folder_;
     QByteArray path_;
 };
+
+TEST_F(SmallForms, WhatIsRequiredSaysSoAndShowsThatItIsMissingUntilItOrItsSubstituteIsFilled)
+{
+    QWidget form;
+    auto* list = new QComboBox(&form);
+    auto *hours = new QLineEdit(&form), *minutes = new QLineEdit(&form), *greyed = new QLineEdit(&form);
+    list->addItems({"", "Vacation"});
+    Require(list);
+    Require(hours, minutes);
+    Require(greyed);
+    greyed->setEnabled(false);
+    const auto missing = [&] {
+        QStringList looks;
+        for (const QWidget* control : std::initializer_list<QWidget*>{list, hours, greyed})
+            looks << control->property("look").toString();
+        return looks.join('|');
+    };
+    ShowMissing(&form);
+    EXPECT_EQ(missing() + " " + hours->placeholderText(), "missing|missing| required");
+    minutes->setText("30");
+    EXPECT_EQ(missing() + hours->placeholderText(), "missing||");
+    list->setCurrentIndex(1);
+    ShowMissing(&form);
+    EXPECT_EQ(missing(), "||");
+    list->setCurrentIndex(0);
+    minutes->clear();
+    ShowMissing(&form);
+    EXPECT_EQ(missing(), "missing|missing|");
+    ForgetMissing(&form);
+    EXPECT_EQ(missing(), "||");
+    SetRequired(hours, false);
+    EXPECT_EQ(hours->placeholderText(), "");
+    SessionState.English = false;
+    Retranslate(&form);
+    EXPECT_EQ(list->placeholderText() + list->accessibleDescription(), "obligatoireobligatoire");
+}
+
+TEST_F(SmallForms, NobodyIsAskedWhetherAFileMayBeReplacedThatTheProgramThenRefuses)
+{
+    InstallFileDialog();
+    QTimer presses;
+    presses.callOnTimeout([] {
+        QWidget* shown = QApplication::activeModalWidget();
+        EXPECT_FALSE(qobject_cast<QMessageBox*>(shown));
+        if (auto* dialog = qobject_cast<QDialog*>(shown))
+            dialog->inherits("QFileDialog") ? dialog->accept() : dialog->reject();
+    });
+    presses.start(0);
+    EXPECT_EQ(ChooseFile({"Save", "Access(*.mdb)|*.mdb", "Tarvell.mdb", house.Folder(), true}), house.DatabaseFile());
+}
 
 TEST_F(SmallForms, AboutStartsTheSystemInformationThatThereIs)
 {

@@ -86,6 +86,8 @@ TEST_F(TargettedMail, AScheduleGoesToItsUnitAndToNewPeopleWhoMayEnterTheAddressB
     EXPECT_EQ(opens({.ScopeEmployeeID = eva}), "Ellis");
 
     EXPECT_FALSE(user.CanUse("cmdAdd"));
+    user.Types("txtNewName", "Li").WillAnswer("CONFIRM:", "No", "not been saved").Presses("", Qt::Key_Escape);
+    EXPECT_TRUE(user.The<frmTargettedEMail>().isVisible());
     for (const char* name : {" Li O'Neil ", "Li O'Neil"}) {
         user.Types("txtNewName", name);
         EXPECT_FALSE(user.CanUse("cmdAdd"));

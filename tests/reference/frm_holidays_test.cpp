@@ -1,6 +1,7 @@
 #include "calendar/frm_main.h"
 #include "platform/clock.h"
 #include "platform/controls/flex_grid.h"
+#include "platform/controls/theme.h"
 #include "reference/frm_holidays.h"
 #include "support/company_test.h"
 #include "support/main_window.h"
@@ -18,6 +19,13 @@ protected:
         for (const QString& day : days)
             user.Picks("lstHolidayDates", day);
     }
+    /// A control has the frame of what is missing, or the ground of it while it has the focus.
+    bool IsRed(const QString& name)
+    {
+        const QImage image = user.The<QWidget>().findChild<QWidget*>(name)->grab().toImage();
+        return image.pixelColor(image.width() / 2, 0) == ThemeColor("danger") ||
+               image.pixelColor(image.width() - 6, 5) == ThemeColor("missing");
+    }
 };
 
 TEST_F(FrmHolidays, AHolidayOfSeveralDatesIsAddedWholeOrNotAtAll)
@@ -30,7 +38,9 @@ TEST_F(FrmHolidays, AHolidayOfSeveralDatesIsAddedWholeOrNotAtAll)
     EXPECT_EQ(user.Entries("lstHolidayDates").size(), 365);
     EXPECT_EQ(user.Usable({"cmdAdd", "cmdRemove", "cmdQuit"}), "cmdAdd cmdQuit");
     user.WillBeRefused("You must specify a name").Clicks("cmdAdd");
+    EXPECT_TRUE(IsRed("txtHolidayName") && IsRed("lstHolidayDates")) << "all that is missing at once";
     Add(" Owner's rest ", {});
+    EXPECT_TRUE(!IsRed("txtHolidayName") && IsRed("lstHolidayDates"));
     user.WillBeRefused("You must specify a date").Clicks("cmdAdd");
     for (const char* day : {"Mon 28-Dec-2026", "Thu 24-Dec-2026", "Tue 29-Dec-2026", "Tue 29-Dec-2026"})
         user.Picks("lstHolidayDates", day); // the second press on a day takes its mark away

@@ -48,8 +48,13 @@ TEST_F(FrmUnits, TheArrowsWalkTheListBeforeAUnitIsTakenAndEscapeAsksBeforeChange
     EXPECT_TRUE(form.isVisible() && user.Reads("txtCity") == "Laval");
     user.WillConfirm().Presses("txtCity", Qt::Key_Escape);
     ExpectIdle();
-    user.Clicks("cmdAdd").Types("txtCity", "Laval").Clicks("cmdCancelOperation"); // its button does as it is told
+    user.Clicks("cmdAdd").WillBeRefused("").Clicks("cmdAdd").Types("txtCity", "Laval");
+    form.findChild<QWidget*>("cmdCancelOperation")->setFocus();
+    user.Presses("cmdCancelOperation", Qt::Key_Return); // the button with the focus, which does as it is told
     ExpectIdle();
+    user.Clicks("cmdAdd");
+    for (const char* field : {"txtEnglishName", "txtState", "txtCountry"})
+        EXPECT_NE(form.findChild<QWidget*>(field)->property("look"), "missing") << field << ": nothing was tried yet";
 }
 
 TEST_F(FrmUnits, AnOrganizationIsAddedInTwoPresses)

@@ -113,6 +113,12 @@ TEST_F(ChoosingDates, APeriodIsTheYearAMonthOrTwoDatesThatFollowEachOther)
     user.Opens<frmSelectPeriod>();
     EXPECT_EQ(user.ReadsAll({"optEntireYear", "cboTo"}), "1|" + Shown(12, 31));
     EXPECT_EQ(user.Entries("cboFrom").size(), 365);
+    user.Presses("cboFrom", Qt::Key_M);
+    auto* from = user.The<frmSelectPeriod>().findChild<QComboBox*>("cboFrom");
+    QTest::keyClicks(from->view(), "on 29-jun");
+    QTest::keyClick(from->view(), Qt::Key_Return);
+    EXPECT_EQ(user.Reads("cboFrom"), Shown(6, 29)) << "as it reads";
+    user.Clicks("optEntireYear");
     Chooses(EntireYear());
 
     user.Opens<frmSelectPeriod>().Clicks("optMonth(1)");

@@ -50,7 +50,11 @@ TEST_F(WizardSteps, TheWizardSpeaksBothLanguagesUntilOneIsChosen)
 TEST_F(WizardSteps, CancellingAsksAndEndsTheProgram)
 {
     Open();
-    user.WillAnswer("WARNING:  -  ATTENTION:", "No  -  Non", "Souhaitez-vous vraiment").Clicks("cmdCancel");
+    user.SeesMessage = [](const Message& message) { EXPECT_EQ(message.DefaultButton, 1) << "Enter says No"; };
+    user.Presses("optFrench", Qt::Key_Tab)
+        .WillAnswer("WARNING:  -  ATTENTION:", "No  -  Non", "Souhaitez-vous vraiment");
+    user.Presses(user.The<QDialog>().focusWidget()->objectName(), Qt::Key_Return);
+    EXPECT_TRUE(user.HasFocus("cmdCancel")) << "past what is greyed";
     user.WillAnswer("WARNING:  -  ATTENTION:", "Yes  -  Oui", "Do you really want to interrupt");
     EXPECT_THROW(user.Clicks("cmdCancel"), ProgramEnded);
     user.Clicks("optEnglish").Clicks("cmdNext");

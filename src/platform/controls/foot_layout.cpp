@@ -41,10 +41,11 @@ QLayoutItem* FootLayout::takeAt(int index)
 
 QList<FootLayout::Member> FootLayout::InOrder() const
 {
-    QList<Member> groups[3];
+    QList<Member> groups[4];
     for (const Member& member : members_)
         groups[static_cast<int>(member.In)] << member;
-    auto& [left, commands, waysOut] = groups;
+    auto& [left, commands, waysBack, waysOut] = groups;
+    waysOut = waysBack + waysOut;
     if (commands.isEmpty())
         return left + waysOut;
     const auto isMain = [](const Member& member) { return member.Item->widget()->property("look") == "main"; };
@@ -63,7 +64,7 @@ QList<QWidget*> FootLayout::TabOrder() const
         if (member.In == Group::Left)
             (isButton ? apart : options) << control;
         else
-            (member.In == Group::WayOut ? waysOut : commands).prepend(control);
+            (member.In == Group::Command ? commands : waysOut).prepend(control);
     }
     return options + commands + waysOut + apart;
 }

@@ -2,7 +2,7 @@
 
 #include <QLayout>
 
-/// The buttons at the foot of a form: the main one at the right, the ways out beside it, further commands before them,
+/// The buttons at the foot of a form: the main one at the right, the way out beside it, further commands before them,
 /// and what stands apart at the left. What does not fit beside each other goes on below.
 class FootLayout : public QLayout
 {
@@ -11,6 +11,7 @@ public:
     {
         Left,
         Command,
+        WayBack, ///< out of an operation, not of the form
         WayOut
     };
 
