@@ -50,7 +50,7 @@ private:
     void cboCategories_Click();
 
     QLabel* lblFiscalYear;
-    std::vector<Year> years_; ///< the way to the previous and to the next one
+    std::vector<Year> years_;    ///< the way to the previous and to the next one
     QLabel* lblCurrentSelection; ///< what is shown of whom stands below
     QLabel* lblCurrentSelection_DISPLAY;
     QComboBox* cboCategories;
