@@ -3,6 +3,7 @@
 #include "attendance/record_lines.h"
 #include "foundation/common_services.h"
 #include "foundation/texts.h"
+#include "platform/mail/mail_message.h"
 
 namespace
 {
@@ -22,9 +23,10 @@ QString OutOfReach(const QString& name, const QString& address, bool hasLeft)
     constexpr Text kHasLeft = {"{name} has left and will not settle this request: see your system administrator.",
                                "{name} ne travaille plus ici et ne traitera pas cette demande : consultez votre "
                                "administrateur du système."};
-    constexpr Text kHasNoAddress = {"{name} has no e-mail address and will not be told of this request by mail.",
-                                    "{name} n'a pas d'adresse de courriel et ne sera pas avisé(e) de cette demande."};
-    if (name.isEmpty() || (!hasLeft && !address.isEmpty()))
+    constexpr Text kHasNoAddress = {
+        "{name} has no valid e-mail address and will not be told of this request by mail.",
+        "{name} n'a pas d'adresse de courriel valide et ne sera pas avisé(e) de cette demande."};
+    if (name.isEmpty() || (!hasLeft && IsMailAddress(BareAddress(address))))
         return {};
     return T(hasLeft ? kHasLeft : kHasNoAddress, {{"name", name}});
 }

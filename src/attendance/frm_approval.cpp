@@ -166,7 +166,8 @@ void frmApproval::ResetVariables()
 void frmApproval::ShowDates()
 {
     flxRecordsToApprove->Show(requested_.Dates);
-    for (QWidget* control : std::initializer_list<QWidget*>{optApproveAll, optDenyAll, cmdProcess, cmdCancelOperation})
+    for (QWidget* control : std::initializer_list<QWidget*>{optApproveAll, optDenyAll, txtReasonForRefusal, cmdProcess,
+                                                            cmdCancelOperation})
         EnableOrExplain(control, shown_ >= 0, kChooseRequest);
 }
 

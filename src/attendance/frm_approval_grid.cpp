@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr int kLeastHeight = 150;
+constexpr int kLeastHeight = 104; // of three dates
 
 struct DateColumn
 {

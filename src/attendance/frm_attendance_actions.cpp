@@ -126,9 +126,11 @@ void frmAttendance::FocusFieldInError()
 
 void frmAttendance::SetButtonsEnabled(bool enabled)
 {
-    EnableOrExplain(cmdAddOrUpdate, enabled && mayAdd_,
+    EnableOrExplain(cmdAddOrUpdate, mayAdd_,
                     {"You may not enter records for this employee",
                      "Vous ne pouvez faire d'enregistrements pour cet(te) employé(e)"});
+    if (!enabled)
+        cmdAddOrUpdate->setEnabled(false);
     cmdQuit->setEnabled(enabled);
 }
 

@@ -4,6 +4,7 @@
 #include "foundation/common_services.h"
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
+#include "foundation/values.h"
 #include "platform/clock.h"
 
 namespace

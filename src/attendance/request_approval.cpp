@@ -3,6 +3,8 @@
 #include "foundation/attendance_row.h"
 #include "foundation/common_services.h"
 #include "foundation/session_rows.h"
+#include "foundation/texts.h"
+#include "foundation/values.h"
 #include "platform/clock.h"
 
 #include <algorithm>

@@ -74,19 +74,30 @@ void MarkRequestsAsTold(DataControl& datAbsence)
                        RequestStatus::Told, SessionState.UserID, RequestStatus::OnHold);
 }
 
+/// A reason stands below the dates for which it was given.
 QStringList DeniedLines(DataControl& datAbsence)
 {
     const Connection connection(datAbsence);
     QStringList lines;
+    QString reason;
+    const auto tellReason = [&] { lines << T("REASON: ", "RAISON: ") + reason; };
     for (const Recordset& row : datAbsence.Select(
              "SELECT Attendance.RecordDate, Attendance.DeniedBy, Attendance.ApprovalRefusalMessage, "
              "Categories.CategoryEnglishName, Categories.CategoryFrenchName FROM Attendance, Categories WHERE "
              "Attendance.CategoryID = Categories.RecordID AND Attendance.SubmittedBy = ? AND Attendance.FiscalYear = ? "
              "AND Attendance.DeniedBy <> '' AND Attendance.CancelledDate <> 0 ORDER BY Attendance.RecordDate ASC",
-             SessionState.UserID, SessionState.FiscalYearID))
+             SessionState.UserID, SessionState.FiscalYearID)) {
+        if (!lines.isEmpty() && row.Text("ApprovalRefusalMessage") != reason) {
+            tellReason();
+            lines << QString();
+        }
+        reason = row.Text("ApprovalRefusalMessage");
         lines << QStringList{FormatDate(row.Long("RecordDate"), "ddd dd-mmm-yyyy"), CategoryOfRow(row),
-                             row.Text("DeniedBy"), row.Text("ApprovalRefusalMessage")}
+                             row.Text("DeniedBy")}
                      .join('\t');
+    }
+    if (!lines.isEmpty())
+        tellReason();
     return lines;
 }
 } // namespace
@@ -135,6 +146,6 @@ void TellDeniedRequests(DataControl& datAbsence)
     if (lines.isEmpty())
         return Tell(title, T("None of your requests for leave has been denied in this fiscal year.",
                              "Aucune de vos demandes de congé n'a été refusée durant cette année fiscale."));
-    const QString head = T("DATE\tCATEGORY\tDENIED BY\tREASON", "DATE\tCATÉGORIE\tREFUSÉE PAR\tRAISON");
+    const QString head = T("DATE\tCATEGORY\tDENIED BY", "DATE\tCATÉGORIE\tREFUSÉE PAR");
     TellWithList(title, head + "\r\n" + lines.join("\r\n"), lines.size());
 }

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace
@@ -39,6 +40,7 @@ void CalendarPane::BuildGrid()
     });
     connect(flxCalendar, &FlexGrid::CellEntered, this, [this](int, int) { HideRecords(); });
     flxCalendar->Moved = [this] { FollowCursor(); };
+    connect(flxCalendar->verticalScrollBar(), &QScrollBar::valueChanged, this, &CalendarPane::FollowCursor);
 }
 
 void CalendarPane::BuildOverlays()

@@ -203,7 +203,8 @@ void frmMain::DisplayDailyAttendance(int date)
     }
     const QString holiday = HolidayName(holidays_, date);
     const QString title = FormatDate(date, "ddd dd-mmm-yyyy");
-    pane_->ShowRecords(holiday.isEmpty() ? title : title + "   " + holiday, lines.join("\r\n"));
+    pane_->ShowRecords(holiday.isEmpty() ? title : title + "   " + holiday,
+                       lines.isEmpty() ? T("No records", "Aucune absence") : lines.join("\r\n"));
 }
 
 void frmMain::AreThereRequestsToApprove()

@@ -20,15 +20,6 @@ constexpr int kWordMargin = 20; ///< what a tool has around its word or image
 constexpr int kToolGap = 15;    ///< between tools, the lines between their groups included
 constexpr int kLowWindow = 700; ///< below it the calendar needs the room of the words
 
-void SetLook(QToolButton* image, const char* look)
-{
-    if (image->property("look").toString() == QLatin1String(look))
-        return;
-    image->setProperty("look", QString::fromLatin1(look));
-    image->style()->unpolish(image);
-    image->style()->polish(image);
-}
-
 /// The tool in use keeps its colours, also while it takes no click.
 QIcon UngreyedIcon(const QString& picture)
 {

@@ -25,11 +25,12 @@ QString TextOf(const BalanceLines& lines, float hoursPerDay)
         width = std::max(width, metrics.horizontalAdvance(figures.last()));
     }
     const QString hair(QChar(0x200A)); // of all blanks the narrowest: letters are not as wide as digits
+    const qreal hairWidth = std::max(1.0, metrics.horizontalAdvance(hair));
     QStringList texts;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const QString& figure = figures[static_cast<int>(i)];
         const qreal room = width - metrics.horizontalAdvance(figure);
-        texts << hair.repeated(qRound(room / metrics.horizontalAdvance(hair))) + figure + "  " + T(lines[i].Caption);
+        texts << hair.repeated(qRound(room / hairWidth)) + figure + "  " + T(lines[i].Caption);
     }
     return texts.join('\n');
 }

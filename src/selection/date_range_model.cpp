@@ -11,7 +11,6 @@
 namespace
 {
 constexpr char kShownDate[] = "ddd dd-mmm-yyyy";
-constexpr int kHowMatched = 0x0F; // of the toolkit's flags
 
 QString Plain(const QString& date)
 {
@@ -62,7 +61,7 @@ QVariant DateRangeModel::data(const QModelIndex& entry, int role) const
 QModelIndexList DateRangeModel::match(const QModelIndex& start, int role, const QVariant& value, int hits,
                                       Qt::MatchFlags flags) const
 {
-    if (role != Qt::DisplayRole || (flags.toInt() & kHowMatched) != Qt::MatchStartsWith)
+    if (role != Qt::DisplayRole || (flags & Qt::MatchTypeMask) != Qt::MatchStartsWith)
         return QAbstractListModel::match(start, role, value, hits, flags);
     QModelIndexList found;
     const QString typed = Plain(value.toString());

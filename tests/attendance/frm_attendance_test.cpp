@@ -114,9 +114,10 @@ TEST_F(FrmAttendance, WhoAsksSeesWhichApproversWillNotHearOfIt)
     EXPECT_FALSE(user.CanUse("lblApprovers")) << "records need no approval";
     entry.Kind = AttendanceKind::Submit;
     Opens();
-    EXPECT_EQ(user.Reads("lblApprovers"),
-              "Marc Roy has no e-mail address and will not be told of this request by mail.\nÈve Émond has left and "
-              "will not settle this request: see your system administrator.");
+    EXPECT_EQ(
+        user.Reads("lblApprovers"),
+        "Marc Roy has no valid e-mail address and will not be told of this request by mail.\nÈve Émond has left and "
+        "will not settle this request: see your system administrator.");
 
     house.Sql("UPDATE Employees SET AttendanceApprovedBy_Main = 0, AttendanceApprovedBy_Backup = 0, EMailAddress = "
               "NULL, IsAuthorizedToApprove = 1");
@@ -126,7 +127,7 @@ TEST_F(FrmAttendance, WhoAsksSeesWhichApproversWillNotHearOfIt)
         [this](frmGetApprovedBy&) { user.Picks("lstApprovers", "Roy").Clicks("cmdSelect"); });
     user.Types("txtDurationInHours", "2").WillAnswer("REQUEST FOR APPROVAL:", "No").Clicks("cmdAddOrUpdate");
     EXPECT_EQ(user.Reads("lblApprovers"),
-              "Marc Roy has no e-mail address and will not be told of this request by mail.");
+              "Marc Roy has no valid e-mail address and will not be told of this request by mail.");
 }
 
 TEST_F(FrmAttendance, AModifiedRecordIsAuditedAsItWas)

@@ -99,6 +99,20 @@ protected:
     CalendarSelection selection;
 };
 
+TEST_F(RequestStates, AReasonIsToldOnceBelowTheDatesForWhichItWasGiven)
+{
+    for (const auto& [day, reason] : {std::pair(2, "Inventory"), {3, "Inventory"}, {4, "Nobody else is here"}})
+        house.Sql("UPDATE Attendance SET SubmittedBy = EmployeeID, DeniedBy = 'EVA', CancelledDate = 46083, "
+                  "ApprovalRefusalMessage = ? WHERE RecordID = ?",
+                  {reason, house.Record(anna, "Vacation", {2026, 3, day}, 7)});
+    house.LogIn("ANNA");
+    user.WillAnswer("DENIED REQUESTS FOR LEAVE:", "OK",
+                    "DATE\tCATEGORY\tDENIED BY\r\nMon 02-Mar-2026\tVacation\tEVA\r\nTue "
+                    "03-Mar-2026\tVacation\tEVA\r\nREASON: Inventory\r\n\r\nWed "
+                    "04-Mar-2026\tVacation\tEVA\r\nREASON: Nobody else is here");
+    TellDeniedRequests(datAbsence);
+}
+
 TEST_F(RequestStates, EachReaderCountsWhatItIsAbout)
 {
     struct State

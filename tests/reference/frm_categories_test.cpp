@@ -60,8 +60,11 @@ protected:
 
 TEST_F(FrmCategories, TheArrowsWalkTheListBeforeACategoryIsTaken)
 {
-    user.Opens<frmCategories>().Clicks("cmdModify").Presses("cboRecords", Qt::Key_Down);
+    user.Opens<frmCategories>().Clicks("cmdModify").Presses("cboRecords", Qt::Key_F4);
     auto* list = user.The<frmCategories>().findChild<QComboBox*>("cboRecords");
+    QTest::keyClick(list->view(), Qt::Key_Tab);
+    EXPECT_EQ(list->currentIndex(), -1) << "what nobody has marked is not taken";
+    user.Presses("cboRecords", Qt::Key_Down);
     QTest::keyClick(list->view(), Qt::Key_Down);
     EXPECT_EQ(user.Reads("txtEnglishName"), "") << "nothing is taken yet";
     QTest::keyClick(list->view(), Qt::Key_Tab);

@@ -15,12 +15,10 @@ bool IsAmong(std::initializer_list<int> keys, const QKeyEvent* event)
            std::find(keys.begin(), keys.end(), event->key()) != keys.end();
 }
 
-constexpr int kHowMatched = 0x0F; // of the toolkit's flags
-
 QString Digits(QString text)
 {
-    static const QRegularExpression kOther("\\D");
-    return text.remove(kOther);
+    text.removeIf([](QChar letter) { return !letter.isDigit(); });
+    return text;
 }
 
 /// The digits with which a time begins, its hours whole where something follows them: "1h3" is 01:3.
@@ -30,7 +28,7 @@ QString DigitsOfTime(const QString& typed)
     return Digits(typed.contains(kOneHour) ? '0' + typed : typed);
 }
 
-/// Entries that begin with a digit are found by their digits alone, from the first one on.
+/// A text that begins with a digit finds entries by their digits alone, from the first one on.
 template <typename Model>
 class FoundByDigits : public Model
 {
@@ -42,7 +40,7 @@ public:
     {
         const QString typed = value.toString();
         const bool digits = !typed.isEmpty() && typed.front().isDigit();
-        if (!digits || role != Qt::DisplayRole || (flags.toInt() & kHowMatched) != Qt::MatchStartsWith)
+        if (!digits || role != Qt::DisplayRole || (flags & Qt::MatchTypeMask) != Qt::MatchStartsWith)
             return Model::match(start, role, value, hits, flags);
         const QString time = DigitsOfTime(typed);
         for (int row = 0; row < this->rowCount(); ++row)
@@ -156,17 +154,21 @@ bool DropDownList::eventFilter(QObject* target, QEvent* event)
     return true;
 }
 
+/// An entry that is current without being marked has not been chosen.
 void DropDownList::TakeAndGoOn(QObject* target, QEvent* tab)
 {
     QKeyEvent taking(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QApplication::sendEvent(target, &taking);
+    if (view()->selectionModel()->hasSelection())
+        QApplication::sendEvent(target, &taking);
+    else
+        hidePopup();
     const QWidget* focused = window()->focusWidget();
     if (focused == this || isAncestorOf(focused)) // unless what was taken has led elsewhere
         QApplication::sendEvent(this, tab);
 }
 
-/// A key alone, or the same one again and again, leads on to the next entry; a text that no entry begins with leaves
-/// the mark where it is.
+/// A key alone, or the same one again and again, leads on to the next entry; a text that no entry begins with leads
+/// back to the one that was chosen before, if there is one.
 void DropDownList::Find(const QString& key)
 {
     if (!typed_.isEmpty() && pause_.hasExpired(QApplication::keyboardInputInterval()))
@@ -179,6 +181,8 @@ void DropDownList::Find(const QString& key)
     QModelIndex found = Begins(typed_ == key ? next : here, typed_);
     if (!found.isValid() && typed_ == key.repeated(typed_.size()))
         found = Begins(next, key);
+    if (!found.isValid())
+        found = model()->index(currentIndex(), modelColumn());
     if (found.isValid())
         view()->setCurrentIndex(found);
 }
