@@ -305,6 +305,38 @@ protected:
         return order;
     }
 
+    /// The letters that stand on several controls which can be used at once: none of them goes off then.
+    static QStringList LettersTwice(const QWidget& form)
+    {
+        QStringList seen, twice;
+        for (const QWidget* control : form.findChildren<QWidget*>()) {
+            const auto* label = qobject_cast<const QLabel*>(control);
+            const bool usable = control->isVisible() && control->isEnabled() && (!label || label->buddy());
+            const QKeySequence letter = QKeySequence::mnemonic(control->property("text").toString());
+            const bool isCaption = label || qobject_cast<const QAbstractButton*>(control);
+            if (!usable || !isCaption || letter.isEmpty())
+                continue;
+            if (seen.contains(letter.toString()))
+                twice << control->property("text").toString();
+            seen << letter.toString();
+        }
+        return twice;
+    }
+
+    /// The controls on which nothing shows that they have the focus.
+    static QStringList WithoutFocusShown(QWidget& form)
+    {
+        QStringList without;
+        for (QWidget* control : TabOrder(form)) {
+            form.setFocus();
+            const QImage before = control->grab().toImage();
+            control->setFocus(Qt::TabFocusReason);
+            if (control->hasFocus() && control->grab().toImage() == before)
+                without << control->metaObject()->className() + QString(" ") + control->objectName();
+        }
+        return without;
+    }
+
     static bool IsWayOut(const QWidget* control)
     {
         return QStringList{"cmdQuit", "cmdCancel", "cmdCancelOperation"}.contains(control->objectName()) ||
@@ -438,6 +470,8 @@ TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndLeavesAtEscape)
                 EXPECT_EQ(TakenByAnArrow(form), QStringList());
                 EXPECT_EQ(AgainstTheOrder(form), QStringList());
                 EXPECT_EQ(AtWrongPlaces(form), QStringList());
+                EXPECT_EQ(LettersTwice(form), QStringList());
+                EXPECT_EQ(SessionState.English ? WithoutFocusShown(form) : QStringList(), QStringList());
             });
             const QMap<QString, QString> captions = Captions(form);
             for (auto caption = captions.begin(); caption != captions.end() && name != kBilingual; ++caption)

@@ -46,7 +46,7 @@ void frmAttendance::BuildControls()
     AddTab(sstAttendance, additional_, {"Additional information", "Information additionnelle"});
     cmdAddOrUpdate =
         AddMainButton("cmdAddOrUpdate", kActions[static_cast<int>(entry_.Kind)], [this] { cmdAddOrUpdate_Click(); });
-    cmdQuit = AddWayOut({"&Close", "So&rtir"}, "cmdQuit");
+    cmdQuit = AddWayOut({"&Close", "&Sortir"}, "cmdQuit");
     LayFoot({cmdQuit, cmdAddOrUpdate});
     lblApprovers = AsNotice(WrappedLabel("lblApprovers"));
     Page()->addWidget(lblApprovers);

@@ -169,8 +169,8 @@ void EnableUnless(QWidget* control, const Text& reason)
 
 void Require(QWidget* control, QLineEdit* instead)
 {
-    control->setProperty(kRequired, true);
     control->setProperty(kInstead, QVariant::fromValue(instead));
+    SetRequired(control, true);
     const auto filled = [control] { ShowFilled(control); };
     if (auto* list = qobject_cast<QComboBox*>(control))
         QObject::connect(list, &QComboBox::currentTextChanged, list, filled);
