@@ -366,7 +366,8 @@ bool frmMain::LogIn(int year, const QString& name)
 bool frmMain::MayLeaveUnsent()
 {
     return UnsentNotices().isEmpty() ||
-           Ask(T("WARNING:", "ATTENTION:"),
+           AskCarefully(
+               T("WARNING:", "ATTENTION:"),
                T("Some e-mails could not be sent, and will not be sent once you leave Tarvell. Leave anyway?",
                  "Des courriels n'ont pu être envoyés, et ne le seront plus si vous quittez Tarvell. Souhaitez-vous "
                  "tout-de-même quitter?"),

@@ -210,7 +210,9 @@ void ToolBar::ShowZoom(const Tool& tool)
     imgZoom->setToolTip(tool.Image->toolTip());
     imgZoom->setToolButtonStyle(tool.Image->toolButtonStyle());
     SetLook(imgZoom, tool.Image->property("look") == "active" ? "active" : "");
-    imgZoom->setGeometry(tool.Image->geometry());
+    const QRect place = tool.Image->geometry();
+    const int taller = std::max(0, imgZoom->sizeHint().height() - place.height());
+    imgZoom->setGeometry(place.adjusted(0, -taller / 2, 0, taller - taller / 2));
     imgZoom->show();
     imgZoom->raise();
 }

@@ -92,7 +92,7 @@ MailResult SendByRoute(const Notice& notice)
 /// It could not be sent and is worth a line, but the mail program that did not answer is not asked once more.
 void GiveUp(const Notice& notice)
 {
-    const MailResult notTried{MailError::NoAnswer, "Not tried"};
+    const MailResult notTried{MailError::NoAnswer, "Not tried, as the mail program did not answer"};
     Log(notice, SessionState.MailConfigured, {FailureText(notTried)});
     Unsent().append({notice, notTried.Description});
 }

@@ -207,6 +207,8 @@ void WalkedList::keyPressEvent(QKeyEvent* event)
         WalkInto(this, event);
     else if (!typed.isEmpty() && typed.front().isLetterOrNumber() && !(event->modifiers() & ~Qt::ShiftModifier))
         DropDownAt(this, typed);
+    else if (!typed.isEmpty() && event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        event->ignore(); // a letter that nothing answers to must not choose
     else
         QComboBox::keyPressEvent(event);
 }
