@@ -10,8 +10,6 @@
 
 #include <QScopeGuard>
 
-#include <algorithm>
-
 namespace
 {
 constexpr QSize kApprovalSize(1080, 640);
@@ -207,26 +205,31 @@ void frmApproval::Process(const QVector<RequestedDate>& marked)
 {
     const QString reason = txtReasonForRefusal->toPlainText().replace('\n', ' ').replace('\r', ' ');
     const Settlement settlement = SettleRequests(datAbsence, marked, reason);
-    LeaveOut(settlement.Settled);
+    if (!settlement.Settled.isEmpty())
+        SessionState.ReloadCalendar = true;
     EMailNotice(requested_.EMailAddress, settlement.Settled, reason);
-    if (settlement.Failure)
+    if (settlement.Failure) {
+        RereadDates();
         ThrowFailure(settlement);
+    }
     TellSettled(requested_.EMailAddress);
     cmdCancelOperation_Click();
 }
 
-/// The grid goes on with the dates that are not settled, and their marks. What the group leaves is known no longer.
-void frmApproval::LeaveOut(const QVector<RequestedDate>& settled)
+/// The group goes on with the dates that wait by now, and their marks. One that cannot be read is shown no longer.
+void frmApproval::RereadDates()
 {
-    if (settled.isEmpty())
-        return;
-    SessionState.ReloadCalendar = true;
-    requested_.Dates.removeIf([&settled](const RequestedDate& date) {
-        return std::any_of(settled.begin(), settled.end(),
-                           [&date](const RequestedDate& done) { return done.RecordID == date.RecordID; });
-    });
-    flxRecordsToApprove->Show(requested_.Dates);
-    fraBalance->Show(std::nullopt);
+    const QVector<RequestedDate> before = requested_.Dates;
+    try {
+        LoadGroup(shown_);
+    } catch (const RuntimeError&) {
+        ResetVariables();
+    }
+    for (RequestedDate& date : requested_.Dates)
+        for (const RequestedDate& marked : before)
+            if (marked.RecordID == date.RecordID)
+                date.Mark = marked.Mark;
+    ShowDates();
 }
 
 void frmApproval::cmdCancelOperation_Click()

@@ -36,7 +36,7 @@ private:
     void MarkAll(RequestMark mark);
     void cmdProcess_Click();
     void Process(const QVector<RequestedDate>& marked);
-    void LeaveOut(const QVector<RequestedDate>& settled);
+    void RereadDates();
     void cmdCancelOperation_Click();
 
     QVector<RequestGroup> groups_; ///< in the order of the list

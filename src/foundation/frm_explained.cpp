@@ -45,6 +45,7 @@ public:
         figure->setCursor(Qt::PointingHandCursor);
         figure->setFocusPolicy(Qt::StrongFocus); // by a click too: Escape takes the explanation away again
         figure->setProperty("explained", true);
+        figure->setIndent(0); // its frame would set it off from its caption
     }
 
     bool eventFilter(QObject* target, QEvent* event) override
