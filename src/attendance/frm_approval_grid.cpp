@@ -27,7 +27,7 @@ constexpr DateColumn kDateColumns[] = {{{"Approved", "Approuvée"}, 92},
                                        {{"From", "De"}, 66},
                                        {{"To", "À"}, 66},
                                        {{"Duration", "Durée"}, 80},
-                                       {{"Category", "Catégorie"}, 190},
+                                       {{"Category", "Catégorie"}, 160},
                                        {{"Will also be absent...", "Seront également absents..."}, 0},
                                        {{"", ""}, 0}};
 constexpr int kFirstTextColumn = 6; ///< the columns before it are centred

@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr int kFiguresGap = 28;
+constexpr int kFiguresGap = 14;
 
 struct BalanceFigure
 {

@@ -10,7 +10,7 @@
 namespace
 {
 constexpr int kDays = 7;
-constexpr int kTotalWidth = 70;
+constexpr int kTotalWidth = 58;
 constexpr int kTimeCharacters = 6;
 constexpr int kGroupGap = 12; ///< between the halves of the day and the total
 constexpr int kRowGap = 10;
