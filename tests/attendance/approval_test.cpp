@@ -135,7 +135,7 @@ TEST_F(Approval, AllOfAGroupIsDeniedInFrenchAndWhoeverHasNoAddressMustBeToldOthe
 TEST_F(Approval, AFailureKeepsWhatIsSettledTellsItAndNamesTheDate)
 {
     Entitle(chris, "Vacation", 0, 70);
-    for (const int day : {2, 3, 4})
+    for (const int day : {2, 4, 3})
         Requests(day);
     house.Refuses("UPDATE ON Attendance WHEN NEW.RecordDate = 46084");
     user.Opens<frmApproval>().Picks("cboRecords", "26-03-02").Clicks("optApproveAll");
