@@ -49,5 +49,5 @@ void RequestBalancePane::Show(const std::optional<RequestBalance>& balance)
         return;
     Retranslate(this);
     for (std::size_t i = 0; i < figures_.size(); ++i)
-        figures_[i]->setText(DurationText(*balance_.*kBalanceFigures[i].Hours));
+        ShowFigure(figures_[i], kBalanceFigures[i].Caption, DurationText(*balance_.*kBalanceFigures[i].Hours));
 }

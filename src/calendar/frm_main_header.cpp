@@ -155,14 +155,12 @@ void MainHeader::ShowNames()
 
 void MainHeader::ShowTotal(const QString& total)
 {
-    lblTotalForTheYear_DISPLAY->setText(total);
-    lblTotalForTheYear_DISPLAY->setAccessibleName(T(kTotalForTheYear) + ": " + total);
+    ShowFigure(lblTotalForTheYear_DISPLAY, kTotalForTheYear, total);
 }
 
 void MainHeader::ShowTimeBank(const QString& balance)
 {
-    txtTimeBanked->setText(balance);
-    txtTimeBanked->setAccessibleName(T(kTimeBank) + ": " + balance);
+    ShowFigure(txtTimeBanked, kTimeBank, balance);
     fraTimeBank->setVisible(!balance.isEmpty());
 }
 

@@ -21,6 +21,13 @@ namespace
 constexpr auto kLastFace = static_cast<Face>(10);
 constexpr qsizetype kMostLinesShown = 9; ///< of a list without a scroll bar
 
+/// Yes and No are in the user's language.
+bool IsAnsweredYes(Message question)
+{
+    question.Set = SessionState.English ? Buttons::YesNo : Buttons::OuiNon;
+    return ShowMessage(question) == MessageCode::Yes;
+}
+
 MessagePresenter& Presenter()
 {
     static MessagePresenter presenter;
@@ -157,19 +164,12 @@ bool Ask(const QString& title, const QString& text, Face face)
 
 bool AskWithList(const QString& title, const QString& text, qsizetype lines, Face face)
 {
-    const Buttons yesNo = SessionState.English ? Buttons::YesNo : Buttons::OuiNon;
-    return ShowMessage(
-               {.Text = text, .Title = title, .Set = yesNo, .Picture = face, .ScrollBar = lines > kMostLinesShown}) ==
-           MessageCode::Yes;
+    return IsAnsweredYes({.Text = text, .Title = title, .Picture = face, .ScrollBar = lines > kMostLinesShown});
 }
 
 bool AskCarefully(const QString& title, const QString& text, Face face)
 {
-    return ShowMessage({.Text = text,
-                        .Title = title,
-                        .Set = SessionState.English ? Buttons::YesNo : Buttons::OuiNon,
-                        .Picture = face,
-                        .DefaultButton = 1}) == MessageCode::Yes;
+    return IsAnsweredYes({.Text = text, .Title = title, .Picture = face, .DefaultButton = 1});
 }
 
 bool AskToAbandonChanges()

@@ -167,14 +167,6 @@ void FormBase::StayOnScreen()
         move(frame.topLeft());
 }
 
-/// A form with nothing behind it but, perhaps, the program's sign.
-void FormBase::CentreOnScreen()
-{
-    QRect frame(QPoint(), size());
-    frame.moveCenter(screen()->availableGeometry().center());
-    move(frame.topLeft());
-}
-
 bool FormBase::Attempt(const std::function<void()>& work)
 {
     try {
@@ -215,7 +207,7 @@ void FormBase::showEvent(QShowEvent* event)
         if (!testAttribute(Qt::WA_Resized))
             resize(sizeHint());
         if ((!parentWidget() || parentWidget()->windowType() == Qt::SplashScreen) && !testAttribute(Qt::WA_Moved))
-            CentreOnScreen();
+            CentreOnScreen(this);
         QTimer::singleShot(0, this, [this] {
             for (int time = 0; time < 2; ++time) // lines that wrap otherwise may need more
                 GrowToPage();

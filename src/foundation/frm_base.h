@@ -65,7 +65,6 @@ private:
     void OrderTabs();
     bool TurnTab(const QKeyEvent* event);
     bool PressFocused(const QKeyEvent* event);
-    void CentreOnScreen();
     int WidthLackingInTabs() const;
     void GrowToPage();
     void StayOnScreen();

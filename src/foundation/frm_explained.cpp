@@ -90,6 +90,13 @@ private:
 };
 } // namespace
 
+void ShowFigure(QLabel* figure, const Text& caption, const QString& text)
+{
+    figure->setText(text);
+    figure->setAccessibleName(T(caption) + ": " + text);
+    figure->setFocusPolicy(text.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
+}
+
 void ExplainFigure(QLabel* figure, const std::function<BalanceLines()>& explain,
                    const std::function<float()>& hoursPerDay)
 {

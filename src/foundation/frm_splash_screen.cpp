@@ -12,7 +12,6 @@
 #include "platform/program.h"
 
 #include <QFile>
-#include <QScreen>
 
 namespace
 {
@@ -45,7 +44,7 @@ frmSplashScreen::frmSplashScreen(QWidget* parent) : QDialog(parent, Qt::SplashSc
     auto* page = new QVBoxLayout(this);
     page->addWidget(MakeCard(content));
     resize(sizeHint());
-    move(screen()->availableGeometry().center() - rect().center());
+    CentreOnScreen(this);
 }
 
 void frmSplashScreen::Form_Activate()

@@ -24,16 +24,16 @@ QStringList Written(int date)
     const auto in = [date](QLocale::Language language) {
         return Plain(QLocale(language).toString(DateOfSerial(date), "dd-MMMM-yyyy"));
     };
-    return {Plain(FormatDate(date, kShownDate)).section('-', 1), in(QLocale::English), in(QLocale::French)};
+    const QString shown = Plain(FormatDate(date, kShownDate));
+    return {shown, shown.section('-', 1), in(QLocale::English), in(QLocale::French)};
 }
 
 bool Reads(int date, const QString& typed)
 {
     const QStringList days = Written(date);
-    return Plain(FormatDate(date, kShownDate)).startsWith(typed) ||
-           std::any_of(days.begin(), days.end(), [&typed](const QString& day) {
-               return day.startsWith(typed) || (day.startsWith('0') && day.mid(1).startsWith(typed));
-           });
+    return std::any_of(days.begin(), days.end(), [&typed](const QString& day) {
+        return day.startsWith(typed) || (day.startsWith('0') && day.mid(1).startsWith(typed));
+    });
 }
 } // namespace
 

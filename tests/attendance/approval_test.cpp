@@ -309,6 +309,8 @@ TEST_F(Approval, TheApproverSeesWhatARequestWouldLeave)
     Requests(2, "Sick");
     user.Opens<frmApproval>().Picks("cboRecords", "26-03-02  Davis, Chris                              Vac");
     EXPECT_EQ(user.ReadsAll(figures), "Annual entitlement|28:00|14:00|14:00|03:30|10:30");
+    EXPECT_EQ(user.The<frmApproval>().findChild<QWidget*>("txtLeftAfter")->accessibleName(),
+              "Left after this request: 14:00");
     user.Picks("cboRecords", "26-03-02  Davis, Chris                              Time");
     EXPECT_EQ(user.ReadsAll(figures), "Time bank|10:00|-(06:30)|03:30|00:00|03:30");
     user.Picks("cboRecords", "26-03-02  Davis, Chris                              Sick");

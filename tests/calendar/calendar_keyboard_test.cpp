@@ -118,8 +118,12 @@ TEST_F(CalendarKeys, ARangeIsMarkedWithShiftOrByDraggingAndCounted)
     user.SeesMessage = {};
     After({Qt::Key_Escape});
     EXPECT_EQ(Days({{12, 4}, {12, 21}, {12, 28}}), "4 ffffff, 21 ffffff, 28 ffffff");
+}
 
-    After({Qt::Key_Home});
+TEST_F(CalendarKeys, ARangeBelongsToItsToolAndBeginsWhereTheCalendarStands)
+{
+    OpensOnMarie();
+    After({Qt::Key_PageDown, Qt::Key_Home});
     for (int time = 0; time < 2; ++time) {
         After({Qt::Key_2}, Qt::ControlModifier);
         After({Qt::Key_Right}, Qt::ShiftModifier);

@@ -261,6 +261,13 @@ QSize FittingScreen(const QWidget* window, const QSize& size)
     return size.boundedTo(window->screen()->availableSize() - kFrame);
 }
 
+void CentreOnScreen(QWidget* window)
+{
+    QRect place(QPoint(), window->size());
+    place.moveCenter(window->screen()->availableGeometry().center());
+    window->move(place.topLeft());
+}
+
 void ClearOptions(std::initializer_list<QRadioButton*> options)
 {
     for (QRadioButton* option : options) {

@@ -71,6 +71,9 @@ void SetMainButton(QPushButton* button, bool main);
 /// As much of a size as the screen of `window` has room for, the window's frame and the desktop's bars left out.
 QSize FittingScreen(const QWidget* window, const QSize& size);
 
+/// Moves a window without another behind it to the middle of its screen.
+void CentreOnScreen(QWidget* window);
+
 /// Shows a form modally and returns its result code. Tests and the tour install a runner that works the form instead
 /// of waiting for a person; an empty runner brings the waiting back.
 int ShowModal(QDialog& form);
