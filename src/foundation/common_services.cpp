@@ -124,10 +124,10 @@ int ShowMessage(Message message)
     if (message.Picture < Face::Warning || message.Picture > kLastFace)
         message.Picture = Face::Warning;
     DefaultWorkspace().PauseReading();
-    LastMessage& last = SessionState;
-    last = {message.Text, message.Title, 0, last.MessageStopAsking};
-    last.MessageResult = Presenter() ? Presenter()(message) : MessageCode::Cancel;
-    return last.MessageResult;
+    SessionState.MessageText = message.Text;
+    SessionState.MessageTitle = message.Title;
+    SessionState.MessageResult = 0;
+    return SessionState.MessageResult = Presenter() ? Presenter()(message) : MessageCode::Cancel;
 }
 
 int ResultOfButton(const QString& caption, int position)

@@ -36,14 +36,6 @@ constexpr std::array<const char*, 8> kFaces = {"face-warning",           "face-p
                                                "face-congratulating",    "face-paniquing",  "face-ashamed",
                                                "face-alternate-picture", "face-sad"};
 
-/// Once a message has asked for the input box, it stays for the rest of the session with what was typed in it.
-struct InputBox
-{
-    bool Shown = false;
-    QString Contents;
-};
-InputBox inputBox;
-
 /// Marks the first letter of the caption that no other button has taken; a caption with a mark of its own keeps it.
 QString WithMnemonic(const QString& caption, QString& taken)
 {
@@ -75,7 +67,7 @@ int ShowMessageBox(const Message& message)
 
 frmMessageBox::frmMessageBox(const Message& message, QWidget* parent) : QDialog(parent), message_(message)
 {
-    inputBox.Shown = inputBox.Shown || message.UseInputBox;
+    SessionState.InputBoxShown |= message.UseInputBox;
     BuildControls();
     BuildButtons();
     QVBoxLayout* page = PageLayout(this);
@@ -103,8 +95,8 @@ void frmMessageBox::BuildControls()
     txtMessage->setTabChangesFocus(true);
     txtMessage->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     txtMsgBxInputBox = Named<QLineEdit>("txtMsgBxInputBox");
-    txtMsgBxInputBox->setText(inputBox.Contents);
-    txtMsgBxInputBox->setVisible(inputBox.Shown);
+    txtMsgBxInputBox->setText(SessionState.InputBoxContents);
+    txtMsgBxInputBox->setVisible(SessionState.InputBoxShown);
     FilterKeys(txtMsgBxInputBox, KeyFilter::MessageInput);
     chkStopAsking = Named<QCheckBox>("chkStopAsking");
     chkStopAsking->setVisible(message_.ShowStopAsking);
@@ -146,8 +138,9 @@ void frmMessageBox::LoadCaptions()
     setWindowTitle(message_.Title);
     lblTitle->setText(message_.Title);
     lblTitle->setVisible(!message_.Title.isEmpty());
-    txtMessage->setAccessibleName(message_.Title);
-    txtMsgBxInputBox->setAccessibleName(message_.Title);
+    const QString named = message_.Title.isEmpty() ? message_.Text : message_.Title;
+    txtMessage->setAccessibleName(named);
+    txtMsgBxInputBox->setAccessibleName(named);
     setAccessibleDescription(message_.Text);
     chkStopAsking->setText(T("Do not show me this message any more", "Ne plus afficher ce message à l'avenir"));
 }
@@ -244,7 +237,7 @@ void frmMessageBox::showEvent(QShowEvent* event)
 
 void frmMessageBox::done(int result)
 {
-    inputBox.Contents = txtMsgBxInputBox->text();
+    SessionState.InputBoxContents = txtMsgBxInputBox->text();
     if (message_.ShowStopAsking)
         SessionState.MessageStopAsking = chkStopAsking->isChecked();
     QDialog::done(result);

@@ -188,6 +188,8 @@ TEST_F(MessageBox, TheInputBoxStaysForTheSessionWithItsContents)
     Shows(WithSet(0), [this](frmMessageBox& box) {
         EXPECT_TRUE(user.CanUse("txtMsgBxInputBox")) << "no later message hides it again";
         EXPECT_EQ(user.Reads("txtMsgBxInputBox"), "l`an 50  AB");
+        EXPECT_EQ(box.findChild<QLineEdit*>("txtMsgBxInputBox")->accessibleName(),
+                  box.findChild<QPlainTextEdit*>()->toPlainText());
         box.close();
     });
 }
