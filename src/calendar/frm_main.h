@@ -38,13 +38,11 @@ public:
 
     // What the commands do.
     void cmdQuit_Click();
-    void mnuFileDatabaseLocation_Click();
     void DisplayRecords(bool approved); ///< or the pending ones
     void mnuSpecialSwitchLanguage_Click();
     void mnuSpecialUpdateAdminInfo_Click();
     void mnuSpecialDeniedRequests_Click();
     void mnuSpecialCategoryCodes_Click();
-    void mnuHelpKeys_Click();
     /// This user wants the days to tell their categories by letters.
     static bool ShowsCodes();
     void imgUpdateSelection_Click();

@@ -1,6 +1,7 @@
 #include "calendar/frm_main_command_table.h"
 
 #include "calendar/frm_main.h"
+#include "calendar/frm_main_notes.h"
 #include "employees/frm_employees.h"
 #include "foundation/frm_about.h"
 #include "foundation/frm_change_password.h"
@@ -29,6 +30,13 @@ void Edits(frmMain& main)
 {
     Opens<Form>(main);
     main.ReloadAfterEditing();
+}
+
+/// Needs nothing of the main window.
+template <void (*Tell)()>
+void Tells(frmMain&)
+{
+    Tell();
 }
 
 /// For the entries that stand in the menus and do nothing, on purpose.
@@ -118,7 +126,7 @@ List FileMenu()
                   When(OneEmployeeShown, {"Select an employee first.", "Choisissez d'abord un(e) employé(e)."})),
             Below(Entry("mnuFileDatabaseLocation",
                         {"Database &location...", "&Localisation de la banque de données..."}, AdminOnly(),
-                        &frmMain::mnuFileDatabaseLocation_Click)),
+                        Tells<ShowDatabaseLocation>)),
             Entry("mnuFileNewDatabase", {"Connect to another d&atabase...", "Changer de &banque de données..."},
                   Everybody()),
             Below(Entry("mnuFileExit", {"E&xit", "&Quitter"}, Everybody(), &frmMain::cmdQuit_Click,
@@ -259,7 +267,7 @@ List SpecialMenu()
             Entry("mnuSpecialUpdateAdminInfo", {"A&dministrator profile...", "&Profil de l'administrateur..."},
                   AdminOnly(), &frmMain::mnuSpecialUpdateAdminInfo_Click),
             Entry("mnuSpecialSpecifyMailerProgram", {"&Mail program...", "Programme de &courriel..."}, Everybody(),
-                  [](frmMain&) { SpecifyMailerComponent(); }),
+                  Tells<SpecifyMailerComponent>),
             Below(FiscalYearMenu()),
             Below(ShownTo(AdminOnly(), Entry("mnuSpecialBatchUpdates", {"&Batch updates...", "Mises à &jour en lot..."},
                                              employees))),
@@ -276,7 +284,7 @@ List HelpMenu()
         "mnuHelp", {"&Help", "&Aide"}, Everybody(),
         {
             Entry("mnuHelpTutorial", {"On-line &tutorial", "&Manuel d'aide en ligne"}, Everybody()),
-            Entry("mnuHelpKeys", {"&Keyboard...", "&Clavier..."}, Everybody(), &frmMain::mnuHelpKeys_Click, Qt::Key_F1),
+            Entry("mnuHelpKeys", {"&Keyboard...", "&Clavier..."}, Everybody(), Tells<ShowKeys>, Qt::Key_F1),
             Entry("mnuHelpAbout", {"&About Tarvell...", "À &propos de Tarvell..."}, Everybody(), Opens<frmAbout>),
         });
 }

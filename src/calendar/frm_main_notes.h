@@ -1,0 +1,5 @@
+#pragma once
+
+/// What menu entries tell that need nothing of the main window.
+void ShowDatabaseLocation();
+void ShowKeys();
