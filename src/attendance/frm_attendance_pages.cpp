@@ -1,8 +1,11 @@
 #include "attendance/frm_attendance_pages.h"
 
 #include "foundation/frm_captions.h"
+#include "platform/controls/elided_label.h"
 #include "platform/controls/entry_lists.h"
 #include "platform/controls/remark_delegate.h"
+
+#include <QFontDatabase>
 
 namespace
 {
@@ -21,6 +24,17 @@ QString NameOf(const QModelIndex& entry)
 QString UnitOf(const QModelIndex& entry)
 {
     return entry.data().toString().section(" / ", 1).trimmed();
+}
+
+/// A head above a control, and a small grey text that ends at the control's right edge.
+QVBoxLayout* Remarked(const Text& head, QLabel* remark, QWidget* control)
+{
+    constexpr int kGapBelowHead = 5;
+    auto* line = Row({AsHead(LabelOf(control, head))});
+    line->addWidget(AsCaption(remark), 1, Qt::AlignRight);
+    QVBoxLayout* column = Stack(kGapBelowHead, {control});
+    column->insertLayout(0, line);
+    return column;
 }
 } // namespace
 
@@ -50,26 +64,23 @@ QGridLayout* AttendanceGeneralPage::PeopleAndDates()
     txtWhen->setReadOnly(true);
     txtWhen->setTabChangesFocus(true);
     txtWhen->setMinimumHeight(kListHeight);
-    lblEmployeeName = AsCaption(MakeLabel("lblEmployeeName"));
+    txtWhen->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)); // the dates stand one below the other
+    lblEmployeeName = Named<ElidedLabel>("lblEmployeeName");
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(kMargin);
-    grid->addLayout(Headed({"Who?", "Qui?"}, lstWho), 0, 0);
+    grid->addLayout(Remarked({"Who?", "Qui?"}, lblEmployeeName, lstWho), 0, 0);
     grid->addLayout(Headed({"When?", "Quand?"}, txtWhen), 0, 1);
-    grid->addWidget(lblEmployeeName, 0, 0, Qt::AlignTop | Qt::AlignRight);
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 2);
     return grid;
 }
 
-QGridLayout* AttendanceGeneralPage::Category()
+QVBoxLayout* AttendanceGeneralPage::Category()
 {
     cboCategories = Named<WalkedList>("cboCategories");
     Require(cboCategories);
-    lblBalance = AsCaption(MakeLabel("lblBalance"));
-    auto* grid = new QGridLayout;
-    grid->addLayout(Headed({"Why?", "Pourquoi?"}, cboCategories), 0, 0);
-    grid->addWidget(lblBalance, 0, 0, Qt::AlignTop | Qt::AlignRight);
-    return grid;
+    lblBalance = MakeLabel("lblBalance");
+    return Remarked({"Why?", "Pourquoi?"}, lblBalance, cboCategories);
 }
 
 QGridLayout* AttendanceGeneralPage::TimesAndDurations()

@@ -33,7 +33,7 @@ public:
 
 private:
     QGridLayout* PeopleAndDates();
-    QGridLayout* Category();
+    QVBoxLayout* Category();
     QGridLayout* TimesAndDurations();
 };
 

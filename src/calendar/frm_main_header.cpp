@@ -2,6 +2,7 @@
 
 #include "foundation/frm_captions.h"
 #include "foundation/frm_explained.h"
+#include "platform/controls/elided_label.h"
 #include "platform/controls/entry_lists.h"
 
 #include <QPainter>
@@ -12,32 +13,10 @@
 namespace
 {
 constexpr int kYearWidth = 80;
-constexpr int kMostWidth = 400;      ///< of the list of categories
-constexpr int kLeastWidth = 140;     ///< of it, where the name needs room
-constexpr int kWholeCharacters = 14; ///< a name of so many is not cut before the list is that narrow
+constexpr int kMostWidth = 400;  ///< of the list of categories
+constexpr int kLeastWidth = 140; ///< of it, where the name needs room
 constexpr Text kTotalForTheYear = {"Total for the year", "Total pour l'année"};
 constexpr Text kTimeBank = {"Time bank", "Banque de temps"};
-
-/// A figure that is cut with dots, and told whole by its tip, where there is no room for it.
-class ElidedLabel : public QLabel
-{
-public:
-    QSize minimumSizeHint() const override
-    {
-        const QSize whole = QLabel::sizeHint();
-        return {std::min(fontMetrics().averageCharWidth() * kWholeCharacters, whole.width()), whole.height()};
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-        setToolTip(shown == text() ? QString() : text());
-        QPainter painter(this);
-        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
-                              foregroundRole());
-    }
-};
 
 /// A small caption above a large figure.
 QFrame* FigureCard(const QString& name, const Text& caption, QLabel* figure)

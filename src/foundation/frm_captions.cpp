@@ -186,9 +186,7 @@ void SetRequired(QWidget* control, bool required)
 {
     if (control->property(kRequired).toBool() == required)
         return;
-    control->setProperty(kRequired, required);
-    control->style()->unpolish(control);
-    control->style()->polish(control);
+    SetStyled(control, kRequired, required);
     ShowRemark(control);
 }
 

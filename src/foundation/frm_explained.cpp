@@ -1,6 +1,7 @@
 #include "foundation/frm_explained.h"
 
 #include "foundation/common_services.h"
+#include "platform/controls/form_kit.h"
 #include "platform/dao/dao.h"
 
 #include <QEvent>
@@ -44,7 +45,7 @@ public:
         figure->installEventFilter(this);
         figure->setCursor(Qt::PointingHandCursor);
         figure->setFocusPolicy(Qt::StrongFocus); // by a click too: Escape takes the explanation away again
-        figure->setProperty("explained", true);
+        SetStyled(figure, "explained", true);
         figure->setIndent(0); // its frame would set it off from its caption
     }
 

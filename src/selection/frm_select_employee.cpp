@@ -1,6 +1,7 @@
 #include "selection/frm_select_employee.h"
 
 #include "foundation/connection.h"
+#include "platform/controls/elided_label.h"
 
 namespace
 {
@@ -60,7 +61,7 @@ frmSelectEmployee::frmSelectEmployee(QWidget* parent, Purpose purpose)
     for (const ReachList list : kLists)
         AddList(content, list);
     Page()->addWidget(MakeCard(content));
-    lblChoice = AsFigure(MakeLabel("lblChoice"));
+    lblChoice = AsFigure(Named<ElidedLabel>("lblChoice"));
     cmdSelect = AddMainButton("cmdSelect", {"&Select", "&Sélectionner"}, [this] { cmdSelect_Click(); });
     LayFoot({lblChoice}, {AddWayOut({"&Cancel", "&Annuler"}, "cmdQuit"), cmdSelect});
     SetSize(kOpeningSize);

@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QTabBar>
 #include <QTabWidget>
@@ -279,6 +280,25 @@ TEST_F(FrmAttendance, AGuardThatRefusesEndsTheEntryAndBorrowedTimeIsStoredAsClai
     user.Types("txtDurationInHours", "5").WillConfirm().Clicks("cmdAddOrUpdate");
     EXPECT_EQ(house.Rows("SELECT CategoryID, Duration, TotalDuration FROM Attendance WHERE RecordDate = 46083"),
               QString::number(house.CategoryID("Time claimed")) + "|-5|-5");
+}
+
+TEST_F(FrmAttendance, WhatExplainsItselfShowsTheFocusAndLongNamesAreCut)
+{
+    Entitle(chris, "Vacation", 0, 35);
+    const QString wide(30, 'W');
+    house.Sql("UPDATE Employees SET FirstName = ?1, FamilyName = ?1 WHERE RecordID = ?2", {wide, chris});
+    Begin({2}, chris, "Vacation");
+    Opens();
+    const auto& form = user.The<frmAttendance>();
+    auto* balance = form.findChild<QLabel*>("lblBalance");
+    form.findChild<QWidget*>("cboCategories")->setFocus();
+    const QImage before = balance->grab().toImage();
+    balance->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(balance->hasFocus() && balance->grab().toImage() != before);
+    auto* name = form.findChild<QLabel*>("lblEmployeeName");
+    EXPECT_GT(name->x(), form.findChild<QLabel*>("lblWho")->geometry().right());
+    name->grab();
+    EXPECT_EQ(name->toolTip(), wide + " " + wide);
 }
 
 TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)

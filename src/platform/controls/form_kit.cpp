@@ -239,13 +239,18 @@ QPushButton* AsMainButton(QPushButton* button)
     return button;
 }
 
-void SetLook(QWidget* control, const char* look)
+void SetStyled(QWidget* control, const char* property, const QVariant& value)
 {
-    if (control->property("look").toString() == QLatin1String(look))
+    if (control->property(property) == value)
         return;
-    control->setProperty("look", QString::fromLatin1(look));
+    control->setProperty(property, value);
     control->style()->unpolish(control);
     control->style()->polish(control);
+}
+
+void SetLook(QWidget* control, const char* look)
+{
+    SetStyled(control, "look", *look ? QVariant(QString::fromLatin1(look)) : QVariant());
 }
 
 void SetMainButton(QPushButton* button, bool main)

@@ -51,6 +51,8 @@ QLabel* AsFigure(QLabel* label);
 QLabel* AsNotice(QLabel* label);
 /// A small grey caption above the control that it names.
 QVBoxLayout* Captioned(QLabel* caption, QWidget* control);
+/// A property that the style sheet knows; the control is styled anew when it changes.
+void SetStyled(QWidget* control, const char* property, const QVariant& value);
 /// The look by which the style sheet knows a control; empty for the plain one.
 void SetLook(QWidget* control, const char* look);
 /// A button that goes off as soon as its letter is pressed. The toolkit's own first shows itself pressed for a moment,
