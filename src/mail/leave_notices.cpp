@@ -65,27 +65,37 @@ QString CopyBody(const LeaveRequest& request)
 
 QVector<Notice> RequestNotices(const LeaveRequest& request)
 {
-    QVector<Notice> notices{{request.FirstApproverEMail, T(kRequestSubject), RequestBody(request)}};
+    QVector<Notice> notices{{.Address = request.FirstApproverEMail,
+                             .Subject = T(kRequestSubject),
+                             .Body = RequestBody(request),
+                             .EmployeeID = request.FirstApprover}};
     if (!request.SecondApproverName.isEmpty())
-        notices.append({request.SecondApproverEMail, T(kRequestSubject), CopyBody(request)});
+        notices.append({.Address = request.SecondApproverEMail,
+                        .Subject = T(kRequestSubject),
+                        .Body = CopyBody(request),
+                        .EmployeeID = request.SecondApprover});
     notices.removeIf([](const Notice& notice) { return notice.Address.trimmed().isEmpty(); });
     return notices;
 }
 
-Notice OutcomeNotice(const QString& address, const QString& summary, const QString& reason)
+Notice OutcomeNotice(int employee, const QString& address, const QString& summary, const QString& reason)
 {
     const QDateTime now = CurrentDateTime();
     const QString text = T(kOutcomeBody) + (reason.trimmed().isEmpty() ? QString() : T(kReason));
-    return {address, T(kOutcomeSubject),
-            Fill(text, {{"user", SessionState.LoginID},
-                        {"date", QLocale().toString(now.date(), "ddd dd-MMMM")},
-                        {"time", now.toString("HH:mm")},
-                        {"summary", summary},
-                        {"reason", reason}})};
+    return {.Address = address,
+            .Subject = T(kOutcomeSubject),
+            .Body = Fill(text, {{"user", SessionState.LoginID},
+                                {"date", QLocale().toString(now.date(), "ddd dd-MMMM")},
+                                {"time", now.toString("HH:mm")},
+                                {"summary", summary},
+                                {"reason", reason}}),
+            .EmployeeID = employee};
 }
 
-Notice CancellationNotice(const QString& address, const QString& category, const QString& dates)
+Notice CancellationNotice(int approver, const QString& address, const QString& category, const QString& dates)
 {
-    return {address, T(kCancellationSubject),
-            T(kCancellationBody, {{"user", SenderName()}, {"category", category}, {"dates", dates}})};
+    return {.Address = address,
+            .Subject = T(kCancellationSubject),
+            .Body = T(kCancellationBody, {{"user", SenderName()}, {"category", category}, {"dates", dates}}),
+            .EmployeeID = approver};
 }

@@ -9,8 +9,10 @@ struct LeaveRequest
     QString Category;
     QString Dates; ///< a line each
     QString Comment = {};
+    int FirstApprover = 0; ///< RecordID
     QString FirstApproverName = {};
     QString FirstApproverEMail = {};
+    int SecondApprover = 0;
     QString SecondApproverName = {}; ///< empty when there is no second approver
     QString SecondApproverEMail = {};
 };
@@ -19,8 +21,8 @@ struct LeaveRequest
 /// is left out.
 QVector<Notice> RequestNotices(const LeaveRequest& request);
 
-/// To whoever asked: what came of his requests. An empty reason is left out.
-Notice OutcomeNotice(const QString& address, const QString& summary, const QString& reason);
+/// To the employee who asked: what came of his requests. An empty reason is left out.
+Notice OutcomeNotice(int employee, const QString& address, const QString& summary, const QString& reason);
 
 /// To the approver of a request that is cancelled before it was settled.
-Notice CancellationNotice(const QString& address, const QString& category, const QString& dates);
+Notice CancellationNotice(int approver, const QString& address, const QString& category, const QString& dates);

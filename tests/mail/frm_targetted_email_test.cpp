@@ -95,11 +95,15 @@ TEST_F(TargettedMail, AScheduleGoesToItsUnitAndToNewPeopleWhoMayEnterTheAddressB
     }
     EXPECT_EQ(user.Reads("txtNewName"), "");
     house.Refuses("INSERT ON AddressBook");
+    house.MailEnds = {{"MAPI", {3, "none"}}, {"automation", {75, "no server"}}};
     user.WillAnswer("CONFIRM:", "Yes")
         .WillAnswer("TARVELL", "Yes")
         .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "refused");
     user.Clicks("cmdSend");
-    EXPECT_EQ(Told(), "SMTP:eva@x.org SMTP:li@y.org SMTP:li@y.org") << "who is added twice is told twice";
+    EXPECT_EQ(Told(), "SMTP:eva@x.org eva@x.org li@y.org li@y.org") << "who is added twice is told twice";
+    ASSERT_EQ(UnsentNotices().size(), 3);
+    EXPECT_EQ(UnsentNotices()[0].Message.EmployeeID, eva) << "whose address may be mended before it is sent again";
+    EXPECT_EQ(UnsentNotices()[1].Message.EmployeeID, 0);
     house.Sql("DROP TRIGGER Refusing");
 
     opens({.ScopeEmployeeID = eva});
