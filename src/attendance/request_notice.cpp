@@ -23,11 +23,7 @@ void EMailRequest(const AttendanceEntry& entry)
                                 .Dates = entry.RequestedDates,
                                 .Comment = entry.Comment,
                                 .FirstApprover = entry.FirstApprover,
-                                .FirstApproverName = entry.FirstApproverName,
-                                .FirstApproverEMail = entry.FirstApproverEMail,
-                                .SecondApprover = entry.SecondApprover,
-                                .SecondApproverName = entry.SecondApproverName,
-                                .SecondApproverEMail = entry.SecondApproverEMail}));
+                                .SecondApprover = entry.SecondApprover}));
 }
 
 void EMailNotice(int employee, const QString& address, const QVector<RequestedDate>& settled, const QString& reason)

@@ -56,24 +56,24 @@ QString RequestBody(const LeaveRequest& request)
 
 QString CopyBody(const LeaveRequest& request)
 {
-    return T(kCopyBody, {{"first", request.FirstApproverName},
+    return T(kCopyBody, {{"first", request.FirstApprover.Name},
                          {"employee", request.Employee},
                          {"category", request.Category},
                          {"list", request.Dates}});
+}
+
+Notice NoticeTo(const Approver& approver, const QString& body)
+{
+    return {
+        .Address = approver.EMailAddress, .Subject = T(kRequestSubject), .Body = body, .EmployeeID = approver.RecordID};
 }
 } // namespace
 
 QVector<Notice> RequestNotices(const LeaveRequest& request)
 {
-    QVector<Notice> notices{{.Address = request.FirstApproverEMail,
-                             .Subject = T(kRequestSubject),
-                             .Body = RequestBody(request),
-                             .EmployeeID = request.FirstApprover}};
-    if (!request.SecondApproverName.isEmpty())
-        notices.append({.Address = request.SecondApproverEMail,
-                        .Subject = T(kRequestSubject),
-                        .Body = CopyBody(request),
-                        .EmployeeID = request.SecondApprover});
+    QVector<Notice> notices{NoticeTo(request.FirstApprover, RequestBody(request))};
+    if (!request.SecondApprover.Name.isEmpty())
+        notices.append(NoticeTo(request.SecondApprover, CopyBody(request)));
     notices.removeIf([](const Notice& notice) { return notice.Address.trimmed().isEmpty(); });
     return notices;
 }

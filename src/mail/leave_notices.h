@@ -2,6 +2,15 @@
 
 #include "mail/mail_component.h"
 
+/// Who settles a request.
+struct Approver
+{
+    int RecordID = 0;  ///< 0 none
+    QString Name = {}; ///< "FirstName FamilyName"; empty when there is no such person
+    QString EMailAddress = {};
+    bool HasLeft = false;
+};
+
 /// A request for leave as its approvers are told of it. Texts are in the language of the session.
 struct LeaveRequest
 {
@@ -9,12 +18,8 @@ struct LeaveRequest
     QString Category;
     QString Dates; ///< a line each
     QString Comment = {};
-    int FirstApprover = 0; ///< RecordID
-    QString FirstApproverName = {};
-    QString FirstApproverEMail = {};
-    int SecondApprover = 0;
-    QString SecondApproverName = {}; ///< empty when there is no second approver
-    QString SecondApproverEMail = {};
+    Approver FirstApprover = {};
+    Approver SecondApprover = {};
 };
 
 /// To the first approver, and to the second one when there is one; both may be the same person. Whoever has no address

@@ -325,8 +325,8 @@ TEST_F(Approval, WhatIsSentAgainGoesToTheAddressThatIsOnFileByThen)
     house.MailEnds = {{"MAPI", {3, "none"}}, {"automation", {75, "no server"}}};
     house.Sql("UPDATE Employees SET EMailAddress = 'a@old.org'");
     Begin({2}, chris, "Vacation");
-    entry.FirstApprover = marc;
-    entry.SecondApprover = eve;
+    entry.FirstApprover.RecordID = marc;
+    entry.SecondApprover.RecordID = eve;
     GetApprovalNames(datAbsence, entry);
     EMailRequest(entry);
     EMailRequestCancellation(datAbsence, {"", "", entry.SelectedCategoryID, eve, {}});

@@ -135,8 +135,8 @@ TEST_F(MailComponent, BothApproversAreToldTwoSecondsApartEvenWhenTheyAreOnePerso
                         waits << QStringLiteral("%1 after %2").arg(seconds).arg(house.Mail.size());
                         EXPECT_TRUE(MailOnItsWay::IsAny()) << "the minute's work waits meanwhile";
                     }});
-    LeaveRequest request{"Dan Dube", "Vacation", "Mon 02\r\nTue 03", " ", dan, "Eve Roy", "eve@example.org",
-                         dan,        "Eve Roy",  "eve@example.org"};
+    const Approver eve{dan, "Eve Roy", "eve@example.org"};
+    LeaveRequest request{"Dan Dube", "Vacation", "Mon 02\r\nTue 03", " ", eve, eve};
     SendNotices(RequestNotices(request));
     EXPECT_EQ(waits, QStringList{"2 after 1"});
     ASSERT_EQ(house.Mail.size(), 2);
@@ -151,7 +151,7 @@ TEST_F(MailComponent, BothApproversAreToldTwoSecondsApartEvenWhenTheyAreOnePerso
 
     SessionState.English = false;
     request.Comment = " {list} merci ";
-    request.SecondApproverEMail = " ";
+    request.SecondApprover.EMailAddress = " ";
     const QVector<Notice> french = RequestNotices(request);
     ASSERT_EQ(french.size(), 1) << "nobody writes to an address of blanks";
     EXPECT_EQ(french[0].Subject, "TARVELL  -  Demande de congé");
