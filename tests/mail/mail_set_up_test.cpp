@@ -57,6 +57,8 @@ TEST_F(MailSetUp, TheComponentIsOfferedAndItsInstallationDecidesWhatComesNext)
     user.WillAnswer(welcome, "No", "called «Redemption»");
     DownloadRedemption();
     EXPECT_EQ(page, "");
+    user.WillAnswer(welcome, "Yes").WillAnswer("CONFIRM:", "No", "DOWNLOAD");
+    DownloadRedemption();
     EXPECT_EQ(Kept(), "0|666");
 
     user.WillAnswer(welcome, "Yes").WillAnswer("CONFIRM:", "Yes", "DOWNLOAD").WillAnswer("CONFIRM:", "No", "INSTALL");
