@@ -71,9 +71,8 @@ Notice NoticeTo(const Approver& approver, const QString& body)
 
 QVector<Notice> RequestNotices(const LeaveRequest& request)
 {
-    QVector<Notice> notices{NoticeTo(request.FirstApprover, RequestBody(request))};
-    if (!request.SecondApprover.Name.isEmpty())
-        notices.append(NoticeTo(request.SecondApprover, CopyBody(request)));
+    QVector<Notice> notices{NoticeTo(request.FirstApprover, RequestBody(request)),
+                            NoticeTo(request.SecondApprover, CopyBody(request))};
     notices.removeIf([](const Notice& notice) { return notice.Address.trimmed().isEmpty(); });
     return notices;
 }

@@ -63,7 +63,6 @@ bool HasFailed(const MailResult& result)
 
 MailResult SendByAutomation(const Notice& notice)
 {
-    PrepareMailComponent();
     return MailRoutesHere().Automation.Send(MessageOf(notice, ""));
 }
 
@@ -104,19 +103,18 @@ void GiveUp(const Notice& notice, const QString& cause)
 void PrepareMailComponent()
 {
     Session& s = SessionState;
-    if (!s.MailConfigured && s.MAPISessionID == 0) {
+    if (s.MailConfigured)
+        return;
+    if (s.MAPISessionID == 0) {
         s.MAPISessionID = MailRoutesHere().Desktop.IsThere() ? kSession : 0;
         return;
     }
-    if (s.MAPISessionID > 0 && !s.MailConfigured) {
-        s.MailConfigured = true;
-        try {
-            SaveMailConfiguration();
-        } catch (const RuntimeError&) {
-            // It holds for the session all the same.
-        }
-    }
     s.MailConfigured = true;
+    try {
+        SaveMailConfiguration();
+    } catch (const RuntimeError&) {
+        // It holds for the session all the same.
+    }
 }
 
 void SaveMailConfiguration(int stage)
@@ -142,7 +140,7 @@ MailResult SendNotice(const Notice& notice)
         return {MailError::BadAddress, "There is no e-mail address"};
     const MailOnItsWay onItsWay;
     DefaultWorkspace().PauseReading();
-    if (!SessionState.MailConfigured && SessionState.MAPISessionID == 0)
+    if (SessionState.MAPISessionID == 0)
         PrepareMailComponent();
     const MailResult result = SendByRoute(notice);
     if (HasFailed(result))

@@ -18,9 +18,9 @@ struct Notice
     int EmployeeID = 0;                ///< RecordID of the employee whose address it is; 0 none
 };
 
-/// Finds out by which route this workstation can send, before each use: signs on to MAPI, or makes the automation route
-/// ready. A workstation that is signed on and comes here again needs the automation route; that is kept for good.
-/// Throws nothing.
+/// Finds out by which route this workstation can send: signs on to MAPI, unless it uses the automation route. A
+/// workstation that is signed on and comes here again needs the automation route; that is kept for good. Throws
+/// nothing.
 void PrepareMailComponent();
 
 /// Keeps the session's route for good, and with it the stage of the mail component's set-up. Throws RuntimeError.

@@ -73,6 +73,7 @@ TEST_F(TargettedMail, NobodyIsLeftUntoldUnawares)
 TEST_F(TargettedMail, AScheduleGoesToItsUnitAndToNewPeopleWhoMayEnterTheAddressBook)
 {
     ReloadEmployeesListIfFlagged(datAbsence, ListedEmployees::All);
+    house.Sql("UPDATE FiscalYears SET ReloadEmployeesList = 1");
     const auto opens = [&](TargettedEMail job) {
         job.WebAddress = "http://x.org/s";
         user.Opens<frmTargettedEMail>(job);
@@ -86,6 +87,7 @@ TEST_F(TargettedMail, AScheduleGoesToItsUnitAndToNewPeopleWhoMayEnterTheAddressB
     EXPECT_EQ(opens({.ScopeOrganizationID = 1}), "Abel Bell Dube");
     EXPECT_EQ(opens({}), "Abel Bell Dube Ellis");
     EXPECT_EQ(opens({.ScopeEmployeeID = eva}), "Ellis");
+    EXPECT_EQ(ListFlag(), 1) << "a schedule has its own people: nothing is rebuilt for it";
 
     EXPECT_FALSE(user.CanUse("cmdAdd"));
     user.Types("txtNewName", "Li").WillAnswer("CONFIRM:", "No", "not been saved").Presses("", Qt::Key_Escape);
