@@ -32,78 +32,74 @@ protected:
         house.Sql("INSERT INTO Entitlements (CategoryID, EmployeeID, Active) VALUES (1, ?, 1)", {anna});
         house.Sql("UPDATE Employees SET IsAuthorizedToApprove = 1 WHERE LoginID = 'ADMIN'");
         for (int day = 1; day <= 30; ++day)
-            house.Sql("UPDATE Attendance SET SubmittedTo_Second = (SELECT RecordID FROM Employees WHERE LoginID = "
-                      "'ADMIN') WHERE RecordID = ?",
-                      {house.Record(anna, "Sick", {2026, 6, day}, 7, true)});
+            house.Record(anna, "Sick", {2026, 6, day}, 7, true);
+        house.Sql(
+            "UPDATE Attendance SET SubmittedTo_Second = (SELECT RecordID FROM Employees WHERE LoginID = 'ADMIN')");
+        main = &user.OpensMain("ADMIN"); // from here on the file is at hand
+        Selects("Abel", "imgUpdateSelection");
+    }
+    /// What is written goes to the disk together.
+    void Costs(int most, const std::function<void()>& work)
+    {
+        calls.StartCounting();
+        work();
+        EXPECT_LE(calls.All(), most);
+        EXPECT_LE(calls.Of(FileCall::Sync), 4) << most;
+    }
+    void Selects(const QString& name, const QString& control)
+    {
+        user.WhenOpens<frmSelectEmployee>(
+            [this, name](frmSelectEmployee&) { user.Picks("lstEmployees", name).Clicks("cmdSelect"); });
+        user.Clicks(control);
     }
 
     FileCalls calls;
     House house;
     MainUser user;
+    frmMain* main = nullptr;
     int anna = 0;
 };
 
-TEST_F(OnAShare, EveryClickCostsFewCalls)
+TEST_F(OnAShare, AClickInTheMainWindowCostsFewCalls)
 {
-    const auto costs = [this](int most, const std::function<void()>& work) {
-        calls.StartCounting();
-        work();
-        EXPECT_LE(calls.All(), most);
-    };
-    const auto select = [this](const QString& name) {
-        user.WhenOpens<frmSelectEmployee>(
-            [this, name](frmSelectEmployee&) { user.Picks("lstEmployees", name).Clicks("cmdSelect"); });
-    };
-    const auto change = [&](const QString& name) {
-        select(name);
-        user.Clicks("imgUpdateSelection");
-    };
-    user.OpensMain("ADMIN"); // from here on the file is at hand
-    frmMain* main = nullptr;
-    costs(110, [&] { main = &user.OpensMain("ADMIN"); });
-    costs(10, [&] { main->timAbsence_Timer(); });
+    Costs(110, [this] { main = &user.OpensMain("ADMIN"); });
+    Costs(10, [this] { main->timAbsence_Timer(); });
     EXPECT_EQ(user.Reads("imgApprove"), "Approve (1)") << "an approver's minute costs no more";
-    costs(20, [&] { user.Picks("cboCategories", "Vacation"); });
-    change("Abel");
-    costs(35, [&] { change("Employee 7,"); });
-    costs(35, [&] { user.Clicks("cmdNextYear"); });
-    user.Clicks("cmdPreviousYear");
+    Costs(20, [this] { user.Picks("cboCategories", "Vacation"); });
+    Costs(35, [this] { Selects("Employee 7,", "imgUpdateSelection"); });
+    Costs(35, [this] { user.Clicks("cmdNextYear"); });
+    user.Clicks("cmdPreviousYear").WillAnswer("MANAGING EMPLOYEE TIME BANKS", "No");
+    Costs(25, [this] { user.Picks("cboCategories", "Time claimed"); });
 
-    user.WillAnswer("MANAGING EMPLOYEE TIME BANKS", "No");
-    costs(25, [&] { user.Picks("cboCategories", "Time claimed"); });
-    user.Picks("cboCategories", "(All categories)");
-    costs(40, [&] { user.Opens<frmEntitlements>(); });
-    costs(40, [&] { user.Picks("cboRecords", "Abel"); });
-    user.Leaves();
+    QFile::remove(house.DatabaseFile());
+    main->timAbsence_Timer(); // whoever does nothing is told nothing when the share is away for a moment
+}
 
-    costs(40, [&] { user.Opens<frmEmployees>(); });
-    costs(40, [&] {
-        select("Abel");
-        user.Clicks("cmdModify");
-    });
+TEST_F(OnAShare, AFormCostsFewCalls)
+{
+    Costs(40, [this] { user.Opens<frmEntitlements>(); });
+    Costs(40, [this] { user.Picks("cboRecords", "Abel"); });
     user.Leaves();
-    costs(40, [&] { user.Opens<frmApproval>(); });
+    Costs(40, [this] { user.Opens<frmEmployees>(); });
+    Costs(40, [this] { Selects("Abel", "cmdModify"); });
+    user.Leaves();
+    Costs(40, [this] { user.Opens<frmApproval>(); });
     user.Picks("cboRecords", "26-0").Clicks("optApproveAll").WillConfirm().WillBeDone();
-    costs(115, [&] { user.Clicks("cmdProcess"); });
-    EXPECT_LE(calls.Of(FileCall::Sync), 4) << "all dates are written together";
-    user.Leaves().Works(*main);
-    change("Abel");
+    Costs(115, [this] { user.Clicks("cmdProcess"); });
+}
+
+TEST_F(OnAShare, ARecordCostsFewCalls)
+{
     user.Picks("cboCategories", "Vacation");
     for (const QString tool : {"imgCreateSingle", "imgModify"}) {
         user.WhenOpens<frmAttendance>([&](frmAttendance&) {
             user.Types("txtDurationInHours", "2").Picks("cboCategories", "Vacation").WillConfirm();
             if (tool == "imgModify")
                 user.WillBeDone("has been modified");
-            calls.StartCounting();
-            user.Clicks("cmdAddOrUpdate");
+            Costs(115, [this] { user.Clicks("cmdAddOrUpdate"); });
         });
         user.Clicks(tool);
         user.ClicksDay({2026, 3, 4});
-        EXPECT_LE(calls.All(), 115) << qPrintable(tool);
-        EXPECT_LE(calls.Of(FileCall::Sync), 4) << qPrintable(tool);
     }
-
-    QFile::remove(house.DatabaseFile());
-    main->timAbsence_Timer(); // whoever does nothing is told nothing when the share is away for a moment
 }
 } // namespace

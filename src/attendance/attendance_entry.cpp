@@ -48,13 +48,6 @@ void ClearTimes(AttendanceEntry& entry)
     entry.EndTimeText.clear();
 }
 
-void ClearDurationTexts(AttendanceEntry& entry)
-{
-    entry.HoursText.clear();
-    entry.MinutesText.clear();
-    entry.TotalTimeText.clear();
-}
-
 /// The end on the day of the start, so that a start chosen anew decides afresh whether midnight lies between.
 void TakeEndBackToItsDay(AttendanceEntry& entry)
 {
@@ -74,10 +67,12 @@ void ShowPeriod(AttendanceEntry& entry)
     RecalculateTotalTime(entry);
 }
 
-void BeginTimeChoice(AttendanceEntry& entry)
+void ForgetDuration(AttendanceEntry& entry)
 {
     ClearDurations(entry);
-    ClearDurationTexts(entry);
+    entry.HoursText.clear();
+    entry.MinutesText.clear();
+    entry.TotalTimeText.clear();
     entry.Part = DayPart::None;
 }
 
@@ -167,12 +162,10 @@ void FindDayParts(AttendanceEntry& entry)
 
 void ChooseDayPart(AttendanceEntry& entry, DayPart part, bool checked)
 {
-    ClearDurations(entry);
-    ClearTimes(entry);
-    ClearDurationTexts(entry);
-    entry.Part = checked ? part : DayPart::None;
+    ClearEntryFields(entry);
     if (!checked)
         return;
+    entry.Part = part;
     TakeScheduledTimes(entry, part);
     entry.StartTimeText = DurationText(entry.StartTime);
     entry.EndTimeText = DurationText(entry.EndTime);
@@ -182,7 +175,7 @@ void ChooseDayPart(AttendanceEntry& entry, DayPart part, bool checked)
 
 void ChooseStartTime(AttendanceEntry& entry, const QString& text)
 {
-    BeginTimeChoice(entry);
+    ForgetDuration(entry);
     entry.StartTimeText = text;
     entry.StartTime = ClockHours(text);
     if (entry.EndTime == 0) {
@@ -195,7 +188,7 @@ void ChooseStartTime(AttendanceEntry& entry, const QString& text)
 
 void ChooseEndTime(AttendanceEntry& entry, const QString& text)
 {
-    BeginTimeChoice(entry);
+    ForgetDuration(entry);
     entry.EndTimeText = text;
     entry.EndTime = ClockHours(text);
     ShowPeriod(entry);
@@ -203,10 +196,7 @@ void ChooseEndTime(AttendanceEntry& entry, const QString& text)
 
 void TypeDuration(AttendanceEntry& entry, const QString& hours, const QString& minutes)
 {
-    ClearDurations(entry);
-    ClearTimes(entry);
-    entry.Part = DayPart::None;
-    entry.TotalTimeText.clear();
+    ClearEntryFields(entry);
     entry.HoursText = hours;
     entry.MinutesText = minutes;
 }
@@ -232,8 +222,6 @@ void ShowDuration(AttendanceEntry& entry, float hours)
 
 void ClearEntryFields(AttendanceEntry& entry)
 {
-    ClearDurations(entry);
+    ForgetDuration(entry);
     ClearTimes(entry);
-    ClearDurationTexts(entry);
-    entry.Part = DayPart::None;
 }

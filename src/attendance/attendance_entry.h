@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/session_state.h"
+#include "mail/leave_notices.h"
 
 #include <array>
 
@@ -76,14 +77,8 @@ struct AttendanceEntry : AttendanceJob, WorkSchedule, CategoryFacts
     // The employee.
     QString EmployeeName;   ///< "FirstName FamilyName"
     float EmployeeRate = 0; ///< money per hour, or a hidden rate of the record; holds when HourlyRateText is empty
-    int FirstApprover = 0;
-    int SecondApprover = 0;
-    QString FirstApproverName;
-    QString FirstApproverEMail;
-    bool FirstApproverHasLeft = false;
-    QString SecondApproverName; ///< empty when there is no second approver
-    QString SecondApproverEMail;
-    bool SecondApproverHasLeft = false;
+    Approver FirstApprover;
+    Approver SecondApprover;
 
     // The category, SelectedCategoryID.
     QString CategoryName;          ///< as shown

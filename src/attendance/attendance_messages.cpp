@@ -18,7 +18,7 @@ QString Possessive(const QString& name)
     return name + (name.endsWith('s', Qt::CaseInsensitive) ? "'" : "'s");
 }
 
-QString OutOfReach(const QString& name, const QString& address, bool hasLeft)
+QString OutOfReach(const Approver& approver)
 {
     constexpr Text kHasLeft = {"{name} has left and will not settle this request: see your system administrator.",
                                "{name} ne travaille plus ici et ne traitera pas cette demande : consultez votre "
@@ -26,9 +26,9 @@ QString OutOfReach(const QString& name, const QString& address, bool hasLeft)
     constexpr Text kHasNoAddress = {
         "{name} has no valid e-mail address and will not be told of this request by mail.",
         "{name} n'a pas d'adresse de courriel valide et ne sera pas avisé(e) de cette demande."};
-    if (name.isEmpty() || (!hasLeft && IsMailAddress(BareAddress(address))))
+    if (approver.Name.isEmpty() || (!approver.HasLeft && IsMailAddress(BareAddress(approver.EMailAddress))))
         return {};
-    return T(hasLeft ? kHasLeft : kHasNoAddress, {{"name", name}});
+    return T(approver.HasLeft ? kHasLeft : kHasNoAddress, {{"name", approver.Name}});
 }
 } // namespace
 
@@ -75,8 +75,7 @@ bool ConfirmModification(const AttendanceEntry& entry)
 
 QString ApproversOutOfReach(const AttendanceEntry& entry)
 {
-    QStringList lines = {OutOfReach(entry.FirstApproverName, entry.FirstApproverEMail, entry.FirstApproverHasLeft),
-                         OutOfReach(entry.SecondApproverName, entry.SecondApproverEMail, entry.SecondApproverHasLeft)};
+    QStringList lines = {OutOfReach(entry.FirstApprover), OutOfReach(entry.SecondApprover)};
     lines.removeAll(QString());
     lines.removeDuplicates(); // one person may stand for both
     return lines.join('\n');
@@ -86,7 +85,7 @@ void TellSubmitted(const AttendanceEntry& entry)
 {
     QString text = T("Your request for leave has been recorded and a notification has been sent to {first}",
                      "Votre demande de congé a été reçue et acheminée à {first}");
-    if (entry.SecondApprover != 0)
+    if (entry.SecondApprover.RecordID != 0)
         text += T(" and copied to {second}", " copie conforme à {second}");
     text +=
         T(". If you do not receive an acknowledgment that your request has been processed or if you don't see your "
@@ -96,7 +95,7 @@ void TellSubmitted(const AttendanceEntry& entry)
           "apparaître sur le calendrier d'ici quelque jours, assurez-vous de faire un suivi auprès de votre "
           "supérieur.");
     Tell(T("REQUEST SUBMITTED SUCCESSFULLY:", "DEMANDE DE CONGÉ ENREGISTRÉE:"),
-         Fill(text, {{"first", entry.FirstApproverName}, {"second", entry.SecondApproverName}}));
+         Fill(text, {{"first", entry.FirstApprover.Name}, {"second", entry.SecondApprover.Name}}));
 }
 
 void TellModified()

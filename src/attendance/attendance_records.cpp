@@ -22,16 +22,15 @@ void TakeEmployee(const EmployeeRow& employee, AttendanceEntry& entry)
     entry.EmployeeDepartmentID = employee.DepartmentID;
     entry.EmployeeGroupID = employee.GroupID;
     TakeSchedule(employee, entry);
-    entry.FirstApprover = employee.ApprovedByMain;
-    entry.SecondApprover = employee.ApprovedByBackup;
+    entry.FirstApprover.RecordID = employee.ApprovedByMain;
+    entry.SecondApprover.RecordID = employee.ApprovedByBackup;
     entry.EmployeeRate = static_cast<float>(employee.HourlyRate);
     entry.EmployeeName = FullName(employee.FirstName, employee.FamilyName);
 }
 
 void ForgetEmployee(AttendanceEntry& entry)
 {
-    entry.FirstApprover = 0;
-    entry.SecondApprover = 0;
+    entry.FirstApprover = entry.SecondApprover = {};
     entry.EmployeeRate = 0;
     static_cast<WorkSchedule&>(entry) = WorkSchedule();
 }
@@ -73,11 +72,14 @@ AttendanceRow EnteredRow(const AttendanceEntry& entry)
     return row;
 }
 
-void TakeApprover(const Recordset& person, QString& name, QString& address, bool& hasLeft)
+Approver FindApprover(DataControl& datAbsence, int recordID)
 {
-    name = FullName(person);
-    address = person.Text("EMailAddress").trimmed();
-    hasLeft = person.Long("DeactivatedDate") != 0;
+    Approver approver{.RecordID = recordID};
+    for (const Recordset& person : datAbsence.Select(
+             "SELECT FirstName, FamilyName, EMailAddress, DeactivatedDate FROM Employees WHERE RecordID = ?", recordID))
+        approver = {recordID, FullName(person), person.Text("EMailAddress").trimmed(),
+                    person.Long("DeactivatedDate") != 0};
+    return approver;
 }
 
 AttendanceRow NewRow(const AttendanceEntry& entry)
@@ -195,16 +197,8 @@ void ReloadRecord(DataControl& datAbsence, AttendanceEntry& entry)
 void GetApprovalNames(DataControl& datAbsence, AttendanceEntry& entry)
 {
     const Connection connection(datAbsence);
-    entry.FirstApproverName = entry.FirstApproverEMail = entry.SecondApproverName = entry.SecondApproverEMail = "";
-    entry.FirstApproverHasLeft = entry.SecondApproverHasLeft = false;
-    for (const Recordset& person : datAbsence.Select("SELECT RecordID, FirstName, FamilyName, EMailAddress, "
-                                                     "DeactivatedDate FROM Employees WHERE RecordID IN (?, ?)",
-                                                     entry.FirstApprover, entry.SecondApprover)) {
-        if (person.Long("RecordID") == entry.FirstApprover)
-            TakeApprover(person, entry.FirstApproverName, entry.FirstApproverEMail, entry.FirstApproverHasLeft);
-        if (person.Long("RecordID") == entry.SecondApprover) // who may be the same person
-            TakeApprover(person, entry.SecondApproverName, entry.SecondApproverEMail, entry.SecondApproverHasLeft);
-    }
+    for (Approver* approver : {&entry.FirstApprover, &entry.SecondApprover})
+        *approver = FindApprover(datAbsence, approver->RecordID);
 }
 
 void NewAttendance(DataControl& datAbsence, const AttendanceEntry& entry)
@@ -220,8 +214,8 @@ void SubmitAttendance(DataControl& datAbsence, const AttendanceEntry& entry)
     // required.
     row.SubmittedDateTime = static_cast<float>(IsServerChosen() ? Now() : std::rint(Now()));
     row.SubmittedBy = SessionState.UserID;
-    row.SubmittedTo_First = entry.FirstApprover;
-    row.SubmittedTo_Second = entry.SecondApprover;
+    row.SubmittedTo_First = entry.FirstApprover.RecordID;
+    row.SubmittedTo_Second = entry.SecondApprover.RecordID;
     AddOnEachDate(datAbsence, entry, row);
 }
 

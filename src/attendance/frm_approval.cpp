@@ -207,7 +207,7 @@ void frmApproval::Process(const QVector<RequestedDate>& marked)
     const Settlement settlement = SettleRequests(datAbsence, marked, reason);
     if (!settlement.Settled.isEmpty())
         SessionState.ReloadCalendar = true;
-    EMailNotice(requested_.EMailAddress, settlement.Settled, reason);
+    EMailNotice(groups_[shown_].EmployeeID, requested_.EMailAddress, settlement.Settled, reason);
     if (settlement.Failure) {
         RereadDates();
         ThrowFailure(settlement);

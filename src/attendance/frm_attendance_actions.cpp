@@ -65,9 +65,9 @@ bool frmAttendance::FindApprovers()
 {
     if (entry_.Kind != AttendanceKind::Submit)
         return true;
-    if (entry_.FirstApprover == 0)
+    if (entry_.FirstApprover.RecordID == 0)
         GetApprovedBy();
-    return entry_.FirstApprover != 0;
+    return entry_.FirstApprover.RecordID != 0;
 }
 
 /// For this request only: the employee's file stays as it is.
@@ -75,7 +75,7 @@ void frmAttendance::GetApprovedBy()
 {
     frmGetApprovedBy form(entry_, this);
     ShowModal(form);
-    entry_.FirstApprover = form.ApproverID();
+    entry_.FirstApprover.RecordID = form.ApproverID();
     LookUpApprovers();
 }
 

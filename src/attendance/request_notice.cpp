@@ -7,22 +7,29 @@
 #include "foundation/names.h"
 #include "mail/leave_notices.h"
 
+namespace
+{
+QString AddressOf(DataControl& datAbsence, int employee)
+{
+    const Connection connection(datAbsence);
+    return datAbsence.Scalar<QString>("SELECT EMailAddress FROM Employees WHERE RecordID = ?", employee);
+}
+} // namespace
+
 void EMailRequest(const AttendanceEntry& entry)
 {
     SendNotices(RequestNotices({.Employee = entry.EmployeeName,
                                 .Category = entry.CategoryName,
                                 .Dates = entry.RequestedDates,
                                 .Comment = entry.Comment,
-                                .FirstApproverName = entry.FirstApproverName,
-                                .FirstApproverEMail = entry.FirstApproverEMail,
-                                .SecondApproverName = entry.SecondApproverName,
-                                .SecondApproverEMail = entry.SecondApproverEMail}));
+                                .FirstApprover = entry.FirstApprover,
+                                .SecondApprover = entry.SecondApprover}));
 }
 
-void EMailNotice(const QString& address, const QVector<RequestedDate>& settled, const QString& reason)
+void EMailNotice(int employee, const QString& address, const QVector<RequestedDate>& settled, const QString& reason)
 {
     if (!settled.isEmpty())
-        SendNotice(OutcomeNotice(address, MarkSummary(settled), HasDenied(settled) ? reason : QString()));
+        SendNotice(OutcomeNotice(employee, address, MarkSummary(settled), HasDenied(settled) ? reason : QString()));
 }
 
 void EMailRequestCancellation(DataControl& datAbsence, const CancelledRecords& cancelled)
@@ -32,12 +39,16 @@ void EMailRequestCancellation(DataControl& datAbsence, const CancelledRecords& c
     QString address, category;
     try {
         const Connection connection(datAbsence);
-        address =
-            datAbsence.Scalar<QString>("SELECT EMailAddress FROM Employees WHERE RecordID = ?", cancelled.Approver);
+        address = AddressOf(datAbsence, cancelled.Approver);
         category = datAbsence.Scalar<QString>(
             "SELECT " + NameColumn("Category") + " FROM Categories WHERE RecordID = ?", cancelled.CategoryID);
     } catch (const RuntimeError&) {
         return; // without an address nobody can be told
     }
-    SendNotice(CancellationNotice(address, category.trimmed(), cancelled.WithdrawnDates));
+    SendNotice(CancellationNotice(cancelled.Approver, address, category.trimmed(), cancelled.WithdrawnDates));
+}
+
+void SendNoticesAgain(DataControl& datAbsence)
+{
+    SendUnsentNotices([&datAbsence](int employee) { return AddressOf(datAbsence, employee); });
 }

@@ -10,7 +10,11 @@ struct CancelledRecords;
 
 /// Tells the approvers of a request that has been written.
 void EMailRequest(const AttendanceEntry& entry);
-/// Tells whoever asked what came of it. The reason goes with a denial only.
-void EMailNotice(const QString& address, const QVector<RequestedDate>& settled, const QString& reason);
+/// Tells the employee who asked what came of it. The reason goes with a denial only.
+void EMailNotice(int employee, const QString& address, const QVector<RequestedDate>& settled, const QString& reason);
 /// Tells the approver which requests were withdrawn.
 void EMailRequestCancellation(DataControl& datAbsence, const CancelledRecords& cancelled);
+
+/// Tries again what could not be sent, to the addresses that are on file by now. Throws, and tries nothing, when they
+/// cannot be read.
+void SendNoticesAgain(DataControl& datAbsence);

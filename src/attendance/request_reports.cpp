@@ -68,6 +68,7 @@ void MarkOutcomesAsTold(DataControl& datAbsence, const QStringList& settled)
                            RequestStatus::Denied);
     });
 }
+
 void MarkRequestsAsTold(DataControl& datAbsence)
 {
     datAbsence.Execute("UPDATE Attendance SET RequestStatus = ? WHERE SubmittedTo_First = ? AND RequestStatus = ?",

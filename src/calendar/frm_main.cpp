@@ -49,7 +49,7 @@ void frmMain::BuildControls()
     setWindowIcon(PictureIcon("app"));
     menus_ = std::make_unique<MainMenus>(menuBar(), [this](const Command& command) { Run(command); });
     toolBar_ = new ToolBar;
-    unsent_ = new UnsentLine;
+    unsent_ = new UnsentLine(datAbsence);
     header_ = new MainHeader;
     pane_ = new CalendarPane;
     legend_ = new LegendPane;

@@ -1,5 +1,7 @@
 #include "calendar/frm_main_unsent.h"
 
+#include "attendance/request_notice.h"
+#include "foundation/common_services.h"
 #include "foundation/frm_captions.h"
 #include "mail/mail_component.h"
 
@@ -23,7 +25,8 @@ QString UnsentText()
 }
 } // namespace
 
-UnsentLine::UnsentLine(QWidget* parent) : QFrame(parent), lblUnsent(AsNotice(WrappedLabel("lblUnsent")))
+UnsentLine::UnsentLine(DataControl& datAbsence, QWidget* parent)
+    : QFrame(parent), datAbsence_(datAbsence), lblUnsent(AsNotice(WrappedLabel("lblUnsent")))
 {
     setObjectName("fraUnsent");
     auto* cmdSendAgain = MakeButton("cmdSendAgain", {"Send a&gain", "En&voyer de nouveau"});
@@ -50,7 +53,11 @@ void UnsentLine::Refresh()
 
 void UnsentLine::cmdSendAgain_Click()
 {
-    SendUnsentNotices();
+    try {
+        SendNoticesAgain(datAbsence_);
+    } catch (const RuntimeError& error) {
+        TellError(error);
+    }
     Refresh();
 }
 

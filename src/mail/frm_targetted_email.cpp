@@ -9,6 +9,8 @@ namespace
 constexpr QSize kEMailSize(720, 620);
 constexpr QSize kRecipientsSize(560, 180);
 constexpr int kAddressLimit = 75;
+constexpr int kAddress = Qt::UserRole;
+constexpr int kEmployee = Qt::UserRole + 1;
 constexpr int kEMailGap = 10;
 
 constexpr Text kUnannouncedClosing = {
@@ -100,7 +102,8 @@ void frmTargettedEMail::AddRecipient(const Recipient& person)
 {
     const LoadingGuard loading(Loading);
     auto* line = new QListWidgetItem(person.Line(), lstEmailAddresses);
-    line->setData(Qt::UserRole, person.EMailAddress);
+    line->setData(kAddress, person.EMailAddress);
+    line->setData(kEmployee, person.EmployeeID);
     line->setSelected(person.Selected);
 }
 
@@ -146,10 +149,11 @@ QVector<Notice> frmTargettedEMail::Messages() const
     QVector<Notice> messages;
     for (int row = 0; row < lstEmailAddresses->count(); ++row)
         if (const QListWidgetItem* line = lstEmailAddresses->item(row); line->isSelected())
-            messages.append({.Address = line->data(Qt::UserRole).toString(),
+            messages.append({.Address = line->data(kAddress).toString(),
                              .Subject = txtSubject->text(),
                              .Body = txtMessage->toPlainText(),
-                             .AddressType = "SMTP:"});
+                             .AddressType = "SMTP:",
+                             .EmployeeID = line->data(kEmployee).toInt()});
     return messages;
 }
 

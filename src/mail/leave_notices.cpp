@@ -56,36 +56,45 @@ QString RequestBody(const LeaveRequest& request)
 
 QString CopyBody(const LeaveRequest& request)
 {
-    return T(kCopyBody, {{"first", request.FirstApproverName},
+    return T(kCopyBody, {{"first", request.FirstApprover.Name},
                          {"employee", request.Employee},
                          {"category", request.Category},
                          {"list", request.Dates}});
+}
+
+Notice NoticeTo(const Approver& approver, const QString& body)
+{
+    return {
+        .Address = approver.EMailAddress, .Subject = T(kRequestSubject), .Body = body, .EmployeeID = approver.RecordID};
 }
 } // namespace
 
 QVector<Notice> RequestNotices(const LeaveRequest& request)
 {
-    QVector<Notice> notices{{request.FirstApproverEMail, T(kRequestSubject), RequestBody(request)}};
-    if (!request.SecondApproverName.isEmpty())
-        notices.append({request.SecondApproverEMail, T(kRequestSubject), CopyBody(request)});
+    QVector<Notice> notices{NoticeTo(request.FirstApprover, RequestBody(request)),
+                            NoticeTo(request.SecondApprover, CopyBody(request))};
     notices.removeIf([](const Notice& notice) { return notice.Address.trimmed().isEmpty(); });
     return notices;
 }
 
-Notice OutcomeNotice(const QString& address, const QString& summary, const QString& reason)
+Notice OutcomeNotice(int employee, const QString& address, const QString& summary, const QString& reason)
 {
     const QDateTime now = CurrentDateTime();
     const QString text = T(kOutcomeBody) + (reason.trimmed().isEmpty() ? QString() : T(kReason));
-    return {address, T(kOutcomeSubject),
-            Fill(text, {{"user", SessionState.LoginID},
-                        {"date", QLocale().toString(now.date(), "ddd dd-MMMM")},
-                        {"time", now.toString("HH:mm")},
-                        {"summary", summary},
-                        {"reason", reason}})};
+    return {.Address = address,
+            .Subject = T(kOutcomeSubject),
+            .Body = Fill(text, {{"user", SessionState.LoginID},
+                                {"date", QLocale().toString(now.date(), "ddd dd-MMMM")},
+                                {"time", now.toString("HH:mm")},
+                                {"summary", summary},
+                                {"reason", reason}}),
+            .EmployeeID = employee};
 }
 
-Notice CancellationNotice(const QString& address, const QString& category, const QString& dates)
+Notice CancellationNotice(int approver, const QString& address, const QString& category, const QString& dates)
 {
-    return {address, T(kCancellationSubject),
-            T(kCancellationBody, {{"user", SenderName()}, {"category", category}, {"dates", dates}})};
+    return {.Address = address,
+            .Subject = T(kCancellationSubject),
+            .Body = T(kCancellationBody, {{"user", SenderName()}, {"category", category}, {"dates", dates}}),
+            .EmployeeID = approver};
 }

@@ -2,6 +2,15 @@
 
 #include "mail/mail_component.h"
 
+/// Who settles a request.
+struct Approver
+{
+    int RecordID = 0;  ///< 0 none
+    QString Name = {}; ///< "FirstName FamilyName"; empty when there is no such person
+    QString EMailAddress = {};
+    bool HasLeft = false;
+};
+
 /// A request for leave as its approvers are told of it. Texts are in the language of the session.
 struct LeaveRequest
 {
@@ -9,18 +18,16 @@ struct LeaveRequest
     QString Category;
     QString Dates; ///< a line each
     QString Comment = {};
-    QString FirstApproverName = {};
-    QString FirstApproverEMail = {};
-    QString SecondApproverName = {}; ///< empty when there is no second approver
-    QString SecondApproverEMail = {};
+    Approver FirstApprover = {};
+    Approver SecondApprover = {};
 };
 
 /// To the first approver, and to the second one when there is one; both may be the same person. Whoever has no address
 /// is left out.
 QVector<Notice> RequestNotices(const LeaveRequest& request);
 
-/// To whoever asked: what came of his requests. An empty reason is left out.
-Notice OutcomeNotice(const QString& address, const QString& summary, const QString& reason);
+/// To the employee who asked: what came of his requests. An empty reason is left out.
+Notice OutcomeNotice(int employee, const QString& address, const QString& summary, const QString& reason);
 
 /// To the approver of a request that is cancelled before it was settled.
-Notice CancellationNotice(const QString& address, const QString& category, const QString& dates);
+Notice CancellationNotice(int approver, const QString& address, const QString& category, const QString& dates);

@@ -3,6 +3,7 @@
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/session_state.h"
+#include "foundation/texts.h"
 #include "platform/clock.h"
 #include "platform/mail/mail_programs.h"
 #include "platform/program.h"
@@ -12,6 +13,7 @@
 namespace
 {
 constexpr int kSession = 1;
+constexpr Text kNoAddressAnyMore = {"the employee has no e-mail address any more", "l'employé(e) n'a plus de courriel"};
 
 QVector<UnsentNotice>& Unsent()
 {
@@ -61,7 +63,6 @@ bool HasFailed(const MailResult& result)
 
 MailResult SendByAutomation(const Notice& notice)
 {
-    PrepareMailComponent();
     return MailRoutesHere().Automation.Send(MessageOf(notice, ""));
 }
 
@@ -89,31 +90,31 @@ MailResult SendByRoute(const Notice& notice)
         Log(notice, configured, failures);
     return result;
 }
+
 /// It could not be sent and is worth a line, but the mail program that did not answer is not asked once more.
-void GiveUp(const Notice& notice)
+void GiveUp(const Notice& notice, const QString& cause)
 {
-    const MailResult notTried{MailError::NoAnswer, "Not tried, as the mail program did not answer"};
-    Log(notice, SessionState.MailConfigured, {FailureText(notTried)});
-    Unsent().append({notice, notTried.Description});
+    Log(notice, SessionState.MailConfigured,
+        {FailureText({MailError::NoAnswer, "Not tried, as the mail program did not answer"})});
+    Unsent().append({notice, cause});
 }
 } // namespace
 
 void PrepareMailComponent()
 {
     Session& s = SessionState;
-    if (!s.MailConfigured && s.MAPISessionID == 0) {
+    if (s.MailConfigured)
+        return;
+    if (s.MAPISessionID == 0) {
         s.MAPISessionID = MailRoutesHere().Desktop.IsThere() ? kSession : 0;
         return;
     }
-    if (s.MAPISessionID > 0 && !s.MailConfigured) {
-        s.MailConfigured = true;
-        try {
-            SaveMailConfiguration();
-        } catch (const RuntimeError&) {
-            // It holds for the session all the same.
-        }
-    }
     s.MailConfigured = true;
+    try {
+        SaveMailConfiguration();
+    } catch (const RuntimeError&) {
+        // It holds for the session all the same.
+    }
 }
 
 void SaveMailConfiguration(int stage)
@@ -139,7 +140,7 @@ MailResult SendNotice(const Notice& notice)
         return {MailError::BadAddress, "There is no e-mail address"};
     const MailOnItsWay onItsWay;
     DefaultWorkspace().PauseReading();
-    if (!SessionState.MailConfigured && SessionState.MAPISessionID == 0)
+    if (SessionState.MAPISessionID == 0)
         PrepareMailComponent();
     const MailResult result = SendByRoute(notice);
     if (HasFailed(result))
@@ -150,17 +151,17 @@ MailResult SendNotice(const Notice& notice)
 void SendNotices(const QVector<Notice>& notices, int pause, const std::function<void(int)>& progress)
 {
     const MailOnItsWay onItsWay;
-    bool answers = true;
+    MailResult last;
     for (int i = 0; i < notices.size(); ++i) {
-        if (!answers) {
-            GiveUp(notices[i]);
+        if (last.Number == MailError::NoAnswer) {
+            GiveUp(notices[i], last.Description);
             continue;
         }
         if (i > 0 && pause > 0)
             Wait(pause);
         if (progress)
             progress(i);
-        answers = SendNotice(notices[i]).Number != MailError::NoAnswer;
+        last = SendNotice(notices[i]);
     }
 }
 
@@ -169,11 +170,20 @@ const QVector<UnsentNotice>& UnsentNotices()
     return Unsent();
 }
 
-void SendUnsentNotices()
+void SendUnsentNotices(const std::function<QString(int)>& addressOf)
 {
     QVector<Notice> again;
-    for (const UnsentNotice& unsent : std::exchange(Unsent(), {}))
-        again << unsent.Message;
+    QVector<UnsentNotice> unreachable;
+    for (const UnsentNotice& unsent : Unsent()) {
+        Notice notice = unsent.Message;
+        if (notice.EmployeeID != 0)
+            notice.Address = addressOf(notice.EmployeeID);
+        if (notice.Address.trimmed().isEmpty())
+            unreachable.append({unsent.Message, T(kNoAddressAnyMore)});
+        else
+            again << notice;
+    }
+    Unsent() = unreachable;
     SendNotices(again);
 }
 

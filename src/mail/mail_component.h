@@ -15,11 +15,12 @@ struct Notice
     QString Body;
     QString Attachment = {};           ///< path of a file; empty for none
     const char* AddressType = "smtp:"; ///< which the MAPI route puts in front of the address
+    int EmployeeID = 0;                ///< RecordID of the employee whose address it is; 0 none
 };
 
-/// Finds out by which route this workstation can send, before each use: signs on to MAPI, or makes the automation route
-/// ready. A workstation that is signed on and comes here again needs the automation route; that is kept for good.
-/// Throws nothing.
+/// Finds out by which route this workstation can send: signs on to MAPI, unless it uses the automation route. A
+/// workstation that is signed on and comes here again needs the automation route; that is kept for good. Throws
+/// nothing.
 void PrepareMailComponent();
 
 /// Keeps the session's route for good, and with it the stage of the mail component's set-up. Throws RuntimeError.
@@ -44,11 +45,12 @@ void SendNotices(const QVector<Notice>& notices, int pause = 2, const std::funct
 struct UnsentNotice
 {
     Notice Message;
-    QString Reason; ///< in the words of the mail program; may be empty
+    QString Reason; ///< in the words of the mail program that failed; may be empty
 };
 /// The messages of this session that could not be sent, oldest first.
 const QVector<UnsentNotice>& UnsentNotices();
-/// Tries those again; what fails once more stays among them.
-void SendUnsentNotices();
+/// Tries those again; what fails once more stays among them. An employee is written to at the address that `addressOf`
+/// gives for his RecordID by now, and not at all without one. When it throws, so does this, and nothing is tried.
+void SendUnsentNotices(const std::function<QString(int)>& addressOf);
 /// Forgets them.
 void ForgetUnsentNotices();

@@ -94,11 +94,11 @@ QVector<Recipient> EmployeesOf(DataControl& datAbsence, const TargettedEMail& jo
         job.IsSchedule() ? "" : " AND EmplID IN (SELECT RecordID FROM Employees WHERE DeactivatedDate = 0)";
     QVector<Recipient> people;
     for (const Recordset& row :
-         datAbsence.Select("SELECT EMail, FamilyName, FirstName FROM Employees_List WHERE " + column +
+         datAbsence.Select("SELECT EmplID, EMail, FamilyName, FirstName FROM Employees_List WHERE " + column +
                                " = ? AND EMail <> ''" + present + " ORDER BY FamilyName ASC, FirstName ASC",
                            id))
         if (const QString address = row.Text("EMail").trimmed(); !address.isEmpty())
-            people.append({row.Text("FamilyName") + ", " + row.Text("FirstName"), address});
+            people.append({row.Text("FamilyName") + ", " + row.Text("FirstName"), address, true, row.Long("EmplID")});
     return people;
 }
 } // namespace

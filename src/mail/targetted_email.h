@@ -27,6 +27,7 @@ struct Recipient
     QString Name;
     QString EMailAddress;
     bool Selected = true;
+    int EmployeeID = 0; ///< RecordID; 0 for people of the address book
 
     QString Line() const { return Name + " ...... " + EMailAddress; }
 };

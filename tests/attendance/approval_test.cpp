@@ -1,7 +1,10 @@
 #include "attendance/attendance_fixture.h"
 #include "attendance/frm_approval.h"
+#include "attendance/record_cancellation.h"
 #include "attendance/request_approval.h"
+#include "attendance/request_notice.h"
 #include "attendance/request_reports.h"
+#include "mail/mail_component.h"
 #include "platform/controls/flex_grid.h"
 #include "platform/dao/server.h"
 
@@ -315,6 +318,31 @@ TEST_F(Approval, TheApproverSeesWhatARequestWouldLeave)
     EXPECT_EQ(user.ReadsAll(figures), "Time bank|10:00|-(06:30)|03:30|00:00|03:30");
     user.Picks("cboRecords", "26-03-02  Davis, Chris                              Sick");
     EXPECT_FALSE(user.CanUse("lblBalance")) << "no limit, no bank";
+}
+
+TEST_F(Approval, WhatIsSentAgainGoesToTheAddressThatIsOnFileByThen)
+{
+    house.MailEnds = {{"MAPI", {3, "none"}}, {"automation", {75, "no server"}}};
+    house.Sql("UPDATE Employees SET EMailAddress = 'a@old.org'");
+    Begin({2}, chris, "Vacation");
+    entry.FirstApprover.RecordID = marc;
+    entry.SecondApprover.RecordID = eve;
+    GetApprovalNames(datAbsence, entry);
+    EMailRequest(entry);
+    EMailRequestCancellation(datAbsence, {"", "", entry.SelectedCategoryID, eve, {}});
+    Requests(2);
+    user.Opens<frmApproval>().Picks("cboRecords", "26-03-02").Clicks("optApproveAll");
+    user.WillConfirm().WillBeDone().Clicks("cmdProcess");
+    EXPECT_EQ(UnsentNotices().size(), 4);
+    house.MailEnds.clear();
+    house.Mail.clear();
+    house.Sql("UPDATE Employees SET EMailAddress = LOWER(LoginID) || '@new.org' WHERE LoginID <> 'EVE'");
+    house.Sql("UPDATE Employees SET EMailAddress = ' ' WHERE LoginID = 'EVE'");
+    SendNoticesAgain(datAbsence);
+    EXPECT_EQ(house.Mail.replaceInStrings(QRegularExpression("(?s)@new.org.*"), {}),
+              (QStringList{"automation|marc", "automation|chris"}));
+    ASSERT_EQ(UnsentNotices().size(), 2) << "whoever has no address any more";
+    EXPECT_EQ(UnsentNotices().last().Reason, "the employee has no e-mail address any more");
 }
 
 TEST_F(Approval, TheServerIsSentWhatIsSettled)

@@ -98,9 +98,9 @@ TEST_F(FrmAttendance, ARequestNeedsAnApproverGoesToBothAndBearsTheRoundedMoment)
     EXPECT_TRUE(house.Mail[2].startsWith("automation|eve@example.org|"));
     EXPECT_TRUE(house.Mail[2].contains("soumise à Marc Roy pour fin"));
     EXPECT_EQ(house.ReadFile("EMailErrors.log").count('\n'), 2);
-    entry.FirstApprover = entry.SecondApprover = marc;
+    entry.FirstApprover.RecordID = entry.SecondApprover.RecordID = marc;
     GetApprovalNames(datAbsence, entry);
-    EXPECT_EQ(entry.FirstApproverName + "|" + entry.SecondApproverName + "|" + entry.SecondApproverEMail,
+    EXPECT_EQ(entry.FirstApprover.Name + "|" + entry.SecondApprover.Name + "|" + entry.SecondApprover.EMailAddress,
               "Marc Roy|Marc Roy|marc@example.org");
 }
 

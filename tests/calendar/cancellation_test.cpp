@@ -106,12 +106,17 @@ TEST_F(Cancellation, WithdrawnRequestsAreToldToTheApproverReadLastInOneMessage)
     EXPECT_EQ(user.Reads("lblCurrentSelection"), "Demandes non traitées de");
     user.WillAnswer("ATTENTION:", "Non", "Des courriels n'ont pu être envoyés");
     main->close(); // and stays
+    house.Sql("ALTER TABLE Employees RENAME TO Gone");
+    user.WillAnswer("UNE ERREUR EST SURVENUE:", "OK", "3078: ").Clicks("cmdSendAgain");
+    house.Sql("ALTER TABLE Gone RENAME TO Employees");
     user.Clicks("cmdSendAgain");
     EXPECT_TRUE(user.CanUse("cmdForget"));
     house.MailEnds.clear();
     house.Mail.clear();
+    house.Sql("UPDATE Employees SET EMailAddress = 'luc@new.org'");
     user.Clicks("cmdSendAgain");
-    EXPECT_TRUE(house.Mail.size() == 1 && house.Mail[0].contains("\r\n\r\nTue 22-12-2026\r\n"));
+    EXPECT_TRUE(house.Mail.size() == 1 && house.Mail[0].startsWith("automation|luc@new.org|") &&
+                house.Mail[0].contains("\r\n\r\nTue 22-12-2026\r\n"));
     EXPECT_FALSE(Visible("fraUnsent"));
 
     house.Sql("UPDATE Employees SET EMailAddress = ' '");

@@ -101,7 +101,7 @@ protected:
 
 TEST_F(RequestStates, AReasonIsToldOnceBelowTheDatesForWhichItWasGiven)
 {
-    for (const auto& [day, reason] : {std::pair(2, "Inventory"), {3, "Inventory"}, {4, "Nobody else is here"}})
+    for (const auto& [day, reason] : {std::pair(4, "Nobody else is here"), {2, "Inventory"}, {3, "Inventory"}})
         house.Sql("UPDATE Attendance SET SubmittedBy = EmployeeID, DeniedBy = 'EVA', CancelledDate = 46083, "
                   "ApprovalRefusalMessage = ? WHERE RecordID = ?",
                   {reason, house.Record(anna, "Vacation", {2026, 3, day}, 7)});

@@ -65,7 +65,7 @@ TEST_F(ServerTwin, AttendanceIsSentWithoutItsCosts)
     entry.SelectedCategoryID = 2;
     entry.RecordToModify = 7;
     entry.EmployeeDepartmentID = 1;
-    entry.FirstApprover = 4;
+    entry.FirstApprover.RecordID = 4;
     entry.Comment = "flu ";
     entry.StartTime = 8.3F;
     entry.EndTime = 10.5F;

@@ -57,6 +57,8 @@ TEST_F(MailSetUp, TheComponentIsOfferedAndItsInstallationDecidesWhatComesNext)
     user.WillAnswer(welcome, "No", "called «Redemption»");
     DownloadRedemption();
     EXPECT_EQ(page, "");
+    user.WillAnswer(welcome, "Yes").WillAnswer("CONFIRM:", "No", "DOWNLOAD");
+    DownloadRedemption();
     EXPECT_EQ(Kept(), "0|666");
 
     user.WillAnswer(welcome, "Yes").WillAnswer("CONFIRM:", "Yes", "DOWNLOAD").WillAnswer("CONFIRM:", "No", "INSTALL");
@@ -91,18 +93,21 @@ TEST_F(MailSetUp, TheFirstTicksOfASessionSetTheMailUp)
 
 TEST_F(MailSetUp, TheEarlierComponentIsTakenAwayOnce)
 {
-    QStringList files = {"C:\\WINNT\\SYSTEM32\\REDEMPTION.DLL", "D:\\Apps\\Redemption.dll"};
-    bool registered = true;
+    QStringList files;
+    bool registered = false;
     SetEarlierComponent({[&files](const QString& path) { return files.removeOne(path); }, [&] { return registered; }});
-    WriteFile(house.Folder() + "/ST6UNST.LOG", "ACTION: SharedFile: \"D:\\Other.dll\"\r\n"
-                                               "ACTION: PrivateFile: \"D:\\Apps\\Redemption.dll\"\r\n");
-    files << "E:\\Redemption.dll";
-    registered = false;
-    UpgradeMailerDLL();
-    EXPECT_EQ(files, QStringList{"E:\\Redemption.dll"});
-    EXPECT_EQ(Marker(), "DLL successfully deleted from its location: C:\\WINNT\\SYSTEM32\\REDEMPTION.DLL\r\n"
-                        "DLL successfully deleted from its location: D:\\Apps\\Redemption.dll\r\n"
-                        "Redemption DLL was never installed or was successfully removed from this workstation\r\n");
+    for (const QByteArray installed : {"\"D:\\Apps\\Redemption.dll\"", "D:\\Apps\\Redemption.dll"}) {
+        QFile::remove(house.Folder() + "/rdwrwnd.upg");
+        WriteFile(house.Folder() + "/ST6UNST.LOG", "ACTION: SharedFile: \"D:\\Other.dll\"\r\n"
+                                                   "ACTION: PrivateFile: " +
+                                                       installed + "\r\n");
+        files = {"C:\\WINNT\\SYSTEM32\\REDEMPTION.DLL", "D:\\Apps\\Redemption.dll", "E:\\Redemption.dll"};
+        UpgradeMailerDLL();
+        EXPECT_EQ(files, QStringList{"E:\\Redemption.dll"});
+        EXPECT_EQ(Marker(), "DLL successfully deleted from its location: C:\\WINNT\\SYSTEM32\\REDEMPTION.DLL\r\n"
+                            "DLL successfully deleted from its location: D:\\Apps\\Redemption.dll\r\n"
+                            "Redemption DLL was never installed or was successfully removed from this workstation\r\n");
+    }
     registered = true;
     UpgradeMailerDLL(); // and says nothing
 
