@@ -117,7 +117,7 @@ class CellPixels
 {
 public:
     CellPixels(QPainter& painter, const QRect& cell)
-        : painter_(painter), line_(std::max(1, qRound(painter.deviceTransform().m11()))),
+        : painter_(painter), line_(std::max(1, static_cast<int>(painter.deviceTransform().m11()))),
           cell_(CornerOf(cell.topLeft()), CornerOf(cell.bottomRight() + QPoint(1, 1)) - QPoint(1, 1))
     {}
 
@@ -139,8 +139,9 @@ public:
     void PaintRing() const
     {
         const QRect inside = cell_.adjusted(0, 0, -line_, -line_);
-        PaintFrame(inside, 2 * line_, Paper::kRing);
-        PaintFrame(inside.marginsRemoved(QMargins() + 2 * line_), line_, Qt::white);
+        const int ring = qRound(2 * painter_.deviceTransform().m11());
+        PaintFrame(inside, ring, Paper::kRing);
+        PaintFrame(inside.marginsRemoved(QMargins() + ring), line_, Qt::white);
     }
 
 private:
