@@ -228,6 +228,12 @@ void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entri
     }
 }
 
+void MakeRoomFor(QComboBox* list, int characters)
+{
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(characters);
+}
+
 void ShowText(QComboBox* combo, const QString& text)
 {
     combo->setCurrentIndex(text.isEmpty() ? -1 : combo->findText(text));
