@@ -200,6 +200,10 @@ TEST_F(CalendarKeys, ADaySaysItsDateHolidayCategoriesAndHours)
     user.ChoosesMenu("mnuSpecialCategoryCodes");
     EXPECT_NE(Painted(7, 14), plain);
     const QImage whole = Painted(7, 13);
+    const auto underlined = [](const QImage& day) {
+        return day.pixelColor(day.width() / 2, day.height() - 3) != day.pixelColor(day.width() - 4, day.height() - 3);
+    };
+    EXPECT_TRUE(underlined(Painted(11, 23)) && !underlined(whole)) << "today alone";
     for (const double hours : {3, 7}) {
         house.Sql("UPDATE Attendance SET TotalDuration = ?1, Duration = ?1 WHERE RecordDate = ?2",
                   {hours, SerialOfDate({2026, 7, 13})});

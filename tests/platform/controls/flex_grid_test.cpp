@@ -3,9 +3,11 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -132,6 +134,22 @@ TEST_F(Grid, ColoursAndLinesMeetAtEachScaleOfTheScreen)
             }
         EXPECT_EQ(std::pair(lines, others), std::pair(18, 0)) << scale;
     }
+}
+
+TEST_F(Grid, ATipTellsTheTextThatItsCellCuts)
+{
+    grid.SetSize(2, 2);
+    grid.SetTextMatrix(1, 1, "Vacation");
+    Show();
+    const int needed = grid.fontMetrics().horizontalAdvance("Vacation") + 8;
+    for (const int width : {needed, needed - 1}) {
+        grid.SetColWidth(1, width);
+        const QPoint place = grid.CellRect(1, 1).center();
+        QHelpEvent asks(QEvent::ToolTip, place, grid.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(grid.viewport(), &asks);
+        EXPECT_EQ(QToolTip::text(), width < needed ? "Vacation" : "");
+    }
+    QToolTip::hideText();
 }
 
 TEST_F(Grid, FixedRowsStayAtTheTopAndOnlyTheCellsBelowTakeClicks)

@@ -1,7 +1,9 @@
+#include "platform/controls/foot_layout.h"
 #include "platform/controls/form_kit.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -49,6 +51,22 @@ TEST(FormKit, TheWheelTurnsOnlyTheListThatHasTheFocus)
         QApplication::sendEvent(&list, &wheel);
     }
     EXPECT_EQ(lists[0].currentText() + lists[1].currentText(), "twoone");
+}
+
+TEST(FormKit, AFootTakesASecondLineOnlyWhereItMust)
+{
+    QWidget form;
+    auto* foot = new FootLayout;
+    form.setLayout(foot);
+    foot->setSpacing(8);
+    for (const int width : {100, 208, 316}) {
+        auto* button = new QPushButton;
+        button->setFixedSize(100, 30);
+        foot->Add(button, FootLayout::Group::Command);
+        button->show();
+        EXPECT_EQ(foot->sizeHint().width(), width);
+    }
+    EXPECT_EQ(std::pair(foot->heightForWidth(316), foot->heightForWidth(315)), std::pair(30, 68));
 }
 
 TEST(FormKit, GuardsGiveBackWhatTheyFound)
