@@ -58,12 +58,14 @@ TEST_F(WizardSteps, ArrowsMoveAmongTheOptionsAndTabLeavesThem)
               "Étape 2 de 6");
     EXPECT_EQ(focus(), "optNewAccessDatabase");
     user.Presses(focus(), Qt::Key_Space);
-    for (const char* option : {"optNewSQLDatabase", "optExistingAccessDatabase", "optExistingSQLDatabase"}) {
-        EXPECT_EQ(after(Qt::Key_Down), option);
+    for (const auto& [key, option] : {std::pair(Qt::Key_Down, "optNewSQLDatabase"),
+                                      {Qt::Key_Right, "optExistingAccessDatabase"},
+                                      {Qt::Key_Down, "optExistingSQLDatabase"}}) {
+        EXPECT_EQ(after(key), option);
         EXPECT_EQ(user.Reads(option) + user.Reads("optNewAccessDatabase"), "10");
     }
     EXPECT_EQ(user.Reads("cmdNext"), "&Suivant");
-    EXPECT_EQ(after(Qt::Key_Up), "optExistingAccessDatabase");
+    EXPECT_EQ(after(Qt::Key_Left), "optExistingAccessDatabase");
     EXPECT_EQ(after(Qt::Key_Tab), "cmdInfo_ExistingAccessDatabase");
     EXPECT_EQ(user.Presses(focus(), Qt::Key_Backtab).Clicks("cmdNext").Reads("cmdNext"), "TERMINER")
         << "what the arrow came to is chosen";

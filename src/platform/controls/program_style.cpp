@@ -2,6 +2,7 @@
 
 #include "platform/controls/form_kit.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -41,22 +42,18 @@ private:
     }
 };
 
-/// Of options none of which is chosen yet, the one that had the focus last stands for all when Tab comes by; the
-/// toolkit sees to it only once one is chosen.
-class OptionStop : public QObject
+/// A group of options as its user takes it: each arrow moves in a column or a row of them, where the toolkit knows but
+/// two; and while none is chosen, the one that had the focus last stands for all when Tab comes by.
+class OptionKeys : public QObject
 {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject* target, QEvent* event) override
     {
-        if (event->type() != QEvent::FocusIn)
-            return false;
-        const QList<QAbstractButton*> options = OptionsWith(qobject_cast<QAbstractButton*>(target));
-        if (std::none_of(options.begin(), options.end(), [](const auto* option) { return option->isChecked(); }))
-            for (QAbstractButton* option : options)
-                option->setFocusPolicy(option == target ? Qt::StrongFocus : Qt::ClickFocus);
-        return false;
+        if (event->type() == QEvent::FocusIn)
+            StandForAll(static_cast<QAbstractButton*>(target));
+        return event->type() == QEvent::KeyPress && Turn(target, static_cast<QKeyEvent*>(event));
     }
 
 private:
@@ -69,6 +66,39 @@ private:
             if (!each->group())
                 options << each;
         return options;
+    }
+
+    static void StandForAll(const QAbstractButton* focused)
+    {
+        const QList<QAbstractButton*> options = OptionsWith(focused);
+        if (std::none_of(options.begin(), options.end(), [](const auto* option) { return option->isChecked(); }))
+            for (QAbstractButton* option : options)
+                option->setFocusPolicy(option == focused ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+
+    static bool Turn(QObject* target, const QKeyEvent* event)
+    {
+        const int key = Along(static_cast<QAbstractButton*>(target), event->key());
+        QKeyEvent turned(QEvent::KeyPress, key, event->modifiers());
+        return key != event->key() && QApplication::sendEvent(target, &turned);
+    }
+
+    /// The arrow that leads the same way in the column or the row in which the options stand.
+    static int Along(const QAbstractButton* focused, int key)
+    {
+        const QPoint place = focused->mapTo(focused->window(), QPoint());
+        bool column = true, row = true;
+        for (const QAbstractButton* option : OptionsWith(focused)) {
+            const QPoint other = option->mapTo(option->window(), QPoint());
+            column = column && other.x() == place.x();
+            row = row && other.y() == place.y();
+        }
+        const bool back = key == Qt::Key_Left || key == Qt::Key_Up;
+        if (column && (key == Qt::Key_Left || key == Qt::Key_Right))
+            return back ? Qt::Key_Up : Qt::Key_Down;
+        if (row && !column && (key == Qt::Key_Up || key == Qt::Key_Down))
+            return back ? Qt::Key_Left : Qt::Key_Right;
+        return key;
     }
 };
 
@@ -121,7 +151,7 @@ public:
         if (qobject_cast<QListWidget*>(widget))
             widget->installEventFilter(firstRowTaker_);
         if (qobject_cast<QRadioButton*>(widget))
-            widget->installEventFilter(optionStop_);
+            widget->installEventFilter(optionKeys_);
         if (auto* button = qobject_cast<QPushButton*>(widget); button && button->property(kPicture).isValid())
             button->setIcon(FaintWhenGreyed(PictureIcon(button->property(kPicture).toString()), button));
     }
@@ -137,7 +167,7 @@ public:
 
 private:
     QObject* firstRowTaker_ = new FirstRowTaker(this);
-    QObject* optionStop_ = new OptionStop(this);
+    QObject* optionKeys_ = new OptionKeys(this);
 };
 } // namespace
 
