@@ -11,6 +11,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace
 {
 constexpr int kFewestDays = 6; ///< in sight at once, each way; the rest scrolls
@@ -159,15 +161,21 @@ void CalendarPane::FollowCursor()
     PlaceHint(flxCalendar->currentIndex());
 }
 
-/// The hint keeps out of the way of the month that is being marked.
+/// The hint keeps out of the way of the month that is being marked: below it, above it, or beside it in a low window.
 void CalendarPane::PlaceHint(const QModelIndex& day)
 {
     const QPoint origin = flxCalendar->viewport()->mapTo(this, QPoint());
-    const QRect month = flxCalendar->MonthRect(day).translated(origin);
-    const int below = month.bottom() + kHintGap;
-    const bool fits = below + txtSelect->height() < height();
-    txtSelect->move(std::min(month.left(), width() - txtSelect->width()),
-                    fits ? below : std::max(0, month.top() - txtSelect->height() - kHintGap));
+    const QSize size = txtSelect->size();
+    const QRect month = flxCalendar->MonthRect(day).translated(origin).marginsAdded(QMargins() + kHintGap);
+    const int left = std::clamp(month.left(), 0, std::max(0, width() - size.width()));
+    const int top = std::clamp(month.top(), 0, std::max(0, height() - size.height()));
+    const QPoint places[] = {{left, month.bottom()},
+                             {left, month.top() - size.height()},
+                             {month.right(), top},
+                             {std::max(0, month.left() - size.width()), top}};
+    const auto fits = [this, size](const QPoint& place) { return rect().contains(QRect(place, size)); };
+    const auto* place = std::find_if(std::begin(places), std::end(places) - 1, fits);
+    txtSelect->move(*place);
 }
 
 bool CalendarPane::eventFilter(QObject* target, QEvent* event)

@@ -51,6 +51,7 @@ LegendPane::LegendPane(QWidget* parent) : QFrame(parent)
         auto* label = Named<QPushButton>(ArrayName("lblLegend", index));
         label->setFlat(true);
         label->setCursor(Qt::PointingHandCursor);
+        SetToolTip(label, {"Show this category alone", "Afficher cette catégorie seulement"});
         label->hide();
         connect(label, &QPushButton::clicked, this, [this, index] { CategoryClicked(items_[index].RecordID); });
         labels->addWidget(label);
@@ -78,9 +79,10 @@ void LegendPane::Show(const QVector<LegendItem>& items)
     items_ = items.mid(0, kMostLabels);
     for (int index = 0; index < items_.size(); ++index) {
         const LegendItem& item = items_[index];
+        const QString style = LabelStyle(item.Color > 0 ? item.Color : CalendarColor::NoColor);
         lblLegend[index]->setText(QString(item.Text).replace("&", "&&"));
-        SetToolTip(lblLegend[index], {"Show this category alone", "Afficher cette catégorie seulement"});
-        lblLegend[index]->setStyleSheet(LabelStyle(item.Color > 0 ? item.Color : CalendarColor::NoColor));
+        if (lblLegend[index]->styleSheet() != style) // or it is polished for nothing
+            lblLegend[index]->setStyleSheet(style);
     }
     first_ = 0;
     ShowRow();

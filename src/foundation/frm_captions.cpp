@@ -1,6 +1,7 @@
 #include "foundation/frm_captions.h"
 
-#include <QPainter>
+#include "platform/controls/program_style.h"
+
 #include <QTabWidget>
 
 namespace
@@ -75,41 +76,6 @@ void ShowFilled(QWidget* control)
     SetLook(control, "");
     ShowRemark(control);
 }
-
-/// Its picture is the one for the colours in force.
-class ArrowButton : public QPushButton
-{
-public:
-    explicit ArrowButton(const QString& picture) : picture_(picture) { ShowPicture(); }
-
-protected:
-    void changeEvent(QEvent* event) override
-    {
-        if (event->type() == QEvent::StyleChange)
-            ShowPicture();
-        QPushButton::changeEvent(event);
-    }
-
-private:
-    /// The toolkit's own grey is nearly as dark as the arrow.
-    void ShowPicture()
-    {
-        constexpr double kFaint = 0.3;
-        QIcon icon = PictureIcon(picture_);
-        const QPixmap full = icon.pixmap(iconSize(), devicePixelRatio());
-        QPixmap faint(full.size());
-        faint.setDevicePixelRatio(full.devicePixelRatio());
-        faint.fill(Qt::transparent);
-        QPainter painter(&faint);
-        painter.setOpacity(kFaint);
-        painter.drawPixmap(0, 0, full);
-        painter.end();
-        icon.addPixmap(faint, QIcon::Disabled);
-        setIcon(icon);
-    }
-
-    const QString picture_;
-};
 
 QString WithoutMnemonic(QString text)
 {
@@ -234,7 +200,8 @@ QLabel* WrappedLabel(const QString& name, const Text& text)
 
 QPushButton* MakeArrow(const QString& name, const QString& picture, const Text& tip)
 {
-    auto* button = Named<ArrowButton>(name, picture);
+    auto* button = Named<QPushButton>(name);
+    button->setProperty(kPicture, picture);
     button->setProperty("look", "arrow");
     SetToolTip(button, tip);
     SetAccessibleName(button, tip);

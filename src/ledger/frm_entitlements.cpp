@@ -45,8 +45,7 @@ frmEntitlements::frmEntitlements(QWidget* parent) : FormBase("frmEntitlements", 
 void frmEntitlements::BuildList()
 {
     cboRecords = Named<WalkedList>("cboRecords");
-    cboRecords->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cboRecords->setMinimumContentsLength(kNameLength);
+    MakeRoomFor(cboRecords, kNameLength);
     cboRecords->view()->setItemDelegate(new RemarkDelegate(ListedEmployee, PlaceOfEmployee, cboRecords));
     SetPlaceholder(cboRecords, {"(Choose an employee)", "(Choisir un(e) employé(e))"});
     connect(cboRecords, &QComboBox::currentIndexChanged, this, &frmEntitlements::cboRecords_Click);

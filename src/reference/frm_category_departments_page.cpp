@@ -48,11 +48,7 @@ void CategoryDepartmentsPage::SelectUserDepartments(const QVector<int>& departme
         department->setCheckState(departments.contains(department->data(Qt::UserRole).toInt()) ? Qt::Checked
                                                                                                : Qt::Unchecked);
     }
-    for (QRadioButton* option : {optSelectAll, optDeselectAll}) {
-        option->setAutoExclusive(false);
-        option->setChecked(false);
-        option->setAutoExclusive(true);
-    }
+    ClearOptions({optSelectAll, optDeselectAll});
 }
 
 QVector<int> CategoryDepartmentsPage::UserDepartments() const

@@ -9,7 +9,7 @@
 
 namespace
 {
-constexpr int kDateWidth = 200;
+constexpr int kDateLength = 17;
 constexpr int kDatesGap = 20;
 constexpr int kPartsGap = 10;
 constexpr int kGroupGap = 6;
@@ -62,7 +62,7 @@ QComboBox* frmSelectDates::AddDates(QGridLayout* range, int column, const char* 
                                     DateRangeModel* days)
 {
     auto* dates = Named<WalkedList>(name);
-    dates->setMinimumWidth(kDateWidth);
+    MakeRoomFor(dates, kDateLength);
     dates->setModel(days);
     range->addLayout(Headed(label, dates), 0, column);
     return dates;

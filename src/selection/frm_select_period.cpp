@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr int kPeriodDateWidth = 190;
+constexpr int kPeriodDateLength = 17;
 constexpr int kPeriodDatesGap = 20;
 constexpr int kPeriodPartsGap = 10;
 constexpr int kOptionsGap = 4;
@@ -65,7 +65,7 @@ QLayout* frmSelectPeriod::Dates()
     auto* days = new DateRangeModel(this);
     days->SetRange(EntireYear().Start, EntireYear().End);
     for (QComboBox* dates : {cboFrom, cboTo}) {
-        dates->setMinimumWidth(kPeriodDateWidth);
+        MakeRoomFor(dates, kPeriodDateLength);
         dates->setModel(days);
     }
     Show(FirstPeriod(mode_));

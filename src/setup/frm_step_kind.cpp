@@ -3,6 +3,8 @@
 #include "foundation/common_services.h"
 #include "foundation/frm_option_caption.h"
 
+#include <QButtonGroup>
+
 namespace
 {
 constexpr int kOptionGap = 12;
@@ -76,7 +78,7 @@ QPushButton* InfoButton(const KindText& kind)
 } // namespace
 
 KindStep::KindStep(SetUpChoices& choices)
-    : WizardStep("fraStep2", {"KIND OF INSTALLATION", "TYPE D'INSTALLATION"}, choices)
+    : WizardStep("fraStep2", {"KIND OF INSTALLATION", "TYPE D'INSTALLATION"}, choices), options_(new QButtonGroup(this))
 {
     auto* content = new QVBoxLayout(this);
     content->setSpacing(kOptionGap);
@@ -90,18 +92,14 @@ KindStep::KindStep(SetUpChoices& choices)
 QWidget* KindStep::AddOption(std::size_t index)
 {
     const KindText& kind = kKinds[index];
-    options_.push_back(Named<QRadioButton>(QLatin1String("opt") + kind.Name));
-    connect(options_.back(), &QRadioButton::clicked, this, [this, &kind] { Choose(kind.Kind); });
-    auto* row = Beside(kOptionGap, {options_.back()});
-    row->addWidget(new OptionCaption(options_.back(), kind.Caption), 1);
+    auto* option = Named<QRadioButton>(QLatin1String("opt") + kind.Name);
+    options_->addButton(option);
+    connect(option, &QRadioButton::clicked, this, [this, &kind] {
+        choices_.Kind = kind.Kind;
+        emit Changed();
+    });
+    auto* row = Beside(kOptionGap, {option});
+    row->addWidget(new OptionCaption(option, kind.Caption), 1);
     row->addWidget(InfoButton(kind));
     return MakeCard(row);
-}
-
-void KindStep::Choose(Installation kind)
-{
-    for (std::size_t index = 0; index < options_.size(); ++index)
-        options_[index]->setChecked(kKinds[index].Kind == kind);
-    choices_.Kind = kind;
-    emit Changed();
 }

@@ -2,7 +2,7 @@
 
 #include "setup/frm_wizard_step.h"
 
-#include <vector>
+class QButtonGroup;
 
 /// The second step: a new database or one that exists, in a file or on a server. Each option has a button that
 /// explains it.
@@ -14,7 +14,6 @@ public:
 
 private:
     QWidget* AddOption(std::size_t index);
-    void Choose(Installation kind);
 
-    std::vector<QRadioButton*> options_; ///< in the order of the kinds of installation
+    QButtonGroup* options_; ///< each stands in a card of its own
 };

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 class SmallForms : public HouseTest
 {
@@ -123,15 +124,21 @@ TEST_F(SmallForms, WhatIsRequiredSaysSoAndShowsThatItIsMissingUntilItOrItsSubsti
     EXPECT_EQ(list->placeholderText() + list->accessibleDescription(), "obligatoireobligatoire");
 }
 
-TEST_F(SmallForms, NobodyIsAskedWhetherAFileMayBeReplacedThatTheProgramThenRefuses)
+TEST_F(SmallForms, TheFileDialogCutsNoDateAndAsksNobodyWhetherToReplaceWhatTheProgramThenRefuses)
 {
+    SessionState.English = false;
     InstallFileDialog();
     QTimer presses;
     presses.callOnTimeout([] {
         QWidget* shown = QApplication::activeModalWidget();
         EXPECT_FALSE(qobject_cast<QMessageBox*>(shown));
-        if (auto* dialog = qobject_cast<QDialog*>(shown))
+        if (auto* dialog = qobject_cast<QDialog*>(shown)) {
+            const auto* files = dialog->findChild<QTreeView*>("treeView");
+            const QModelIndex date = files ? files->model()->index(0, 3, files->rootIndex()) : QModelIndex();
+            const int needed = date.isValid() ? files->fontMetrics().horizontalAdvance(date.data().toString()) : 0;
+            EXPECT_TRUE(!files || files->columnWidth(3) >= needed);
             dialog->inherits("QFileDialog") ? dialog->accept() : dialog->reject();
+        }
     });
     presses.start(0);
     EXPECT_EQ(ChooseFile({"Save", "Access(*.mdb)|*.mdb", "Tarvell.mdb", house.Folder(), true}), house.DatabaseFile());

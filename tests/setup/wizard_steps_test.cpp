@@ -47,6 +47,30 @@ TEST_F(WizardSteps, TheWizardSpeaksBothLanguagesUntilOneIsChosen)
     EXPECT_EQ(user.Reads("lblDatabasePath"), house.DatabaseFile());
 }
 
+TEST_F(WizardSteps, ArrowsMoveAmongTheOptionsAndTabLeavesThem)
+{
+    Open();
+    const auto focus = [this] { return user.The<QDialog>().focusWidget()->objectName(); };
+    const auto after = [&](Qt::Key key) { return user.Presses(focus(), key), focus(); };
+    EXPECT_EQ(after(Qt::Key_Down), "optFrench");
+    EXPECT_EQ(after(Qt::Key_Tab), "cmdCancel") << "none is chosen yet";
+    EXPECT_EQ(user.Presses("", Qt::Key_Backtab).Presses("optFrench", Qt::Key_Space).Clicks("cmdNext").Reads("lblStep"),
+              "Étape 2 de 6");
+    EXPECT_EQ(focus(), "optNewAccessDatabase");
+    user.Presses(focus(), Qt::Key_Space);
+    for (const auto& [key, option] : {std::pair(Qt::Key_Down, "optNewSQLDatabase"),
+                                      {Qt::Key_Right, "optExistingAccessDatabase"},
+                                      {Qt::Key_Down, "optExistingSQLDatabase"}}) {
+        EXPECT_EQ(after(key), option);
+        EXPECT_EQ(user.Reads(option) + user.Reads("optNewAccessDatabase"), "10");
+    }
+    EXPECT_EQ(user.Reads("cmdNext"), "&Suivant");
+    EXPECT_EQ(after(Qt::Key_Left), "optExistingAccessDatabase");
+    EXPECT_EQ(after(Qt::Key_Tab), "cmdInfo_ExistingAccessDatabase");
+    EXPECT_EQ(user.Presses(focus(), Qt::Key_Backtab).Clicks("cmdNext").Reads("cmdNext"), "TERMINER")
+        << "what the arrow came to is chosen";
+}
+
 TEST_F(WizardSteps, CancellingAsksAndEndsTheProgram)
 {
     Open();

@@ -30,15 +30,20 @@ bool HasFocus(QWidget& control)
     return &focus == &control || control.isAncestorOf(&focus) || control.focusProxy() == &focus;
 }
 
-/// Only one option of a group is reached by Tab: the one that is chosen.
+/// Only one option of a group is reached by Tab; in a group each stands in a place of its own.
 void StepToOption(QWidget& form, QWidget& control)
 {
-    const QWidget& focus = Focused(form);
-    if (!qobject_cast<const QRadioButton*>(&focus) || !qobject_cast<QRadioButton*>(&control) ||
-        focus.parentWidget() != control.parentWidget())
+    const auto* from = qobject_cast<const QRadioButton*>(&Focused(form));
+    const auto* to = qobject_cast<const QRadioButton*>(&control);
+    if (!from || !to || from->group() != to->group() || (!to->group() && from->parentWidget() != to->parentWidget()))
         return;
+    const int way = to->mapTo(&form, QPoint()).y() - from->mapTo(&form, QPoint()).y();
+    const Qt::Key key = way > 0               ? Qt::Key_Down
+                        : way < 0             ? Qt::Key_Up
+                        : to->x() > from->x() ? Qt::Key_Right
+                                              : Qt::Key_Left;
     for (int step = 0; step < kMostOptions && !HasFocus(control); ++step)
-        QTest::keyClick(&Focused(form), Qt::Key_Down);
+        QTest::keyClick(&Focused(form), key);
 }
 
 /// The menus from the bar down to the entry, itself the last.

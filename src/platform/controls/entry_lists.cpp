@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <QStandardItemModel>
-#include <QStringListModel>
 #include <QStyleOptionComboBox>
 
 namespace
@@ -29,11 +28,10 @@ QString DigitsOfTime(const QString& typed)
 }
 
 /// A text that begins with a digit finds entries by their digits alone, from the first one on.
-template <typename Model>
-class FoundByDigits : public Model
+class FoundByDigits : public QStandardItemModel
 {
 public:
-    using Model::Model;
+    using QStandardItemModel::QStandardItemModel;
 
     QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
                           Qt::MatchFlags flags) const override
@@ -41,11 +39,10 @@ public:
         const QString typed = value.toString();
         const bool digits = !typed.isEmpty() && typed.front().isDigit();
         if (!digits || role != Qt::DisplayRole || (flags & Qt::MatchTypeMask) != Qt::MatchStartsWith)
-            return Model::match(start, role, value, hits, flags);
+            return QStandardItemModel::match(start, role, value, hits, flags);
         const QString time = DigitsOfTime(typed);
-        for (int row = 0; row < this->rowCount(); ++row)
-            if (const QModelIndex entry = this->index(row, start.column());
-                Digits(entry.data().toString()).startsWith(time))
+        for (int row = 0; row < rowCount(); ++row)
+            if (const QModelIndex entry = index(row, start.column()); Digits(entry.data().toString()).startsWith(time))
                 return {entry};
         return {};
     }
@@ -215,17 +212,26 @@ void WalkedList::keyPressEvent(QKeyEvent* event)
 
 void FindTimesByDigits(QComboBox* list)
 {
-    list->setModel(new FoundByDigits<QStandardItemModel>(list));
+    list->setModel(new FoundByDigits(list));
 }
 
 void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries)
 {
-    auto* model = new FoundByDigits<QStringListModel>(lists.front());
-    model->setStringList(entries);
+    auto* model = new FoundByDigits(lists.front());
+    QList<QStandardItem*> rows;
+    for (const QString& entry : entries)
+        rows << new QStandardItem(entry);
+    model->invisibleRootItem()->appendRows(rows);
     for (QComboBox* list : lists) {
         list->setModel(model);
         list->setCurrentIndex(-1);
     }
+}
+
+void MakeRoomFor(QComboBox* list, int characters)
+{
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(characters);
 }
 
 void ShowText(QComboBox* combo, const QString& text)

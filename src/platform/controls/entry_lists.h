@@ -47,6 +47,9 @@ void FindTimesByDigits(QComboBox* list);
 /// chosen.
 void ShareEntries(const std::vector<QComboBox*>& lists, const QStringList& entries);
 
+/// The list has room for `characters`, whatever it offers: to measure hundreds of entries takes its time.
+void MakeRoomFor(QComboBox* list, int characters);
+
 /// Shows a text and the entry that reads so; an empty text for none.
 void ShowText(QComboBox* combo, const QString& text);
 /// Sets a text only when it differs, so that the cursor stays.

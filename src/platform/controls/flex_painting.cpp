@@ -111,17 +111,57 @@ void PaintSign(QPainter& painter, const QRect& rect, const QString& sign)
     painter.restore();
 }
 
-/// Lines stand at the right and the foot of a cell, inside it.
-void PaintLines(QPainter& painter, const QRect& rect, bool left, bool top)
+/// A cell in whole pixels of the screen, also where a pixel of the program is one and a quarter of them: neighbours
+/// share their edge, and lines lie on it.
+class CellPixels
 {
-    painter.setPen(Paper::kLine);
-    painter.drawLine(rect.topRight(), rect.bottomRight());
-    painter.drawLine(rect.bottomLeft(), rect.bottomRight());
-    if (left)
-        painter.drawLine(rect.topLeft(), rect.bottomLeft());
-    if (top)
-        painter.drawLine(rect.topLeft(), rect.topRight());
-}
+public:
+    CellPixels(QPainter& painter, const QRect& cell)
+        : painter_(painter), line_(std::max(1, static_cast<int>(painter.deviceTransform().m11()))),
+          cell_(CornerOf(cell.topLeft()), CornerOf(cell.bottomRight() + QPoint(1, 1)) - QPoint(1, 1))
+    {}
+
+    void Fill(const QColor& color) const { Fill(cell_, color); }
+
+    /// Lines stand at the right and the foot of a cell, inside it.
+    void PaintLines(bool left, bool top) const
+    {
+        const QSize upright(line_, cell_.height()), flat(cell_.width(), line_);
+        Fill({cell_.topRight() - QPoint(line_ - 1, 0), upright}, Paper::kLine);
+        Fill({cell_.bottomLeft() - QPoint(0, line_ - 1), flat}, Paper::kLine);
+        if (left)
+            Fill({cell_.topLeft(), upright}, Paper::kLine);
+        if (top)
+            Fill({cell_.topLeft(), flat}, Paper::kLine);
+    }
+
+    /// The cell with the focus: two rings inside the lines, of which one stands out on any colour.
+    void PaintRing() const
+    {
+        const QRect inside = cell_.adjusted(0, 0, -line_, -line_);
+        const int ring = qRound(2 * painter_.deviceTransform().m11());
+        PaintFrame(inside, ring, Paper::kRing);
+        PaintFrame(inside.marginsRemoved(QMargins() + ring), line_, Qt::white);
+    }
+
+private:
+    QPoint CornerOf(const QPoint& point) const { return painter_.deviceTransform().map(QPointF(point)).toPoint(); }
+
+    void Fill(const QRect& pixels, const QColor& color) const
+    {
+        painter_.fillRect(painter_.deviceTransform().inverted().mapRect(QRectF(pixels)), color);
+    }
+
+    void PaintFrame(const QRect& around, int width, const QColor& color) const
+    {
+        for (const QRect& side : QRegion(around) - around.marginsRemoved(QMargins() + width))
+            Fill(side, color);
+    }
+
+    QPainter& painter_;
+    int line_;
+    QRect cell_;
+};
 
 bool HasLines(const FlexCell* cell, bool outside)
 {
@@ -133,20 +173,12 @@ QColor ColorOr(int code, const QColor& own)
     return code < 0 ? own : ColorOfCode(code);
 }
 
-/// The cell with the focus: two rings, of which one stands out on any colour.
-void PaintRing(QPainter& painter, const QRect& rect)
-{
-    painter.setPen(QPen(Paper::kRing, 2));
-    painter.drawRect(rect.adjusted(1, 1, -2, -2));
-    painter.setPen(Qt::white);
-    painter.drawRect(rect.adjusted(2, 2, -4, -4));
-}
-
 void PaintHead(QPainter& painter, const QRect& rect, const FlexCell& cell, Qt::Alignment alignment)
 {
-    painter.fillRect(rect, ColorOr(cell.Back, Paper::kHeadBack));
+    const CellPixels pixels(painter, rect);
+    pixels.Fill(ColorOr(cell.Back, Paper::kHeadBack));
     if (cell.Lines)
-        PaintLines(painter, rect, false, false);
+        pixels.PaintLines(false, false);
     SetBold(painter, true);
     PaintText(painter, rect, cell.Text, alignment, {ColorOr(cell.Fore, Paper::kHeadText), {}});
 }
@@ -162,15 +194,15 @@ void FlexDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const bool tinted = grid_->rowSelection_ && row == grid_->currentIndex().row();
     const QRect& rect = option.rect;
     const QColor back = ColorOr(cell.Back, tinted ? Paper::kTint : Qt::white);
+    const CellPixels pixels(*painter, rect);
     if (cell.Back >= 0 || tinted || option.state & QStyle::State_Selected)
-        painter->fillRect(rect, back); // also over the toolkit's colour of what is chosen
+        pixels.Fill(back); // also over the toolkit's colour of what is chosen
     if (cell.Lines) {
         const bool outside = !grid_->bordered_;
-        PaintLines(*painter, rect, !HasLines(cells.At(row, col - 1), outside),
-                   !HasLines(cells.At(row - 1, col), outside));
+        pixels.PaintLines(!HasLines(cells.At(row, col - 1), outside), !HasLines(cells.At(row - 1, col), outside));
     }
     if (!grid_->rowSelection_ && grid_->hasFocus() && index == grid_->currentIndex())
-        PaintRing(*painter, rect); // below the text: in a low row it would cut it
+        pixels.PaintRing(); // below the text: in a low row it would cut it
     const Ink ink = ReadableInk(ColorOr(cell.Fore, Paper::kText), back);
     SetBold(*painter, cell.Bold);
     const QRect room = cell.Note ? PaintNote(*painter, rect, *cell.Note, ink, back) : rect;

@@ -1,15 +1,13 @@
 #include "platform/controls/form_kit.h"
 
+#include "platform/controls/program_style.h"
 #include "platform/controls/theme.h"
 #include "platform/dao/dao.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
-#include <QKeyEvent>
-#include <QListWidget>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QSvgRenderer>
@@ -25,83 +23,9 @@ namespace
 constexpr int kPageMargin = 16;
 constexpr int kCardMargin = 14; ///< also of a tab's page
 constexpr int kGap = 9;
-constexpr int kEntryHeight = 22;
 constexpr double kFontPoints = 10;
 
 std::function<int(QDialog&)> modalRunner;
-
-/// The toolkit makes the first entry of a list current without marking it, and the first Down would pass it over.
-class FirstRowTaker : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* target, QEvent* event) override
-    {
-        if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Down)
-            return false;
-        auto* list = qobject_cast<QListWidget*>(target);
-        return list && list->selectedItems().isEmpty() && list->currentRow() <= 0 && TakeFirst(list);
-    }
-
-private:
-    static bool TakeFirst(QListWidget* list)
-    {
-        for (int row = 0; row < list->count(); ++row)
-            if (list->item(row)->flags().testFlag(Qt::ItemIsSelectable)) {
-                list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
-                return true;
-            }
-        return false;
-    }
-};
-
-/// Entries of lists stand at a reader's distance. The style sheet cannot see to it: a list that is filled before it is
-/// shown takes its sizes from the style alone.
-class ProgramStyle : public QProxyStyle
-{
-public:
-    ProgramStyle() : QProxyStyle("Fusion") {}
-
-    /// The wheel turns the list that has the focus, never one that the pointer passes while a page scrolls.
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* returned) const override
-    {
-        if (hint == SH_ComboBox_AllowWheelScrolling && widget)
-            return widget->hasFocus() ? 1 : 0;
-        return QProxyStyle::styleHint(hint, option, widget, returned);
-    }
-
-    /// The tab that has the focus is known by its colour; the toolkit's frame would strike its caption through.
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override
-    {
-        if (element != PE_FrameFocusRect || !qobject_cast<const QTabBar*>(widget))
-            QProxyStyle::drawPrimitive(element, option, painter, widget);
-    }
-
-    /// Names and texts from the data may look like markup; no label of the program has any.
-    void polish(QWidget* widget) override
-    {
-        QProxyStyle::polish(widget);
-        if (auto* label = qobject_cast<QLabel*>(widget))
-            label->setTextFormat(Qt::PlainText);
-        if (qobject_cast<QListWidget*>(widget))
-            widget->installEventFilter(firstRowTaker_);
-    }
-
-    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
-                           const QWidget* widget) const override
-    {
-        QSize room = QProxyStyle::sizeFromContents(type, option, size, widget);
-        if (type == CT_ItemViewItem)
-            room.setHeight(std::max(room.height(), kEntryHeight));
-        return room;
-    }
-
-private:
-    QObject* firstRowTaker_ = new FirstRowTaker(this);
-};
 
 /// What the style sheet selects by: [look="head"].
 template <typename Widget>
@@ -332,7 +256,7 @@ void KeepFocus(QWidget* field)
 void ApplyStyle()
 {
     const Scheme scheme = DesktopScheme(); // while the colours are still the desktop's
-    QApplication::setStyle(new ProgramStyle);
+    QApplication::setStyle(MakeProgramStyle());
     QApplication::setFont(ProgramFont());
     QApplication::setWindowIcon(PictureIcon("app"));
     ApplyTheme(scheme);

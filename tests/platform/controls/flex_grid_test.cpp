@@ -1,10 +1,13 @@
 #include "platform/controls/flex_grid.h"
+#include "platform/controls/theme.h"
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -99,6 +102,54 @@ TEST_F(Grid, CellsArePaintedInTheirOwnColours)
     EXPECT_EQ(grid.CellRect(0, 0).width(), grid.columnWidth(0) * 3);
     EXPECT_EQ(Painted({grid.CellRect(1, 2).center().x(), 3}), QColor(0, 0, 128)) << "over all merged columns";
     EXPECT_EQ(ColorOfCode(0x123456), QColor("#563412"));
+}
+
+TEST_F(Grid, ColoursAndLinesMeetAtEachScaleOfTheScreen)
+{
+    grid.SetSize(9, 9);
+    grid.SetBordered(false);
+    for (int each = 0; each < 81; ++each)
+        grid.SetCellBackColor(each / 9, each % 9, 0x80C0FF);
+    for (int each = 0; each < 9; ++each) {
+        grid.SetColWidth(each, 31 + each % 3);
+        grid.SetRowHeight(each, 21 + each % 3);
+    }
+    Show();
+    grid.SelectCell(8, 8);
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        QImage image((QSizeF(288, 198) * scale).toSize(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::red);
+        grid.viewport()->render(&image);
+        // Along a cell's middle: a line wherever a cell ends, its own colour up to there.
+        int lines = 0, others = 0;
+        for (const bool across : {true, false})
+            for (int at = 1; at < (across ? image.width() : image.height()); ++at) {
+                const auto pixel = [&](int place) {
+                    return across ? image.pixelColor(place, qRound(10 * scale))
+                                  : image.pixelColor(qRound(10 * scale), place);
+                };
+                lines += pixel(at) == Paper::kLine && pixel(at - 1) != Paper::kLine;
+                others += pixel(at) != Paper::kLine && pixel(at) != QColor(255, 192, 128);
+            }
+        EXPECT_EQ(std::pair(lines, others), std::pair(18, 0)) << scale;
+    }
+}
+
+TEST_F(Grid, ATipTellsTheTextThatItsCellCuts)
+{
+    grid.SetSize(2, 2);
+    grid.SetTextMatrix(1, 1, "Vacation");
+    Show();
+    const int needed = grid.fontMetrics().horizontalAdvance("Vacation") + 8;
+    for (const int width : {needed, needed - 1}) {
+        grid.SetColWidth(1, width);
+        const QPoint place = grid.CellRect(1, 1).center();
+        QHelpEvent asks(QEvent::ToolTip, place, grid.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(grid.viewport(), &asks);
+        EXPECT_EQ(QToolTip::text(), width < needed ? "Vacation" : "");
+    }
+    QToolTip::hideText();
 }
 
 TEST_F(Grid, FixedRowsStayAtTheTopAndOnlyTheCellsBelowTakeClicks)

@@ -1,7 +1,12 @@
+#include "platform/controls/foot_layout.h"
 #include "platform/controls/form_kit.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -49,6 +54,46 @@ TEST(FormKit, TheWheelTurnsOnlyTheListThatHasTheFocus)
         QApplication::sendEvent(&list, &wheel);
     }
     EXPECT_EQ(lists[0].currentText() + lists[1].currentText(), "twoone");
+}
+
+TEST(FormKit, EachArrowMovesInARowOfOptionsAndTabLeavesIt)
+{
+    QWidget form;
+    QLineEdit field;
+    QRadioButton options[3];
+    QHBoxLayout layout(&form);
+    for (QRadioButton& option : options)
+        layout.addWidget(&option);
+    layout.addWidget(&field);
+    form.show();
+    form.activateWindow();
+    QApplication::processEvents();
+    options[0].setFocus();
+    for (const auto& [key, to] : {std::pair(Qt::Key_Down, 1), {Qt::Key_Right, 2}, {Qt::Key_Up, 1}}) {
+        QTest::keyClick(form.focusWidget(), key);
+        EXPECT_EQ(form.focusWidget(), &options[to]);
+        EXPECT_FALSE(options[to].isChecked()) << "what none has chosen is only walked over";
+    }
+    for (const QWidget* to : std::initializer_list<QWidget*>{&field, &options[1]}) {
+        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(form.focusWidget(), to);
+    }
+}
+
+TEST(FormKit, AFootTakesASecondLineOnlyWhereItMust)
+{
+    QWidget form;
+    auto* foot = new FootLayout;
+    form.setLayout(foot);
+    foot->setSpacing(8);
+    for (const int width : {100, 208, 316}) {
+        auto* button = new QPushButton;
+        button->setFixedSize(100, 30);
+        foot->Add(button, FootLayout::Group::Command);
+        button->show();
+        EXPECT_EQ(foot->sizeHint().width(), width);
+    }
+    EXPECT_EQ(std::pair(foot->heightForWidth(316), foot->heightForWidth(315)), std::pair(30, 68));
 }
 
 TEST(FormKit, GuardsGiveBackWhatTheyFound)
