@@ -116,6 +116,7 @@ TEST_F(Approval, AllOfAGroupIsDeniedInFrenchAndWhoeverHasNoAddressMustBeToldOthe
     house.Sql("UPDATE Employees SET EMailAddress = ' '");
     SessionState.English = false;
     user.Opens<frmApproval>().Picks("cboRecords", "26-03-02  Davis, Chris                              Vacances");
+    EXPECT_TRUE(user.Entries("cboRecords").first().endsWith("Maladie")) << "in the order of the alphabet";
     user.Clicks("optApproveAll").Clicks("optDenyAll").Types("txtReasonForRefusal", "Trop d'absents");
     user.WillAnswer("VEUILLEZ CONFIRMER:", "Non", "Vos changements")
         .Picks("cboRecords", "26-03-02  Davis, Chris                              Mal");
