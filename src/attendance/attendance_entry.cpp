@@ -32,22 +32,6 @@ void ApplySign(AttendanceEntry& entry)
     }
 }
 
-void ClearDurations(AttendanceEntry& entry)
-{
-    entry.UnpaidBreak = 0;
-    entry.Duration = 0;
-    entry.TotalDuration = 0;
-    entry.TotalTime = 0;
-}
-
-void ClearTimes(AttendanceEntry& entry)
-{
-    entry.StartTime = 0;
-    entry.EndTime = 0;
-    entry.StartTimeText.clear();
-    entry.EndTimeText.clear();
-}
-
 /// The end on the day of the start, so that a start chosen anew decides afresh whether midnight lies between.
 void TakeEndBackToItsDay(AttendanceEntry& entry)
 {
@@ -69,7 +53,10 @@ void ShowPeriod(AttendanceEntry& entry)
 
 void ForgetDuration(AttendanceEntry& entry)
 {
-    ClearDurations(entry);
+    entry.UnpaidBreak = 0;
+    entry.Duration = 0;
+    entry.TotalDuration = 0;
+    entry.TotalTime = 0;
     entry.HoursText.clear();
     entry.MinutesText.clear();
     entry.TotalTimeText.clear();
@@ -223,5 +210,8 @@ void ShowDuration(AttendanceEntry& entry, float hours)
 void ClearEntryFields(AttendanceEntry& entry)
 {
     ForgetDuration(entry);
-    ClearTimes(entry);
+    entry.StartTime = 0;
+    entry.EndTime = 0;
+    entry.StartTimeText.clear();
+    entry.EndTimeText.clear();
 }

@@ -144,8 +144,6 @@ void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry)
 
 BalanceLines ExplainBalance(DataControl& datAbsence, const AttendanceEntry& entry)
 {
-    if (entry.EmployeeID == 0)
-        return {};
     if (entry.RequiresMonitoring == 1)
         return ExplainEntitlement(datAbsence, entry.EmployeeID, entry.SelectedCategoryID);
     return entry.TimeBankRelated == 1 ? ExplainTimeBank(datAbsence, entry) : BalanceLines();

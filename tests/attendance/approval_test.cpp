@@ -116,6 +116,7 @@ TEST_F(Approval, AllOfAGroupIsDeniedInFrenchAndWhoeverHasNoAddressMustBeToldOthe
     house.Sql("UPDATE Employees SET EMailAddress = ' '");
     SessionState.English = false;
     user.Opens<frmApproval>().Picks("cboRecords", "26-03-02  Davis, Chris                              Vacances");
+    EXPECT_TRUE(user.Entries("cboRecords").first().endsWith("Maladie")) << "in the order of the alphabet";
     user.Clicks("optApproveAll").Clicks("optDenyAll").Types("txtReasonForRefusal", "Trop d'absents");
     user.WillAnswer("VEUILLEZ CONFIRMER:", "Non", "Vos changements")
         .Picks("cboRecords", "26-03-02  Davis, Chris                              Mal");
@@ -264,7 +265,7 @@ TEST_F(Approval, BothApproversSeeTheGroupsThatWaitAndOnlyTheFirstIsToldOnce)
 TEST_F(Approval, WhoeverAskedIsToldHowItStandsAndNotAgainWhatIsSettled)
 {
     for (const int status : {0, 1, 2, 3})
-        house.Sql("UPDATE Attendance SET RequestStatus = ? WHERE RecordID = ?", {status, Requests(2 + status)});
+        house.Sql("UPDATE Attendance SET RequestStatus = ? WHERE RecordID = ?", {status, Requests(5 - status)});
     house.Sql("UPDATE Attendance SET CancelledDate = 46083 WHERE RequestStatus = 3");
     Record(chris, "Sick", 9, 7);
     house.LogIn("CHRIS");
@@ -275,8 +276,8 @@ TEST_F(Approval, WhoeverAskedIsToldHowItStandsAndNotAgainWhatIsSettled)
     };
     user.WillAnswer(
         "STATU DE VOS DEMANDES DE CONGÉ:", "OK",
-        "Voici le statu de vos demandes de congé:\r\n\r\nDATE: \tSTATU\t\t\tCATÉGORIE\r\n02-Mar\tRequête en "
-        "suspens\tVacances\r\n03-Mar\tResponsable avisé  \tVacances\r\n04-Mar\tRequête approuvée \tVacances\r\n");
+        "Voici le statu de vos demandes de congé:\r\n\r\nDATE: \tSTATU\t\t\tCATÉGORIE\r\n03-Mar\tRequête "
+        "approuvée \tVacances\r\n04-Mar\tResponsable avisé  \tVacances\r\n05-Mar\tRequête en suspens\tVacances\r\n");
     WereRequestsApproved(datAbsence);
     EXPECT_EQ(Statuses(), "0 2 4 4 0");
 
@@ -284,7 +285,7 @@ TEST_F(Approval, WhoeverAskedIsToldHowItStandsAndNotAgainWhatIsSettled)
     SessionState.English = true;
     user.WillAnswer(
         "REQUEST(S) FOR LEAVE STATUS REPORT:", "OK",
-        "DATE: \tSTATUS\t\t\tCATEGORY\r\n02-Mar\tRequest is on hold  \tVacation\r\n03-Mar\tRequest approved    \t");
+        "DATE: \tSTATUS\t\t\tCATEGORY\r\n04-Mar\tRequest approved    \tVacation\r\n05-Mar\tRequest is on hold  \t");
     WereRequestsApproved(datAbsence);
     house.Sql("UPDATE Attendance SET RequestStatus = 3, CancelledDate = 46083 WHERE RequestStatus = 0");
     WereRequestsApproved(datAbsence);

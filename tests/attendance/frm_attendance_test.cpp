@@ -304,11 +304,11 @@ TEST_F(FrmAttendance, WhatExplainsItselfShowsTheFocusAndLongNamesAreCut)
 TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
 {
     house.LogIn("CHRIS");
-    Begin({2}, 0, "Sick");
+    Begin({2}, 0, "Time claimed");
     entry.EmployeeLocked = true;
     Opens();
     EXPECT_TRUE(user.Entries("lstWho").isEmpty()) << "who may add for nobody can only close";
-    EXPECT_FALSE(user.CanUse("cmdAddOrUpdate") || user.CanUse("lstWho"));
+    EXPECT_FALSE(user.CanUse("cmdAddOrUpdate") || user.CanUse("lstWho") || user.CanUse("lblBalance"));
     user.Clicks("cmdQuit");
     EXPECT_TRUE(user.The<frmAttendance>().result() == QDialog::Rejected && !SessionState.ReloadCalendar);
 
