@@ -60,6 +60,9 @@ TEST_F(Cloning, TheNewRecordTakesWorkplaceScheduleApproversAndRightsButNothingPe
                                              "AccessToRestrictedCategory", "SelfLevelRead"));
     EXPECT_EQ(record.RecordID + record.HourlyRate, 0);
     EXPECT_EQ(record.FamilyName + record.LoginID + record.Password + record.EMailAddress + record.HourlyRateText, "");
+    house.Sql("UPDATE Employees SET HoursWorkedDaily = 0 WHERE LoginID = 'ANNA'");
+    user.Opens<frmCloneEmployee>(record).Picks("lstCloneEmployees", "Northern Works / Abel").Clicks("cmdCloneEmployee");
+    EXPECT_EQ(record.HoursWorkedDaily, 7) << "a length that is not known replaces none";
 
     record = {};
     user.Opens<frmCloneEmployee>(record).Picks("lstCloneEmployees", "Northern Works / Abel").Clicks("cmdNewEmployee");

@@ -228,5 +228,8 @@ TEST_F(LogIn, ALostDatabaseCanBeLookedForElsewhereAndServesTheRunThatCannotKeepI
     EXPECT_EQ(shown, QStringList({"main", "main"}));
     EXPECT_EQ(RowsOf(*config, "SELECT DatabasePath, DatabaseName, SQL_Server FROM Configuration"),
               other.Folder().replace('/', '\\').toUpper() + "|Tarvell.mdb|0");
+    SetMessagePresenter([](const Message&) { return MessageCode::Cancel; });
+    EXPECT_THROW(LocateDatabase(datAbsence, [] { SessionState.DatabaseName = "never"; }), ProgramEnded)
+        << "the question was closed without an answer";
 }
 } // namespace
