@@ -12,8 +12,14 @@ namespace
 /// Another user may have cancelled the record, or settled the request, since the calendar was read.
 void RequireAsShown(const AttendanceRow& record)
 {
-    if (!IsServerChosen() && (record.CancelledDate != 0 || (record.Submitted == 1) == SessionState.ShowApproved))
-        RefuseChangedRow();
+    constexpr Text kCancelled = {"\r\n\r\nWhat stood on {date} has been cancelled meanwhile.",
+                                 "\r\n\r\nCe qui figurait au {date} a été supprimé entre-temps."};
+    constexpr Text kSettled = {"\r\n\r\nThe request for {date} has been settled meanwhile.",
+                               "\r\n\r\nLa demande du {date} a été traitée entre-temps."};
+    const bool cancelled = record.CancelledDate != 0;
+    if (!IsServerChosen() && (cancelled || (record.Submitted == 1) == SessionState.ShowApproved))
+        RefuseChangedRow(
+            T(cancelled ? kCancelled : kSettled, {{"date", FormatDate(record.RecordDate, "dd-mmm-yyyy")}}));
 }
 
 /// Gives the record back as it was before.

@@ -99,6 +99,18 @@ void ToolBar::ActivateAllowed()
     for (const Tool& tool : tools_)
         SetTool(tool, tool.Of.Allowed.Holds(), false, tool.Of.Allowed.WhyNot());
     PartGroups();
+    FollowZoomed();
+}
+
+/// The pointer may rest on a tool whose look changes or that is no longer there.
+void ToolBar::FollowZoomed()
+{
+    if (imgZoom->isHidden())
+        return;
+    imgZoom->hide();
+    for (const Tool& tool : tools_)
+        if (&tool.Of == hovered_ && !tool.Image->isHidden())
+            ShowZoom(tool);
 }
 
 /// A line stands only between tools that are seen.

@@ -49,6 +49,7 @@ private:
     void FitWords();
     void PartGroups();
     void ShowZoom(const Tool& tool);
+    void FollowZoomed();
     void ShowWords(bool shown);
     int WidthWithWords() const;
 

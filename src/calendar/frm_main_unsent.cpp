@@ -2,6 +2,7 @@
 
 #include "attendance/request_notice.h"
 #include "foundation/common_services.h"
+#include "foundation/failure_words.h"
 #include "foundation/frm_captions.h"
 #include "mail/mail_component.h"
 
@@ -21,7 +22,7 @@ QString UnsentText()
                                "{count} courriels n'ont pu être envoyés, le dernier à {address} ({reason})."};
     return T(unsent.size() == 1 ? kOne : kSeveral, {{"count", QString::number(unsent.size())},
                                                     {"address", unsent.last().Message.Address.simplified()},
-                                                    {"reason", unsent.last().Reason.simplified()}});
+                                                    {"reason", FailureWords(unsent.last().Reason.simplified())}});
 }
 } // namespace
 

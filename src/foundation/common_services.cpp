@@ -1,6 +1,7 @@
 #include "foundation/common_services.h"
 
 #include "foundation/connection.h"
+#include "foundation/failure_words.h"
 #include "foundation/log_in.h"
 #include "foundation/session_rows.h"
 #include "foundation/texts.h"
@@ -192,8 +193,7 @@ void TellError(const RuntimeError& error)
     if (dynamic_cast<const YearClosed*>(&error))
         return TellWhenYearIsClosed();
     Tell(T("AN ERROR HAS OCCURRED:", "UNE ERREUR EST SURVENUE:"),
-         T("The following error has occurred:", "L'erreur suivante est survenue:") + "\r\n\r\n" +
-             QString::number(error.Number) + ": " + error.Description,
+         T("The following error has occurred:", "L'erreur suivante est survenue:") + "\r\n\r\n" + FailureWords(error),
          Face::Ashamed);
 }
 

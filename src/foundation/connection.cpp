@@ -1,6 +1,7 @@
 #include "foundation/connection.h"
 
 #include "foundation/common_services.h"
+#include "foundation/failure_words.h"
 #include "foundation/texts.h"
 #include "platform/dao/server.h"
 #include "platform/program.h"
@@ -39,7 +40,7 @@ QString ConnectionFailure(const RuntimeError& error)
     return T("A connection to the database could not be established due to the following error:",
              "L'erreur suivante est survenue au moment où le système tentait d'établir une connexion à votre banque de "
              "données:") +
-           "\r\n\r\n" + QString::number(error.Number) + ": " + error.Description + "\r\n\r\n";
+           "\r\n\r\n" + FailureWords(error) + "\r\n\r\n";
 }
 
 void EndOnFailedConnection(const RuntimeError& error)

@@ -2,6 +2,7 @@
 
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/failure_words.h"
 #include "foundation/texts.h"
 #include "platform/program.h"
 
@@ -33,7 +34,7 @@ bool CanBeConnectedTo(const QString& path)
         Tell(T("OPERATION DENIED:", "OPÉRATION REFUSÉE:"),
              T("Unable to connect to the selected database!",
                "La connexion à la banque de données spécifiée a échoué!") +
-                 "\r\n\r\n" + QString::number(error.Number) + ": " + error.Description,
+                 "\r\n\r\n" + FailureWords(error),
              Face::Warning);
         return false;
     }

@@ -107,9 +107,9 @@ RowValues Differing(const RowValues& before, const RowValues& now)
     return differing;
 }
 
-void RefuseChangedRow()
+void RefuseChangedRow(const QString& more)
 {
-    throw RuntimeError(EngineError::RowChanged, "The record has been changed by another user.");
+    throw RuntimeError(EngineError::RowChanged, "The record has been changed by another user." + more);
 }
 
 void InTransaction(DataControl& datAbsence, const std::function<void()>& work, Transaction::OnFailure onFailure)

@@ -237,8 +237,8 @@ void Change(DataControl& datAbsence, const R& before, const R& after, const Tabl
     ChangeRow(datAbsence, table, after.RecordID, Differing(ValuesOf(table, before), ValuesOf(table, after)));
 }
 
-/// A row is no longer what the user saw when he chose it. Throws 3197.
-[[noreturn]] void RefuseChangedRow();
+/// A row is no longer what the user saw when he chose it; `more` is said behind that. Throws 3197.
+[[noreturn]] void RefuseChangedRow(const QString& more = {});
 
 /// Runs `work` connected and in one transaction. Nothing is written when it throws, or with KeepOnFailure what was
 /// written before the failure. The server back end has no transactions.

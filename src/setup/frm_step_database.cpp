@@ -2,6 +2,7 @@
 
 #include "foundation/common_services.h"
 #include "foundation/database_choice.h"
+#include "foundation/failure_words.h"
 #include "platform/program.h"
 #include "setup/database_relocation.h"
 #include "setup/installation.h"
@@ -31,12 +32,12 @@ constexpr Text kHelpOnExisting = {
 void TellRelocationFailure(const RuntimeError& error)
 {
     Tell(T("AN ERROR HAS OCCURRED:", "UNE ERREUR EST SURVENUE:"),
-         T({"The following error has occurred as your database was being moved to its new location:\r\n\r\n{number}: "
-            "{description}\r\n\r\nPlease try again and if the problem persists, contact your network administrator.",
-            "L'erreur suivante est survenue lors de la relocalisation de votre banque de données:\r\n\r\n{number}: "
-            "{description}\r\n\r\nVeuillez essayer de nouveau et si le problème persiste, contactez votre "
+         T({"The following error has occurred as your database was being moved to its new location:\r\n\r\n"
+            "{failure}\r\n\r\nPlease try again and if the problem persists, contact your network administrator.",
+            "L'erreur suivante est survenue lors de la relocalisation de votre banque de données:\r\n\r\n"
+            "{failure}\r\n\r\nVeuillez essayer de nouveau et si le problème persiste, contactez votre "
             "administrateur de réseau."},
-           {{"number", QString::number(error.Number)}, {"description", error.Description}}),
+           {{"failure", FailureWords(error)}}),
          Face::Ashamed);
 }
 

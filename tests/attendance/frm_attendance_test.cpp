@@ -301,6 +301,18 @@ TEST_F(FrmAttendance, WhatExplainsItselfShowsTheFocusAndLongNamesAreCut)
     EXPECT_EQ(name->toolTip(), wide + " " + wide);
 }
 
+TEST_F(FrmAttendance, TheTabsTurnFromEachListToo)
+{
+    Begin({2}, chris, "Vacation");
+    Opens();
+    const auto* tabs = user.The<frmAttendance>().findChild<QTabWidget*>();
+    for (const char* list : {"lstWho", "cboCategories", "cboStartTime"}) {
+        user.Presses(list, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), 1) << list;
+        user.Presses(list, Qt::Key_Backtab, Qt::ControlModifier);
+    }
+}
+
 TEST_F(FrmAttendance, WhomOneOnlyViewsGetsNoRecord)
 {
     house.LogIn("CHRIS");

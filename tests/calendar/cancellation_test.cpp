@@ -157,7 +157,7 @@ TEST_F(Cancellation, AFailureKeepsAndTellsWhatWasCancelledBeforeItAndAClosedYear
     Marks("Vacation", {{12, 22}});
     house.Sql("UPDATE Attendance SET Submitted = 0, RequestStatus = 2 WHERE RecordID = ?", {second}); // by Luc
     user.WillAnswer("CONFIRM:", "Yes")
-        .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "changed by another user")
+        .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "The request for 22-Dec-2026 has been settled meanwhile.")
         .Clicks("imgRemove");
     EXPECT_EQ(StateOf(second), "0|2|X||0");
 

@@ -5,6 +5,8 @@
 #include "selection/frm_select_attendance_record.h"
 #include "selection/frm_select_dates.h"
 
+#include <QToolButton>
+
 namespace
 {
 TEST_F(MainWindow, TheYearIsPaintedWithColoursTotalsHolidaysAndToday)
@@ -340,6 +342,25 @@ TEST_F(MainWindow, TheNameShownIsWholeInANarrowWindowAndALongOneInItsTip)
     name->grab();
     EXPECT_EQ(name->toolTip(), longest);
     EXPECT_LE(main->width(), 960);
+}
+
+TEST_F(MainWindow, TheToolUnderThePointerFollowsWhatItIsUsedFor)
+{
+    OpensOnMarie();
+    auto* zoomed = main->findChild<QToolButton*>("imgZoom");
+    const auto rests = [&] {
+        QEvent enter(QEvent::Enter);
+        QApplication::sendEvent(main->findChild<QToolButton*>("imgCreateMultiple"), &enter);
+        return zoomed->isVisible() ? zoomed->property("look").toString() : "hidden";
+    };
+    EXPECT_EQ(rests(), "");
+    user.Clicks("imgCreateMultiple");
+    ClicksDay(11, 25);
+    EXPECT_EQ(rests(), "active");
+    user.Presses("flxCalendar", Qt::Key_Escape);
+    EXPECT_TRUE(zoomed->isVisible() && zoomed->property("look").toString().isEmpty());
+    user.ChoosesMenu("mnuSpecialDisplayPending");
+    EXPECT_FALSE(zoomed->isVisible()) << "its tool is gone";
 }
 
 TEST_F(MainWindow, AnIdleProgramCountsDownPastZeroAndEndsEvenUnderAForm)

@@ -1,5 +1,6 @@
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
+#include "foundation/failure_words.h"
 #include "foundation/texts.h"
 #include "foundation/values.h"
 #include "platform/clock.h"
@@ -107,6 +108,17 @@ TEST_F(CommonServices, MessagesCheckTheirRangesAndAnswerByCaption)
         EXPECT_EQ(seen.ScrollBar, lines == 10);
     }
     EXPECT_EQ(SessionState.MessageTitle + SessionState.MessageText, "TITRE:Texte");
+}
+
+TEST_F(CommonServices, AFailureIsToldInTheLanguageOfTheSession)
+{
+    const QString readOnly = "The database or its folder is read-only (attempt to write a readonly database).";
+    EXPECT_EQ(FailureWords(RuntimeError(EngineError::ReadOnly, readOnly)), "3027: " + readOnly);
+    SessionState.English = false;
+    EXPECT_EQ(FailureWords(RuntimeError(EngineError::ReadOnly, readOnly + "\r\n02-Mar")),
+              "3027: La banque de données ou son répertoire est en lecture seule.\r\n02-Mar");
+    EXPECT_EQ(FailureWords("This is not one e-mail address: a, b"), "Ceci n'est pas une adresse de courriel : a, b");
+    EXPECT_EQ(FailureWords("551 User not local"), "551 User not local");
 }
 
 TEST_F(CommonServices, TheEndOfTheProgramIsAnnouncedOnce)

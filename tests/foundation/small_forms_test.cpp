@@ -33,7 +33,7 @@ TEST_F(SmallForms, TheUserChangesHisPassword)
     user.WillAnswer("UNABLE TO PROCEED!", "OK", "re-enter your new password and click on").Clicks("cmdAccept");
     house.Refuses("UPDATE ON Employees");
     SessionState.English = false;
-    user.Types("txtRepeatedPassword", "BLUEMOON").WillAnswer("UNE ERREUR EST SURVENUE:", "OK", "refused");
+    user.Types("txtRepeatedPassword", "BLUEMOON").WillAnswer("UNE ERREUR EST SURVENUE:", "OK", "3022: Les valeurs");
     user.Clicks("cmdAccept");
     EXPECT_EQ(house.Rows("SELECT Password FROM Employees"), "SECRET\nPASS");
     EXPECT_EQ(SessionState.UserPassword, "PASS");

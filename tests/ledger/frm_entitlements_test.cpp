@@ -141,13 +141,15 @@ TEST_F(Entitlements, TheHistoryOfARowTellsWhoChangedWhatWhen)
     OpensOn("Roy");
     ClicksCell(kFirst, kTotalColumn);
     user.WhenOpens<frmEntitlementHistory>([](frmEntitlementHistory& form) {
-        const FlexGrid& grid = *form.findChild<FlexGrid*>();
+        auto& grid = *form.findChild<FlexGrid*>();
         QStringList lines;
         for (int row = 1; row < grid.Rows(); ++row)
             lines << grid.TextMatrix(row, 0) + "|" + grid.TextMatrix(row, 1) + "|" + grid.TextMatrix(row, 3);
         EXPECT_EQ(lines.join('\n'), "Thu 01-Jan-2026|ADMIN|70:00\nMon 02-Mar-2026|ADMIN|70:00 → 80:00\n"
                                     "Wed 01-Apr-2026|MARIE|80:00 → 81:00");
-        form.accept();
+        grid.SelectCell(1, 0);
+        QTest::keyClick(&grid, Qt::Key_Return);
+        EXPECT_EQ(form.result(), QDialog::Accepted) << "where nothing can be chosen Enter is the form's";
     });
     user.Clicks("cmdHistory");
 }

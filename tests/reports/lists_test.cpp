@@ -48,7 +48,7 @@ TEST_F(ReferenceLists, EmployeesStandByUnitWithTheirLogInDetailsAsFarAsTheUserRe
     }
     house.Refuses("INSERT ON Employees_List");
     house.Sql("UPDATE FiscalYears SET ReloadEmployeesList = 1");
-    user.WillAnswer("UNE ERREUR EST SURVENUE:", "OK", "refused");
+    user.WillAnswer("UNE ERREUR EST SURVENUE:", "OK", "3022");
     EXPECT_EQ(Shown(ListKind::Employees), "Employés: ") << "a failure is told, and the form can be left";
 }
 

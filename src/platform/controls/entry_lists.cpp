@@ -204,8 +204,9 @@ void WalkedList::keyPressEvent(QKeyEvent* event)
         WalkInto(this, event);
     else if (!typed.isEmpty() && typed.front().isLetterOrNumber() && !(event->modifiers() & ~Qt::ShiftModifier))
         DropDownAt(this, typed);
-    else if (!typed.isEmpty() && event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-        event->ignore(); // a letter that nothing answers to must not choose
+    else if (!event->text().isEmpty() &&
+             event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        event->ignore(); // a letter that nothing answers to must not choose, and Ctrl+Tab is the form's
     else
         QComboBox::keyPressEvent(event);
 }

@@ -3,6 +3,7 @@
 #include "platform/controls/flex_painting.h"
 
 #include <QKeyEvent>
+#include <QMetaMethod>
 
 namespace
 {
@@ -269,10 +270,13 @@ void FlexGrid::keyPressEvent(QKeyEvent* event)
 {
     if (!currentIndex().isValid() || event->modifiers() & ~Qt::KeypadModifier)
         return QTableView::keyPressEvent(event);
+    static const QMetaMethod clicked = QMetaMethod::fromSignal(&FlexGrid::CellClicked);
     switch (event->key()) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
+        if (!isSignalConnected(clicked))
+            return event->ignore(); // Enter is the form's
         emit CellClicked(Row(), Col());
         return;
     case Qt::Key_Up:

@@ -35,7 +35,7 @@ QString FindProgram(const QString& name)
 
 MailResult NotThere(const QString& name)
 {
-    return {MailError::NoProgram, QStringLiteral("There is no program %1 on this workstation").arg(name)};
+    return {MailError::NoProgram, "There is no such program on this workstation: " + name};
 }
 
 /// In a group of its own, so that it can be ended with all that it has started.
