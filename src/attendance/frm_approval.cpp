@@ -196,6 +196,8 @@ void frmApproval::cmdProcess_Click()
     const auto enable = qScopeGuard([this] {
         flxRecordsToApprove->setEnabled(true);
         cmdProcess->setEnabled(shown_ >= 0);
+        if (shown_ >= 0) // with what could not be settled
+            flxRecordsToApprove->setFocus();
     });
     Process(marked);
 }

@@ -64,6 +64,15 @@ void BringIntoSight(const QWidget* control)
             area->ensureVisible(place.left(), place.top());
         }
 }
+
+/// The first one on a page that can be entered; none when there is none.
+QWidget* FirstField(const QWidget* page)
+{
+    for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain())
+        if (page->isAncestorOf(next) && next->isVisible() && next->isEnabled() && next->focusPolicy() & Qt::TabFocus)
+            return next;
+    return nullptr;
+}
 } // namespace
 
 FormBase::FormBase(const char* name, QWidget* parent) : QDialog(parent), datAbsence(name), scroll_(ScrollingPage())
@@ -193,6 +202,8 @@ void FormBase::GoTo(const QString& control)
         return;
     ShowTabOf(field);
     if (field->focusPolicy() == Qt::NoFocus)
+        field = FirstField(field);
+    if (!field)
         return;
     field->setFocus();
     BringIntoSight(field);

@@ -207,7 +207,9 @@ TEST_F(Approval, ADateWithdrawnMeanwhileLeavesTheFormAndTheRestIsSettled)
     house.Sql("UPDATE Attendance SET Submitted = 0, CancelledBy = 'CHRIS', CancelledDate = 46083 WHERE RecordID = ?",
               {withdrawn});
     user.WillConfirm("02-Mar").WillAnswer("AN ERROR HAS OCCURRED:", "OK", "changed by another user");
-    user.Clicks("cmdProcess").WillConfirm().WillBeDone().Clicks("cmdProcess");
+    user.Clicks("cmdProcess");
+    EXPECT_TRUE(user.HasFocus("flxRecordsToApprove")) << "not the way out";
+    user.WillConfirm().WillBeDone().Clicks("cmdProcess");
     EXPECT_EQ(Statuses(), "0 2");
 }
 
