@@ -214,6 +214,7 @@ TEST_F(MainWindow, ARequestIsForOneselfAndNeedsAnApprover)
     EXPECT_FALSE(Enabled("mnuFileEmployees") || main->findChild<QAction*>("mnuSpecialExportEmployee")->isVisible());
     user.WillAnswer("OPERATION DENIED:", "OK", "See your system administrator (Alice Tremblay) for more details.")
         .Clicks("imgSubmit");
+    EXPECT_TRUE(Enabled("mnuFile")) << "nothing has begun";
 
     Sets("AttendanceApprovedBy_Main", 1);
     Sets("GroupLevelRead", 1);
