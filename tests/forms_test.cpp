@@ -18,6 +18,7 @@
 #include "mail/frm_mail.h"
 #include "mail/frm_targetted_email.h"
 #include "platform/clock.h"
+#include "platform/controls/foot_layout.h"
 #include "reference/frm_categories.h"
 #include "reference/frm_holidays.h"
 #include "reference/frm_select_color.h"
@@ -344,6 +345,14 @@ protected:
                control->property("wayOut").toBool();
     }
 
+    static bool InFoot(const QWidget& form, const QWidget* control)
+    {
+        const auto layouts = form.findChildren<QLayout*>();
+        return std::any_of(layouts.begin(), layouts.end(), [control](const QLayout* layout) {
+            return dynamic_cast<const FootLayout*>(layout) && layout->indexOf(control) >= 0;
+        });
+    }
+
     /// Where a control stands to the eye that comes from another one: in a page that scrolls, where that page does.
     static QRect Place(const QWidget& form, const QWidget* control, const QWidget* other)
     {
@@ -366,7 +375,7 @@ protected:
             mainPassed = mainPassed || isMain(control);
             if (IsWayOut(control) && !mainPassed)
                 against << control->objectName() + " before the main button";
-            if (before && !(before->parentWidget() == &form && control->parentWidget() == &form)) {
+            if (before && !(InFoot(form, before) && InFoot(form, control))) {
                 const QRect place = Place(form, control, before), last = Place(form, before, control);
                 if (place.bottom() < last.top() && place.left() <= last.left())
                     against << before->objectName() + " then up to " + control->objectName();

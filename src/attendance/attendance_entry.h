@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/session_state.h"
-#include "mail/leave_notices.h"
+#include "mail/approver.h"
 
 #include <array>
 

@@ -22,7 +22,7 @@ void LoadEmployeeInfo(DataControl& datAbsence, AttendanceEntry& entry);
 void ReadCategory(DataControl& datAbsence, AttendanceEntry& entry);
 /// The limit or the bank that the entry draws on, as it was when the category was chosen; empty where there is neither.
 QString BalanceText(const AttendanceEntry& entry);
-/// How much of it the employee has left now, and how that comes about.
+/// How much of it the employee, who must be known, has left now, and how that comes about.
 BalanceLines ExplainBalance(DataControl& datAbsence, const AttendanceEntry& entry);
 /// The category is limited by an entitlement, and the employee has none.
 bool LacksEntitlement(const AttendanceEntry& entry);

@@ -16,8 +16,8 @@ void RequireAsShown(const AttendanceRow& record)
                                  "\r\n\r\nCe qui figurait au {date} a été supprimé entre-temps."};
     constexpr Text kSettled = {"\r\n\r\nThe request for {date} has been settled meanwhile.",
                                "\r\n\r\nLa demande du {date} a été traitée entre-temps."};
-    const bool cancelled = record.CancelledDate != 0;
-    if (!IsServerChosen() && (cancelled || (record.Submitted == 1) == SessionState.ShowApproved))
+    const bool cancelled = !record.CancelledBy.isEmpty(); // a denial has but the date
+    if (!IsServerChosen() && (record.CancelledDate != 0 || (record.Submitted == 1) == SessionState.ShowApproved))
         RefuseChangedRow(
             T(cancelled ? kCancelled : kSettled, {{"date", FormatDate(record.RecordDate, "dd-mmm-yyyy")}}));
 }

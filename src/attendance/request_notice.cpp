@@ -7,15 +7,6 @@
 #include "foundation/names.h"
 #include "mail/leave_notices.h"
 
-namespace
-{
-QString AddressOf(DataControl& datAbsence, int employee)
-{
-    const Connection connection(datAbsence);
-    return datAbsence.Scalar<QString>("SELECT EMailAddress FROM Employees WHERE RecordID = ?", employee);
-}
-} // namespace
-
 void EMailRequest(const AttendanceEntry& entry)
 {
     SendNotices(RequestNotices({.Employee = entry.EmployeeName,
@@ -39,16 +30,11 @@ void EMailRequestCancellation(DataControl& datAbsence, const CancelledRecords& c
     QString address, category;
     try {
         const Connection connection(datAbsence);
-        address = AddressOf(datAbsence, cancelled.Approver);
+        address = MailAddressOf(datAbsence, cancelled.Approver);
         category = datAbsence.Scalar<QString>(
             "SELECT " + NameColumn("Category") + " FROM Categories WHERE RecordID = ?", cancelled.CategoryID);
     } catch (const RuntimeError&) {
         return; // without an address nobody can be told
     }
     SendNotice(CancellationNotice(cancelled.Approver, address, category.trimmed(), cancelled.WithdrawnDates));
-}
-
-void SendNoticesAgain(DataControl& datAbsence)
-{
-    SendUnsentNotices([&datAbsence](int employee) { return AddressOf(datAbsence, employee); });
 }

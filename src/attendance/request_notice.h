@@ -14,7 +14,3 @@ void EMailRequest(const AttendanceEntry& entry);
 void EMailNotice(int employee, const QString& address, const QVector<RequestedDate>& settled, const QString& reason);
 /// Tells the approver which requests were withdrawn.
 void EMailRequestCancellation(DataControl& datAbsence, const CancelledRecords& cancelled);
-
-/// Tries again what could not be sent, to the addresses that are on file by now. Throws, and tries nothing, when they
-/// cannot be read.
-void SendNoticesAgain(DataControl& datAbsence);

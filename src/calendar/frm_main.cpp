@@ -34,7 +34,6 @@ namespace
 {
 constexpr QSize kSize(1280, 860);
 const QString kPlaceSetting = "WindowPlace";
-
 } // namespace
 
 frmMain::frmMain(QWidget* parent) : QMainWindow(parent)

@@ -161,7 +161,8 @@ void CalendarPane::FollowCursor()
     PlaceHint(flxCalendar->currentIndex());
 }
 
-/// The hint keeps out of the way of the month that is being marked: below it, above it, or beside it in a low window.
+/// The hint keeps out of the way of the month that is being marked: below it, above it, or beside it in a low window;
+/// where no place is free, it stands at the left of it.
 void CalendarPane::PlaceHint(const QModelIndex& day)
 {
     const QPoint origin = flxCalendar->viewport()->mapTo(this, QPoint());

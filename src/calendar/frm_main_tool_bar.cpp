@@ -105,12 +105,9 @@ void ToolBar::ActivateAllowed()
 /// The pointer may rest on a tool whose look changes or that is no longer there.
 void ToolBar::FollowZoomed()
 {
-    if (imgZoom->isHidden())
-        return;
-    imgZoom->hide();
     for (const Tool& tool : tools_)
-        if (&tool.Of == hovered_ && !tool.Image->isHidden())
-            ShowZoom(tool);
+        if (&tool.Of == hovered_ && !imgZoom->isHidden())
+            tool.Image->isHidden() ? imgZoom->hide() : ShowZoom(tool);
 }
 
 /// A line stands only between tools that are seen.

@@ -1,6 +1,5 @@
 #include "calendar/frm_main_unsent.h"
 
-#include "attendance/request_notice.h"
 #include "foundation/common_services.h"
 #include "foundation/failure_words.h"
 #include "foundation/frm_captions.h"
@@ -55,7 +54,7 @@ void UnsentLine::Refresh()
 void UnsentLine::cmdSendAgain_Click()
 {
     try {
-        SendNoticesAgain(datAbsence_);
+        SendUnsentNotices(datAbsence_);
     } catch (const RuntimeError& error) {
         TellError(error);
     }

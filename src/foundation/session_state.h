@@ -114,8 +114,13 @@ struct LastMessage
     QString MessageTitle;
     int MessageResult = 0;
     bool MessageStopAsking = false; ///< the check box of the last message that had one
-    bool InputBoxShown = false;     ///< a message has asked for the input box: each later one has it too
-    QString InputBoxContents = {};
+};
+
+/// The input box of the messages.
+struct MessageInput
+{
+    bool InputBoxShown = false; ///< a message has asked for it: each later one has it too
+    QString InputBoxContents;
 };
 
 /// A duration on its way between decimal hours and hours and minutes.
@@ -140,6 +145,7 @@ struct Session : Workstation,
                  ToolFlags,
                  ChosenDays,
                  LastMessage,
+                 MessageInput,
                  DurationFields
 {};
 

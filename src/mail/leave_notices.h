@@ -1,15 +1,7 @@
 #pragma once
 
+#include "mail/approver.h"
 #include "mail/mail_component.h"
-
-/// Who settles a request.
-struct Approver
-{
-    int RecordID = 0;  ///< 0 none
-    QString Name = {}; ///< "FirstName FamilyName"; empty when there is no such person
-    QString EMailAddress = {};
-    bool HasLeft = false;
-};
 
 /// A request for leave as its approvers are told of it. Texts are in the language of the session.
 struct LeaveRequest

@@ -3,7 +3,6 @@
 #include "foundation/common_services.h"
 #include "foundation/connection.h"
 #include "foundation/session_state.h"
-#include "foundation/texts.h"
 #include "platform/clock.h"
 #include "platform/mail/mail_programs.h"
 #include "platform/program.h"
@@ -13,7 +12,6 @@
 namespace
 {
 constexpr int kSession = 1;
-constexpr Text kNoAddressAnyMore = {"the employee has no e-mail address any more", "l'employé(e) n'a plus de courriel"};
 
 QVector<UnsentNotice>& Unsent()
 {
@@ -170,18 +168,26 @@ const QVector<UnsentNotice>& UnsentNotices()
     return Unsent();
 }
 
-void SendUnsentNotices(const std::function<QString(int)>& addressOf)
+QString MailAddressOf(DataControl& datAbsence, int employee)
+{
+    return datAbsence.Scalar<QString>("SELECT EMailAddress FROM Employees WHERE RecordID = ?", employee).trimmed();
+}
+
+void SendUnsentNotices(DataControl& datAbsence)
 {
     QVector<Notice> again;
     QVector<UnsentNotice> unreachable;
-    for (const UnsentNotice& unsent : Unsent()) {
-        Notice notice = unsent.Message;
-        if (notice.EmployeeID != 0)
-            notice.Address = addressOf(notice.EmployeeID);
-        if (notice.Address.trimmed().isEmpty())
-            unreachable.append({unsent.Message, T(kNoAddressAnyMore)});
-        else
-            again << notice;
+    {
+        const Connection connection(datAbsence);
+        for (const UnsentNotice& unsent : Unsent()) {
+            Notice notice = unsent.Message;
+            if (notice.EmployeeID != 0)
+                notice.Address = MailAddressOf(datAbsence, notice.EmployeeID);
+            if (notice.Address.isEmpty())
+                unreachable.append({unsent.Message, "The employee has no e-mail address any more"});
+            else
+                again << notice;
+        }
     }
     Unsent() = unreachable;
     SendNotices(again);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/dao/dao.h"
 #include "platform/mail/mail_message.h"
 
 #include <QStringList>
@@ -47,10 +48,13 @@ struct UnsentNotice
     Notice Message;
     QString Reason; ///< in the words of the mail program that failed; may be empty
 };
-/// The messages of this session that could not be sent, oldest first.
+/// The messages of this session that could not be sent.
 const QVector<UnsentNotice>& UnsentNotices();
-/// Tries those again; what fails once more stays among them. An employee is written to at the address that `addressOf`
-/// gives for his RecordID by now, and not at all without one. When it throws, so does this, and nothing is tried.
-void SendUnsentNotices(const std::function<QString(int)>& addressOf);
+/// Tries those again; what fails once more stays among them. An employee is written to at the address that is on file
+/// by then, and not at all without one. Throws, and tries nothing, when the addresses cannot be read.
+void SendUnsentNotices(DataControl& datAbsence);
 /// Forgets them.
 void ForgetUnsentNotices();
+
+/// The address on file, read connected; empty for none. Throws.
+QString MailAddressOf(DataControl& datAbsence, int employee);

@@ -341,11 +341,11 @@ TEST_F(Approval, WhatIsSentAgainGoesToTheAddressThatIsOnFileByThen)
     house.Mail.clear();
     house.Sql("UPDATE Employees SET EMailAddress = LOWER(LoginID) || '@new.org' WHERE LoginID <> 'EVE'");
     house.Sql("UPDATE Employees SET EMailAddress = ' ' WHERE LoginID = 'EVE'");
-    SendNoticesAgain(datAbsence);
+    SendUnsentNotices(datAbsence);
     EXPECT_EQ(house.Mail.replaceInStrings(QRegularExpression("(?s)@new.org.*"), {}),
               (QStringList{"automation|marc", "automation|chris"}));
     ASSERT_EQ(UnsentNotices().size(), 2) << "whoever has no address any more";
-    EXPECT_EQ(UnsentNotices().last().Reason, "the employee has no e-mail address any more");
+    EXPECT_EQ(UnsentNotices().last().Reason, "The employee has no e-mail address any more");
 }
 
 TEST_F(Approval, TheServerIsSentWhatIsSettled)

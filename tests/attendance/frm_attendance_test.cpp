@@ -309,7 +309,8 @@ TEST_F(FrmAttendance, TheTabsTurnFromEachListToo)
     for (const char* list : {"lstWho", "cboCategories", "cboStartTime"}) {
         user.Presses(list, Qt::Key_Tab, Qt::ControlModifier);
         EXPECT_EQ(tabs->currentIndex(), 1) << list;
-        user.Presses(list, Qt::Key_Backtab, Qt::ControlModifier);
+        user.Presses("", Qt::Key_Backtab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), 0) << list;
     }
 }
 

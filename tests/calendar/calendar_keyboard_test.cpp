@@ -43,8 +43,9 @@ protected:
     bool HintLeavesMonthFree()
     {
         const QRect hint = main->findChild<QWidget*>("txtSelect")->geometry();
-        return !hint.intersects(dynamic_cast<CalendarGrid&>(Grid()).MonthRect(Grid().currentIndex())) &&
-               Grid().rect().contains(hint);
+        const QRect month = dynamic_cast<CalendarGrid&>(Grid()).MonthRect(Grid().currentIndex());
+        const QPoint origin = Grid().viewport()->mapTo(Grid().parentWidget(), QPoint());
+        return !hint.intersects(month.translated(origin)) && Grid().parentWidget()->rect().contains(hint);
     }
     /// A marked day bears its sign on a plate of its own.
     bool BearsSign(int month, int day)

@@ -154,11 +154,18 @@ TEST_F(Cancellation, AFailureKeepsAndTellsWhatWasCancelledBeforeItAndAClosedYear
     EXPECT_TRUE(house.Mail[0].endsWith("\r\n\r\nMon 21-12-2026\r\n") && user.CanUse("imgRemove"));
 
     house.Sql("DROP TRIGGER Refusing");
-    Marks("Vacation", {{12, 22}});
-    house.Sql("UPDATE Attendance SET Submitted = 0, RequestStatus = 2 WHERE RecordID = ?", {second}); // by Luc
-    user.WillAnswer("CONFIRM:", "Yes")
-        .WillAnswer("AN ERROR HAS OCCURRED:", "OK", "The request for 22-Dec-2026 has been settled meanwhile.")
-        .Clicks("imgRemove");
+    const std::pair<const char*, const char*> meanwhile[] = {
+        {"CancelledBy = 'X', CancelledDate = 46349", "What stood on 22-Dec-2026 has been cancelled meanwhile."},
+        {"RequestStatus = 3, CancelledDate = 46349", "The request for 22-Dec-2026 has been settled meanwhile."},
+        {"RequestStatus = 2", "The request for 22-Dec-2026 has been settled meanwhile."}};
+    for (const auto& [change, told] : meanwhile) {
+        house.Sql("UPDATE Attendance SET Submitted = 1, CancelledBy = '', CancelledDate = 0 WHERE RecordID = ?",
+                  {second});
+        user.ChoosesMenu("mnuSpecialDisplayPending");
+        Marks("Vacation", {{12, 22}});
+        house.Sql(QStringLiteral("UPDATE Attendance SET Submitted = 0, %1 WHERE RecordID = ?").arg(change), {second});
+        user.WillAnswer("CONFIRM:", "Yes").WillAnswer("AN ERROR HAS OCCURRED:", "OK", told).Clicks("imgRemove");
+    }
     EXPECT_EQ(StateOf(second), "0|2|X||0");
 
     const int third = Request("Vacation", 12, 23, luc);

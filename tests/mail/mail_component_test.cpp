@@ -65,11 +65,10 @@ TEST_F(MailComponent, AMessageThatFailsOnBothRoutesIsOneLineAndCanBeSentAgain)
     house.MailEnds = {{"MAPI", {3, "none"}}, {"automation", {75, "no server"}}};
     SendNotices({notice, notice});
     EXPECT_EQ(Log(), "TARVELL  -  Hello\tFalse\t3: none; 75: no server\r\nTARVELL  -  Hello\tTrue\t75: no server\r\n");
-    const auto nobodys = [](int) { return QString(); };
-    SendUnsentNotices(nobodys);
+    SendUnsentNotices(datAbsence);
     EXPECT_EQ(UnsentNotices().size(), 2);
     house.MailEnds.clear();
-    SendUnsentNotices(nobodys);
+    SendUnsentNotices(datAbsence);
     EXPECT_TRUE(UnsentNotices().isEmpty());
 
     QDir(house.Folder()).remove("EMailErrors.log");

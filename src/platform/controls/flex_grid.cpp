@@ -270,12 +270,11 @@ void FlexGrid::keyPressEvent(QKeyEvent* event)
 {
     if (!currentIndex().isValid() || event->modifiers() & ~Qt::KeypadModifier)
         return QTableView::keyPressEvent(event);
-    static const QMetaMethod clicked = QMetaMethod::fromSignal(&FlexGrid::CellClicked);
     switch (event->key()) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!isSignalConnected(clicked))
+        if (!isSignalConnected(QMetaMethod::fromSignal(&FlexGrid::CellClicked)))
             return event->ignore(); // Enter is the form's
         emit CellClicked(Row(), Col());
         return;
