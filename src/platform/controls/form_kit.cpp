@@ -170,6 +170,8 @@ void SetStyled(QWidget* control, const char* property, const QVariant& value)
     control->setProperty(property, value);
     control->style()->unpolish(control);
     control->style()->polish(control);
+    QEvent change(QEvent::StyleChange); // a frame's contents make room for its border
+    QApplication::sendEvent(control, &change);
 }
 
 void SetLook(QWidget* control, const char* look)
