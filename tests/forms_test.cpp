@@ -466,6 +466,16 @@ protected:
         QCoreApplication::processEvents();
     }
 
+    /// What holds in each mode of a form.
+    static void IsInOrder(QWidget& form)
+    {
+        EXPECT_EQ(Clipped(form), QStringList());
+        EXPECT_EQ(Nameless(form), QStringList());
+        EXPECT_EQ(Unexplained(form), QStringList());
+        EXPECT_EQ(AgainstTheOrder(form), QStringList());
+        EXPECT_EQ(AtWrongPlaces(form), QStringList());
+    }
+
     std::unique_ptr<QWidget> form_;
 };
 
@@ -479,15 +489,11 @@ TEST_F(Forms, EachSpeaksBothLanguagesNamesItsControlsAndLeavesAtEscape)
             QWidget& form = Open(make);
             EXPECT_EQ(form.objectName(), name);
             OnEachPage(form, [&form] {
-                EXPECT_EQ(Clipped(form), QStringList());
+                IsInOrder(form);
                 EXPECT_EQ(Outside(form), QStringList());
                 EXPECT_EQ(Sideways(form), QStringList());
-                EXPECT_EQ(Nameless(form), QStringList());
                 EXPECT_EQ(SaidTwice(form), QStringList());
-                EXPECT_EQ(Unexplained(form), QStringList());
                 EXPECT_EQ(TakenByAnArrow(form), QStringList());
-                EXPECT_EQ(AgainstTheOrder(form), QStringList());
-                EXPECT_EQ(AtWrongPlaces(form), QStringList());
                 EXPECT_EQ(LettersTwice(form), QStringList());
                 EXPECT_EQ(SessionState.English ? WithoutFocusShown(form) : QStringList(), QStringList());
             });
@@ -521,13 +527,7 @@ TEST_F(Forms, EachModeOfAnEditorIsWalkedToo)
                                         });
             user.Clicks(mode);
             QCoreApplication::processEvents();
-            OnEachPage(form, [&form] {
-                EXPECT_EQ(Clipped(form), QStringList());
-                EXPECT_EQ(Nameless(form), QStringList());
-                EXPECT_EQ(Unexplained(form), QStringList());
-                EXPECT_EQ(AgainstTheOrder(form), QStringList());
-                EXPECT_EQ(AtWrongPlaces(form), QStringList());
-            });
+            OnEachPage(form, [&form] { IsInOrder(form); });
         }
     }
 }
